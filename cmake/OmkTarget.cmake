@@ -1,0 +1,24 @@
+# What every target of ours has in common: the warnings that end a build, and the sanitizers of the debug build.
+
+add_library(omk_options INTERFACE)
+target_compile_options(omk_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+target_compile_definitions(omk_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
+if(OMK_SANITIZE)
+    target_compile_options(omk_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(omk_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# omk_library(NAME SOURCES ... LINK ...): one layer of the house. What it links is what it may include.
+function(omk_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE omk_options)
+endfunction()
+
+# omk_program(NAME SOURCES ... LINK ...)
+function(omk_program name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} omk_options)
+endfunction()
