@@ -1,0 +1,33 @@
+#include "platform/Application.h"
+
+#include <optional>
+
+#include <QLocale>
+
+#include "platform/Guarded.h"
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv)
+{
+    setApplicationName(QStringLiteral("ostrelmark"));
+    setApplicationDisplayName(QStringLiteral("Ostrelmark"));
+    setDesktopFileName(QStringLiteral("ostrelmark"));
+    Q_INIT_RESOURCE(icons); // of a static library
+    // The windows speak English, and numbers use "." and ",", whatever the system's locale.
+    QLocale::setDefault(QLocale::c());
+}
+
+bool Application::notify(QObject *receiver, QEvent *event)
+{
+    std::optional<RuntimeFailure> failure;
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const RuntimeFailure &e) {
+        failure = e;
+    } catch (const std::bad_alloc &) {
+        failure = RuntimeFailure(Failure::OutOfMemory);
+    } catch (const std::exception &e) {
+        failure = RuntimeFailure(Failure::TypeMismatch, QString::fromUtf8(e.what()));
+    }
+    showFailure(*failure);
+    return true;
+}

@@ -1,0 +1,146 @@
+#include "platform/DesktopDoors.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QRandomGenerator>
+
+#include "platform/RuntimeFailure.h"
+#include "platform/SettingsStore.h"
+
+namespace {
+
+/// Gives the activity back to the window that had it before a box came up; without a window manager nobody else does.
+class ActivityKeeper
+{
+public:
+    ActivityKeeper() : m_window(QApplication::activeWindow()) {}
+    ~ActivityKeeper()
+    {
+        if (m_window && m_window->isVisible())
+            m_window->activateWindow();
+    }
+    /// Null where no window is on the screen: one that was just hidden may still be the active one.
+    QWidget *window() const { return m_window && m_window->isVisible() ? m_window.data() : nullptr; }
+
+private:
+    QPointer<QWidget> m_window;
+};
+
+QMessageBox::Icon iconOf(int icon)
+{
+    switch (icon) {
+    case vbCritical: return QMessageBox::Critical;
+    case vbQuestion: return QMessageBox::Question;
+    case vbExclamation: return QMessageBox::Warning;
+    case vbInformation: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+std::optional<QString> askPdfName(QWidget *parent, const PrintDialogRequest &request)
+{
+    QString name = QFileDialog::getSaveFileName(parent, QStringLiteral("No printer is set up: save as PDF"),
+                                                request.documentName + u".pdf", QStringLiteral("PDF files (*.pdf)"));
+    if (name.isEmpty())
+        return {};
+    if (!name.endsWith(u".pdf", Qt::CaseInsensitive))
+        name += u".pdf";
+    return name;
+}
+
+} // namespace
+
+DesktopDoors::DesktopDoors() : m_settings(std::make_unique<SettingsStore>(SettingsStore::userFileName())) {}
+DesktopDoors::~DesktopDoors() = default;
+
+MsgBoxAnswer DesktopDoors::msgBox(const MsgBoxRequest &request)
+{
+    const ActivityKeeper keeper;
+    QMessageBox box(keeper.window());
+    box.setIcon(iconOf(request.icon()));
+    box.setWindowTitle(request.title.isEmpty() ? QStringLiteral("Ostrelmark") : request.title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(request.text);
+    const bool yesNo = request.buttons() == vbYesNo;
+    const auto first = yesNo ? QMessageBox::Yes : QMessageBox::Ok;
+    const auto second = yesNo ? QMessageBox::No : QMessageBox::Cancel;
+    box.addButton(first);
+    if (request.buttons() != vbOKOnly)
+        box.addButton(second);
+    box.setDefaultButton(request.secondIsDefault() && request.buttons() != vbOKOnly ? second : first);
+    switch (box.exec()) {
+    case QMessageBox::Yes: return MsgBoxAnswer::Yes;
+    case QMessageBox::No: return MsgBoxAnswer::No;
+    case QMessageBox::Ok: return MsgBoxAnswer::OK;
+    default: return request.buttons() == vbOKOnly ? MsgBoxAnswer::OK : yesNo ? MsgBoxAnswer::No : MsgBoxAnswer::Cancel;
+    }
+}
+
+bool DesktopDoors::failureBox(const RuntimeFailure &failure, bool mayReturn)
+{
+    const ActivityKeeper keeper;
+    QMessageBox box(keeper.window());
+    box.setIcon(QMessageBox::Critical);
+    box.setWindowTitle(QStringLiteral("Ostrelmark"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QStringLiteral("Run-time error '%1':").arg(int(failure.number())));
+    box.setInformativeText(failure.description());
+    const QPushButton *end = box.addButton(QStringLiteral("&End"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(const_cast<QPushButton *>(end));
+    QPushButton *back = mayReturn ? box.addButton(QStringLiteral("&Return"), QMessageBox::RejectRole) : nullptr;
+    if (back)
+        box.setEscapeButton(back);
+    box.exec();
+    return !back || box.clickedButton() == end;
+}
+
+void DesktopDoors::beep() { QApplication::beep(); }
+
+std::optional<QString> DesktopDoors::saveDialog(const SaveDialogRequest &request)
+{
+    const ActivityKeeper keeper;
+    QFileDialog dialog(keeper.window(), request.title, {}, request.filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(request.defaultSuffix);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askOverwrite);
+    dialog.selectFile(request.fileName);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+std::optional<PrintDialogAnswer> DesktopDoors::printDialog(const PrintDialogRequest &request)
+{
+    const ActivityKeeper keeper;
+    PrintDialogAnswer answer;
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+        const auto name = askPdfName(keeper.window(), request);
+        if (!name)
+            return {};
+        answer.pdfFileName = *name;
+        return answer;
+    }
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(request.documentName);
+    printer.setPageOrientation(request.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPrintDialog dialog(&printer, keeper.window());
+    dialog.setWindowTitle(request.title);
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    answer.copies = qMax(1, printer.copyCount());
+    answer.fromPage = printer.fromPage();
+    answer.toPage = printer.toPage();
+    answer.printerName = printer.printerName();
+    return answer;
+}
+
+QDateTime DesktopDoors::now() { return QDateTime::currentDateTime(); }
+
+double DesktopDoors::random() { return QRandomGenerator::global()->generateDouble(); }

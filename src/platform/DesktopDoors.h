@@ -1,0 +1,25 @@
+// The doors of a real desktop: message boxes, dialogs, the system's clock and the user's settings file.
+#pragma once
+
+#include <memory>
+
+#include "platform/Doors.h"
+
+class DesktopDoors : public Doors
+{
+public:
+    DesktopDoors();
+    ~DesktopDoors() override;
+
+    MsgBoxAnswer msgBox(const MsgBoxRequest &request) override;
+    bool failureBox(const RuntimeFailure &failure, bool mayReturn) override;
+    void beep() override;
+    std::optional<QString> saveDialog(const SaveDialogRequest &request) override;
+    std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override;
+    QDateTime now() override;
+    double random() override;
+    SettingsStore &settings() override { return *m_settings; }
+
+private:
+    std::unique_ptr<SettingsStore> m_settings;
+};

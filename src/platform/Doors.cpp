@@ -1,0 +1,34 @@
+#include "platform/Doors.h"
+
+#include "platform/SettingsStore.h"
+
+namespace {
+
+Doors *installed = nullptr;
+
+} // namespace
+
+Doors &Doors::current()
+{
+    if (!installed)
+        qFatal("no doors are installed");
+    return *installed;
+}
+
+Doors *Doors::install(Doors *doors) { return std::exchange(installed, doors); }
+
+MsgBoxAnswer MsgBox(const QString &text, int flags, const QString &title)
+{
+    return Doors::current().msgBox({text, flags, title});
+}
+
+void Beep() { Doors::current().beep(); }
+
+QDateTime Now() { return Doors::current().now(); }
+
+QString GetSetting(const QString &key, const QString &defaultValue)
+{
+    return Doors::current().settings().value(key, defaultValue);
+}
+
+void SaveSetting(const QString &key, const QString &value) { Doors::current().settings().setValue(key, value); }

@@ -1,0 +1,78 @@
+#include "platform/LeavingChecks.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QEvent>
+#include <QScopeGuard>
+
+void LeavingChecks::watch(QWidget *box, Check check)
+{
+    m_checks.insert(box, std::move(check));
+    box->installEventFilter(this);
+}
+
+bool LeavingChecks::passes() { return !m_swallow && !m_running && runPending(); }
+
+bool LeavingChecks::eventFilter(QObject *object, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        if (object != m_pending && m_checks.contains(object) && !m_running && runPending())
+            m_pending = static_cast<QWidget *>(object);
+        return false;
+    case QEvent::FocusOut:
+        if (object != m_pending || m_running || leavesUnchecked(object) || runPending())
+            return false;
+        swallowPress();
+        return QApplication::focusWidget() == object; // it is back: the box need not know that it was gone
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+        return m_swallow && object->isWidgetType() && m_window->isAncestorOf(static_cast<QWidget *>(object));
+    default: return false;
+    }
+}
+
+/// The focus widget is the new one already. A menu takes the focus events but leaves the focus widget as it is; another
+/// window or program is made up for on return.
+bool LeavingChecks::leavesUnchecked(const QObject *box) const
+{
+    QWidget *next = QApplication::focusWidget();
+    return !next || next == box || !m_window->isVisible() || !m_window->isAncestorOf(next) || m_exempt.contains(next);
+}
+
+bool LeavingChecks::runPending()
+{
+    const QPointer<QWidget> box = m_pending;
+    if (!box || !m_checks.contains(box))
+        return true;
+    const QPointer<LeavingChecks> alive = this; // a message box runs the event loop
+    const auto done = qScopeGuard([alive] {
+        if (alive)
+            alive->m_running = false;
+    });
+    m_running = true;
+    const bool passed = m_checks.value(box)();
+    if (!alive)
+        return passed;
+    // The focus is put back while this still runs, so that the box it comes from is not asked in its turn.
+    if (!passed && box && m_window->isVisible())
+        box->setFocus(Qt::OtherFocusReason);
+    // A box that passed but keeps the focus may yet be changed, without a new FocusIn.
+    if (passed && m_window->focusWidget() != box)
+        m_pending = nullptr;
+    return passed;
+}
+
+/// The press that took the focus is still on its way to its button.
+void LeavingChecks::swallowPress()
+{
+    m_swallow = true;
+    qApp->installEventFilter(this);
+    const auto stop = [this] {
+        m_swallow = false;
+        qApp->removeEventFilter(this);
+    };
+    QMetaObject::invokeMethod(this, stop, Qt::QueuedConnection);
+}

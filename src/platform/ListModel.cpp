@@ -1,0 +1,162 @@
+#include "platform/ListModel.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include <QSet>
+#include <QStringList>
+
+#include "platform/RuntimeFailure.h"
+
+/// Rows that were added one by one.
+class ListModel::OwnRows : public ListSource
+{
+public:
+    int count() const override { return int(m_rows.size()); }
+    QString text(int row, int column) const override { return m_rows[size_t(row)].texts.value(column); }
+    QString key(int row) const override { return m_rows[size_t(row)].key; }
+
+    bool has(const QString &key) const { return m_keys.contains(key); }
+    void add(const QString &key, const QStringList &texts)
+    {
+        m_rows.push_back({key, texts});
+        if (!key.isEmpty())
+            m_keys.insert(key);
+    }
+
+private:
+    struct Row
+    {
+        QString key;
+        QStringList texts;
+    };
+    std::vector<Row> m_rows;
+    QSet<QString> m_keys;
+};
+
+ListModel::ListModel(QObject *parent) : QAbstractTableModel(parent), m_source(noRows()) {}
+
+ListModel::~ListModel() = default;
+
+std::shared_ptr<const ListSource> ListModel::noRows() { return std::make_shared<const OwnRows>(); }
+
+void ListModel::setColumns(const std::vector<ListColumn> &columns)
+{
+    beginResetModel();
+    m_columns = columns;
+    endResetModel();
+}
+
+void ListModel::setSource(std::shared_ptr<const ListSource> source)
+{
+    beginResetModel();
+    m_source = source ? std::move(source) : noRows();
+    m_own.reset();
+    m_order.clear();
+    m_sorted = false;
+    endResetModel();
+}
+
+void ListModel::append(const QString &key, const QStringList &texts)
+{
+    if (!m_own) {
+        auto own = std::make_shared<OwnRows>();
+        setSource(own);
+        m_own = std::move(own);
+    }
+    if (m_own->has(key))
+        throw RuntimeFailure(Failure::KeyNotUnique, QStringLiteral("A row of the list has the key \"%1\".").arg(key));
+    const int row = rowCount();
+    beginInsertRows({}, row, row);
+    m_own->add(key, texts);
+    if (!m_order.empty())
+        m_order.push_back(row);
+    endInsertRows();
+}
+
+void ListModel::sortBy(int column, Qt::SortOrder order)
+{
+    const int rows = rowCount();
+    std::vector<QString> keys;
+    keys.reserve(size_t(rows));
+    for (int row = 0; row < rows; ++row)
+        keys.push_back(m_source->text(row, column).toCaseFolded());
+    std::vector<int> sorted(static_cast<size_t>(rows));
+    std::iota(sorted.begin(), sorted.end(), 0);
+    const auto before = [&keys](int a, int b) { return keys[size_t(a)] < keys[size_t(b)]; };
+    if (order == Qt::AscendingOrder)
+        std::stable_sort(sorted.begin(), sorted.end(), before);
+    else
+        std::stable_sort(sorted.begin(), sorted.end(), [&before](int a, int b) { return before(b, a); });
+    applyOrder(std::move(sorted));
+    m_sorted = true;
+}
+
+void ListModel::applyOrder(std::vector<int> order)
+{
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::vector<int> rowOf; // of each source row; needed for the few rows that somebody remembers
+    if (!before.isEmpty()) {
+        rowOf.resize(order.size());
+        for (size_t row = 0; row < order.size(); ++row)
+            rowOf[size_t(order[row])] = int(row);
+    }
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (const QModelIndex &index : before)
+        after.append(createIndex(rowOf[size_t(sourceRow(index.row()))], index.column()));
+    m_order = std::move(order);
+    changePersistentIndexList(before, after);
+    emit layoutChanged({}, VerticalSortHint);
+}
+
+int ListModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : m_source->count(); }
+
+int ListModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : int(m_columns.size()); }
+
+/// Called while painting, where nothing may throw: a cell that cannot be made stays empty.
+QVariant ListModel::data(const QModelIndex &index, int role) const
+try {
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole: return text(index.row(), index.column());
+    case Qt::UserRole: return index.column() == 0 ? QVariant(key(index.row())) : QVariant();
+    case Qt::TextAlignmentRole:
+        return int(Qt::AlignVCenter | (m_columns[size_t(index.column())].right ? Qt::AlignRight : Qt::AlignLeft));
+    default: return {};
+    }
+} catch (const std::exception &) {
+    return {};
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    const ListColumn &column = m_columns[size_t(section)];
+    switch (role) {
+    case Qt::DisplayRole: return column.heading;
+    case Qt::UserRole: return column.key;
+    case Qt::TextAlignmentRole: return int(Qt::AlignVCenter | (column.right ? Qt::AlignRight : Qt::AlignLeft));
+    default: return {};
+    }
+}
+
+/// Typed letters look for a row by its own text, without a QVariant a row.
+QModelIndexList ListModel::match(const QModelIndex &start, int role, const QVariant &value, int hits,
+                                 Qt::MatchFlags flags) const
+{
+    if (role != Qt::DisplayRole || hits != 1 || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith)
+        return QAbstractTableModel::match(start, role, value, hits, flags);
+    const QString typed = value.toString();
+    const int rows = rowCount();
+    const int end = (flags & Qt::MatchWrap) ? start.row() + rows : rows;
+    for (int row = start.row(); row < end; ++row)
+        if (text(row % rows, 0).startsWith(typed, Qt::CaseInsensitive))
+            return {index(row % rows, start.column())};
+    return {};
+}

@@ -1,0 +1,52 @@
+// The rows of a ListSource as a model of the item views, in the source's order or sorted by the text of a column. Only
+// row numbers are moved; texts are asked for when a cell is painted. ListView alone uses it. Rows and columns count
+// from 0 here.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QAbstractTableModel>
+
+#include "platform/ListView.h"
+
+class ListModel : public QAbstractTableModel
+{
+    Q_OBJECT
+public:
+    explicit ListModel(QObject *parent = nullptr);
+    ~ListModel() override;
+
+    void setColumns(const std::vector<ListColumn> &columns);
+    /// Shows the source in its own order.
+    void setSource(std::shared_ptr<const ListSource> source);
+    /// A source without rows.
+    static std::shared_ptr<const ListSource> noRows();
+    /// Adds a row at the end; after rows of another source it starts anew. Throws KeyNotUnique.
+    void append(const QString &key, const QStringList &texts);
+    /// Case-blind and stable, ties in the source's order, whichever way. The selection stays on its row.
+    void sortBy(int column, Qt::SortOrder order);
+    bool isSorted() const { return m_sorted; }
+
+    QString text(int row, int column) const { return m_source->text(sourceRow(row), column); }
+    QString key(int row) const { return m_source->key(sourceRow(row)); }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
+                          Qt::MatchFlags flags) const override;
+
+private:
+    class OwnRows;
+
+    int sourceRow(int row) const { return m_order.empty() ? row : m_order[size_t(row)]; }
+    void applyOrder(std::vector<int> order);
+
+    std::vector<ListColumn> m_columns;
+    std::shared_ptr<const ListSource> m_source;
+    std::shared_ptr<OwnRows> m_own; ///< the source, where rows are added one by one
+    std::vector<int> m_order;       ///< source row of each row; empty: the source's own order
+    bool m_sorted = false;
+};

@@ -1,0 +1,305 @@
+#include "platform/ListView.h"
+
+#include <utility>
+
+#include <QContextMenuEvent>
+#include <QFontInfo>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QStyleOptionFocusRect>
+#include <QTextDocument>
+#include <QToolTip>
+
+#include "platform/ListModel.h"
+#include "platform/RuntimeFailure.h"
+
+namespace {
+
+/// Pixels of a letter of 9 points at 96 dpi, for which column widths are given.
+constexpr double referenceFontPixels = 12;
+
+QString onOneLine(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    text.replace(u'\n', u' ');
+    text.replace(u'\r', u' ');
+    return text;
+}
+
+} // namespace
+
+/// Draws a cell as part of its row: no focus rectangle of its own, a text of one line, and the whole text as a tool tip
+/// where it is cut off.
+class ListView::RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &value, const QLocale &) const override { return onOneLine(value.toString()); }
+
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        const QString text = index.data(Qt::ToolTipRole).toString();
+        const bool cut = text.contains(u'\n') || sizeHint(option, index).width() > option.rect.width();
+        // As rich text, so that a long one is broken into lines and its own signs are not read as tags.
+        QToolTip::showText(event->globalPos(), cut ? Qt::convertFromPlainText(text) : QString(), view);
+        return true;
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state &= ~QStyle::State_HasFocus;
+    }
+};
+
+ListView::ListView(QWidget *parent) : QTableView(parent), m_model(new ListModel(this))
+{
+    setModel(m_model);
+    setItemDelegate(new RowDelegate(this));
+    setShowGrid(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideRight);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsMovable(true);
+    horizontalHeader()->setFirstSectionMovable(true);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
+        showSortArrow(); // the header has turned its arrow by itself
+        emit ColumnClick(section + 1);
+    });
+    fitToFont();
+}
+
+ListView::~ListView() = default;
+
+void ListView::setColumns(const std::vector<ListColumn> &columns)
+{
+    m_model->setColumns(columns);
+    for (int i = 0; i < int(columns.size()); ++i)
+        setColumnWidth(i, qRound(columns[size_t(i)].width * m_scale));
+}
+
+int ListView::columnCount() const { return m_model->columnCount(); }
+
+void ListView::setSource(std::shared_ptr<const ListSource> source)
+{
+    m_model->setSource(std::move(source));
+    showSortArrow();
+    scrollToTop();
+}
+
+void ListView::Add(const QString &key, const QStringList &texts) { m_model->append(key, texts); }
+
+void ListView::Clear() { setSource(ListModel::noRows()); }
+
+int ListView::Count() const { return m_model->rowCount(); }
+
+void ListView::checkRow(int item) const
+{
+    if (item < 1 || item > Count())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange,
+                             QStringLiteral("The list \"%1\" has no row %2.").arg(objectName()).arg(item));
+}
+
+QString ListView::Text(int item, int subItem) const
+{
+    checkRow(item);
+    return subItem < columnCount() ? m_model->text(item - 1, subItem) : QString();
+}
+
+QString ListView::Key(int item) const
+{
+    checkRow(item);
+    return m_model->key(item - 1);
+}
+
+bool ListView::Selected(int item) const
+{
+    checkRow(item);
+    return SelectedItem() == item;
+}
+
+void ListView::Select(int item)
+{
+    if (item == 0) {
+        selectionModel()->clear();
+        return;
+    }
+    checkRow(item);
+    const QModelIndex index = m_model->index(item - 1, 0);
+    const bool wholeRow = selectionBehavior() == SelectRows;
+    selectionModel()->setCurrentIndex(index,
+                                      QItemSelectionModel::ClearAndSelect |
+                                          (wholeRow ? QItemSelectionModel::Rows : QItemSelectionModel::NoUpdate));
+    scrollTo(index);
+}
+
+int ListView::SelectedItem() const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    return selection.isEmpty() ? 0 : selection.first().top() + 1;
+}
+
+void ListView::setSort(bool sorted, int sortKey, int sortOrder)
+{
+    m_sorted = sorted;
+    m_sortKey = sortKey;
+    m_sortOrder = sortOrder;
+    if (sorted && sortKey >= 0 && sortKey < columnCount())
+        m_model->sortBy(sortKey, sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    showSortArrow();
+}
+
+void ListView::showSortArrow()
+{
+    const bool shown = m_sorted && m_model->isSorted();
+    if (shown)
+        horizontalHeader()->setSortIndicator(m_sortKey, m_sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    horizontalHeader()->setSortIndicatorShown(shown);
+}
+
+void ListView::setFullRowSelect(bool on) { setSelectionBehavior(on ? SelectRows : SelectItems); }
+
+void ListView::setHeaderDragDrop(bool on) { horizontalHeader()->setSectionsMovable(on); }
+
+/// One height for all rows, and columns as wide as their letters ask for; widths that were dragged keep their
+/// proportion.
+void ListView::fitToFont()
+{
+    const int height = fontMetrics().height() + fontMetrics().height() / 3;
+    verticalHeader()->setMinimumSectionSize(height);
+    verticalHeader()->setDefaultSectionSize(height);
+    const double scale = QFontInfo(font()).pixelSize() / referenceFontPixels;
+    const double ratio = scale / std::exchange(m_scale, scale);
+    if (!qFuzzyCompare(ratio, 1.0))
+        for (int i = 0; i < columnCount(); ++i)
+            setColumnWidth(i, qRound(columnWidth(i) * ratio));
+}
+
+void ListView::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitToFont();
+}
+
+/// The current cell is of no matter to whoever walks through rows: the columns stay where they are.
+void ListView::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    const int left = horizontalScrollBar()->value();
+    QTableView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(left);
+}
+
+QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const int column = qMax(0, currentIndex().column());
+    switch (action) {
+    case MoveHome: return m_model->index(0, column);
+    case MoveEnd: return m_model->index(Count() - 1, column);
+    default: return QTableView::moveCursor(action, modifiers);
+    }
+}
+
+void ListView::mousePressEvent(QMouseEvent *event)
+{
+    m_doubleClicked = false;
+    QTableView::mousePressEvent(event);
+}
+
+void ListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<ListView> alive = this;
+    QTableView::mouseReleaseEvent(event);
+    const bool clicked = event->button() == Qt::LeftButton && !std::exchange(m_doubleClicked, false) &&
+                         indexAt(event->position().toPoint()).isValid();
+    if (clicked)
+        emit Click();
+    if (alive)
+        emit MouseUp(event->button(), event->globalPosition().toPoint());
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTableView::mouseDoubleClickEvent(event);
+    m_doubleClicked = true;
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid())
+        emit DblClick();
+}
+
+void ListView::keyPressEvent(QKeyEvent *event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const QModelIndex current = currentIndex();
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && plain && current.isValid()) {
+        Select(current.row() + 1);
+        emit DblClick();
+    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        menuByKey();
+    else if ((event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) && plain)
+        horizontalScrollBar()->triggerAction(event->key() == Qt::Key_Left ? QScrollBar::SliderSingleStepSub
+                                                                          : QScrollBar::SliderSingleStepAdd);
+    else
+        QTableView::keyPressEvent(event);
+}
+
+/// By mouse the menu comes with the release of the button, not with its press.
+void ListView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        menuByKey();
+}
+
+void ListView::menuByKey()
+{
+    QPoint place(0, 0);
+    if (currentIndex().isValid()) {
+        scrollTo(currentIndex());
+        place = QPoint(rowHeight(currentIndex().row()), rowRect(currentIndex().row()).bottom());
+    }
+    emit MouseUp(Qt::RightButton, viewport()->mapToGlobal(place));
+}
+
+QRect ListView::rowRect(int row) const
+{
+    return {-horizontalOffset(), rowViewportPosition(row), horizontalHeader()->length(), rowHeight(row)};
+}
+
+/// A frame around the current row while the list has the focus, for the row may be current without being selected.
+void ListView::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (!hasFocus() || !currentIndex().isValid())
+        return;
+    QPainter painter(viewport());
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.state |= QStyle::State_KeyboardFocusChange;
+    option.rect = rowRect(currentIndex().row());
+    option.backgroundColor = palette().color(QPalette::Base);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+void ListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    for (const QModelIndex &index : {current, previous})
+        if (index.isValid())
+            viewport()->update(rowRect(index.row()));
+}

@@ -1,0 +1,247 @@
+#include "platform/MaskedBox.h"
+
+#include <utility>
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QSignalBlocker>
+#include <QValidator>
+
+#include "text/Numbers.h"
+
+namespace {
+
+constexpr QChar prompt(u'_');
+constexpr int anyLength = 32767;
+
+bool isPlace(QChar mask) { return QStringView(u"#9?AC").contains(mask); }
+
+bool fits(QChar mask, QChar c)
+{
+    switch (mask.unicode()) {
+    case u'#':
+    case u'9': return c >= u'0' && c <= u'9';
+    case u'?': return c.isLetter();
+    case u'A': return c.isLetterOrNumber();
+    default: return c.isPrint() && c != prompt;
+    }
+}
+
+/// The text in the mask's shape: its delimiters, and the prompt in every place whose character does not fit.
+QString shaped(const QString &mask, const QString &text)
+{
+    QString shape = mask;
+    for (qsizetype i = 0; i < mask.size(); ++i)
+        if (isPlace(mask.at(i)))
+            shape[i] = i < text.size() && fits(mask.at(i), text.at(i)) ? text.at(i) : prompt;
+    return shape;
+}
+
+/// The last net: drops, the selection clipboard and editing keys of the platform may not move a delimiter either.
+class ShapeValidator : public QValidator
+{
+public:
+    explicit ShapeValidator(MaskedBox *box) : QValidator(box), m_box(box) {}
+    State validate(QString &text, int &) const override
+    {
+        const QString mask = m_box->Mask();
+        return mask.isEmpty() || shaped(mask, text) == text ? Acceptable : Invalid;
+    }
+
+private:
+    MaskedBox *m_box;
+};
+
+} // namespace
+
+MaskedBox::MaskedBox(QWidget *parent) : QLineEdit(parent)
+{
+    setValidator(new ShapeValidator(this));
+    // A change from outside makes what is shown the content; a mask gives it its shape.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        m_typed.reset();
+        if (!m_mask.isEmpty() && shaped(m_mask, text()) != text())
+            showText(shaped(m_mask, text()));
+    });
+}
+
+void MaskedBox::setMask(const QString &mask)
+{
+    const QString before = Text();
+    if (!mask.isEmpty() || !m_mask.isEmpty()) {
+        const QSignalBlocker quiet(this);
+        m_mask = mask;
+        setMaxLength(mask.isEmpty() ? anyLength : int(mask.size()));
+    }
+    m_typed.reset();
+    showText(shaped(mask, {}));
+    if (Text() != before)
+        emit textChanged(text());
+}
+
+QString MaskedBox::Text() const
+{
+    QString content = m_typed.value_or(text());
+    if (!m_mask.isEmpty())
+        content.replace(prompt, u' ');
+    return content;
+}
+
+void MaskedBox::setText(const QString &text)
+{
+    const QString before = Text();
+    m_typed.reset();
+    showText(m_mask.isEmpty() ? text : shaped(m_mask, text));
+    if (Text() != before)
+        emit textChanged(QLineEdit::text());
+}
+
+QString MaskedBox::ClipText() const
+{
+    if (m_mask.isEmpty())
+        return Text();
+    QString clip;
+    for (qsizetype i = 0; i < m_mask.size(); ++i)
+        if (isPlace(m_mask.at(i)) && text().at(i) != prompt)
+            clip += text().at(i);
+    return clip;
+}
+
+void MaskedBox::keyPressEvent(QKeyEvent *event)
+{
+    const QString typed = event->text();
+    const bool control = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+    if (m_mask.isEmpty() || isReadOnly() || event->matches(QKeySequence::Undo))
+        QLineEdit::keyPressEvent(event);
+    else if (event->matches(QKeySequence::Paste))
+        paste();
+    else if (event->matches(QKeySequence::Cut))
+        cut();
+    else if (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete) {
+        int from = cursorPosition() - (event->key() == Qt::Key_Backspace ? 1 : 0);
+        while (event->key() == Qt::Key_Backspace && from > 0 && !isPlace(m_mask.at(from)))
+            --from;
+        hasSelectedText() ? blank(selectionStart(), selectionEnd()) : blank(from, from + 1);
+    } else if (!typed.isEmpty() && typed.at(0).isPrint() && !control)
+        enter(typed);
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void MaskedBox::inputMethodEvent(QInputMethodEvent *event)
+{
+    if (m_mask.isEmpty() || isReadOnly())
+        QLineEdit::inputMethodEvent(event);
+    else if (!event->commitString().isEmpty())
+        enter(event->commitString());
+}
+
+/// The usual menu would paste past the mask.
+void MaskedBox::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (m_mask.isEmpty()) {
+        QLineEdit::contextMenuEvent(event);
+        return;
+    }
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(QStringLiteral("&Undo"), this, &QLineEdit::undo)->setEnabled(isUndoAvailable());
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Cu&t"), this, &MaskedBox::cut)->setEnabled(hasSelectedText() && !isReadOnly());
+    menu->addAction(QStringLiteral("&Copy"), this, &QLineEdit::copy)->setEnabled(hasSelectedText());
+    menu->addAction(QStringLiteral("&Paste"), this, &MaskedBox::paste)->setEnabled(!isReadOnly());
+    menu->addSeparator();
+    menu->addAction(QStringLiteral("Select &All"), this, &QLineEdit::selectAll);
+    menu->popup(event->globalPos());
+}
+
+void MaskedBox::focusInEvent(QFocusEvent *event)
+{
+    if (m_typed)
+        showText(*std::exchange(m_typed, {}));
+    QLineEdit::focusInEvent(event);
+}
+
+void MaskedBox::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    const bool elsewhere = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason ||
+                           event->reason() == Qt::MenuBarFocusReason;
+    if (elsewhere || hasFocus() || m_typed || !m_mask.isEmpty() || m_format.isEmpty())
+        return;
+    const std::optional<double> number = ReadNumber(text());
+    const QString picture = number ? ::Format(*number, m_format) : QString();
+    if (!number || picture.size() > maxLength() || picture == text()) // a number that was cut would be another number
+        return;
+    const QString typed = text();
+    showText(picture);
+    m_typed = typed;
+}
+
+/// Types the characters from the selection or the cursor on, all or, where the mask refuses one, none of them.
+void MaskedBox::enter(const QString &characters)
+{
+    QString content = text();
+    qsizetype i = cursorPosition();
+    if (hasSelectedText()) {
+        i = selectionStart();
+        for (qsizetype k = i; k < selectionEnd(); ++k)
+            content[k] = isPlace(m_mask.at(k)) ? prompt : m_mask.at(k);
+    }
+    for (const QChar c : characters) {
+        bool jumped = false;
+        while (!jumped && i < m_mask.size() && !isPlace(m_mask.at(i)))
+            jumped = m_mask.at(i++) == c;
+        if (jumped)
+            continue;
+        const bool fitting = i < m_mask.size() && fits(m_mask.at(i), c);
+        if (!fitting && (i >= m_mask.size() || c != u' ')) {
+            emit ValidationError(Text(), int(i));
+            return;
+        }
+        content[i++] = fitting ? c : prompt;
+    }
+    replace(content, int(i));
+}
+
+void MaskedBox::paste() { enter(QGuiApplication::clipboard()->text().trimmed()); }
+
+void MaskedBox::cut()
+{
+    QLineEdit::copy();
+    blank(selectionStart(), selectionEnd());
+}
+
+void MaskedBox::blank(int from, int to)
+{
+    if (from < 0)
+        return;
+    QString content = text();
+    for (int i = from; i < to && i < m_mask.size(); ++i)
+        content[i] = isPlace(m_mask.at(i)) ? prompt : m_mask.at(i);
+    replace(content, from);
+}
+
+/// One step of undo; nothing where nothing changes.
+void MaskedBox::replace(const QString &shaped, int cursor)
+{
+    if (shaped != text()) {
+        setSelection(0, int(text().size()));
+        insert(shaped);
+    }
+    setCursorPosition(cursor);
+}
+
+/// Shows a text without a word to the outside: the content, or its formatted picture. Clears the undo steps, which
+/// belong to another text.
+void MaskedBox::showText(const QString &text)
+{
+    const QSignalBlocker quiet(this);
+    QLineEdit::setText(text);
+    if (!m_mask.isEmpty())
+        setCursorPosition(0);
+}

@@ -1,0 +1,56 @@
+// An entry box with an optional mask and an optional format. The mask's delimiters stay in place: '#' or '9' take a
+// digit, '?' a letter, 'A' a letter or digit, 'C' any character; a blank leaves its place empty. Text() is what the box
+// holds, with delimiters and a blank for what is missing; ClipText() the typed characters alone. A box without a mask
+// may have a Format: it shows its number in that picture while the focus is elsewhere, and what was typed, with all its
+// digits, while it is being edited.
+#pragma once
+
+#include <optional>
+
+#include <QLineEdit>
+
+class MaskedBox : public QLineEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QString mask READ Mask WRITE setMask)
+    Q_PROPERTY(QString format READ Format WRITE setFormat)
+public:
+    explicit MaskedBox(QWidget *parent = nullptr);
+
+    QString Mask() const { return m_mask; }
+    /// Empties the box, and limits its length to the mask's. An empty mask lets any text in, up to maxLength().
+    void setMask(const QString &mask);
+    /// A number picture such as "##0.000", applied when the focus leaves the box; empty: none.
+    QString Format() const { return m_format; }
+    void setFormat(const QString &picture) { m_format = picture; }
+
+    QString Text() const;
+    /// With a mask: characters that do not fit their place become blank. Needs no focus, applies no Format.
+    void setText(const QString &text);
+    QString ClipText() const;
+    /// What the box shows now.
+    QString FormattedText() const { return text(); }
+
+signals:
+    /// A key (or a pasted text) that the mask refuses at that place, from 0; nothing was entered.
+    void ValidationError(const QString &text, int position);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void enter(const QString &characters);
+    void paste();
+    void cut();
+    void blank(int from, int to);
+    void replace(const QString &shaped, int cursor);
+    void showText(const QString &text);
+
+    QString m_mask;
+    QString m_format;
+    std::optional<QString> m_typed; ///< what was typed, while the box shows it in its Format
+};

@@ -1,0 +1,241 @@
+#include "text/Dates.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QStringView>
+
+#include "platform/Doors.h"
+
+namespace {
+
+constexpr const char *monthNames[] = {"January", "February", "March",     "April",   "May",      "June",
+                                      "July",    "August",   "September", "October", "November", "December"};
+constexpr const char *weekdayNames[] = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
+
+constexpr QChar lower(QChar c) { return c >= u'A' && c <= u'Z' ? QChar(char16_t(c.unicode() + 32)) : c; }
+
+/// A run of digits in a typed text.
+struct NumberField
+{
+    int value = 0;
+    int digits = 0;
+};
+
+using Fields = std::array<NumberField, 3>;
+
+/// Takes up to `most` digits off the front of the text; false if there is none.
+bool takeNumber(QStringView &text, int most, NumberField &field)
+{
+    field = {};
+    while (field.digits < most && !text.isEmpty() && text[0] >= u'0' && text[0] <= u'9') {
+        field.value = field.value * 10 + (text[0].unicode() - u'0');
+        ++field.digits;
+        text = text.mid(1);
+    }
+    return field.digits > 0;
+}
+
+/// Three numbers of up to four digits with one of the delimiters between them, and nothing else but blanks at the ends.
+std::optional<Fields> threeNumbers(QStringView text, QStringView delimiters)
+{
+    text = text.trimmed();
+    Fields fields;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (i > 0) {
+            if (text.isEmpty() || !delimiters.contains(text[0]))
+                return std::nullopt;
+            text = text.mid(1);
+        }
+        if (!takeNumber(text, 4, fields[i]))
+            return std::nullopt;
+    }
+    if (!text.isEmpty())
+        return std::nullopt;
+    return fields;
+}
+
+std::optional<QDate> dateOf(const NumberField &month, const NumberField &day, const NumberField &year)
+{
+    if (month.digits > 2 || day.digits > 2)
+        return std::nullopt;
+    int y = year.value;
+    if (year.digits <= 2) {
+        const int last = lastTypedYear();
+        y = last - (last - y) % 100;
+    } else if (y < 100) {
+        return std::nullopt;
+    }
+    const QDate date(y, month.value, day.value);
+    if (!date.isValid())
+        return std::nullopt;
+    return date;
+}
+
+constexpr QStringView dateDelimiters = u"/-.";
+
+/// Takes a picture apart into runs of one letter, at most four long: `show(text, letter, length)` appends what stands
+/// for the run (letter in lower case) and returns true; where it returns false the run stands as it is.
+template <class Show> QString showPicture(QStringView picture, Show show)
+{
+    QString text;
+    text.reserve(picture.size() + 16);
+    for (qsizetype i = 0; i < picture.size();) {
+        qsizetype end = i + 1;
+        while (end < picture.size() && end - i < 4 && lower(picture[end]) == lower(picture[i]))
+            ++end;
+        if (!show(text, lower(picture[i]), end - i))
+            text += picture.mid(i, end - i);
+        i = end;
+    }
+    return text;
+}
+
+void appendNumber(QString &text, int number, int digits)
+{
+    char16_t buffer[12];
+    char16_t *c = std::end(buffer);
+    for (; number > 0 || digits > 0; number /= 10, --digits)
+        *--c = char16_t(u'0' + number % 10);
+    text += QStringView(c, std::end(buffer));
+}
+
+/// A name in full, or its first three letters.
+void appendName(QString &text, const char *name, bool shortened)
+{
+    const QLatin1String whole(name);
+    text += shortened ? whole.left(3) : whole;
+}
+
+bool showDateRun(QString &text, const QDate &date, QChar letter, qsizetype length)
+{
+    switch (letter.unicode()) {
+    case u'd':
+        if (length <= 2)
+            appendNumber(text, date.day(), int(length));
+        else
+            appendName(text, weekdayNames[date.dayOfWeek() - 1], length == 3);
+        return true;
+    case u'm':
+        if (length <= 2)
+            appendNumber(text, date.month(), int(length));
+        else
+            appendName(text, monthNames[date.month() - 1], length == 3);
+        return true;
+    case u'y':
+        if (length == 2)
+            appendNumber(text, date.year() % 100, 2);
+        else if (length == 4)
+            appendNumber(text, date.year(), 4);
+        return length == 2 || length == 4;
+    default: return false;
+    }
+}
+
+bool isMarker(QStringView marker) { return marker == u"AM" || marker == u"PM" || marker == u"am" || marker == u"pm"; }
+
+} // namespace
+
+QString MakeDatePicture(const QString &dateOrder, const QString &delimiter)
+{
+    return dateOrder.left(2) + delimiter + dateOrder.mid(2, 2) + delimiter + dateOrder.right(2);
+}
+
+QString NormalizeDateText(const QString &text, const QString &dateOrder)
+{
+    const QString first = text.left(2), second = text.mid(3, 2), third = text.right(2);
+    if (dateOrder == u"MMDDYY")
+        return first + u'/' + second + u'/' + third;
+    if (dateOrder == u"DDMMYY")
+        return second + u'/' + first + u'/' + third;
+    if (dateOrder == u"YYMMDD")
+        return second + u'/' + third + u'/' + first;
+    return {};
+}
+
+std::optional<QDate> ReadDate(const QString &text)
+{
+    const auto fields = threeNumbers(text, dateDelimiters);
+    return fields ? dateOf((*fields)[0], (*fields)[1], (*fields)[2]) : std::nullopt;
+}
+
+bool IsDate(const QString &text) { return ReadDate(text).has_value(); }
+
+std::optional<QDate> ReadTypedDate(const QString &text, const QString &dateOrder)
+{
+    const auto fields = threeNumbers(text, dateDelimiters);
+    if (!fields)
+        return std::nullopt;
+    const auto &[first, second, third] = *fields;
+    if (const auto date = dateOf(first, second, third))
+        return date;
+    if (dateOrder == u"DDMMYY")
+        return dateOf(second, first, third);
+    if (dateOrder == u"YYMMDD")
+        return dateOf(second, third, first);
+    return std::nullopt;
+}
+
+int lastTypedYear() { return std::max(2029, Now().date().year() + 2); }
+
+std::optional<QTime> ReadTime(const QString &text)
+{
+    QStringView rest = QStringView(text).trimmed();
+    const QStringView marker = rest.right(2);
+    const bool afternoon = marker.compare(u"pm", Qt::CaseInsensitive) == 0;
+    const bool twelve = afternoon || marker.compare(u"am", Qt::CaseInsensitive) == 0;
+    if (twelve)
+        rest.chop(2);
+    const auto fields = threeNumbers(rest, u":");
+    if (!fields || std::any_of(fields->begin(), fields->end(), [](const NumberField &f) { return f.digits > 2; }))
+        return std::nullopt;
+    int hour = (*fields)[0].value;
+    if (twelve) {
+        if (hour < 1 || hour > 12)
+            return std::nullopt;
+        hour = hour % 12 + (afternoon ? 12 : 0);
+    }
+    const QTime time(hour, (*fields)[1].value, (*fields)[2].value);
+    if (!time.isValid())
+        return std::nullopt;
+    return time;
+}
+
+QString Format(const QDate &date, const QString &picture)
+{
+    if (!date.isValid())
+        return {};
+    return showPicture(picture, [&](QString &text, QChar letter, qsizetype length) {
+        return showDateRun(text, date, letter, length);
+    });
+}
+
+QString Format(const QTime &time, const QString &picture)
+{
+    if (!time.isValid())
+        return {};
+    const qsizetype marker = picture.indexOf(u"am/pm", 0, Qt::CaseInsensitive);
+    const int hour = marker < 0 ? time.hour() : (time.hour() + 11) % 12 + 1;
+    QString text = showPicture(QStringView(picture).left(marker), [&](QString &out, QChar letter, qsizetype length) {
+        const bool known = length <= 2 && (letter == u'h' || letter == u'm' || letter == u's');
+        if (known)
+            appendNumber(out, letter == u'h' ? hour : letter == u'm' ? time.minute() : time.second(), int(length));
+        return known;
+    });
+    if (marker < 0)
+        return text;
+    const bool upper = picture[marker] == u'A';
+    text += time.hour() < 12 ? (upper ? u"AM" : u"am") : (upper ? u"PM" : u"pm");
+    text += QStringView(picture).mid(marker + 5);
+    return text;
+}
+
+QDate AddMonths(const QDate &date, int months) { return date.addMonths(months); }
+
+QDate AddYears(const QDate &date, int years) { return date.addYears(years); }
+
+bool IsBoxTime(const QString &text)
+{
+    const QStringView marker = QStringView(text).mid(9);
+    return text.size() == 11 && text[8] == u' ' && isMarker(marker) && ReadTime(text).has_value();
+}

@@ -1,0 +1,26 @@
+// Numbers as text: the two tests that the windows use, and the pictures that show a number. A decimal point and
+// thousands commas, whatever the system's locale.
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+/// Is the whole text, but for blanks at its ends, a number: an optional sign, digits with at most one decimal point,
+/// thousands commas allowed, an optional exponent? An empty text is none.
+bool IsNumeric(const QString &text);
+
+/// The number at the start of the text, the rest is ignored: "12ab" is 12, "abc" and "" are 0. Where the whole text is
+/// a number, that number: "1,000" is a thousand.
+double Val(const QString &text);
+
+/// The number that the whole text is; nothing if IsNumeric() is false or it is beyond a double.
+std::optional<double> ReadNumber(const QString &text);
+
+/// Shows a number with a picture of 0, #, "." and ",", such as "##0.000" or "###,##0.00": rounded to the picture's
+/// places, halves away from zero, judged on the number's decimal form (2.675 with "0.00" is "2.68"). A picture never
+/// cuts a number.
+QString Format(double value, const QString &picture);
+
+/// The plain text of a number, at most 15 digits: 8.4 is "8.4", 80 is "80".
+QString PlainText(double value);
