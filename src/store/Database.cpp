@@ -1,0 +1,225 @@
+#include "store/Database.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <sqlite3.h>
+
+#include "platform/RuntimeFailure.h"
+#include "store/Connection.h"
+#include "store/DatabaseFile.h"
+#include "store/RecordsetState.h"
+
+namespace {
+
+struct DeclaredType
+{
+    FieldType type;
+    const char *declaration; ///< %1 is the size
+};
+
+// What Append writes for each kind of field, and how a column's declaration is read back.
+constexpr DeclaredType declaredTypes[] = {
+    {FieldType::Boolean, "BOOLEAN"},  {FieldType::Integer, "SMALLINT"}, {FieldType::Double, "REAL"},
+    {FieldType::Date, "DATE TEXT"},   {FieldType::Time, "TIME TEXT"},   {FieldType::Memo, "TEXT"},
+    {FieldType::Text, "VARCHAR(%1)"},
+};
+
+constexpr int defaultTextSize = 255;
+
+QString declarationOf(const FieldDef &field)
+{
+    for (const DeclaredType &row : declaredTypes) {
+        if (row.type != field.Type)
+            continue;
+        const QString declaration = QString::fromLatin1(row.declaration);
+        return row.type == FieldType::Text ? declaration.arg(field.Size > 0 ? field.Size : defaultTextSize)
+                                           : declaration;
+    }
+    throw RuntimeFailure(Failure::DataTypeConversion,
+                         QStringLiteral("The column %1 has an unknown type.").arg(field.Name));
+}
+
+FieldDef fieldOf(const QString &name, const QString &declaration)
+{
+    static const QRegularExpression sizePattern(QStringLiteral("\\(\\s*(\\d+)"));
+    const int size = sizePattern.match(declaration).captured(1).toInt();
+    switch (kindOfDeclaration(declaration.toStdString())) {
+    case ColumnKind::Boolean: return {name, FieldType::Boolean, 0};
+    case ColumnKind::Integer: return {name, FieldType::Integer, 0};
+    case ColumnKind::Double: return {name, FieldType::Double, 0};
+    case ColumnKind::Date: return {name, FieldType::Date, 0};
+    case ColumnKind::Time: return {name, FieldType::Time, 0};
+    default: return {name, size > 0 ? FieldType::Text : FieldType::Memo, size};
+    }
+}
+
+/// The statement of a query that can be written, with the row's number as a last column.
+struct WritableQuery
+{
+    QString table;
+    QString sql;
+};
+
+/// Nothing where the statement is not "SELECT * FROM table" with a condition or an order at most.
+std::optional<WritableQuery> writableQuery(const QString &sql)
+{
+    constexpr auto ignoreCase = QRegularExpression::CaseInsensitiveOption;
+    static const QRegularExpression whole(
+        QStringLiteral(
+            "^\\s*SELECT\\s+(\\*)\\s+FROM\\s+(?:\\[(\\w+)\\]|\"(\\w+)\"|(\\w+))\\s*(?:$|;|(?:WHERE|ORDER|LIMIT)\\b)"),
+        ignoreCase);
+    static const QRegularExpression quotedParts(QStringLiteral("'[^']*'|\"[^\"]*\"|\\[[^\\]]*\\]"));
+    static const QRegularExpression compound(QStringLiteral("\\b(?:UNION|INTERSECT|EXCEPT|GROUP)\\b"), ignoreCase);
+    const auto match = whole.match(sql);
+    if (!match.hasMatch() || QString(sql).remove(quotedParts).contains(compound))
+        return std::nullopt;
+    const QString table = match.captured(2) + match.captured(3) + match.captured(4);
+    QString withRowid = sql;
+    withRowid.insert(match.capturedEnd(1), QStringLiteral(", rowid"));
+    return WritableQuery{table, withRowid};
+}
+
+void requireQuery(const Statement &statement, const QString &sql)
+{
+    if (statement.columnCount() == 0)
+        throw RuntimeFailure(Failure::SyntaxError, QStringLiteral("The statement gives no rows: ") + sql);
+}
+
+} // namespace
+
+std::unique_ptr<Database> Database::OpenDatabase(const QString &fileName, Access access)
+{
+    const QString path = findDatabaseFile(fileName);
+    if (path.isEmpty()) {
+        const QFileInfo wanted(fileName);
+        const QString name = wanted.fileName().isEmpty() ? QStringLiteral("(no name)") : wanted.fileName();
+        throw RuntimeFailure(Failure::CouldNotFindFile,
+                             QStringLiteral("The database %1 was looked for in the folder %2.")
+                                 .arg(name, QDir::toNativeSeparators(wanted.absolutePath())));
+    }
+    requireWritable(path);
+    std::unique_ptr<Database> database(new Database);
+    database->m_fileName = path;
+    database->m_connection = std::make_shared<Connection>(path);
+    Connection &connection = *database->m_connection;
+    requireOurHeader(connection, path);
+    const QString doing = QStringLiteral("Opening the database %1.").arg(path);
+    connection.run("PRAGMA cell_size_check = ON; PRAGMA foreign_keys = OFF; PRAGMA synchronous = EXTRA", doing);
+    if (access == Access::Exclusive)
+        connection.run("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT", doing);
+    requireWholeContent(database->m_connection, path);
+    connection.run("PRAGMA journal_mode = DELETE", doing);
+    return database;
+}
+
+Database::~Database()
+{
+    if (m_connection)
+        m_connection->close();
+}
+
+void Database::setBusyTimeout(int milliseconds) { Connection::busyTimeout = milliseconds; }
+
+std::shared_ptr<Connection> Database::connection() const
+{
+    if (!m_connection)
+        throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("The database is closed."));
+    return m_connection;
+}
+
+Recordset Database::OpenRecordset(const QString &sql, const Parameters &parameters)
+{
+    auto state = std::make_shared<RecordsetState>();
+    state->connection = connection();
+    const auto writable = writableQuery(sql);
+    Statement query(state->connection, writable ? writable->sql : sql, QStringLiteral("Reading from the database."));
+    requireQuery(query, sql);
+    query.bind(parameters);
+    if (writable)
+        state->table = writable->table;
+    state->rows = std::make_shared<const Rows>(Rows::read(query, writable ? &state->rowids : nullptr));
+    return Recordset(std::move(state));
+}
+
+Recordset Database::OpenForAppend(const QString &table)
+{
+    auto state = std::make_shared<RecordsetState>();
+    state->connection = connection();
+    state->table = tableName(table);
+    Statement query(state->connection, QStringLiteral("SELECT * FROM ") + quoted(state->table),
+                    QStringLiteral("Reading the columns of %1.").arg(table));
+    state->rows = std::make_shared<const Rows>(Rows::describe(query));
+    return Recordset(std::move(state));
+}
+
+int Database::Execute(const QString &sql, const Parameters &parameters)
+{
+    Statement statement(connection(), sql, QStringLiteral("Changing the database."), Statement::Use::Again);
+    statement.bind(parameters);
+    return statement.run();
+}
+
+QStringList Database::TableDefs() const
+{
+    Statement query(
+        connection(),
+        QStringLiteral(
+            "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'"),
+        QStringLiteral("Reading the names of the tables."));
+    const Rows rows = Rows::read(query);
+    QStringList names;
+    for (qsizetype row = 0; row < rows.count(); ++row)
+        names.append(rows.text(row, 0));
+    return names;
+}
+
+QString Database::tableName(const QString &table) const
+{
+    for (const QString &name : TableDefs())
+        if (name.compare(table, Qt::CaseInsensitive) == 0)
+            return name;
+    throw RuntimeFailure(Failure::NoSuchColumn, QStringLiteral("There is no table \"%1\".").arg(table));
+}
+
+std::vector<FieldDef> Database::Fields(const QString &table) const
+{
+    Statement query(connection(), QStringLiteral("SELECT name, type FROM pragma_table_info(?)"),
+                    QStringLiteral("Reading the columns of %1.").arg(table));
+    query.bind({tableName(table)});
+    const Rows rows = Rows::read(query);
+    std::vector<FieldDef> fields;
+    for (qsizetype row = 0; row < rows.count(); ++row)
+        fields.push_back(fieldOf(rows.text(row, 0), rows.text(row, 1)));
+    return fields;
+}
+
+void Database::Append(const QString &table, const FieldDef &field)
+{
+    Execute(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                .arg(quoted(tableName(table)), quoted(field.Name), declarationOf(field)));
+}
+
+void Database::Close()
+{
+    if (m_connection)
+        m_connection->close();
+    m_connection.reset();
+}
+
+Database::Transaction::Transaction(Database &database) : m_connection(database.connection())
+{
+    m_connection->run("BEGIN IMMEDIATE", QStringLiteral("Starting to change the database."));
+}
+
+Database::Transaction::~Transaction()
+{
+    if (m_connection)
+        m_connection->rollBack();
+}
+
+void Database::Transaction::commit()
+{
+    m_connection->run("COMMIT", QStringLiteral("Storing the changes."));
+    m_connection.reset();
+}

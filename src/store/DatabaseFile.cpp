@@ -1,0 +1,132 @@
+#include "store/DatabaseFile.h"
+
+#include <array>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QtEndian>
+#include <sqlite3.h>
+
+#include "platform/RuntimeFailure.h"
+#include "store/Connection.h"
+#include "store/schema.h"
+
+namespace {
+
+// The header of an SQLite file, big-endian.
+constexpr qint64 headerSize = 100;
+constexpr char magic[16] = {'S', 'Q', 'L', 'i', 't', 'e', ' ', 'f', 'o', 'r', 'm', 'a', 't', ' ', '3', '\0'};
+constexpr int encodingAt = 56, applicationIdAt = 68;
+constexpr qint32 utf8Encoding = 1;
+
+constexpr mode_t anyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+
+/// May it be written? By its bits as well, which do not bind every user but say what the keeper wants.
+bool isWritable(const QByteArray &path, int access)
+{
+    struct stat status = {};
+    return ::stat(path.constData(), &status) == 0 && (status.st_mode & anyWriteBit) != 0 &&
+           ::access(path.constData(), access) == 0;
+}
+
+[[noreturn]] void throwForeign(const QString &path, const QString &why)
+{
+    throw RuntimeFailure(Failure::UnrecognizedFormat, QStringLiteral("%1: %2").arg(path, why));
+}
+
+sqlite3_file *fileOf(Connection &connection)
+{
+    sqlite3_file *file = nullptr;
+    sqlite3_file_control(connection.handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    return file;
+}
+
+qint64 sizeOf(Connection &connection)
+{
+    sqlite3_file *file = fileOf(connection);
+    sqlite3_int64 size = 0;
+    if (file && file->pMethods)
+        file->pMethods->xFileSize(file, &size);
+    return size;
+}
+
+/// The one number that a statement without values gives; 0 if it gives none.
+qint64 oneNumber(const std::shared_ptr<Connection> &connection, const QString &sql, const QString &doing)
+{
+    Statement query(connection, sql, doing);
+    return query.step() ? sqlite3_column_int64(query.handle(), 0) : 0;
+}
+
+} // namespace
+
+QString findDatabaseFile(const QString &fileName)
+{
+    const QFileInfo exact(fileName);
+    if (fileName.isEmpty() || exact.isFile())
+        return fileName.isEmpty() ? QString() : exact.absoluteFilePath();
+    const QDir folder = exact.absoluteDir();
+    const QDir::Filters files = QDir::Files | QDir::Hidden | QDir::System;
+    for (const QString &name : folder.entryList(files, QDir::Name))
+        if (name.compare(exact.fileName(), Qt::CaseInsensitive) == 0 && QFileInfo(folder, name).isFile())
+            return folder.absoluteFilePath(name);
+    return {};
+}
+
+void requireWritable(const QString &path)
+{
+    const QFileInfo file(QFileInfo(path).canonicalFilePath()); // a link's journal is made beside what it leads to
+    if (!isWritable(QFile::encodeName(file.filePath()), R_OK | W_OK))
+        throw RuntimeFailure(
+            Failure::PermissionDenied,
+            QStringLiteral("The database %1 is read-only. Make it writable and start again.").arg(path));
+    if (!isWritable(QFile::encodeName(file.path()), W_OK | X_OK))
+        throw RuntimeFailure(
+            Failure::PermissionDenied,
+            QStringLiteral("The folder %1 of the database is read-only, so nothing could be stored. Make it "
+                           "writable and start again.")
+                .arg(file.path()));
+}
+
+void requireOurHeader(Connection &connection, const QString &path)
+{
+    if (sqlite3_db_readonly(connection.handle(), "main") != 0)
+        throw RuntimeFailure(Failure::PermissionDenied, QStringLiteral("The database %1 is read-only.").arg(path));
+    std::array<char, headerSize> header{};
+    sqlite3_file *file = fileOf(connection);
+    if (!file || !file->pMethods || sizeOf(connection) < headerSize)
+        throwForeign(path, QStringLiteral("The file is empty or too short for a database."));
+    const int code = file->pMethods->xRead(file, header.data(), int(header.size()), 0);
+    if (code != SQLITE_OK)
+        connection.fail(code, QStringLiteral("Reading the database %1.").arg(path));
+    if (!std::equal(std::begin(magic), std::end(magic), header.begin()))
+        throwForeign(path, QStringLiteral("The file is no database, or its beginning is damaged."));
+    if (qFromBigEndian<qint32>(header.data() + applicationIdAt) != schema::applicationId)
+        throwForeign(path, QStringLiteral("The file is a database of another program."));
+    if (qFromBigEndian<qint32>(header.data() + encodingAt) != utf8Encoding)
+        throwForeign(path, QStringLiteral("The beginning of the file is damaged."));
+}
+
+void requireWholeContent(const std::shared_ptr<Connection> &connection, const QString &path)
+{
+    const QString doing = QStringLiteral("Reading the database %1.").arg(path);
+    QSet<QString> names;
+    {
+        Statement query(connection, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table'"), doing);
+        while (query.step())
+            names.insert(
+                QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(query.handle(), 0))).toUpper());
+    }
+    for (const schema::Table &table : schema::tables())
+        if (!names.contains(QLatin1String(table.name)))
+            throwForeign(path, QStringLiteral("The table %1 is missing.").arg(QLatin1String(table.name)));
+    const qint64 pages = oneNumber(connection, QStringLiteral("PRAGMA page_count"), doing);
+    const qint64 pageSize = oneNumber(connection, QStringLiteral("PRAGMA page_size"), doing);
+    if (sizeOf(*connection) < pages * pageSize)
+        throwForeign(path, QStringLiteral("The end of the file is missing."));
+    if (oneNumber(connection, QStringLiteral("SELECT EXISTS (SELECT * FROM CONFIG)"), doing) == 0)
+        throwForeign(path, QStringLiteral("The table CONFIG has no row."));
+}

@@ -1,0 +1,24 @@
+// Inside of the store: is this file a database of ours, and can it be written? Each check throws the RuntimeFailure
+// that OpenDatabase promises, and none changes or creates a file. The header is read through the engine's own file
+// handle: to open and close the file a second time would drop the locks that this process holds on it.
+#pragma once
+
+#include <memory>
+
+#include <QString>
+
+class Connection;
+
+/// The absolute path of the file of that name, in its folder, whatever the case of the name; the exact name wins. Empty
+/// if there is none.
+QString findDatabaseFile(const QString &fileName);
+
+/// Throws PermissionDenied where the file or its folder, which needs room for the journal, cannot be written.
+void requireWritable(const QString &path);
+
+/// Throws UnrecognizedFormat where the first bytes are not those of one of our files.
+void requireOurHeader(Connection &connection, const QString &path);
+
+/// Throws UnrecognizedFormat where the file is shorter than it says, or a table or the row of CONFIG is missing. The
+/// first to take a lock: throws PermissionDenied where another program holds the file.
+void requireWholeContent(const std::shared_ptr<Connection> &connection, const QString &path);

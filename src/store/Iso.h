@@ -1,0 +1,19 @@
+// Dates and times as the store keeps them: "YYYY-MM-DD" and "HH:MM:SS", so that order by text is order in time. Used by
+// the reader of rows, by the binding of parameters and by Value; nothing above the store sees these texts.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include <QByteArray>
+#include <QDate>
+#include <QTime>
+
+/// Exactly "YYYY-MM-DD" of a day that exists, years 0001 to 9999.
+std::optional<QDate> readIsoDate(std::string_view text);
+/// Exactly "HH:MM:SS" of a time that exists.
+std::optional<QTime> readIsoTime(std::string_view text);
+
+/// Empty for an invalid date or one beyond the year 9999; so for an invalid time.
+QByteArray isoText(const QDate &date);
+QByteArray isoText(const QTime &time);
