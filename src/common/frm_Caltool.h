@@ -1,0 +1,67 @@
+// The calendar picker: a small modal window with one month, for every date box of the program. The date in hand goes in
+// and comes out by Globals::calendar. One click on a day is the choice; the button labelled OK, Esc and the title bar
+// leave without one, and the date that went in comes out again. So SelectedDate always is a date afterwards,
+// "mm/dd/yyyy", whatever was handed in.
+#pragma once
+
+#include <array>
+
+#include <QDate>
+
+#include "shell/DialogForm.h"
+
+class DayButton;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QScrollBar;
+
+class frm_Caltool : public DialogForm
+{
+    Q_OBJECT
+public:
+    frm_Caltool(Globals &globals, QWidget *parent);
+
+    /// Shows the month of g.calendar.SelectedDate (month-first text; today where it is no date) and waits for the
+    /// choice. A left or top of at least 1 twip, and within the screen, moves the window there; 0 leaves it where it
+    /// is.
+    void ShowCalendar(int left, int top);
+
+    QPushButton *panMonth;
+    QPushButton *panYear;
+    QScrollBar *scrMonth; ///< 0 to 13: the ends wrap
+    QScrollBar *scrYear;  ///< 100 to 9999
+    std::array<DayButton *, 42> cmdDay;
+    QLabel *lblReturnDate;
+    QPushButton *cmd_ok;
+    QMenu *mnu_Month;
+    QMenu *mnu_Year;
+
+protected:
+    void Cancel() override { cmd_ok_Click(); }
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void makeMenus();
+    void makeBars();
+    void arrange();
+
+    void Form_Activate();
+    void panMonth_MouseUp();
+    void panYear_MouseUp();
+    void scrMonth_change();
+    void scrYear_change();
+    void cmdDay_Click(int Index);
+    void cmd_ok_Click();
+
+    QDate selected() const;
+    void select(const QDate &date);
+    /// Goes to a month and keeps the day, or takes the last one where the month has no such day.
+    void goTo(int month, int year);
+    void moveTo(int left, int top);
+    void drawMonth();
+    DayButton &selectedButton();
+
+    QDate DateOnEntry;
+};

@@ -1,0 +1,238 @@
+// The logbook's commands and events: what the menus, the toolbar, the tree and the lists call.
+#include <QMenu>
+#include <QSignalBlocker>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "logbook/frm_Waterlog.h"
+#include "platform/Doors.h"
+#include "platform/HourGlass.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/MenuEntry.h"
+
+namespace {
+
+const QString allTanks = QStringLiteral("All Tanks"); ///< key and text of the tree's root
+const QString tanksByName = QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC");
+const QString waterTypeByName = QStringLiteral("SELECT TankWaterType FROM TANKLST where tankname = ?");
+const QString sortSetting = QStringLiteral("WQ_Sort");
+const QString ascending = QStringLiteral("ascending");
+
+QTreeWidgetItem *makeNode(const QString &key, const QString &text)
+{
+    auto *node = new QTreeWidgetItem({text});
+    node->setData(0, Qt::UserRole, key);
+    node->setIcon(0, QIcon(QStringLiteral(":/icons/tank.svg")));
+    return node;
+}
+
+} // namespace
+
+const std::array<frm_Waterlog::EntryPaths, 3> frm_Waterlog::entryPaths = {{
+    {&frm_Waterlog::AddWaterEntry, &frm_Waterlog::Change_EntriesWater, &frm_Waterlog::Delete_EntriesWater},
+    {},
+    {},
+}};
+
+void frm_Waterlog::Add_Entries()
+{
+    if (const auto path = entryPaths[static_cast<size_t>(tab())].add)
+        (this->*path)();
+}
+
+void frm_Waterlog::Change_Entries()
+{
+    if (const auto path = entryPaths[static_cast<size_t>(tab())].change)
+        (this->*path)();
+}
+
+void frm_Waterlog::Delete_Entries()
+{
+    if (const auto path = entryPaths[static_cast<size_t>(tab())].remove)
+        (this->*path)();
+}
+
+void frm_Waterlog::Refresh_Treeview()
+{
+    CurrentTankText.clear();
+    m_firstActivation = true;
+    g.gRecordset = g.gDatabase->OpenRecordset(tanksByName);
+    {
+        const QSignalBlocker quiet(TreeView1);
+        TreeView1->clear();
+        QTreeWidgetItem *root = makeNode(allTanks, allTanks);
+        TreeView1->addTopLevelItem(root);
+        QTreeWidgetItem *last = root;
+        for (; !g.gRecordset.EOF_(); g.gRecordset.MoveNext()) {
+            last = makeNode(g.gRecordset[QStringLiteral("tankid")].text(),
+                            g.gRecordset[QStringLiteral("tankname")].text());
+            root->addChild(last);
+        }
+        TreeView1->scrollToItem(last); // opens the tree
+        root->setExpanded(true);
+        const QString stored = GetSetting(sortSetting, QStringLiteral("Not Found"));
+        m_listSortOrder = stored == u"Not Found" ? QStringLiteral("1") : stored;
+        m_firstActivation = false;
+        TreeView1->setCurrentItem(root);
+    }
+    Refresh_Listview(ascending);
+}
+
+void frm_Waterlog::Refresh_Listview(const QString &order)
+{
+    if (!TreeView1->currentItem())
+        return; // a command before the first activation: the tree is not there yet
+    Form<frm_OMKMDIMain>().mnu_FilePrint->Enabled(true);
+    switch (tab()) {
+    case WaterTab: LoadWaterList(order); break;
+    case LivestockTab: LoadLivestockList(order); break;
+    default: LoadMaintList(order); break;
+    }
+    Update_Menu_Captions();
+}
+
+void frm_Waterlog::loadList(int tab, const QString &order, Recordset &recordset)
+{
+    const HourGlass wait;
+    const LogKind &kind = logKinds[static_cast<size_t>(tab)];
+    list(tab).Clear();
+    takeTankInHand();
+    sb_ListviewCaption->showMessage(QString::fromLatin1(kind.listCaption).arg(g.gTankName));
+    const QString sql =
+        QLatin1String(kind.select) + QLatin1String(order == u"descending" ? kind.descending : kind.ascending);
+    recordset = g.gDatabase->OpenRecordset(sql, {g.gTankId});
+    list(tab).setSource(std::make_shared<LogRows>(kind, recordset.rows(), g.options.DatePicture));
+}
+
+void frm_Waterlog::LoadWaterList(const QString &order) { loadList(WaterTab, order, g.gRecordset); }
+
+void frm_Waterlog::LoadLivestockList(const QString &order)
+{
+    takeTankInHand();
+    g.gLivestockRecordset =
+        g.gDatabase->OpenRecordset(waterTypeByName, {g.gTankName}); // by name, the one look-up that is
+    if (!g.gLivestockRecordset.isEmpty())
+        g.gTankWaterType = g.gLivestockRecordset[QStringLiteral("TankWaterType")].text();
+    loadList(LivestockTab, order, g.gLivestockRecordset);
+}
+
+void frm_Waterlog::LoadMaintList(const QString &order) { loadList(MaintenanceTab, order, g.gRecordset); }
+
+void frm_Waterlog::Update_Menu_Captions()
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    const QString caption = QLatin1String(kind().tabCaption);
+    main.mnu_FileNew->setText(u"New " + caption + u" Entry...");
+    main.mnu_FileOpen->setText(u"Open " + caption + u" Entry...");
+    main.mnu_FileDelete->setText(u"Delete " + caption + u" Entry...");
+    main.mnu_LogPopup_New->setText(main.mnu_FileNew->text());
+    main.mnu_Logpopup_Open->setText(main.mnu_FileOpen->text());
+    main.mnu_LogPopup_Delete->setText(main.mnu_FileDelete->text());
+
+    const bool livestock = tab() == LivestockTab;
+    main.mnu_LogPopup_Move->setVisible(livestock);
+    main.mnu_movesep->setVisible(livestock);
+    main.mnu_FileMoveEntry->Enabled(livestock);
+    button(QStringLiteral("moveentries")).Enabled(livestock);
+
+    const bool tank = isTankSelected();
+    main.mnu_FilePrint->Enabled(tank);
+    if (tank)
+        CurrentTankText = TreeView1->currentItem()->text(0);
+    else
+        main.mnu_TankProperties->setText(QStringLiteral("(no tank selected) Properties..."));
+    main.mnu_TankProperties->Enabled(tank);
+    main.mnu_TankDelete->Enabled(tank);
+    main.mnu_LogPopup->setEnabled(tank);
+    // The last word on the graph, whatever the number of entries: the graph window tells when there are too few.
+    button(QStringLiteral("graphentries")).Enabled(tank);
+    enableLogCommands();
+}
+
+void frm_Waterlog::enableLogCommands()
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    const EntryPaths &paths = entryPaths[static_cast<size_t>(tab())];
+    const bool tank = isTankSelected();
+    const struct
+    {
+        bool on;
+        MenuEntry *entries[3];
+    } commands[] = {
+        {tank && paths.add, {main.mnu_FileNew, main.mnu_LogPopup_New, &button(QStringLiteral("addentries"))}},
+        {tank && paths.change, {main.mnu_FileOpen, main.mnu_Logpopup_Open, &button(QStringLiteral("changeentries"))}},
+        {tank && paths.remove,
+         {main.mnu_FileDelete, main.mnu_LogPopup_Delete, &button(QStringLiteral("deleteentries"))}},
+    };
+    for (const auto &command : commands)
+        for (MenuEntry *entry : command.entries)
+            entry->Enabled(command.on);
+}
+
+void frm_Waterlog::ColumnClick(ListView &list, int index)
+{
+    if (index != 1) {
+        const bool again = list.SortKey() == index - 1;
+        list.setSort(true, index - 1, again ? 1 - list.SortOrder() : 0);
+        return;
+    }
+    // The first column is the date: a sort of its text would be wrong, so the database gives the order.
+    const bool descending = list.SortKey() == 0 && list.SortOrder() == 0;
+    list.setSort(false, 0, descending ? 1 : 0);
+    Refresh_Listview(descending ? QStringLiteral("descending") : ascending);
+}
+
+void frm_Waterlog::list_Click() { enableLogCommands(); }
+
+void frm_Waterlog::list_MouseUp(Qt::MouseButton button, const QPoint &position)
+{
+    if (button == Qt::RightButton)
+        Form<frm_OMKMDIMain>().mnu_LogPopup->popup(position);
+}
+
+void frm_Waterlog::TreeView1_NodeClick() { Refresh_Listview(ascending); }
+
+void frm_Waterlog::TreeView1_MouseUp(const QPoint &position)
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    if (isTankSelected())
+        main.mnu_TankProperties->setText(CurrentTankText + u" Properties...");
+    main.mnu_tankPopup->popup(position);
+}
+
+void frm_Waterlog::Form_Activate()
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    main.mnu_FilePrint->setText(QStringLiteral("&Print Entries..."));
+    if (m_firstActivation) {
+        for (ListView *list : m_lists) {
+            list->setFullRowSelect(true);
+            list->setHeaderDragDrop(true);
+        }
+        Refresh_Treeview();
+        m_firstActivation = false;
+        return;
+    }
+    main.mnu_FilePrint->Enabled(isTankSelected());
+    enableLogCommands(); // with "All Tanks" in hand they stay disabled
+}
+
+void frm_Waterlog::Form_LostFocus()
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    main.mnu_FileNew->Enabled(false);
+    main.mnu_FileOpen->Enabled(false);
+    main.mnu_FileDelete->Enabled(false);
+    main.mnu_FilePrint->setVisible(true);
+}
+
+void frm_Waterlog::Form_Unload()
+{
+    if (!m_listSortOrder.isEmpty())
+        SaveSetting(sortSetting, m_listSortOrder);
+    auto &main = Form<frm_OMKMDIMain>();
+    main.mnu_FileNew->Enabled(false);
+    main.mnu_FileOpen->Enabled(false);
+    main.mnu_FileDelete->Enabled(false);
+}

@@ -1,0 +1,329 @@
+#include "logbook/frm_WaterAddEdit.h"
+
+#include <cmath>
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "common/frm_Caltool.h"
+#include "platform/Doors.h"
+#include "platform/Guarded.h"
+#include "platform/MaskedBox.h"
+#include "platform/UpDown.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/MenuEntry.h"
+#include "text/Dates.h"
+#include "text/Numbers.h"
+
+namespace {
+
+constexpr int columnsOfGrid = 3;
+constexpr int longestNumber = 64;
+constexpr int highestPosition = 10000;
+
+const QString oops = QStringLiteral("Oops!");
+const QString badTime =
+    QStringLiteral("You must enter a valid time in \"HH:MM:SS am\" format to add a water quality entry to the log.");
+
+// The order in which a row is written, and the order in which it is read.
+constexpr const char *writeOrder[] = {"Ammonia", "nitrite", "nitrate", "ph",     "orp",     "Comment", "temp",
+                                      "oxygen",  "dkh",     "calcium", "copper", "custom1", "custom2", "sg"};
+constexpr const char *readOrder[] = {"Ammonia", "nitrite", "nitrate", "ph", "orp", "temp",    "oxygen",
+                                     "calcium", "copper",  "Comment", "sg", "dkh", "custom1", "custom2"};
+
+bool isComment(const char *column) { return QLatin1String(column) == QLatin1String("Comment"); }
+
+} // namespace
+
+frm_WaterAddEdit::frm_WaterAddEdit(Globals &globals, QWidget *parent) : DialogForm(globals, parent), m_checks(this)
+{
+    setWindowTitle(QStringLiteral("Water Quality Log Detail"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/waterquality.svg")));
+
+    auto *page = new QWidget;
+    auto *column = new QVBoxLayout(page);
+    column->addWidget(makeDateRow());
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(8);
+    for (size_t i = 0; i < measurements.size(); ++i)
+        makeMeasurement(i, *grid);
+    column->addLayout(grid);
+    txt_Comment = new QPlainTextEdit;
+    txt_Comment->setObjectName(QStringLiteral("txt_Comment"));
+    txt_Comment->setToolTip(QStringLiteral("Record your comments here"));
+    txt_Comment->setTabChangesFocus(true);
+    txt_Comment->setMinimumHeight(fontMetrics().lineSpacing() * 6);
+    auto *comment = new QLabel(QStringLiteral("Comment:"));
+    comment->setBuddy(txt_Comment);
+    column->addWidget(comment);
+    column->addWidget(txt_Comment, 1);
+
+    SSTab1 = new QTabWidget;
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->addTab(page, QStringLiteral("Water Log Entry"));
+    SSTab1->setFocusPolicy(Qt::NoFocus); // a single tab: nothing to choose
+    cmd_OK = new QPushButton(QStringLiteral("&OK"));
+    cmd_OK->setObjectName(QStringLiteral("cmd_OK"));
+    cmd_OK->setDefault(true);
+    cmd_Exit = new QPushButton(QStringLiteral("Cancel"));
+    cmd_Exit->setObjectName(QStringLiteral("cmd_Exit"));
+    cmd_Exit->setAutoDefault(false);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(cmd_OK);
+    buttons->addWidget(cmd_Exit);
+    auto *outer = new QVBoxLayout(this);
+    outer->addWidget(SSTab1);
+    outer->addLayout(buttons);
+    resize(outer->sizeHint().expandedTo(QSize(640, 0)));
+    connectAll();
+}
+
+QWidget *frm_WaterAddEdit::makeDateRow()
+{
+    txt_date = new MaskedBox;
+    txt_date->setObjectName(QStringLiteral("txt_date"));
+    txt_date->setMask(QStringLiteral("##/##/##"));
+    txt_date->setToolTip(QStringLiteral("Date measurements were taken"));
+    cmd_Caldate = new QPushButton(QIcon(QStringLiteral(":/icons/calendar.svg")), QString());
+    cmd_Caldate->setObjectName(QStringLiteral("cmd_Caldate"));
+    cmd_Caldate->setAccessibleName(QStringLiteral("Choose the date from a calendar"));
+    cmd_Caldate->setToolTip(cmd_Caldate->accessibleName());
+    cmd_Caldate->setAutoDefault(false);
+    txt_time = new MaskedBox;
+    txt_time->setObjectName(QStringLiteral("txt_time"));
+    txt_time->setMask(QStringLiteral("##:##:## ??"));
+    txt_time->setToolTip(QStringLiteral("Time measurements were taken"));
+    auto *dateLabel = new QLabel(QStringLiteral("Date Performed"));
+    dateLabel->setBuddy(txt_date);
+    auto *timeLabel = new QLabel(QStringLiteral("Time Performed"));
+    timeLabel->setBuddy(txt_time);
+
+    auto *row = new QWidget;
+    auto *line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 8);
+    line->addWidget(dateLabel);
+    line->addWidget(txt_date);
+    line->addWidget(cmd_Caldate);
+    line->addSpacing(24);
+    line->addWidget(timeLabel);
+    line->addWidget(txt_time);
+    line->addStretch(1);
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    txt_date->setFixedWidth(digit * 12);
+    txt_time->setFixedWidth(digit * 15);
+    return row;
+}
+
+void frm_WaterAddEdit::makeMeasurement(size_t index, QGridLayout &grid)
+{
+    const Measurement &measurement = measurements[index];
+    Line &line = m_lines[index];
+    line.measurement = &measurement;
+    line.label = new QLabel(QLatin1String(measurement.label));
+    line.label->setObjectName(QLatin1String(measurement.labelName));
+    line.label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    line.box = new MaskedBox;
+    line.box->setObjectName(QLatin1String(measurement.box));
+    line.box->setFormat(QLatin1String(measurement.boxPicture));
+    line.box->setMaxLength(longestNumber);
+    line.box->setToolTip(QLatin1String(measurement.toolTip));
+    line.box->setAccessibleDescription(QLatin1String(measurement.toolTip));
+    line.box->setAlignment(Qt::AlignRight);
+    line.label->setBuddy(line.box);
+    line.upDown = new UpDown;
+    line.upDown->setObjectName(QLatin1String(measurement.upDown));
+    line.upDown->setMin(0);
+    line.upDown->setMax(highestPosition);
+    line.upDown->setIncrement(1);
+    line.upDown->setKeyBox(line.box);
+
+    auto *pair = new QHBoxLayout;
+    pair->setSpacing(0);
+    pair->addWidget(line.box, 1);
+    pair->addWidget(line.upDown);
+    const int row = static_cast<int>(index) / columnsOfGrid;
+    const int column = static_cast<int>(index) % columnsOfGrid * 2;
+    grid.addWidget(line.label, row, column);
+    grid.addLayout(pair, row, column + 1);
+    grid.setColumnStretch(column + 1, 1);
+    grid.setColumnMinimumWidth(column, line.label->fontMetrics().horizontalAdvance(QStringLiteral("MMMMMMMM")));
+}
+
+void frm_WaterAddEdit::connectAll()
+{
+    for (const Line &line : m_lines) {
+        m_checks.watch(line.box, [this, &line] { return numberIsGood(line); });
+        connect(line.upDown, &UpDown::Change, this, guarded([this, &line] { upDown_Change(line); }));
+    }
+    m_checks.watch(txt_date, [this] { return dateIsGood(); });
+    m_checks.watch(txt_time, [this] { return timeIsGood(); });
+    m_checks.exempt(cmd_Exit);
+    m_checks.exempt(cmd_Caldate);
+    connect(txt_date, &MaskedBox::ValidationError, this, guarded([this] {
+                refuse(QStringLiteral("You must enter a valad date to add a water quality entry to the log."),
+                       txt_date);
+            }));
+    connect(txt_time, &MaskedBox::ValidationError, this, guarded([this] { refuse(badTime, txt_time); }));
+    on(cmd_OK, &QPushButton::clicked, this, &frm_WaterAddEdit::cmd_OK_Click);
+    on(cmd_Exit, &QPushButton::clicked, this, &frm_WaterAddEdit::cmd_Exit_Click);
+    on(cmd_Caldate, &QPushButton::clicked, this, &frm_WaterAddEdit::cmd_Caldate_Click);
+}
+
+void frm_WaterAddEdit::Form_Load()
+{
+    for (const Line &line : m_lines)
+        if (line.measurement->userField)
+            line.label->setText(nameOf(*line.measurement));
+}
+
+void frm_WaterAddEdit::Form_Activate()
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    main.mnu_FilePrint->Enabled(false);
+    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
+}
+
+QString frm_WaterAddEdit::nameOf(const Measurement &measurement) const
+{
+    switch (measurement.userField) {
+    case 1: return g.gUserFieldName1;
+    case 2: return g.gUserFieldName2;
+    default: return QLatin1String(measurement.name);
+    }
+}
+
+frm_WaterAddEdit::Line &frm_WaterAddEdit::line(const char *column)
+{
+    return m_lines[static_cast<size_t>(&MeasurementOf(QLatin1String(column)) - measurements.data())];
+}
+
+void frm_WaterAddEdit::setDateOrder()
+{
+    const QString &delimiter = g.options.DateDelimiter;
+    txt_date->setMask(u"##" + delimiter + u"##" + delimiter + u"##");
+}
+
+/// The up-down first and the box after it, or its Change would overwrite the text.
+void frm_WaterAddEdit::set(const char *column, int position, const QString &text)
+{
+    line(column).upDown->setValue(position);
+    line(column).box->setText(text);
+}
+
+void frm_WaterAddEdit::setDefaults(const QString &waterType)
+{
+    for (const Line &line : m_lines)
+        line.box->setText(QStringLiteral("0"));
+    const bool salt = waterType == u"SALT";
+    set("ph", salt ? 84 : 78, Format(salt ? 8.4 : 7.8, QStringLiteral("#0.00")));
+    set("sg", salt ? 1023 : 0, salt ? QStringLiteral("1.023") : QStringLiteral("0"));
+    set("temp", 780, QStringLiteral("78"));
+    txt_Comment->setPlainText(QStringLiteral(" "));
+}
+
+void frm_WaterAddEdit::load(Recordset &row)
+{
+    for (const char *column : readOrder) {
+        const Value value = row[QLatin1String(column)].value();
+        if (isComment(column)) {
+            txt_Comment->setPlainText(value.text());
+            continue;
+        }
+        const Measurement &measurement = *line(column).measurement;
+        const double number = value.toDoubleOr(0); // a row of elsewhere may lack one
+        const double position = qBound(0.0, std::round(number * measurement.positionsPerUnit), double(highestPosition));
+        set(column, static_cast<int>(position), Format(number, QLatin1String(measurement.rowPicture)));
+    }
+}
+
+void frm_WaterAddEdit::ShowWindow()
+{
+    Form_Activate();
+    txt_date->setFocus();
+    ShowModal();
+}
+
+bool frm_WaterAddEdit::refuse(const QString &text, QWidget *box)
+{
+    Beep();
+    MsgBox(text, vbExclamation, oops);
+    box->setFocus();
+    return false;
+}
+
+bool frm_WaterAddEdit::numberIsGood(const Line &line)
+{
+    const Measurement &measurement = *line.measurement;
+    const QString text = line.box->Text();
+    bool good = true;
+    if (!IsNumeric(text)) {
+        g.gMessage = nameOf(measurement) + u" entries must be a number.";
+        good = refuse(g.gMessage, line.box);
+    }
+    if (Val(text) > measurement.limit) {
+        g.gMessage = nameOf(measurement) + u" entries " + QLatin1String(measurement.tooLarge);
+        good = refuse(g.gMessage, line.box);
+    }
+    return good;
+}
+
+bool frm_WaterAddEdit::dateIsGood()
+{
+    return IsDate(NormalizeDateText(txt_date->Text(), g.options.DateOrder)) ||
+           refuse(QStringLiteral("You must enter a valid date to add a water quality log entry to the log."), txt_date);
+}
+
+bool frm_WaterAddEdit::timeIsGood() { return IsBoxTime(txt_time->Text()) || refuse(badTime, txt_time); }
+
+void frm_WaterAddEdit::upDown_Change(const Line &line)
+{
+    const double number = double(line.upDown->Value()) / line.measurement->positionsPerUnit;
+    // pH alone has a picture here.
+    const bool isPh = QLatin1String(line.measurement->column) == QLatin1String("ph");
+    line.box->setText(isPh ? Format(number, QLatin1String(line.measurement->boxPicture)) : PlainText(number));
+}
+
+void frm_WaterAddEdit::store()
+{
+    Recordset &row = g.gRecordset;
+    row[QStringLiteral("logdate")].setValue(NormalizeDateText(txt_date->Text(), g.options.DateOrder));
+    row[QStringLiteral("logtime")].setValue(txt_time->Text());
+    for (const char *column : writeOrder)
+        row[QLatin1String(column)].setValue(isComment(column) ? txt_Comment->toPlainText() : line(column).box->Text());
+    row[QStringLiteral("tankname")].setValue(g.gTankId);
+    row.Update();
+}
+
+void frm_WaterAddEdit::cmd_OK_Click()
+{
+    if (!m_checks.passes())
+        return;
+    try {
+        store();
+    } catch (const RuntimeFailure &failure) {
+        if (failure.number() != Failure::DuplicateKey)
+            throw;
+        refuse(QStringLiteral("This tank already has a water test at that date and time."), txt_time);
+        return;
+    }
+    Unload(*this);
+}
+
+void frm_WaterAddEdit::cmd_Exit_Click() { Unload(*this); }
+
+void frm_WaterAddEdit::cmd_Caldate_Click()
+{
+    g.calendar.SelectedDate = txt_date->ClipText().isEmpty() ? Format(Now().date(), QStringLiteral("mm/dd/yyyy"))
+                                                             : NormalizeDateText(txt_date->Text(), g.options.DateOrder);
+    Form<frm_Caltool>().ShowCalendar(0, 0);
+    if (const auto date = ReadDate(g.calendar.SelectedDate))
+        txt_date->setText(Format(*date, g.options.DatePicture));
+}

@@ -1,0 +1,75 @@
+// One water test: thirteen measurements, date, time and comment. The logbook opens the row in gRecordset, fills the
+// controls and shows the window; OK writes the controls into whatever row stands there, so the window does not know
+// whether it adds or changes. A number is tested when the focus leaves its box, and once more before OK stores.
+#pragma once
+
+#include <array>
+
+#include "common/Measurements.h"
+#include "platform/LeavingChecks.h"
+#include "shell/DialogForm.h"
+
+class MaskedBox;
+class QGridLayout;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class QTabWidget;
+class UpDown;
+
+class frm_WaterAddEdit : public DialogForm
+{
+    Q_OBJECT
+public:
+    frm_WaterAddEdit(Globals &globals, QWidget *parent);
+
+    void Form_Load();
+    /// The date box in the user's order and delimiter.
+    void setDateOrder();
+    /// The values that a new test starts with, by the default water type and not by the tank's.
+    void setDefaults(const QString &waterType);
+    /// The current row's measurements and comment.
+    void load(Recordset &row);
+    void ShowWindow();
+
+    MaskedBox *txt_date;
+    MaskedBox *txt_time;
+    QPlainTextEdit *txt_Comment;
+    QPushButton *cmd_OK;
+    QPushButton *cmd_Exit;
+    QPushButton *cmd_Caldate;
+    QTabWidget *SSTab1;
+
+private:
+    struct Line
+    {
+        const Measurement *measurement;
+        QLabel *label;
+        MaskedBox *box;
+        UpDown *upDown;
+    };
+
+    void Cancel() override { cmd_Exit_Click(); }
+    void Form_Activate();
+    void makeMeasurement(size_t index, QGridLayout &grid);
+    QWidget *makeDateRow();
+    void connectAll();
+    Line &line(const char *column);
+    QString nameOf(const Measurement &measurement) const;
+    void set(const char *column, int position, const QString &text);
+
+    bool refuse(const QString &text, QWidget *box);
+    /// Leaving a number box: one bad text can bring up both boxes.
+    bool numberIsGood(const Line &line);
+    bool dateIsGood();
+    bool timeIsGood();
+    void upDown_Change(const Line &line);
+    void store();
+
+    void cmd_OK_Click();
+    void cmd_Exit_Click();
+    void cmd_Caldate_Click();
+
+    std::array<Line, 13> m_lines;
+    LeavingChecks m_checks;
+};

@@ -1,0 +1,24 @@
+// A modal window. Esc and the title bar do what its Cancel does; a window without Cancel names its closing button
+// there.
+#pragma once
+
+#include <QDialog>
+
+#include "shell/Forms.h"
+
+class DialogForm : public QDialog
+{
+public:
+    static constexpr bool isDialog = true;
+
+    void reject() final { Cancel(); }
+
+protected:
+    DialogForm(Globals &globals, QWidget *parent) : QDialog(parent), g(globals) {}
+
+    /// Leaves without storing.
+    virtual void Cancel() = 0;
+    void ShowModal() { Forms::current().showModal(*this); }
+
+    Globals &g;
+};

@@ -1,0 +1,137 @@
+// What the entries of the main window's menus do.
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "logbook/frm_Waterlog.h"
+#include "platform/Doors.h"
+#include "shell/Arrange.h"
+#include "shell/frm_OMKaboutbox.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/frm_OMKOptions.h"
+#include "shell/MenuEntry.h"
+#include "tanks/frm_TankAddNew.h"
+#include "tanks/frm_TankMaint.h"
+
+namespace {
+
+/// The logbook, if it is on the screen.
+frm_Waterlog *visibleLogbook()
+{
+    auto *logbook = Forms::current().loaded<frm_Waterlog>();
+    return logbook && logbook->isVisible() ? logbook : nullptr;
+}
+
+} // namespace
+
+void frm_OMKMDIMain::mnu_FileNew_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Add_Entries();
+}
+
+void frm_OMKMDIMain::mnu_FileOpen_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Change_Entries();
+}
+
+void frm_OMKMDIMain::mnu_FileDelete_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Delete_Entries();
+}
+
+void frm_OMKMDIMain::mnu_FilePageSetup_Click()
+{
+    // The dialog sets up the printer itself; pages and copies asked for here are not used.
+    Doors::current().printDialog({QStringLiteral("Page Setup"), false, {}});
+}
+
+void frm_OMKMDIMain::mnu_Exit_Click() { close(); }
+
+void frm_OMKMDIMain::mnu_ViewToolbar_Click() { Toolbar1->setVisible(mnu_ViewToolbar->isChecked()); }
+
+void frm_OMKMDIMain::mnu_ViewStatusbar_Click() { statusBar()->setVisible(mnu_ViewStatusbar->isChecked()); }
+
+void frm_OMKMDIMain::mnu_ViewRefresh_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Refresh_Treeview();
+}
+
+void frm_OMKMDIMain::mnu_ViewOptions_Click() { Form<frm_OMKOptions>().ShowOptions(0); }
+
+void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
+{
+    Form<frm_TankMaint>().Show_List();
+    CheckTanks();
+}
+
+void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>()); }
+
+void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
+
+void frm_OMKMDIMain::mnu_WindowTileHorizontal_Click() { TileWindows(*m_area, Qt::Horizontal); }
+
+void frm_OMKMDIMain::mnu_WindowTileVertical_Click() { TileWindows(*m_area, Qt::Vertical); }
+
+void frm_OMKMDIMain::mnu_WindowArrangeIcons_Click() { ArrangeIcons(*m_area); }
+
+void frm_OMKMDIMain::fillWindowList()
+{
+    const auto former = mnu_Window->actions();
+    for (QAction *action : former)
+        if (action->property("windowListEntry").toBool())
+            delete action;
+    const auto frames = m_area->subWindowList();
+    if (frames.isEmpty())
+        return;
+    mnu_Window->addSeparator()->setProperty("windowListEntry", true);
+    int number = 0;
+    for (QMdiSubWindow *frame : frames) {
+        auto *action = mnu_Window->addAction(QStringLiteral("&%1 %2").arg(++number).arg(frame->windowTitle()));
+        action->setProperty("windowListEntry", true);
+        action->setCheckable(true);
+        action->setChecked(frame == m_area->activeSubWindow());
+        connect(action, &QAction::triggered, frame, [this, frame] { m_area->setActiveSubWindow(frame); });
+    }
+}
+
+void frm_OMKMDIMain::showHelp()
+{
+    MsgBox(QStringLiteral("Unable to display Help Contents. There is no Help associated with this project."),
+           vbInformation, windowTitle());
+}
+
+void frm_OMKMDIMain::mnu_HelpContents_Click() { showHelp(); }
+
+void frm_OMKMDIMain::mnu_HelpSearch_Click() { showHelp(); }
+
+void frm_OMKMDIMain::mnu_HelpAbout_Click()
+{
+    g.gSplashMode = false;
+    Form<frm_OMKaboutbox>().ShowBox();
+}
+
+void frm_OMKMDIMain::mnu_TankAddNew_Click()
+{
+    Form<frm_TankAddNew>().AddNewTank();
+    Form<frm_Waterlog>().Refresh_Treeview();
+}
+
+void frm_OMKMDIMain::mnu_TankDelete_Click()
+{
+    Form<frm_TankMaint>().DeleteTankInfo(Form<frm_Waterlog>().CurrentTankText);
+    Form<frm_Waterlog>().Refresh_Treeview();
+}
+
+void frm_OMKMDIMain::mnu_TankProperties_Click()
+{
+    Form<frm_TankMaint>().ChangeTankInfo(Form<frm_Waterlog>().CurrentTankText);
+    Form<frm_Waterlog>().Refresh_Treeview();
+}
+
+void frm_OMKMDIMain::mnu_GraphOptions_Click() { Form<frm_OMKOptions>().ShowOptions(1); }

@@ -1,0 +1,268 @@
+#include "shell/frm_OMKMDIMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "platform/Doors.h"
+#include "platform/Guarded.h"
+#include "shell/ChildForm.h"
+#include "shell/frm_OMKaboutbox.h"
+#include "shell/frm_OMKOptions.h"
+#include "shell/MenuEntry.h"
+#include "store/Version.h"
+
+namespace {
+
+struct ButtonRow
+{
+    const char *key;
+    const char *toolTip;
+    const char *image;
+    MenuEntry *MainMenu::*sameAs;
+    bool groupBefore;
+};
+
+// The key "compatability" is written so everywhere: button, image and look-up must agree.
+constexpr ButtonRow buttonRows[] = {
+    {"tanksetup", "Setup Tanks for Logging", "setup", &MainMenu::mnu_ToolsTanksetup, false},
+    {"logbook", "Logbook - Logging of Water Quality, Maintenance, Livestock", "testlog", &MainMenu::mnu_ToolsLogbook,
+     false},
+    {"graphing", "Graphing of Water Quality", "graphing", &MainMenu::mnu_ToolsGraphing, false},
+    {"compatability", "Check Animal Compatibility", "compatability", &MainMenu::mnu_ToolsCompatibility, true},
+    {"diagnose", "Diagnose Disease", "med", &MainMenu::mnu_ToolsDisease, false},
+    {"maintsched", "Schedule Reminders", "handwithstring", &MainMenu::mnu_ToolsRemindersAddEdit, true},
+    {"viewschedule", "View Maintenance Schedule", "cal", &MainMenu::mnu_ToolsReminderSchedule, false},
+    {"fantasy", "Fantasy Tank", "fantasy", &MainMenu::mnu_ToolsFantasy, true},
+    {"commonnames", "Common Names to Latin Names Reference", "commonnames", &MainMenu::mnu_ToolsCommonNames, false},
+    {"conversions", "Conversion Calculator", "rulers", &MainMenu::mnu_ToolsConversions, false},
+};
+
+const QString noTankText = QStringLiteral("You have no tanks set up in Ostrelmark for Windows. You must set-up at "
+                                          "least one tank before you can use the logging, "
+                                          "graphing, or data-import tools in Ostrelmark. Set up a tank by clicking on "
+                                          "the \"Setup / Manage Tanks\" button on the "
+                                          "main menu.");
+
+} // namespace
+
+frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
+    QMainWindow(parent), g(globals), m_area(new QMdiArea)
+{
+    setWindowTitle(QStringLiteral(" Ostrelmark 98"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/ostrelmark.svg")));
+    makeMenus(*this, *menuBar());
+    makeToolbar();
+    makeStatusBar();
+
+    m_area->setObjectName(QStringLiteral("mdiArea"));
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    const bool dark = palette().window().color().lightness() < 128;
+    m_area->setBackground(dark ? QColor(0x22, 0x2b, 0x30) : QColor(0xc9, 0xdb, 0xe1)); // calm water
+    setCentralWidget(m_area);
+    connect(m_area, &QMdiArea::subWindowActivated, this,
+            guarded([this](QMdiSubWindow *window) { subWindowActivated(window); }));
+    connect(mnu_Window, &QMenu::aboutToShow, this, [this] { fillWindowList(); });
+    resize(1100, 740);
+}
+
+void frm_OMKMDIMain::makeToolbar()
+{
+    auto *strip =
+        new QToolBar(this); // the strip at the top, that keeps the reminders in sight when the buttons are hidden
+    strip->setObjectName(QStringLiteral("Picture1"));
+    strip->setMovable(false);
+    strip->setContextMenuPolicy(Qt::PreventContextMenu);
+    Picture1 = strip;
+    Toolbar1 = new QToolBar;
+    Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
+    Toolbar1->setIconSize(QSize(24, 24));
+    for (const ButtonRow &row : buttonRows) {
+        if (row.groupBefore)
+            Toolbar1->addSeparator();
+        MenuEntry *same = this->*row.sameAs;
+        std::function<void()> action;
+        if (same->hasAction())
+            action = [same] { same->run(); };
+        auto *button = new MenuEntry(QLatin1String(row.key), QLatin1String(row.toolTip), std::move(action), this);
+        button->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(row.image))));
+        button->setToolTip(QLatin1String(row.toolTip));
+        Toolbar1->addAction(button);
+        Toolbar1->widgetForAction(button)->setObjectName(QLatin1String(row.key));
+        Toolbar1->widgetForAction(button)->setAccessibleName(QLatin1String(row.toolTip));
+        m_buttons.emplace(QLatin1String(row.key), button);
+    }
+
+    auto *space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    cbo_Reminders = new QComboBox;
+    cbo_Reminders->setObjectName(QStringLiteral("cbo_Reminders"));
+    cbo_Reminders->setAccessibleName(QStringLiteral("Upcoming reminders"));
+    cbo_Reminders->setToolTip(QStringLiteral("Upcoming reminders"));
+    cbo_Reminders->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cbo_Reminders->setMinimumContentsLength(34);
+    on(cbo_Reminders, &QComboBox::currentIndexChanged, this, &frm_OMKMDIMain::cbo_Reminders_Click);
+    strip->addWidget(Toolbar1);
+    strip->addWidget(space);
+    strip->addWidget(cbo_Reminders);
+    addToolBar(Qt::TopToolBarArea, strip);
+}
+
+void frm_OMKMDIMain::makeStatusBar()
+{
+    statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
+    m_panel = new QLabel;
+    m_panel->setObjectName(QStringLiteral("sbStatusBar_1"));
+    statusBar()->addWidget(m_panel, 1);
+}
+
+void frm_OMKMDIMain::MDIForm_Load()
+{
+    Forms::current().setMainWindow(this);
+    mnu_FilePrint->Enabled(false);
+    g.gDatabaseName = QStringLiteral("OM.MDB");
+    Form<frm_OMKaboutbox>();
+    g.gCurrentDir = QDir::currentPath();
+    g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
+    CheckDatabaseVersion();
+    Form<frm_OMKOptions>().Get_Initial_Properties();
+    g.gGraphPageSize = 20;
+    QApplication::processEvents();
+    Top20List();
+    show();
+    showSplash();
+    tipIsDue();
+    if (!isEnding())
+        CheckTanks();
+}
+
+void frm_OMKMDIMain::CheckDatabaseVersion()
+{
+    g.gDbVersion = ReadDatabaseVersion(*g.gDatabase);
+    if (g.gDbVersion == presentDatabaseVersion)
+        return;
+    throw RuntimeFailure(
+        Failure::UnrecognizedFormat,
+        QStringLiteral("The database \"%1\" in \"%2\" is of version \"%3\"; this program works with version \"%4\". "
+                       "The file was left as it is.")
+            .arg(g.gDatabaseName, g.gCurrentDir, g.gDbVersion.trimmed(), presentDatabaseVersion.trimmed()));
+}
+
+void frm_OMKMDIMain::Top20List()
+{
+    cbo_Reminders->clear();
+    cbo_Reminders->addItem(QStringLiteral("(No Reminders Available)"));
+}
+
+void frm_OMKMDIMain::showSplash()
+{
+    g.gSplashMode = true;
+    Form<frm_OMKaboutbox>().ShowBox();
+    g.gSplashMode = false;
+}
+
+bool frm_OMKMDIMain::tipIsDue()
+{
+    const QString stored = GetSetting(QStringLiteral("Show_Tips"), QStringLiteral("Not Found")).toUpper();
+    // "ELSE" is a word of the settings like the others; any word that is not one of the four changes nothing.
+    if (stored == u"NOT FOUND" || stored == u"ELSE") {
+        g.gShowTips = true;
+        SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("Yes"));
+        return true;
+    }
+    if (stored == u"YES") {
+        g.gShowTips = true;
+        return true;
+    }
+    if (stored == u"NO")
+        g.gShowTips = false;
+    return false;
+}
+
+void frm_OMKMDIMain::CheckTanks()
+{
+    g.gRecordset =
+        g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC"));
+    g.gNoTanks = QStringLiteral("N");
+    const bool none = g.gRecordset.BOF() && g.gRecordset.EOF_();
+    if (none) {
+        Beep();
+        MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
+        g.gNoTanks = QStringLiteral("Y");
+    }
+    button(QStringLiteral("logbook")).Enabled(!none);
+    button(QStringLiteral("graphing")).Enabled(!none);
+}
+
+void frm_OMKMDIMain::ShowChild(ChildForm &child)
+{
+    auto *frame = qobject_cast<QMdiSubWindow *>(child.parentWidget());
+    if (!frame) {
+        const QSize size = child.size() + QSize(12, 36); // as the window asks for, and its frame
+        frame = m_area->addSubWindow(&child);
+        frame->setAttribute(Qt::WA_DeleteOnClose);
+        frame->setWindowIcon(child.windowIcon());
+        frame->resize(size.boundedTo(m_area->viewport()->size()));
+    }
+    if (frame->isMinimized())
+        frame->showNormal();
+    else
+        frame->show();
+    child.show();
+    m_area->setActiveSubWindow(frame);
+    child.setFocus();
+}
+
+void frm_OMKMDIMain::setPanel(const QString &text) { m_panel->setText(text); }
+
+void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
+{
+    auto *child = window ? dynamic_cast<ChildForm *>(window->widget()) : nullptr;
+    if (!child || child == m_activeChild)
+        return; // nothing in front, for now: a dialog or another program is no loss of focus
+    if (m_activeChild)
+        m_activeChild->Form_LostFocus();
+    m_activeChild = child;
+    child->Form_Activate();
+}
+
+void frm_OMKMDIMain::MDIForm_Activate()
+{
+    if (m_activeChild && m_activeChild->isVisible())
+        m_activeChild->Form_Activate();
+}
+
+void frm_OMKMDIMain::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        guarded([this] { MDIForm_Activate(); })();
+}
+
+void frm_OMKMDIMain::closeEvent(QCloseEvent *event)
+{
+    guarded([this] {
+        for (QMdiSubWindow *frame : m_area->subWindowList())
+            frame->close();
+        Unload(Form<frm_OMKOptions>());
+    })();
+    QMainWindow::closeEvent(event);
+}
+
+void frm_OMKMDIMain::cbo_Reminders_Click()
+{
+    // For reading only: the next reminder, at the top, is the one displayed.
+    if (cbo_Reminders->count() > 0)
+        cbo_Reminders->setCurrentIndex(0);
+}

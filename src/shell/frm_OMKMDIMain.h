@@ -1,0 +1,93 @@
+// The main window, parent of every other: menus, toolbar with the upcoming reminders, the children, the status bar. It
+// opens the database, runs the steps of the start, and passes commands on to the windows; what a tool does is the
+// tool's. Its menu handlers only call the windows' public operations.
+#pragma once
+
+#include <map>
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include "shell/Globals.h"
+#include "shell/MainMenu.h"
+
+class ChildForm;
+class QComboBox;
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QToolBar;
+
+class frm_OMKMDIMain : public QMainWindow, public MainMenu
+{
+    Q_OBJECT
+public:
+    static constexpr bool isDialog = false;
+    frm_OMKMDIMain(Globals &globals, QWidget *parent);
+
+    /// The start, step by step. Throws RuntimeFailure where the database cannot be opened or is of another version;
+    /// nothing is shown then.
+    void MDIForm_Load();
+    /// Tells the active child that it is in front: after a dialog, or another program, closed over it.
+    void MDIForm_Activate();
+
+    /// Shows a window among the children and gives it the focus.
+    void ShowChild(ChildForm &child);
+    /// Text of panel 1 of the status bar.
+    void setPanel(const QString &text);
+    /// A tool button of the toolbar by its key.
+    MenuEntry &button(const QString &key) { return *m_buttons.at(key); }
+    /// Warns where there is no tank, and lets the buttons that need one follow.
+    void CheckTanks();
+
+    // What the entries of the menus do.
+    void mnu_FileNew_Click();
+    void mnu_FileOpen_Click();
+    void mnu_FileDelete_Click();
+    void mnu_FilePageSetup_Click();
+    void mnu_Exit_Click();
+    void mnu_ViewToolbar_Click();
+    void mnu_ViewStatusbar_Click();
+    void mnu_ViewRefresh_Click();
+    void mnu_ViewOptions_Click();
+    void mnu_ToolsTanksetup_Click();
+    void mnu_ToolsLogbook_Click();
+    void mnu_WindowCascade_Click();
+    void mnu_WindowTileHorizontal_Click();
+    void mnu_WindowTileVertical_Click();
+    void mnu_WindowArrangeIcons_Click();
+    void mnu_HelpContents_Click();
+    void mnu_HelpSearch_Click();
+    void mnu_HelpAbout_Click();
+    void mnu_TankAddNew_Click();
+    void mnu_TankDelete_Click();
+    void mnu_TankProperties_Click();
+    void mnu_GraphOptions_Click();
+
+    QWidget *Picture1;
+    QToolBar *Toolbar1;
+    QComboBox *cbo_Reminders;
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void makeToolbar();
+    void makeStatusBar();
+    void fillWindowList();
+    void subWindowActivated(QMdiSubWindow *window);
+    void cbo_Reminders_Click();
+    void CheckDatabaseVersion();
+    void Top20List();
+    void showSplash();
+    /// Whether the tip of the day is due, by the setting Show_Tips; writes it at the first run.
+    bool tipIsDue();
+    void showHelp();
+
+    Globals &g;
+    QMdiArea *m_area;
+    QLabel *m_panel;
+    std::map<QString, MenuEntry *> m_buttons;
+    QPointer<ChildForm> m_activeChild;
+};

@@ -1,0 +1,299 @@
+#include "shell/frm_OMKOptions.h"
+
+#include <QSignalBlocker>
+
+#include "platform/Doors.h"
+#include "platform/Guarded.h"
+#include "text/Dates.h"
+
+namespace {
+
+const QString selectConfig = QStringLiteral("SELECT * FROM CONFIG ");
+const QString notFound = QStringLiteral("Not Found");
+
+/// A text of the settings store and the member that holds its value. A stored text of the wrong form leaves the
+/// default.
+struct Setting
+{
+    const char *key;
+    void (*take)(OptionsMembers &, const QString &stored);
+    QString (*text)(const OptionsMembers &);
+};
+
+void takeNumber(qint16 &member, const QString &stored)
+{
+    bool good = false;
+    const qint16 number = stored.trimmed().toShort(&good);
+    if (good)
+        member = number;
+}
+
+QString flagText(bool flag) { return flag ? QStringLiteral("TRUE") : QStringLiteral("FALSE"); }
+bool isTrue(const QString &stored) { return stored.toUpper() == u"TRUE"; }
+
+// In the order in which they are written.
+constexpr Setting settings[] = {
+    {"Graph_Checks", [](OptionsMembers &o, const QString &stored) { o.GraphChecks = stored; },
+     [](const OptionsMembers &o) { return o.GraphChecks; }},
+    {"Graph_Style", [](OptionsMembers &o, const QString &stored) { takeNumber(o.GraphStyle, stored); },
+     [](const OptionsMembers &o) { return QString::number(o.GraphStyle); }},
+    {"Graph_SkipZeroes", [](OptionsMembers &o, const QString &stored) { takeNumber(o.GraphSkipZeroes, stored); },
+     [](const OptionsMembers &o) { return QString::number(o.GraphSkipZeroes); }},
+    {"GraphPrintColor", [](OptionsMembers &o, const QString &stored) { takeNumber(o.GraphPrintColor, stored); },
+     [](const OptionsMembers &o) { return QString::number(o.GraphPrintColor); }},
+    {"Date_Order", [](OptionsMembers &o, const QString &stored) { o.DateOrder = stored; },
+     [](const OptionsMembers &o) { return o.DateOrder; }},
+    {"Date_Delim", [](OptionsMembers &o, const QString &stored) { o.DateDelimiter = stored; },
+     [](const OptionsMembers &o) { return o.DateDelimiter; }},
+    {"UseFile_Fresh", [](OptionsMembers &o, const QString &stored) { o.UseFileFresh = isTrue(stored); },
+     [](const OptionsMembers &o) { return flagText(o.UseFileFresh); }},
+    {"UseFile_Salt", [](OptionsMembers &o, const QString &stored) { o.UseFileSalt = isTrue(stored); },
+     [](const OptionsMembers &o) { return flagText(o.UseFileSalt); }},
+};
+
+struct GraphType
+{
+    const char *text;
+    int code; ///< the chart's type number
+};
+
+constexpr GraphType graphTypes[] = {
+    {"3D Bar", 0},  {"2D Bar", 1},  {"3D Line", 2}, {"2D Line", 3},        {"3D Step", 6},        {"2D Pie", 14},
+    {"2D Step", 7}, {"3D Area", 4}, {"2D Area", 5}, {"3D Combination", 8}, {"2D Combination", 9}, {"2D XY", 16},
+};
+
+constexpr const char *delimiters[] = {"/", "-", "."};
+
+/// A caption that shows an ampersand of the keeper's own as it is.
+QString caption(QString name) { return name.replace(u'&', QStringLiteral("&&")); }
+
+bool isBlank(const QString &name) { return name.isEmpty() || name.startsWith(u' '); }
+
+} // namespace
+
+frm_OMKOptions::frm_OMKOptions(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+{
+    setupUi(this);
+    m_checks = {chk_ph,  chk_ammonia, chk_nitrite, chk_nitrate, chk_sg,    chk_temp, chk_o2,
+                chk_dkh, chk_calcium, chk_Copper,  chk_orp,     chk_User1, chk_user2};
+    connectControls();
+}
+
+void frm_OMKOptions::connectOption(QRadioButton *option, Handler handler)
+{
+    connect(option, &QRadioButton::toggled, this, guarded([this, handler](bool isOn) {
+                if (isOn)
+                    (this->*handler)();
+            }));
+}
+
+void frm_OMKOptions::connectControls()
+{
+    connectOption(opt_Salt, &frm_OMKOptions::opt_Salt_Click);
+    connectOption(opt_Fresh, &frm_OMKOptions::opt_Fresh_Click);
+    connectOption(opt_Dateform_MMDDYY, &frm_OMKOptions::opt_Dateform_MMDDYY_Click);
+    connectOption(opt_Dateform_ddmmyy, &frm_OMKOptions::opt_Dateform_ddmmyy_Click);
+    connectOption(opt_Dateform_YYMMDD, &frm_OMKOptions::opt_Dateform_YYMMDD_Click);
+    connectOption(opt_BWPrinting, &frm_OMKOptions::opt_BWPrinting_Click);
+    connectOption(opt_ColorPrinting, &frm_OMKOptions::opt_ColorPrinting_Click);
+    connectOption(opt_UseFreshDB, &frm_OMKOptions::opt_UseFreshDB_Click);
+    connectOption(opt_UseFreshFile, &frm_OMKOptions::opt_UseFreshFile_Click);
+    connectOption(opt_UseSaltDb, &frm_OMKOptions::opt_UseSaltDb_Click);
+    connectOption(opt_UseSaltFile, &frm_OMKOptions::opt_UseSaltFile_Click);
+    on(chk_SkipZeroValues, &QCheckBox::toggled, this, &frm_OMKOptions::chk_SkipZeroValues_Click);
+    on(cbo_Delimiter, &QComboBox::currentIndexChanged, this, &frm_OMKOptions::cbo_Delimiter_Click);
+    on(cbo_GraphType, &QComboBox::currentIndexChanged, this, &frm_OMKOptions::cbo_GraphType_Click);
+    on(cmdOK, &QPushButton::clicked, this, &frm_OMKOptions::cmdOK_Click);
+    on(cmdCancel, &QPushButton::clicked, this, &frm_OMKOptions::cmdCancel_Click);
+    on(cmdApply, &QPushButton::clicked, this, &frm_OMKOptions::cmdApply_Click);
+}
+
+void frm_OMKOptions::Get_Initial_Properties()
+{
+    fillLists();
+    readConfig();
+    readSettings();
+    showDateSettings();
+    showGraphSettings();
+    (g.options.UseFileFresh ? opt_UseFreshFile : opt_UseFreshDB)->setChecked(true);
+    (g.options.UseFileSalt ? opt_UseSaltFile : opt_UseSaltDb)->setChecked(true);
+}
+
+void frm_OMKOptions::fillLists()
+{
+    const QSignalBlocker quietTypes(cbo_GraphType), quietDelimiters(cbo_Delimiter); // filling a list selects nothing
+    cbo_GraphType->clear();
+    for (const GraphType &type : graphTypes)
+        cbo_GraphType->addItem(QLatin1String(type.text), type.code);
+    cbo_GraphType->setCurrentIndex(-1);
+    cbo_Delimiter->clear();
+    for (const char *delimiter : delimiters)
+        cbo_Delimiter->addItem(QLatin1String(delimiter));
+    cbo_Delimiter->setCurrentIndex(-1);
+}
+
+void frm_OMKOptions::readConfig()
+{
+    m_config = g.gDatabase->OpenRecordset(selectConfig);
+    m_config.MoveFirst();
+    const bool salt = m_config[QStringLiteral("default_salt")].value().toBool();
+    g.gDefaultWaterType = g.options.DefaultWaterType = salt ? QStringLiteral("SALT") : QStringLiteral("FRESH");
+    (salt ? opt_Salt : opt_Fresh)->setChecked(true);
+    g.gUserFieldName1 = m_config[QStringLiteral("user_fieldname1")].text();
+    g.gUserFieldName2 = m_config[QStringLiteral("user_fieldname2")].text();
+    chk_User1->setText(caption(g.gUserFieldName1));
+    chk_user2->setText(caption(g.gUserFieldName2));
+    txt_username1->setText(g.gUserFieldName1);
+    txt_username2->setText(g.gUserFieldName2);
+}
+
+void frm_OMKOptions::readSettings()
+{
+    OptionsMembers fresh;
+    for (const Setting &setting : settings) {
+        const QString stored = GetSetting(QLatin1String(setting.key), notFound);
+        if (stored.compare(notFound, Qt::CaseInsensitive) != 0)
+            setting.take(fresh, stored);
+    }
+    fresh.ActiveTab = g.options.ActiveTab;
+    fresh.DefaultWaterType = g.options.DefaultWaterType;
+    g.options = fresh;
+}
+
+void frm_OMKOptions::showDateSettings()
+{
+    QRadioButton *option = g.options.DateOrder == u"DDMMYY"   ? opt_Dateform_ddmmyy
+                           : g.options.DateOrder == u"YYMMDD" ? opt_Dateform_YYMMDD
+                                                              : opt_Dateform_MMDDYY;
+    if (option == opt_Dateform_MMDDYY)
+        g.options.DateOrder = QStringLiteral("MMDDYY"); // also for a word that is none of the three
+    option->setChecked(true);
+    // A text that is no delimiter goes to "/": the list's event writes the list's text over it.
+    cbo_Delimiter->setCurrentIndex(std::max(0, cbo_Delimiter->findText(g.options.DateDelimiter)));
+    showDateCaptions();
+    g.options.DatePicture = MakeDatePicture(g.options.DateOrder, g.options.DateDelimiter);
+}
+
+void frm_OMKOptions::showDateCaptions()
+{
+    const QString pattern = QStringLiteral("%1") + g.options.DateDelimiter + QStringLiteral("%2") +
+                            g.options.DateDelimiter + QStringLiteral("%3");
+    const QString day = QStringLiteral("18"), month = QStringLiteral("02"), year = QStringLiteral("97");
+    opt_Dateform_ddmmyy->setText(pattern.arg(day, month, year));
+    opt_Dateform_MMDDYY->setText(pattern.arg(month, day, year));
+    opt_Dateform_YYMMDD->setText(pattern.arg(year, month, day));
+}
+
+void frm_OMKOptions::showGraphSettings()
+{
+    for (size_t i = 0; i < m_checks.size(); ++i)
+        m_checks[i]->setChecked(g.options.GraphChecks.mid(qsizetype(i), 1) == u"1");
+    g.options.GraphChecks = graphChecks();
+    cbo_GraphType->setCurrentIndex(cbo_GraphType->findData(g.options.GraphStyle)); // none for an unknown code
+    g.options.GraphSkipZeroes = g.options.GraphSkipZeroes == 1;
+    chk_SkipZeroValues->setChecked(g.options.GraphSkipZeroes == 1);
+    g.options.GraphPrintColor = g.options.GraphPrintColor == 1;
+    (g.options.GraphPrintColor == 1 ? opt_ColorPrinting : opt_BWPrinting)->setChecked(true);
+}
+
+QString frm_OMKOptions::graphChecks() const
+{
+    QString text;
+    for (const QCheckBox *check : m_checks)
+        text += check->isChecked() ? u'1' : u'0';
+    return text;
+}
+
+void frm_OMKOptions::ShowOptions(int tab)
+{
+    const Forms::Pin pin(*this);
+    Get_Initial_Properties();
+    g.options.ActiveTab = qint16(tab);
+    SSTab1->setCurrentIndex(g.options.ActiveTab);
+    Cancelled = true;
+    ShowModal();
+    if (!Cancelled) {
+        g.options.DatePicture = MakeDatePicture(g.options.DateOrder, g.options.DateDelimiter);
+        Unload(*this);
+    } else if (!isEnding()) {
+        Get_Initial_Properties();
+    }
+}
+
+// Stores before the dialog goes: if that fails, it stays with what was entered, and nothing counts as stored.
+void frm_OMKOptions::cmdOK_Click()
+{
+    store();
+    Cancelled = false;
+    hide();
+}
+
+void frm_OMKOptions::store()
+{
+    const bool salt = opt_Salt->isChecked();
+    m_config.Edit();
+    g.options.GraphChecks = graphChecks();
+    for (const Setting &setting : settings)
+        SaveSetting(QLatin1String(setting.key), setting.text(g.options));
+    m_config[QStringLiteral("default_salt")].setValue(salt);
+    m_config[QStringLiteral("default_fresh")].setValue(!salt);
+    m_config[QStringLiteral("user_fieldname1")].setValue(txt_username1->text());
+    m_config[QStringLiteral("user_fieldname2")].setValue(txt_username2->text());
+    m_config.Update();
+    g.gDefaultWaterType = salt ? QStringLiteral("SALT") : QStringLiteral("FRESH");
+    g.gUserFieldName1 = txt_username1->text();
+    g.gUserFieldName2 = txt_username2->text();
+}
+
+void frm_OMKOptions::cmdCancel_Click()
+{
+    Cancelled = true;
+    hide();
+}
+
+void frm_OMKOptions::cmdApply_Click() { Cancelled = false; } // stores nothing; the dialog stays
+
+bool frm_OMKOptions::CheckUserFieldNames()
+{
+    const auto refuse = [](QLineEdit *box, const char *message) {
+        Beep();
+        MsgBox(QLatin1String(message), vbExclamation, QStringLiteral("Oops!"));
+        box->setFocus();
+        return false;
+    };
+    for (QLineEdit *box : {txt_username1, txt_username2})
+        if (isBlank(box->text()))
+            return refuse(box,
+                          "User defined field names cannot be blank. Please enter a name of at least one character.");
+    if (txt_username1->text() == txt_username2->text())
+        return refuse(txt_username2,
+                      "Both User defined field names cannot be the same. Please make them different by at "
+                      "least one character.");
+    return true;
+}
+
+// A click copies the control's value to its member, so the members change while the dialog is open.
+void frm_OMKOptions::opt_Salt_Click() { g.options.DefaultWaterType = QStringLiteral("SALT"); }
+void frm_OMKOptions::opt_Fresh_Click() { g.options.DefaultWaterType = QStringLiteral("FRESH"); }
+void frm_OMKOptions::opt_Dateform_MMDDYY_Click() { g.options.DateOrder = QStringLiteral("MMDDYY"); }
+void frm_OMKOptions::opt_Dateform_ddmmyy_Click() { g.options.DateOrder = QStringLiteral("DDMMYY"); }
+void frm_OMKOptions::opt_Dateform_YYMMDD_Click() { g.options.DateOrder = QStringLiteral("YYMMDD"); }
+void frm_OMKOptions::chk_SkipZeroValues_Click() { g.options.GraphSkipZeroes = chk_SkipZeroValues->isChecked(); }
+void frm_OMKOptions::opt_BWPrinting_Click() { g.options.GraphPrintColor = 0; }
+void frm_OMKOptions::opt_ColorPrinting_Click() { g.options.GraphPrintColor = 1; }
+void frm_OMKOptions::opt_UseFreshDB_Click() { g.options.UseFileFresh = false; }
+void frm_OMKOptions::opt_UseFreshFile_Click() { g.options.UseFileFresh = true; }
+void frm_OMKOptions::opt_UseSaltDb_Click() { g.options.UseFileSalt = false; }
+void frm_OMKOptions::opt_UseSaltFile_Click() { g.options.UseFileSalt = true; }
+
+void frm_OMKOptions::cbo_Delimiter_Click()
+{
+    g.options.DateDelimiter = cbo_Delimiter->currentText();
+    showDateCaptions();
+}
+
+void frm_OMKOptions::cbo_GraphType_Click()
+{
+    if (cbo_GraphType->currentIndex() >= 0 && cbo_GraphType->currentData().toInt() >= 0)
+        g.options.GraphStyle = qint16(cbo_GraphType->currentData().toInt());
+}

@@ -1,0 +1,182 @@
+#include "tanks/frm_TankAddNew.h"
+
+#include "platform/Doors.h"
+#include "platform/Guarded.h"
+#include "shell/ErrorHandler.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/MenuEntry.h"
+#include "text/Dates.h"
+#include "text/Numbers.h"
+
+namespace {
+
+struct WaterType
+{
+    const char *code;
+    QRadioButton *Ui::frm_TankAddNew::*option;
+};
+
+constexpr WaterType waterTypes[] = {
+    {"1", &Ui::frm_TankAddNew::opt_Freshwater}, {"2", &Ui::frm_TankAddNew::opt_Saltwater},
+    {"3", &Ui::frm_TankAddNew::opt_Reef},       {"4", &Ui::frm_TankAddNew::Opt_Brackish},
+    {"5", &Ui::frm_TankAddNew::opt_Pond},
+};
+
+constexpr int longestName = 50;
+constexpr double biggestTank = 9999; // gallons
+
+const QString oops = QStringLiteral("Oops!");
+const QString tankByName = QStringLiteral("SELECT * FROM tanklst where tankname = ?");
+
+} // namespace
+
+frm_TankAddNew::frm_TankAddNew(Globals &globals, QWidget *parent) : DialogForm(globals, parent), m_checks(this)
+{
+    setupUi(this);
+    ud_tanksize->setBoundBox(txt_tanksize);
+    for (const WaterType &type : waterTypes) {
+        connect(this->*type.option, &QRadioButton::toggled, this, [this, code = type.code](bool chosen) {
+            if (chosen)
+                g.gTankWaterType = QLatin1String(code);
+        });
+    }
+    m_checks.watch(txt_tanksize, [this] { return tanksizeIsGood(); });
+    m_checks.exempt(cmd_Cancel);
+    on(cmd_OK, &QPushButton::clicked, this, &frm_TankAddNew::cmd_OK_Click);
+    on(cmd_Cancel, &QPushButton::clicked, this, &frm_TankAddNew::cmd_Cancel_Click);
+}
+
+void frm_TankAddNew::Form_Activate()
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    main.mnu_FilePrint->Enabled(false);
+    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
+}
+
+QRadioButton *frm_TankAddNew::waterTypeOption(const QString &code)
+{
+    for (const WaterType &type : waterTypes)
+        if (code == QLatin1String(type.code))
+            return this->*type.option;
+    return nullptr;
+}
+
+void frm_TankAddNew::AddNewTank()
+{
+    g.gRecordset = g.gDatabase->OpenForAppend(QStringLiteral("Tanklst"));
+    g.gRecordset.AddNew();
+    if (g.gDefaultWaterType == u"SALT")
+        opt_Saltwater->setChecked(true);
+    else if (g.gDefaultWaterType == u"FRESH")
+        opt_Freshwater->setChecked(true);
+    ud_tanksize->setValue(55);
+    txt_tanksize->setText(QStringLiteral("55"));
+    g.tankDialog.DialogMode = QStringLiteral("add");
+    Form_Activate();
+    ShowModal();
+}
+
+void frm_TankAddNew::ChangeTank(const QString &tankName)
+{
+    g.gTankName = tankName;
+    txt_tankname->setText(tankName);
+    g.gRecordset = g.gDatabase->OpenRecordset(tankByName, {tankName});
+    g.gRecordset.MoveFirst();
+    g.gRecordset.Edit();
+    g.gTankWaterType = g.gRecordset[QStringLiteral("TankWaterType")].text();
+    if (auto *option = waterTypeOption(g.gTankWaterType))
+        option->setChecked(true);
+    txt_tanknotes->setPlainText(g.gRecordset[QStringLiteral("tanknotes")].text());
+    txt_long_desc->setText(g.gRecordset[QStringLiteral("Tankdesc")].text());
+    const QString size = g.gRecordset[QStringLiteral("tanksize")].text();
+    ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), biggestTank))); // it starts at the size shown
+    txt_tanksize->setText(size);
+    g.tankDialog.DialogMode = QStringLiteral("edit");
+    setWindowTitle(u"Change Tank Info for " + tankName);
+    Form_Activate();
+    ShowModal();
+}
+
+bool frm_TankAddNew::refuse(const QString &text, QWidget *box)
+{
+    Beep();
+    MsgBox(text, vbExclamation, oops);
+    box->setFocus();
+    return false;
+}
+
+bool frm_TankAddNew::fieldsAreGood()
+{
+    const QString size = txt_tanksize->text();
+    const QString name = txt_tankname->Text();
+    if (size.isEmpty())
+        return refuse(QStringLiteral("The tank size must be a number less than 10,000 gallons."), txt_tanksize);
+    if (Val(size) > biggestTank)
+        return refuse(QStringLiteral("The tank size must be less than 10,000 gallons."), txt_tanksize);
+    if (name.size() > longestName) // exactly 50 pass, whatever the words say
+        return refuse(QStringLiteral("The tank name must be less than 50 characters."), txt_tankname);
+    if (name.isEmpty())
+        return refuse(QStringLiteral("You must enter a name for your tank."), txt_tankname);
+    if (name.contains(u'"'))
+        return refuse(QStringLiteral("The tank name cannot contain a quote(\") character."), txt_tankname);
+    if (txt_long_desc->Text().size() > longestName)
+        return refuse(QStringLiteral("The long description must be less than 50 characters."), txt_long_desc);
+    return true;
+}
+
+bool frm_TankAddNew::tanksizeIsGood()
+{
+    if (txt_tanksize->text().isEmpty() || IsNumeric(txt_tanksize->text()))
+        return true;
+    return refuse(QStringLiteral("Tanksize entries must be a number."), txt_tanksize);
+}
+
+QString frm_TankAddNew::newTankId()
+{
+    QDateTime moment = Now();
+    for (;; moment = moment.addSecs(1)) {
+        const QString id = moment.toString(QStringLiteral("MM/dd/yyyy hh:mm:ss"));
+        if (g.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM tanklst WHERE tankid = ?"), {id}).isEmpty())
+            return id;
+    }
+}
+
+void frm_TankAddNew::store()
+{
+    Recordset &tank = g.gRecordset;
+    tank[QStringLiteral("tanksize")].setValue(Val(txt_tanksize->text()));
+    tank[QStringLiteral("tankname")].setValue(txt_tankname->Text());
+    tank[QStringLiteral("Tankdesc")].setValue(txt_long_desc->Text());
+    tank[QStringLiteral("tanknotes")].setValue(txt_tanknotes->toPlainText());
+    tank[QStringLiteral("TankWaterType")].setValue(g.gTankWaterType);
+    if (g.tankDialog.DialogMode == u"add") {
+        const QString id = newTankId();
+        tank[QStringLiteral("tankid")].setValue(id);
+        tank.Update();
+        g.gTankId = id;
+    } else {
+        tank.Update();
+    }
+    g.gTankName = txt_tankname->Text();
+}
+
+void frm_TankAddNew::cmd_OK_Click()
+{
+    if (!m_checks.passes() || !fieldsAreGood())
+        return;
+    try {
+        store();
+    } catch (const RuntimeFailure &failure) {
+        HandleError(
+            g, failure,
+            QStringLiteral(
+                "That identical tank name already exists. Make your new tank name unique by changing or adding at "
+                "least one letter."));
+        if (failure.number() == Failure::DuplicateKey)
+            txt_tankname->setFocus();
+        return;
+    }
+    Unload(*this);
+}
+
+void frm_TankAddNew::cmd_Cancel_Click() { Unload(*this); }

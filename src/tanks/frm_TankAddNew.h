@@ -1,0 +1,39 @@
+// The one dialog for adding and for changing a tank. The row in progress waits in gRecordset while the dialog is up; OK
+// writes the controls into it. Only gTankWaterType is stored for the water type: the options set it as they are
+// clicked.
+#pragma once
+
+#include "platform/LeavingChecks.h"
+#include "shell/DialogForm.h"
+#include "ui_frm_TankAddNew.h"
+
+class frm_TankAddNew : public DialogForm, public Ui::frm_TankAddNew
+{
+    Q_OBJECT
+public:
+    frm_TankAddNew(Globals &globals, QWidget *parent);
+
+    /// Opens the dialog for a new tank.
+    void AddNewTank();
+    /// Opens the dialog on the tank of that name, for frm_TankMaint.ChangeTankInfo. Throws NoCurrentRecord if there is
+    /// none.
+    void ChangeTank(const QString &tankName);
+
+private:
+    void Cancel() override { cmd_Cancel_Click(); }
+    void Form_Activate();
+    /// The option of a water type's code; null for a code that is none.
+    QRadioButton *waterTypeOption(const QString &code);
+    /// Checks in their order; false, after its box, at the first fault.
+    bool fieldsAreGood();
+    bool refuse(const QString &text, QWidget *box);
+    bool tanksizeIsGood();
+    /// A new tank's identity: the date and time of its making; a tank made in the same second gets the next free one.
+    QString newTankId();
+    void store();
+
+    void cmd_OK_Click();
+    void cmd_Cancel_Click();
+
+    LeavingChecks m_checks;
+};

@@ -1,0 +1,220 @@
+// omk_shots DIR [--dark] [--scale N]: plays a day on sample data through the real windows, off-screen, and leaves a PNG of each
+// window in DIR. Prints their names. Needs no display.
+#include <cstdio>
+#include <functional>
+
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "common/frm_Caltool.h"
+#include "logbook/frm_WaterAddEdit.h"
+#include "logbook/frm_Waterlog.h"
+#include "platform/Application.h"
+#include "platform/DesktopDoors.h"
+#include "platform/MaskedBox.h"
+#include "platform/SettingsStore.h"
+#include "SampleData.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/frm_OMKOptions.h"
+#include "shell/MenuEntry.h"
+#include "store/NewDatabase.h"
+#include "tanks/frm_TankAddNew.h"
+#include "tanks/frm_TankMaint.h"
+
+namespace {
+
+class Album
+{
+public:
+    explicit Album(const QString &folder) : m_folder(folder) { QDir().mkpath(folder); }
+    void take(QWidget &window, const QString &name)
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        const QString file = m_folder.filePath(name + u".png");
+        if (window.grab().save(file))
+            std::printf("%s\n", qPrintable(file));
+        else
+            m_failed = true;
+    }
+    bool failed() const { return m_failed; }
+
+private:
+    QDir m_folder;
+    bool m_failed = false;
+};
+
+/// The desktop with the clock standing still, settings of its own, and each box photographed and answered with its first button.
+class ShotDoors : public DesktopDoors
+{
+public:
+    ShotDoors(Album &album, const QString &settingsFile) : m_album(album), m_settings(settingsFile) {}
+    QDateTime now() override { return {QDate(2026, 6, 20), QTime(18, 30)}; }
+    SettingsStore &settings() override { return m_settings; }
+    void beep() override {}
+    MsgBoxAnswer msgBox(const MsgBoxRequest &request) override
+    {
+        const QString name = QStringLiteral("box-%1").arg(++m_boxes, 2, 10, QLatin1Char('0'));
+        QTimer::singleShot(0, [this, name] {
+            if (QWidget *box = QApplication::activeModalWidget()) {
+                m_album.take(*box, name);
+                static_cast<QDialog *>(box)->accept();
+            }
+        });
+        return DesktopDoors::msgBox(request);
+    }
+
+private:
+    Album &m_album;
+    SettingsStore m_settings;
+    int m_boxes = 0;
+};
+
+/// What to do in the next dialog while `start` waits in it.
+void inDialog(const std::function<void()> &start, const std::function<void()> &inside)
+{
+    QTimer::singleShot(0, inside);
+    start();
+}
+
+void addTank(Album &album, const QString &name, const QString &description, const QString &notes, bool picture)
+{
+    auto &dialog = Form<frm_TankAddNew>();
+    inDialog([&dialog] { dialog.AddNewTank(); },
+             [&] {
+                 dialog.txt_tankname->setText(name);
+                 dialog.txt_long_desc->setText(description);
+                 dialog.txt_tanknotes->setPlainText(notes);
+                 if (picture)
+                     album.take(dialog, QStringLiteral("tank-new"));
+                 dialog.cmd_OK->click();
+             });
+}
+
+void playTanks(Album &album)
+{
+    addTank(album, QStringLiteral("Reef"), QStringLiteral("Mixed reef in the living room"),
+            QStringLiteral("Skimmer, two return pumps, 4 x 54 W T5.\nSet up in March."), true);
+    addTank(album, QStringLiteral("Angels"), QStringLiteral("Planted tank with angelfish"), {}, false);
+    addTank(album, QStringLiteral("Garden pond"), QStringLiteral("Goldfish and lilies"), {}, false);
+    auto &list = Form<frm_TankMaint>();
+    inDialog([&list] { list.Show_List(); },
+             [&] {
+                 list.lst_tanklist->setCurrentRow(2);
+                 album.take(list, QStringLiteral("tank-list"));
+                 list.cmd_ok->click();
+             });
+}
+
+void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals)
+{
+    Recordset reef = globals.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM tanklst WHERE tankname = 'Reef'"));
+    AddSampleWaterTests(*globals.gDatabase, reef[QStringLiteral("tankid")].text(), 60, QDate(2026, 4, 21), 1440, true);
+    main.mnu_ToolsLogbook_Click();
+    auto &logbook = Form<frm_Waterlog>();
+    QTreeWidgetItem *root = logbook.TreeView1->topLevelItem(0);
+    logbook.TreeView1->setCurrentItem(root->child(root->childCount() - 1));
+    auto &test = Form<frm_WaterAddEdit>();
+    inDialog([&logbook] { logbook.Add_Entries(); },
+             [&] {
+                 test.findChild<MaskedBox *>(QStringLiteral("txt_nitrate"))->setText(QStringLiteral("7.5"));
+                 test.findChild<MaskedBox *>(QStringLiteral("txt_calcium"))->setText(QStringLiteral("415"));
+                 test.txt_Comment->setPlainText(QStringLiteral("After the water change. All animals well."));
+                 album.take(test, QStringLiteral("water-test"));
+                 inDialog([&test] { test.cmd_Caldate->click(); },
+                          [&] {
+                              auto &calendar = Form<frm_Caltool>();
+                              album.take(calendar, QStringLiteral("calendar"));
+                              calendar.close();
+                          });
+                 test.cmd_OK->click();
+             });
+    logbook.lstv_WaterLog->Select(61);
+    album.take(logbook, QStringLiteral("logbook"));
+    album.take(main, QStringLiteral("main"));
+}
+
+void playOptions(Album &album, frm_OMKMDIMain &main)
+{
+    auto &options = Form<frm_OMKOptions>();
+    inDialog([&main] { main.mnu_ViewOptions_Click(); },
+             [&] {
+                 for (int tab = 0; tab < options.SSTab1->count(); ++tab) {
+                     options.SSTab1->setCurrentIndex(tab);
+                     album.take(options, QStringLiteral("options-%1").arg(tab + 1));
+                 }
+                 options.cmdCancel->click();
+             });
+}
+
+void goDark()
+{
+    QPalette palette(QColor(0x35, 0x37, 0x3b), QColor(0x2b, 0x2d, 0x30));
+    palette.setColor(QPalette::Base, QColor(0x1f, 0x21, 0x24));
+    palette.setColor(QPalette::AlternateBase, QColor(0x27, 0x29, 0x2c));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, QColor(0xe6, 0xe6, 0xe6));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x83, 0x88));
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xa0));
+    QApplication::setPalette(palette);
+}
+
+/// A screen that is big enough for every window: the off-screen one is 800 x 800.
+void setBigScreen(const QString &folder)
+{
+    QFile file(folder + u"/screen.json");
+    if (file.open(QIODevice::WriteOnly))
+        file.write(R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": false, "screens": [{"name": "big", "x": 0, "y": 0,
+            "width": 3840, "height": 2400, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc < 2) {
+        std::fprintf(stderr, "usage: omk_shots DIR [--dark] [--scale N]\n");
+        return 2;
+    }
+    bool dark = false;
+    for (int i = 2; i < argc; ++i) {
+        const QByteArray argument = argv[i];
+        dark = dark || argument == "--dark";
+        if (argument == "--scale" && i + 1 < argc)
+            qputenv("QT_SCALE_FACTOR", argv[i + 1]);
+    }
+    const QTemporaryDir folder;
+    setBigScreen(folder.path());
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+        if (type != QtWarningMsg || !text.startsWith(u"This plugin does not support"))
+            std::fprintf(stderr, "%s\n", qPrintable(text));
+    });
+    Application application(argc, argv);
+    if (dark)
+        goDark();
+    Album album(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
+    ShotDoors doors(album, folder.filePath(QStringLiteral("OMK.ini")));
+    Doors::install(&doors);
+    CreateDatabase(folder.filePath(QStringLiteral("OM.MDB")));
+    QDir::setCurrent(folder.path());
+    Globals globals;
+    globals.splashMilliseconds = 0;
+    Forms forms(globals);
+    auto &main = Form<frm_OMKMDIMain>();
+    main.MDIForm_Load();
+    playTanks(album);
+    main.CheckTanks();
+    playLogbook(album, main, globals);
+    playOptions(album, main);
+    return album.failed() ? 1 : 0;
+}
