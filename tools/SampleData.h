@@ -1,4 +1,5 @@
-// Sample data for pictures and measurements: tanks with water tests as a keeper would log them. The same data at every call.
+// Sample data for pictures and measurements: tanks with water tests as a keeper would log them. The same data at every
+// call.
 #pragma once
 
 #include <QDate>
@@ -11,4 +12,5 @@ QString AddSampleTank(Database &database, const QString &name, const QString &de
                       const QString &waterType, const QString &notes);
 
 /// Adds `count` water tests, `minutesApart`, from the first day on at nine in the morning. One transaction.
-void AddSampleWaterTests(Database &database, const QString &tankId, int count, const QDate &firstDay, int minutesApart, bool salt);
+void AddSampleWaterTests(Database &database, const QString &tankId, int count, const QDate &firstDay, int minutesApart,
+                         bool salt);

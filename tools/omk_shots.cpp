@@ -1,13 +1,16 @@
-// omk_shots DIR [--dark] [--scale N]: plays a day on sample data through the real windows, off-screen, and leaves a PNG of each
-// window in DIR. Prints their names. Needs no display.
+// omk_shots DIR [--dark] [--scale N]: plays a day on sample data through the real windows, off-screen, and leaves a PNG
+// of each window and a PDF of each printout in DIR. Prints their names. Needs no display.
 #include <cstdio>
 #include <functional>
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -15,6 +18,10 @@
 #include <QTreeWidget>
 
 #include "common/frm_Caltool.h"
+#include "logbook/frm_LivesAddEdit.h"
+#include "logbook/frm_LivesMove.h"
+#include "logbook/frm_MaintAddEdit.h"
+#include "logbook/frm_OMKLogPrint.h"
 #include "logbook/frm_WaterAddEdit.h"
 #include "logbook/frm_Waterlog.h"
 #include "platform/Application.h"
@@ -45,6 +52,13 @@ public:
         else
             m_failed = true;
     }
+    /// Where a printout goes, its name made one of files; told like a picture.
+    QString path(QString name) const
+    {
+        const QString file = m_folder.filePath(name.replace(u' ', u'-').toLower());
+        std::printf("%s\n", qPrintable(file));
+        return file;
+    }
     bool failed() const { return m_failed; }
 
 private:
@@ -52,14 +66,20 @@ private:
     bool m_failed = false;
 };
 
-/// The desktop with the clock standing still, settings of its own, and each box photographed and answered with its first button.
+/// The desktop with the clock standing still, settings of its own, and each box photographed and answered with its
+/// first button.
 class ShotDoors : public DesktopDoors
 {
 public:
     ShotDoors(Album &album, const QString &settingsFile) : m_album(album), m_settings(settingsFile) {}
-    QDateTime now() override { return {QDate(2026, 6, 20), QTime(18, 30)}; }
+    QDateTime clock{QDate(2026, 6, 20), QTime(18, 30)};
+    QDateTime now() override { return clock; }
     SettingsStore &settings() override { return m_settings; }
     void beep() override {}
+    std::optional<QString> saveDialog(const SaveDialogRequest &request) override
+    {
+        return m_album.path(request.fileName);
+    }
     MsgBoxAnswer msgBox(const MsgBoxRequest &request) override
     {
         const QString name = QStringLiteral("box-%1").arg(++m_boxes, 2, 10, QLatin1Char('0'));
@@ -116,7 +136,8 @@ void playTanks(Album &album)
 
 void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals)
 {
-    Recordset reef = globals.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM tanklst WHERE tankname = 'Reef'"));
+    Recordset reef =
+        globals.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM tanklst WHERE tankname = 'Reef'"));
     AddSampleWaterTests(*globals.gDatabase, reef[QStringLiteral("tankid")].text(), 60, QDate(2026, 4, 21), 1440, true);
     main.mnu_ToolsLogbook_Click();
     auto &logbook = Form<frm_Waterlog>();
@@ -140,6 +161,80 @@ void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals)
     logbook.lstv_WaterLog->Select(61);
     album.take(logbook, QStringLiteral("logbook"));
     album.take(main, QStringLiteral("main"));
+}
+
+void addAnimal(frm_Waterlog &logbook, const QString &animal, const QString &status, const QString &price,
+               const std::function<void(frm_LivesAddEdit &)> &before)
+{
+    inDialog([&logbook] { logbook.Add_Entries(); },
+             [&] {
+                 auto &shown = Form<frm_LivesAddEdit>();
+                 shown.lst_AnimalList->setEditText(animal);
+                 shown.lst_Status->setEditText(status);
+                 shown.lst_where->setEditText(QStringLiteral("Harbour Aquatics"));
+                 shown.txt_pricepaid->setText(price);
+                 before(shown);
+                 shown.cmd_OK->click();
+             });
+}
+
+void playLivestock(Album &album, frm_Waterlog &logbook)
+{
+    logbook.tab_logtype->setCurrentIndex(LivestockTab);
+    addAnimal(logbook, QStringLiteral("Tang - Yellow"), QStringLiteral("Active"), QStringLiteral("45"),
+              [&album](frm_LivesAddEdit &window) {
+                  window.txt_Comment->setPlainText(QStringLiteral("Eats nori from the first day on."));
+                  album.take(window, QStringLiteral("livestock-entry"));
+              });
+    for (const char *animal : {"Clown - Percula", "Shrimp - Cleaner", "Coral - Bubble"})
+        addAnimal(logbook, QLatin1String(animal), QStringLiteral("Active"), QStringLiteral("18.5"),
+                  [](frm_LivesAddEdit &) {});
+    logbook.lstv_Livestock->Select(1);
+    album.take(logbook, QStringLiteral("logbook-livestock"));
+    inDialog([&logbook] { logbook.Move_Entries(); },
+             [&album] {
+                 auto &move = Form<frm_LivesMove>();
+                 move.lst_tanklist->setCurrentRow(0);
+                 album.take(move, QStringLiteral("livestock-move"));
+                 move.cmd_Cancel->click();
+             });
+}
+
+void playMaintenance(Album &album, frm_Waterlog &logbook, QDateTime &clock)
+{
+    logbook.tab_logtype->setCurrentIndex(MaintenanceTab);
+    bool first = true;
+    for (const char *task : {"Water Change", "Filter Clean", "Additives Added"}) {
+        clock = clock.addSecs(60);
+        inDialog([&logbook] { logbook.Add_Entries(); },
+                 [&] {
+                     auto &window = Form<frm_MaintAddEdit>();
+                     window.lst_mainttasklist->setEditText(QLatin1String(task));
+                     window.txt_quantity->setText(QStringLiteral("10"));
+                     window.lst_unit->setEditText(QStringLiteral("gallons"));
+                     window.txt_maintlognotes->setPlainText(
+                         QStringLiteral("Water aged for two days, heated to 78 degrees."));
+                     if (std::exchange(first, false))
+                         album.take(window, QStringLiteral("maintenance-entry"));
+                     window.cmd_OK->click();
+                 });
+    }
+    album.take(logbook, QStringLiteral("logbook-maintenance"));
+}
+
+void playPrinting(Album &album, frm_Waterlog &logbook)
+{
+    for (const int tab : {WaterTab, LivestockTab, MaintenanceTab}) {
+        logbook.tab_logtype->setCurrentIndex(tab);
+        inDialog([&logbook] { logbook.Print_Entries(); },
+                 [&album, tab] {
+                     auto &window = Form<frm_OMKLogPrint>();
+                     window.opt_File->setChecked(true);
+                     if (tab == WaterTab)
+                         album.take(window, QStringLiteral("log-printing"));
+                     window.cmd_ok->click();
+                 });
+    }
 }
 
 void playOptions(Album &album, frm_OMKMDIMain &main)
@@ -173,7 +268,8 @@ void setBigScreen(const QString &folder)
 {
     QFile file(folder + u"/screen.json");
     if (file.open(QIODevice::WriteOnly))
-        file.write(R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": false, "screens": [{"name": "big", "x": 0, "y": 0,
+        file.write(
+            R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": false, "screens": [{"name": "big", "x": 0, "y": 0,
             "width": 3840, "height": 2400, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
 }
@@ -215,6 +311,10 @@ int main(int argc, char **argv)
     playTanks(album);
     main.CheckTanks();
     playLogbook(album, main, globals);
+    auto &logbook = Form<frm_Waterlog>();
+    playLivestock(album, logbook);
+    playMaintenance(album, logbook, doors.clock);
+    playPrinting(album, logbook);
     playOptions(album, main);
     return album.failed() ? 1 : 0;
 }

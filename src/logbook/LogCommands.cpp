@@ -31,32 +31,20 @@ QTreeWidgetItem *makeNode(const QString &key, const QString &text)
 
 const std::array<frm_Waterlog::EntryPaths, 3> frm_Waterlog::entryPaths = {{
     {&frm_Waterlog::AddWaterEntry, &frm_Waterlog::Change_EntriesWater, &frm_Waterlog::Delete_EntriesWater},
-    {},
-    {},
+    {&frm_Waterlog::AddLivestockEntry, &frm_Waterlog::Change_EntriesLives, &frm_Waterlog::Delete_EntriesLives},
+    {&frm_Waterlog::AddMaintEntry, &frm_Waterlog::Change_EntriesMaint, &frm_Waterlog::Delete_EntriesMaint},
 }};
 
-void frm_Waterlog::Add_Entries()
-{
-    if (const auto path = entryPaths[static_cast<size_t>(tab())].add)
-        (this->*path)();
-}
+void frm_Waterlog::Add_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].add)(); }
 
-void frm_Waterlog::Change_Entries()
-{
-    if (const auto path = entryPaths[static_cast<size_t>(tab())].change)
-        (this->*path)();
-}
+void frm_Waterlog::Change_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].change)(); }
 
-void frm_Waterlog::Delete_Entries()
-{
-    if (const auto path = entryPaths[static_cast<size_t>(tab())].remove)
-        (this->*path)();
-}
+void frm_Waterlog::Delete_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].remove)(); }
 
 void frm_Waterlog::Refresh_Treeview()
 {
     CurrentTankText.clear();
-    m_firstActivation = true;
+    FirstActivation = true;
     g.gRecordset = g.gDatabase->OpenRecordset(tanksByName);
     {
         const QSignalBlocker quiet(TreeView1);
@@ -72,11 +60,24 @@ void frm_Waterlog::Refresh_Treeview()
         TreeView1->scrollToItem(last); // opens the tree
         root->setExpanded(true);
         const QString stored = GetSetting(sortSetting, QStringLiteral("Not Found"));
-        m_listSortOrder = stored == u"Not Found" ? QStringLiteral("1") : stored;
-        m_firstActivation = false;
+        ListSortOrder = stored == u"Not Found" ? QStringLiteral("1") : stored;
+        FirstActivation = false;
         TreeView1->setCurrentItem(root);
     }
     Refresh_Listview(ascending);
+}
+
+void frm_Waterlog::Follow_Tanks()
+{
+    const QTreeWidgetItem *root = TreeView1->topLevelItem(0);
+    QStringList shown;
+    for (int i = 0; root && i < root->childCount(); ++i)
+        shown << root->child(i)->data(0, Qt::UserRole).toString() << root->child(i)->text(0);
+    QStringList present;
+    for (Recordset tanks = g.gDatabase->OpenRecordset(tanksByName); !tanks.EOF_(); tanks.MoveNext())
+        present << tanks[QStringLiteral("tankid")].text() << tanks[QStringLiteral("tankname")].text();
+    if (shown != present)
+        Refresh_Treeview();
 }
 
 void frm_Waterlog::Refresh_Listview(const QString &order)
@@ -153,21 +154,12 @@ void frm_Waterlog::Update_Menu_Captions()
 void frm_Waterlog::enableLogCommands()
 {
     auto &main = Form<frm_OMKMDIMain>();
-    const EntryPaths &paths = entryPaths[static_cast<size_t>(tab())];
     const bool tank = isTankSelected();
-    const struct
-    {
-        bool on;
-        MenuEntry *entries[3];
-    } commands[] = {
-        {tank && paths.add, {main.mnu_FileNew, main.mnu_LogPopup_New, &button(QStringLiteral("addentries"))}},
-        {tank && paths.change, {main.mnu_FileOpen, main.mnu_Logpopup_Open, &button(QStringLiteral("changeentries"))}},
-        {tank && paths.remove,
-         {main.mnu_FileDelete, main.mnu_LogPopup_Delete, &button(QStringLiteral("deleteentries"))}},
-    };
-    for (const auto &command : commands)
-        for (MenuEntry *entry : command.entries)
-            entry->Enabled(command.on);
+    for (MenuEntry *entry : {main.mnu_FileNew, main.mnu_FileOpen, main.mnu_FileDelete, main.mnu_LogPopup_New,
+                             main.mnu_Logpopup_Open, main.mnu_LogPopup_Delete})
+        entry->Enabled(tank);
+    for (const char *key : {"addentries", "changeentries", "deleteentries"})
+        button(QLatin1String(key)).Enabled(tank);
 }
 
 void frm_Waterlog::ColumnClick(ListView &list, int index)
@@ -191,13 +183,14 @@ void frm_Waterlog::list_MouseUp(Qt::MouseButton button, const QPoint &position)
         Form<frm_OMKMDIMain>().mnu_LogPopup->popup(position);
 }
 
+void frm_Waterlog::tab_logtype_Click() { Refresh_Listview(ascending); }
+
 void frm_Waterlog::TreeView1_NodeClick() { Refresh_Listview(ascending); }
 
 void frm_Waterlog::TreeView1_MouseUp(const QPoint &position)
 {
     auto &main = Form<frm_OMKMDIMain>();
-    if (isTankSelected())
-        main.mnu_TankProperties->setText(CurrentTankText + u" Properties...");
+    main.mnu_TankProperties->setText(CurrentTankText + u" Properties...");
     main.mnu_tankPopup->popup(position);
 }
 
@@ -205,13 +198,11 @@ void frm_Waterlog::Form_Activate()
 {
     auto &main = Form<frm_OMKMDIMain>();
     main.mnu_FilePrint->setText(QStringLiteral("&Print Entries..."));
-    if (m_firstActivation) {
-        for (ListView *list : m_lists) {
-            list->setFullRowSelect(true);
-            list->setHeaderDragDrop(true);
-        }
+    if (FirstActivation) {
+        for (ListView *list : m_lists)
+            SetListViewStyle(*list);
         Refresh_Treeview();
-        m_firstActivation = false;
+        FirstActivation = false;
         return;
     }
     main.mnu_FilePrint->Enabled(isTankSelected());
@@ -229,8 +220,8 @@ void frm_Waterlog::Form_LostFocus()
 
 void frm_Waterlog::Form_Unload()
 {
-    if (!m_listSortOrder.isEmpty())
-        SaveSetting(sortSetting, m_listSortOrder);
+    if (!ListSortOrder.isEmpty())
+        SaveSetting(sortSetting, ListSortOrder);
     auto &main = Form<frm_OMKMDIMain>();
     main.mnu_FileNew->Enabled(false);
     main.mnu_FileOpen->Enabled(false);

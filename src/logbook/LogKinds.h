@@ -6,10 +6,9 @@
 #include <memory>
 #include <vector>
 
+#include "logbook/LogTab.h"
 #include "platform/ListView.h"
 #include "store/Rows.h"
-
-enum LogTab { WaterTab = 0, LivestockTab = 1, MaintenanceTab = 2 };
 
 struct LogColumn
 {

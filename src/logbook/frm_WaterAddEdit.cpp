@@ -3,21 +3,16 @@
 #include <cmath>
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "common/frm_Caltool.h"
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
 #include "platform/MaskedBox.h"
 #include "platform/UpDown.h"
-#include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"
 
@@ -27,7 +22,6 @@ constexpr int columnsOfGrid = 3;
 constexpr int longestNumber = 64;
 constexpr int highestPosition = 10000;
 
-const QString oops = QStringLiteral("Oops!");
 const QString badTime =
     QStringLiteral("You must enter a valid time in \"HH:MM:SS am\" format to add a water quality entry to the log.");
 
@@ -41,7 +35,7 @@ bool isComment(const char *column) { return QLatin1String(column) == QLatin1Stri
 
 } // namespace
 
-frm_WaterAddEdit::frm_WaterAddEdit(Globals &globals, QWidget *parent) : DialogForm(globals, parent), m_checks(this)
+frm_WaterAddEdit::frm_WaterAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
 {
     setWindowTitle(QStringLiteral("Water Quality Log Detail"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/waterquality.svg")));
@@ -55,70 +49,30 @@ frm_WaterAddEdit::frm_WaterAddEdit(Globals &globals, QWidget *parent) : DialogFo
     for (size_t i = 0; i < measurements.size(); ++i)
         makeMeasurement(i, *grid);
     column->addLayout(grid);
-    txt_Comment = new QPlainTextEdit;
-    txt_Comment->setObjectName(QStringLiteral("txt_Comment"));
-    txt_Comment->setToolTip(QStringLiteral("Record your comments here"));
-    txt_Comment->setTabChangesFocus(true);
-    txt_Comment->setMinimumHeight(fontMetrics().lineSpacing() * 6);
-    auto *comment = new QLabel(QStringLiteral("Comment:"));
-    comment->setBuddy(txt_Comment);
-    column->addWidget(comment);
+    txt_Comment = makeNotes("txt_Comment", "Record your comments here");
+    column->addWidget(makeLabel("Comment:", txt_Comment));
     column->addWidget(txt_Comment, 1);
-
-    SSTab1 = new QTabWidget;
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1->addTab(page, QStringLiteral("Water Log Entry"));
-    SSTab1->setFocusPolicy(Qt::NoFocus); // a single tab: nothing to choose
-    cmd_OK = new QPushButton(QStringLiteral("&OK"));
-    cmd_OK->setObjectName(QStringLiteral("cmd_OK"));
-    cmd_OK->setDefault(true);
-    cmd_Exit = new QPushButton(QStringLiteral("Cancel"));
-    cmd_Exit->setObjectName(QStringLiteral("cmd_Exit"));
-    cmd_Exit->setAutoDefault(false);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(cmd_OK);
-    buttons->addWidget(cmd_Exit);
-    auto *outer = new QVBoxLayout(this);
-    outer->addWidget(SSTab1);
-    outer->addLayout(buttons);
-    resize(outer->sizeHint().expandedTo(QSize(640, 0)));
+    cmd_OK = makeButton("cmd_OK", "&OK", true);
+    cmd_Exit = makeButton("cmd_Exit", "Cancel", false);
+    arrange(page, "Water Log Entry", cmd_OK, cmd_Exit);
     connectAll();
 }
 
 QWidget *frm_WaterAddEdit::makeDateRow()
 {
-    txt_date = new MaskedBox;
-    txt_date->setObjectName(QStringLiteral("txt_date"));
-    txt_date->setMask(QStringLiteral("##/##/##"));
-    txt_date->setToolTip(QStringLiteral("Date measurements were taken"));
-    cmd_Caldate = new QPushButton(QIcon(QStringLiteral(":/icons/calendar.svg")), QString());
-    cmd_Caldate->setObjectName(QStringLiteral("cmd_Caldate"));
-    cmd_Caldate->setAccessibleName(QStringLiteral("Choose the date from a calendar"));
-    cmd_Caldate->setToolTip(cmd_Caldate->accessibleName());
-    cmd_Caldate->setAutoDefault(false);
-    txt_time = new MaskedBox;
-    txt_time->setObjectName(QStringLiteral("txt_time"));
-    txt_time->setMask(QStringLiteral("##:##:## ??"));
-    txt_time->setToolTip(QStringLiteral("Time measurements were taken"));
-    auto *dateLabel = new QLabel(QStringLiteral("Date Performed"));
-    dateLabel->setBuddy(txt_date);
-    auto *timeLabel = new QLabel(QStringLiteral("Time Performed"));
-    timeLabel->setBuddy(txt_time);
-
+    txt_date = makeDateBox("txt_date", "Date measurements were taken");
+    cmd_Caldate = makeCalendarButton("cmd_Caldate", QStringLiteral("Choose the date from a calendar"));
+    txt_time = makeTimeBox("txt_time", "Time measurements were taken");
     auto *row = new QWidget;
     auto *line = new QHBoxLayout(row);
     line->setContentsMargins(0, 0, 0, 8);
-    line->addWidget(dateLabel);
+    line->addWidget(makeLabel("Date Performed", txt_date));
     line->addWidget(txt_date);
     line->addWidget(cmd_Caldate);
     line->addSpacing(24);
-    line->addWidget(timeLabel);
+    line->addWidget(makeLabel("Time Performed", txt_time));
     line->addWidget(txt_time);
     line->addStretch(1);
-    const int digit = fontMetrics().horizontalAdvance(u'0');
-    txt_date->setFixedWidth(digit * 12);
-    txt_time->setFixedWidth(digit * 15);
     return row;
 }
 
@@ -163,15 +117,10 @@ void frm_WaterAddEdit::connectAll()
         m_checks.watch(line.box, [this, &line] { return numberIsGood(line); });
         connect(line.upDown, &UpDown::Change, this, guarded([this, &line] { upDown_Change(line); }));
     }
-    m_checks.watch(txt_date, [this] { return dateIsGood(); });
-    m_checks.watch(txt_time, [this] { return timeIsGood(); });
-    m_checks.exempt(cmd_Exit);
-    m_checks.exempt(cmd_Caldate);
-    connect(txt_date, &MaskedBox::ValidationError, this, guarded([this] {
-                refuse(QStringLiteral("You must enter a valad date to add a water quality entry to the log."),
-                       txt_date);
-            }));
-    connect(txt_time, &MaskedBox::ValidationError, this, guarded([this] { refuse(badTime, txt_time); }));
+    m_checks.watch(txt_date, [this] { return txt_date_LostFocus(); });
+    m_checks.watch(txt_time, [this] { return txt_time_LostFocus(); });
+    on(txt_date, &MaskedBox::ValidationError, this, &frm_WaterAddEdit::txt_date_ValidationError);
+    on(txt_time, &MaskedBox::ValidationError, this, &frm_WaterAddEdit::txt_time_ValidationError);
     on(cmd_OK, &QPushButton::clicked, this, &frm_WaterAddEdit::cmd_OK_Click);
     on(cmd_Exit, &QPushButton::clicked, this, &frm_WaterAddEdit::cmd_Exit_Click);
     on(cmd_Caldate, &QPushButton::clicked, this, &frm_WaterAddEdit::cmd_Caldate_Click);
@@ -182,13 +131,6 @@ void frm_WaterAddEdit::Form_Load()
     for (const Line &line : m_lines)
         if (line.measurement->userField)
             line.label->setText(nameOf(*line.measurement));
-}
-
-void frm_WaterAddEdit::Form_Activate()
-{
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FilePrint->Enabled(false);
-    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
 }
 
 QString frm_WaterAddEdit::nameOf(const Measurement &measurement) const
@@ -205,12 +147,6 @@ frm_WaterAddEdit::Line &frm_WaterAddEdit::line(const char *column)
     return m_lines[static_cast<size_t>(&MeasurementOf(QLatin1String(column)) - measurements.data())];
 }
 
-void frm_WaterAddEdit::setDateOrder()
-{
-    const QString &delimiter = g.options.DateDelimiter;
-    txt_date->setMask(u"##" + delimiter + u"##" + delimiter + u"##");
-}
-
 /// The up-down first and the box after it, or its Change would overwrite the text.
 void frm_WaterAddEdit::set(const char *column, int position, const QString &text)
 {
@@ -220,6 +156,7 @@ void frm_WaterAddEdit::set(const char *column, int position, const QString &text
 
 void frm_WaterAddEdit::setDefaults(const QString &waterType)
 {
+    setToNow(*txt_date, *txt_time);
     for (const Line &line : m_lines)
         line.box->setText(QStringLiteral("0"));
     const bool salt = waterType == u"SALT";
@@ -244,20 +181,7 @@ void frm_WaterAddEdit::load(Recordset &row)
     }
 }
 
-void frm_WaterAddEdit::ShowWindow()
-{
-    Form_Activate();
-    txt_date->setFocus();
-    ShowModal();
-}
-
-bool frm_WaterAddEdit::refuse(const QString &text, QWidget *box)
-{
-    Beep();
-    MsgBox(text, vbExclamation, oops);
-    box->setFocus();
-    return false;
-}
+void frm_WaterAddEdit::ShowWindow() { showFrom(txt_date); }
 
 bool frm_WaterAddEdit::numberIsGood(const Line &line)
 {
@@ -275,13 +199,20 @@ bool frm_WaterAddEdit::numberIsGood(const Line &line)
     return good;
 }
 
-bool frm_WaterAddEdit::dateIsGood()
+bool frm_WaterAddEdit::txt_date_LostFocus()
 {
-    return IsDate(NormalizeDateText(txt_date->Text(), g.options.DateOrder)) ||
+    return isDate(*txt_date) ||
            refuse(QStringLiteral("You must enter a valid date to add a water quality log entry to the log."), txt_date);
 }
 
-bool frm_WaterAddEdit::timeIsGood() { return IsBoxTime(txt_time->Text()) || refuse(badTime, txt_time); }
+bool frm_WaterAddEdit::txt_time_LostFocus() { return IsBoxTime(txt_time->Text()) || refuse(badTime, txt_time); }
+
+void frm_WaterAddEdit::txt_date_ValidationError()
+{
+    refuse(QStringLiteral("You must enter a valad date to add a water quality entry to the log."), txt_date);
+}
+
+void frm_WaterAddEdit::txt_time_ValidationError() { refuse(badTime, txt_time); }
 
 void frm_WaterAddEdit::upDown_Change(const Line &line)
 {
@@ -319,11 +250,4 @@ void frm_WaterAddEdit::cmd_OK_Click()
 
 void frm_WaterAddEdit::cmd_Exit_Click() { Unload(*this); }
 
-void frm_WaterAddEdit::cmd_Caldate_Click()
-{
-    g.calendar.SelectedDate = txt_date->ClipText().isEmpty() ? Format(Now().date(), QStringLiteral("mm/dd/yyyy"))
-                                                             : NormalizeDateText(txt_date->Text(), g.options.DateOrder);
-    Form<frm_Caltool>().ShowCalendar(0, 0);
-    if (const auto date = ReadDate(g.calendar.SelectedDate))
-        txt_date->setText(Format(*date, g.options.DatePicture));
-}
+void frm_WaterAddEdit::cmd_Caldate_Click() { pickDate(*txt_date); }

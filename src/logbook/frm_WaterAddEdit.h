@@ -6,26 +6,19 @@
 #include <array>
 
 #include "common/Measurements.h"
-#include "platform/LeavingChecks.h"
-#include "shell/DialogForm.h"
+#include "logbook/EntryForm.h"
 
-class MaskedBox;
 class QGridLayout;
-class QLabel;
-class QPlainTextEdit;
-class QPushButton;
-class QTabWidget;
 class UpDown;
 
-class frm_WaterAddEdit : public DialogForm
+class frm_WaterAddEdit : public EntryForm
 {
     Q_OBJECT
 public:
     frm_WaterAddEdit(Globals &globals, QWidget *parent);
 
     void Form_Load();
-    /// The date box in the user's order and delimiter.
-    void setDateOrder();
+    void setDateOrder() { useDateOrder(*txt_date); }
     /// The values that a new test starts with, by the default water type and not by the tank's.
     void setDefaults(const QString &waterType);
     /// The current row's measurements and comment.
@@ -38,7 +31,6 @@ public:
     QPushButton *cmd_OK;
     QPushButton *cmd_Exit;
     QPushButton *cmd_Caldate;
-    QTabWidget *SSTab1;
 
 private:
     struct Line
@@ -50,7 +42,6 @@ private:
     };
 
     void Cancel() override { cmd_Exit_Click(); }
-    void Form_Activate();
     void makeMeasurement(size_t index, QGridLayout &grid);
     QWidget *makeDateRow();
     void connectAll();
@@ -58,11 +49,13 @@ private:
     QString nameOf(const Measurement &measurement) const;
     void set(const char *column, int position, const QString &text);
 
-    bool refuse(const QString &text, QWidget *box);
     /// Leaving a number box: one bad text can bring up both boxes.
     bool numberIsGood(const Line &line);
-    bool dateIsGood();
-    bool timeIsGood();
+    bool txt_date_LostFocus();
+    bool txt_time_LostFocus();
+    /// A key that the mask refuses.
+    void txt_date_ValidationError();
+    void txt_time_ValidationError();
     void upDown_Change(const Line &line);
     void store();
 
@@ -71,5 +64,4 @@ private:
     void cmd_Caldate_Click();
 
     std::array<Line, 13> m_lines;
-    LeavingChecks m_checks;
 };

@@ -30,8 +30,8 @@ constexpr ButtonRow buttonRows[] = {
     {"addentries", "Add New Entry", &frm_Waterlog::Add_Entries, false},
     {"changeentries", "Change an existing entry", &frm_Waterlog::Change_Entries, false},
     {"deleteentries", "Delete Entry", &frm_Waterlog::Delete_Entries, false},
-    {"moveentries", "Move Livestock to Another Tank", nullptr, true},
-    {"printentries", "Print Log Entries", nullptr, true},
+    {"moveentries", "Move Livestock to Another Tank", &frm_Waterlog::Move_Entries, true},
+    {"printentries", "Print Log Entries", &frm_Waterlog::Print_Entries, true},
     {"graphentries", "View Graph of Entries", nullptr, false},
     {"refresh", "Refresh", &frm_Waterlog::Refresh_Treeview, true},
 };
@@ -73,6 +73,7 @@ frm_Waterlog::frm_Waterlog(Globals &globals, QWidget *parent) : ChildForm(global
     column->addWidget(sb_ListviewCaption);
     column->addWidget(splitter, 1);
     column->addWidget(StatusBar1);
+    setFocusProxy(TreeView1);
     resize(940, 560);
 }
 
@@ -140,8 +141,7 @@ void frm_Waterlog::makeLists()
         connectList(list, tab);
     }
     std::tie(lstv_WaterLog, lstv_Livestock, lstv_Maintenance) = std::tie(m_lists[0], m_lists[1], m_lists[2]);
-    connect(tab_logtype, &QTabWidget::currentChanged, this,
-            guarded([this] { Refresh_Listview(QStringLiteral("ascending")); }));
+    on(tab_logtype, &QTabWidget::currentChanged, this, &frm_Waterlog::tab_logtype_Click);
     QTabBar *bar = tab_logtype->tabBar();
     bar->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(bar, &QTabBar::customContextMenuRequested, this, guarded([this, bar](const QPoint &position) {
@@ -159,7 +159,7 @@ void frm_Waterlog::connectList(ListView *list, int tab)
         on(list, &ListView::Click, this, &frm_Waterlog::list_Click);
 }
 
-void frm_Waterlog::Form_Load() { m_firstActivation = true; }
+void frm_Waterlog::Form_Load() { FirstActivation = true; }
 
 int frm_Waterlog::tab() const { return tab_logtype->currentIndex(); }
 

@@ -1,7 +1,7 @@
 // The logbook: a tree of the tanks, and the three logs of the tank selected, a list each. It holds no data: a list is
 // read afresh whenever something changes. The entry windows are driven from here: a row is opened in a shared
 // recordset, the window's controls are filled, and when the window returns the list is reloaded. What the three logs do
-// alike is here once; what differs between them is data (LogKinds.h) or a path of its own (WaterEntries.cpp).
+// alike is here once; what differs between them is data (LogKinds.h) or a path of its own (EntryPaths.cpp).
 #pragma once
 
 #include <array>
@@ -10,6 +10,7 @@
 #include "logbook/LogKinds.h"
 #include "shell/ChildForm.h"
 
+class frm_LivesAddEdit;
 class MenuEntry;
 class QStatusBar;
 class QTabWidget;
@@ -30,10 +31,14 @@ public:
     void Add_Entries();
     void Change_Entries();
     void Delete_Entries();
+    void Move_Entries();
+    void Print_Entries();
     /// Reloads the list on show: "descending" by date, any other text ascending.
     void Refresh_Listview(const QString &order);
     /// Rebuilds the tree, which ends with "All Tanks" selected, and reloads the list.
     void Refresh_Treeview();
+    /// Rebuilds the tree if the tanks are no longer those that it shows.
+    void Follow_Tanks();
     /// Brings the main menu and the toolbar into step with the log and the tank on show.
     void Update_Menu_Captions();
 
@@ -54,7 +59,7 @@ public:
     ListView *lstv_Maintenance;
 
 private:
-    /// The entry paths of a log; null where it has none.
+    /// The entry paths of a log.
     struct EntryPaths
     {
         void (frm_Waterlog::*add)();
@@ -84,20 +89,38 @@ private:
     void ColumnClick(ListView &list, int index);
     void list_MouseUp(Qt::MouseButton button, const QPoint &position);
     void list_Click();
+    void tab_logtype_Click();
     void TreeView1_NodeClick();
     void TreeView1_MouseUp(const QPoint &position);
 
-    // WaterEntries.cpp
+    // EntryPaths.cpp
+    struct DeletePath;
+    static const std::array<DeletePath, 3> deletePaths;
+
     void AddWaterEntry();
+    void AddLivestockEntry();
+    void AddMaintEntry();
     void Change_EntriesWater();
+    void Change_EntriesLives();
+    void Change_EntriesMaint();
     void Delete_EntriesWater();
-    void askDateMask();
+    void Delete_EntriesLives();
+    void Delete_EntriesMaint();
+    void deleteEntry(const DeletePath &path);
+    /// Key of the row selected in the list on show; empty, after a box with that text, where none is.
+    QString selectedKey(const QString &ifNone);
+    /// The date of a row in the user's order; the second as it stands, month first if it is a date so.
+    QDate dateOfRow(const QString &key) const;
+    QDate dateAsTyped(const QString &key) const;
+    QTime timeOfRow(const QString &key) const;
+    /// The livestock window with the lists of the tank in hand.
+    frm_LivesAddEdit &freshLivestockWindow();
     /// Asks whether an entry may be deleted; `entry` is its description.
     bool mayDelete(const QString &entry);
 
     std::array<ListView *, 3> m_lists{};
     std::map<QString, MenuEntry *> m_buttons;
-    QString m_listSortOrder;
-    bool m_firstActivation = true;
+    QString ListSortOrder;
+    bool FirstActivation = true;
     bool m_nodeJustChanged = false;
 };

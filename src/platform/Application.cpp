@@ -9,7 +9,6 @@
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(QStringLiteral("ostrelmark"));
-    setApplicationDisplayName(QStringLiteral("Ostrelmark"));
     setDesktopFileName(QStringLiteral("ostrelmark"));
     Q_INIT_RESOURCE(icons); // of a static library
     // The windows speak English, and numbers use "." and ",", whatever the system's locale.

@@ -7,9 +7,12 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPrintPreviewDialog>
 #include <QPushButton>
 #include <QRandomGenerator>
 
+#include "platform/Guarded.h"
+#include "platform/PaintedPages.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"
 
@@ -139,6 +142,23 @@ std::optional<PrintDialogAnswer> DesktopDoors::printDialog(const PrintDialogRequ
     answer.toPage = printer.toPage();
     answer.printerName = printer.printerName();
     return answer;
+}
+
+std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
+{
+    return target.pdfFileName.isEmpty() ? PagesOnPrinter(target.printerName) : PagesInPdf(target.pdfFileName);
+}
+
+void DesktopDoors::preview(const PreviewRequest &request)
+{
+    const ActivityKeeper keeper;
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintPreviewDialog dialog(&printer, keeper.window());
+    dialog.setWindowTitle(request.title);
+    dialog.resize(900, 700);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     guarded([&request](QPrinter *pages) { request.print(*PagesOnPrinter(*pages)); }));
+    dialog.exec();
 }
 
 QDateTime DesktopDoors::now() { return QDateTime::currentDateTime(); }

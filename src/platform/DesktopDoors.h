@@ -16,6 +16,8 @@ public:
     void beep() override;
     std::optional<QString> saveDialog(const SaveDialogRequest &request) override;
     std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override;
+    std::unique_ptr<PageSink> openPages(const PageTarget &target) override;
+    void preview(const PreviewRequest &request) override;
     QDateTime now() override;
     double random() override;
     SettingsStore &settings() override { return *m_settings; }

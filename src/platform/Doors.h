@@ -3,11 +3,14 @@
 // of the world. The desktop's own doors are in DesktopDoors.h; those of the tests in tests/support/ScriptedDoors.h.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 
 #include <QDateTime>
 #include <QString>
 
+class PageSink;
 class RuntimeFailure;
 class SettingsStore;
 
@@ -60,6 +63,20 @@ struct PrintDialogAnswer
     QString pdfFileName;
 };
 
+/// Where printed pages go: to a printer, or to a PDF where a file name is given.
+struct PageTarget
+{
+    QString printerName;
+    QString pdfFileName;
+};
+
+struct PreviewRequest
+{
+    QString title;
+    /// Prints the whole document; may be called again and again.
+    std::function<void(PageSink &)> print;
+};
+
 class Doors
 {
 public:
@@ -71,6 +88,10 @@ public:
     /// Absolute path of the file chosen, or nothing if the dialog was cancelled.
     virtual std::optional<QString> saveDialog(const SaveDialogRequest &request) = 0;
     virtual std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) = 0;
+    /// Pages to print on. A PDF is complete when its document has ended, or not there at all.
+    virtual std::unique_ptr<PageSink> openPages(const PageTarget &target) = 0;
+    /// Shows a document on the screen and waits until the keeper has closed it.
+    virtual void preview(const PreviewRequest &request) = 0;
     virtual QDateTime now() = 0;
     /// A random number from 0 up to, and without, 1.
     virtual double random() = 0;

@@ -8,7 +8,7 @@
 
 void LeavingChecks::watch(QWidget *box, Check check)
 {
-    m_checks.insert(box, std::move(check));
+    m_checks.emplace(box, std::move(check));
     box->installEventFilter(this);
 }
 
@@ -59,9 +59,10 @@ bool LeavingChecks::runPending()
     // The focus is put back while this still runs, so that the box it comes from is not asked in its turn.
     if (!passed && box && m_window->isVisible())
         box->setFocus(Qt::OtherFocusReason);
-    // A box that passed but keeps the focus may yet be changed, without a new FocusIn.
-    if (passed && m_window->focusWidget() != box)
-        m_pending = nullptr;
+    // A box that passed but keeps the focus may yet be changed, without a new FocusIn. Where the check moved the focus
+    // itself, its FocusIn has gone by.
+    if (QWidget *now = m_window->focusWidget(); passed && now != box)
+        m_pending = m_checks.contains(now) ? now : nullptr;
     return passed;
 }
 

@@ -105,3 +105,10 @@ private:
     int m_sortOrder = 0;
     bool m_doubleClicked = false; ///< its release is no click of its own
 };
+
+/// What every list of a child window has: rows selected whole, and headers that can be dragged.
+inline void SetListViewStyle(ListView &list)
+{
+    list.setFullRowSelect(true);
+    list.setHeaderDragDrop(true);
+}

@@ -113,23 +113,34 @@ QString MaskedBox::ClipText() const
 
 void MaskedBox::keyPressEvent(QKeyEvent *event)
 {
-    const QString typed = event->text();
-    const bool control = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
-    if (m_mask.isEmpty() || isReadOnly() || event->matches(QKeySequence::Undo))
+    if (m_mask.isEmpty() || isReadOnly() || !takeKey(*event))
         QLineEdit::keyPressEvent(event);
-    else if (event->matches(QKeySequence::Paste))
+}
+
+/// The keys that change a masked text.
+bool MaskedBox::takeKey(const QKeyEvent &event)
+{
+    const QString typed = event.text();
+    const bool back = event.key() == Qt::Key_Backspace;
+    if (event.matches(QKeySequence::Undo)) // may be a key with Backspace
+        return false;
+    if (event.matches(QKeySequence::Paste))
         paste();
-    else if (event->matches(QKeySequence::Cut))
+    else if (event.matches(QKeySequence::Cut))
         cut();
-    else if (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete) {
-        int from = cursorPosition() - (event->key() == Qt::Key_Backspace ? 1 : 0);
-        while (event->key() == Qt::Key_Backspace && from > 0 && !isPlace(m_mask.at(from)))
+    else if ((back || event.key() == Qt::Key_Delete) && hasSelectedText())
+        blank(selectionStart(), selectionEnd());
+    else if (back || event.key() == Qt::Key_Delete) {
+        int from = cursorPosition() - (back ? 1 : 0);
+        while (back && from > 0 && !isPlace(m_mask.at(from)))
             --from;
-        hasSelectedText() ? blank(selectionStart(), selectionEnd()) : blank(from, from + 1);
-    } else if (!typed.isEmpty() && typed.at(0).isPrint() && !control)
+        blank(from, from + 1);
+    } else if (!typed.isEmpty() && typed.at(0).isPrint() &&
+               !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
         enter(typed);
     else
-        QLineEdit::keyPressEvent(event);
+        return false;
+    return true;
 }
 
 void MaskedBox::inputMethodEvent(QInputMethodEvent *event)

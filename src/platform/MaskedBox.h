@@ -43,6 +43,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    bool takeKey(const QKeyEvent &event);
     void enter(const QString &characters);
     void paste();
     void cut();

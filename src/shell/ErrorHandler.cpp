@@ -1,6 +1,5 @@
 #include "shell/ErrorHandler.h"
 
-#include "platform/Doors.h"
 #include "platform/RuntimeFailure.h"
 #include "shell/Globals.h"
 
@@ -19,9 +18,10 @@ QString messageOf(const RuntimeFailure &failure, const QString &duplicateText)
 
 } // namespace
 
-void HandleError(Globals &globals, const RuntimeFailure &failure, const QString &duplicateText)
+void HandleError(Globals &globals, const RuntimeFailure &failure, const QString &duplicateText, int boxFlags,
+                 const QString &title)
 {
     globals.gMessage = messageOf(failure, duplicateText);
     Beep();
-    MsgBox(globals.gMessage);
+    MsgBox(globals.gMessage, boxFlags, title);
 }

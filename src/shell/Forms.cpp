@@ -54,8 +54,10 @@ void Forms::showModal(QDialog &dialog)
     const Pin pin(dialog);
     const QPointer<QWidget> before = QApplication::activeWindow();
     dialog.exec();
-    if (before && before->isVisible())
-        before->activateWindow(); // without a window manager nobody else gives the activity back
+    // Without a window manager nobody else gives the activity back. Before it there may have been a menu, or no window.
+    QWidget *back = before && before->isVisible() ? before.data() : dialog.parentWidget();
+    if (back && back->isVisible())
+        back->activateWindow();
 }
 
 Forms::Pin::Pin(QWidget &form) : m_form(&form) { ++current().m_holds[&form].pins; }

@@ -38,6 +38,12 @@ struct TankDialogMembers
     QString DialogMode; ///< "add" or "edit"
 };
 
+/// Public members of frm_LivesMove.
+struct LivesMoveMembers
+{
+    bool MoveCancelled = true; ///< nothing has been moved
+};
+
 struct Globals
 {
     QString gDatabaseName;
@@ -67,6 +73,7 @@ struct Globals
     OptionsMembers options;
     CalendarMembers calendar;
     TankDialogMembers tankDialog;
+    LivesMoveMembers livesMove;
 
     /// How long the splash screen stays; tests set it to 0.
     int splashMilliseconds = 2000;

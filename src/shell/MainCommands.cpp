@@ -8,6 +8,7 @@
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
 #include "shell/Arrange.h"
+#include "shell/ChildForm.h"
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/frm_OMKOptions.h"
@@ -16,6 +17,17 @@
 #include "tanks/frm_TankMaint.h"
 
 namespace {
+
+/// What "Print" does while a child of that name is in front.
+struct PrintRow
+{
+    const char *child;
+    void (*print)();
+};
+
+constexpr PrintRow printRows[] = {
+    {"FRM_WATERLOG", [] { Form<frm_Waterlog>().Print_Entries(); }},
+};
 
 /// The logbook, if it is on the screen.
 frm_Waterlog *visibleLogbook()
@@ -44,6 +56,17 @@ void frm_OMKMDIMain::mnu_FileDelete_Click()
         logbook->Delete_Entries();
 }
 
+void frm_OMKMDIMain::mnu_FileMoveEntry_Click() { Form<frm_Waterlog>().Move_Entries(); }
+
+void frm_OMKMDIMain::mnu_FilePrint_Click()
+{
+    if (!m_activeChild)
+        return;
+    for (const PrintRow &row : printRows)
+        if (m_activeChild->objectName().toUpper() == QLatin1String(row.child))
+            row.print();
+}
+
 void frm_OMKMDIMain::mnu_FilePageSetup_Click()
 {
     // The dialog sets up the printer itself; pages and copies asked for here are not used.
@@ -68,6 +91,8 @@ void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
 {
     Form<frm_TankMaint>().Show_List();
     CheckTanks();
+    if (auto *logbook = visibleLogbook())
+        logbook->Follow_Tanks(); // an entry for a tank that is gone would be lost to sight
 }
 
 void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>()); }

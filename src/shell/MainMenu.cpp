@@ -50,11 +50,11 @@ constexpr EntryRow entryRows[] = {
     {&MainMenu::mnu_File, ENTRY(mnu_FileNew), "&New Log Entry", 'N', Disabled, &Main::mnu_FileNew_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_FileOpen), "&Open Log Entry", 'O', Disabled, &Main::mnu_FileOpen_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_FileDelete), "&Delete Log Entry", 0, Disabled, &Main::mnu_FileDelete_Click},
-    {&MainMenu::mnu_File, ENTRY(mnu_FileMoveEntry), "&Move Log Entry...", 0, Disabled, nullptr},
+    {&MainMenu::mnu_File, ENTRY(mnu_FileMoveEntry), "&Move Log Entry...", 0, Disabled, &Main::mnu_FileMoveEntry_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_FileBackup), "&Backup Database", 0, SeparatorBefore, nullptr},
     {&MainMenu::mnu_File, ENTRY(mnu_FileProperties), "Propert&ies", 0, Hidden | Disabled, nullptr},
     {&MainMenu::mnu_File, ENTRY(mnu_FilePageSetup), "Page Set&up...", 0, Hidden, &Main::mnu_FilePageSetup_Click},
-    {&MainMenu::mnu_File, ENTRY(mnu_FilePrint), "&Print", 0, Disabled | SeparatorBefore, nullptr},
+    {&MainMenu::mnu_File, ENTRY(mnu_FilePrint), "&Print", 0, Disabled | SeparatorBefore, &Main::mnu_FilePrint_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_Exit), "&Exit", 0, SeparatorBefore, &Main::mnu_Exit_Click},
 
     {&MainMenu::mnu_Edit, ENTRY(mnu_EditUndo), "&Undo", 0, Plain, nullptr},
@@ -101,7 +101,7 @@ constexpr EntryRow entryRows[] = {
     {&MainMenu::mnu_LogPopup, ENTRY(mnu_Logpopup_Open), "Open", 0, Plain, &Main::mnu_FileOpen_Click},
     {&MainMenu::mnu_LogPopup, ENTRY(mnu_LogPopup_Delete), "Delete", 0, Plain, &Main::mnu_FileDelete_Click},
     {&MainMenu::mnu_LogPopup, ENTRY(mnu_movesep), "", 0, Plain, nullptr},
-    {&MainMenu::mnu_LogPopup, ENTRY(mnu_LogPopup_Move), "Move to Tank...", 0, Plain, nullptr},
+    {&MainMenu::mnu_LogPopup, ENTRY(mnu_LogPopup_Move), "Move to Tank...", 0, Plain, &Main::mnu_FileMoveEntry_Click},
 
     {&MainMenu::mnu_GraphPopup, ENTRY(mnu_GraphOptions), "Graph Options", 0, Plain, &Main::mnu_GraphOptions_Click},
 };

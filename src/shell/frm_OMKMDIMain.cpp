@@ -141,6 +141,7 @@ void frm_OMKMDIMain::MDIForm_Load()
     QApplication::processEvents();
     Top20List();
     show();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // painted, before the splash is made ready
     showSplash();
     tipIsDue();
     if (!isEnding())
@@ -250,13 +251,17 @@ void frm_OMKMDIMain::changeEvent(QEvent *event)
         guarded([this] { MDIForm_Activate(); })();
 }
 
+void frm_OMKMDIMain::MDIForm_Unload()
+{
+    for (QMdiSubWindow *frame : m_area->subWindowList())
+        frame->close();
+    if (auto *options = Forms::current().loaded<frm_OMKOptions>())
+        Unload(*options);
+}
+
 void frm_OMKMDIMain::closeEvent(QCloseEvent *event)
 {
-    guarded([this] {
-        for (QMdiSubWindow *frame : m_area->subWindowList())
-            frame->close();
-        Unload(Form<frm_OMKOptions>());
-    })();
+    guarded([this] { MDIForm_Unload(); })();
     QMainWindow::closeEvent(event);
 }
 

@@ -30,6 +30,8 @@ public:
     void MDIForm_Load();
     /// Tells the active child that it is in front: after a dialog, or another program, closed over it.
     void MDIForm_Activate();
+    /// Closes the children, which store what they keep, and unloads the window that holds the settings.
+    void MDIForm_Unload();
 
     /// Shows a window among the children and gives it the focus.
     void ShowChild(ChildForm &child);
@@ -44,7 +46,9 @@ public:
     void mnu_FileNew_Click();
     void mnu_FileOpen_Click();
     void mnu_FileDelete_Click();
+    void mnu_FileMoveEntry_Click();
     void mnu_FilePageSetup_Click();
+    void mnu_FilePrint_Click();
     void mnu_Exit_Click();
     void mnu_ViewToolbar_Click();
     void mnu_ViewStatusbar_Click();

@@ -16,20 +16,21 @@
 
 namespace {
 
-/// Paints the picture afresh at any size and scale, and keeps its ratio.
+/// Paints the picture afresh at any scale. It is read when it is first seen, not at the start of the program.
 class Picture : public QWidget
 {
 public:
-    Picture() : m_drawing(QStringLiteral(":/icons/about.svg"))
+    Picture()
     {
-        m_drawing.setAspectRatioMode(Qt::KeepAspectRatio);
         setAccessibleName(QStringLiteral("A planted aquarium with fish"));
-        setFixedSize(m_drawing.isValid() ? m_drawing.defaultSize() : QSize(480, 270));
+        setFixedSize(480, 270);
     }
 
 protected:
     void paintEvent(QPaintEvent *) override
     {
+        if (!m_drawing.isValid())
+            m_drawing.load(QStringLiteral(":/icons/about.svg"));
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         m_drawing.render(&painter, QRectF(rect()));

@@ -106,8 +106,8 @@ bool Connection::inTransaction() const { return m_handle && !sqlite3_get_autocom
 void Connection::fail(int code, const QString &doing) const
 {
     QString words = doing;
-    if (m_handle)
-        words += QStringLiteral("\n(%1)").arg(QString::fromUtf8(sqlite3_errmsg(m_handle)));
+    const bool isLast = m_handle && sqlite3_extended_errcode(m_handle) == code;
+    words += QStringLiteral("\n(%1)").arg(QString::fromUtf8(isLast ? sqlite3_errmsg(m_handle) : sqlite3_errstr(code)));
     for (const FailureOfCode &row : failures) {
         if (row.code != code && row.code != primary(code))
             continue;

@@ -1,3 +1,4 @@
+#include "platform/Files.h"
 #include "store/Database.h"
 
 #include <QDir>
@@ -90,7 +91,7 @@ void requireQuery(const Statement &statement, const QString &sql)
 
 std::unique_ptr<Database> Database::OpenDatabase(const QString &fileName, Access access)
 {
-    const QString path = findDatabaseFile(fileName);
+    const QString path = FindFile(fileName);
     if (path.isEmpty()) {
         const QFileInfo wanted(fileName);
         const QString name = wanted.fileName().isEmpty() ? QStringLiteral("(no name)") : wanted.fileName();

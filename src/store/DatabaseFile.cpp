@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -62,19 +61,6 @@ qint64 oneNumber(const std::shared_ptr<Connection> &connection, const QString &s
 }
 
 } // namespace
-
-QString findDatabaseFile(const QString &fileName)
-{
-    const QFileInfo exact(fileName);
-    if (fileName.isEmpty() || exact.isFile())
-        return fileName.isEmpty() ? QString() : exact.absoluteFilePath();
-    const QDir folder = exact.absoluteDir();
-    const QDir::Filters files = QDir::Files | QDir::Hidden | QDir::System;
-    for (const QString &name : folder.entryList(files, QDir::Name))
-        if (name.compare(exact.fileName(), Qt::CaseInsensitive) == 0 && QFileInfo(folder, name).isFile())
-            return folder.absoluteFilePath(name);
-    return {};
-}
 
 void requireWritable(const QString &path)
 {

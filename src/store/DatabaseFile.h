@@ -9,10 +9,6 @@
 
 class Connection;
 
-/// The absolute path of the file of that name, in its folder, whatever the case of the name; the exact name wins. Empty
-/// if there is none.
-QString findDatabaseFile(const QString &fileName);
-
 /// Throws PermissionDenied where the file or its folder, which needs room for the journal, cannot be written.
 void requireWritable(const QString &path);
 

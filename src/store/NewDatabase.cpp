@@ -1,3 +1,4 @@
+#include "platform/Files.h"
 #include "store/NewDatabase.h"
 
 #include <cerrno>
@@ -13,6 +14,7 @@
 #include "store/Connection.h"
 #include "store/DatabaseFile.h"
 #include "store/schema.h"
+#include "store/Version.h"
 #include "store/WordList.h"
 
 namespace {
@@ -92,7 +94,7 @@ void writeRows(const std::shared_ptr<Connection> &connection, const QString &doi
         QStringLiteral("INSERT INTO CONFIG (default_salt, default_fresh, user_fieldname1, user_fieldname2, db_version) "
                        "VALUES (1, 0, 'User Field 1', 'User field 2', ?)"),
         doing);
-    config.bind({QString::fromLatin1(schema::databaseVersion)});
+    config.bind({presentDatabaseVersion});
     config.run();
     const auto addWord = [&](const char *name, const char *type) {
         Statement add(connection, QStringLiteral("INSERT INTO ANIMALLIST (animalname, AnimalType) VALUES (?, ?)"),
@@ -110,7 +112,7 @@ void writeRows(const std::shared_ptr<Connection> &connection, const QString &doi
 
 void CreateDatabase(const QString &fileName)
 {
-    if (const QString there = findDatabaseFile(fileName); !there.isEmpty())
+    if (const QString there = FindFile(fileName); !there.isEmpty())
         throwExists(there);
     const QString path = QFileInfo(fileName).absoluteFilePath();
     const QString doing = QStringLiteral("Making the database %1.").arg(path);

@@ -10,11 +10,9 @@ namespace schema {
 
 /// Marks an SQLite file as one of ours ("OMKA"); in its header since the file was made.
 inline constexpr qint32 applicationId = 0x4F4D4B41;
-/// Number of the schema in the file's header: version 2.0.
+/// Number of the schema in the file's header: version 2.0. What decides about an upgrade is CONFIG.db_version
+/// (Version.h).
 inline constexpr int userVersion = 20;
-
-/// The present value of CONFIG.db_version; four characters, the blank is one of them.
-inline constexpr const char *databaseVersion = "2.0 ";
 
 struct Table
 {

@@ -40,7 +40,7 @@ frm_TankAddNew::frm_TankAddNew(Globals &globals, QWidget *parent) : DialogForm(g
                 g.gTankWaterType = QLatin1String(code);
         });
     }
-    m_checks.watch(txt_tanksize, [this] { return tanksizeIsGood(); });
+    m_checks.watch(txt_tanksize, [this] { return txt_tanksize_LostFocus(); });
     m_checks.exempt(cmd_Cancel);
     on(cmd_OK, &QPushButton::clicked, this, &frm_TankAddNew::cmd_OK_Click);
     on(cmd_Cancel, &QPushButton::clicked, this, &frm_TankAddNew::cmd_Cancel_Click);
@@ -124,7 +124,7 @@ bool frm_TankAddNew::fieldsAreGood()
     return true;
 }
 
-bool frm_TankAddNew::tanksizeIsGood()
+bool frm_TankAddNew::txt_tanksize_LostFocus()
 {
     if (txt_tanksize->text().isEmpty() || IsNumeric(txt_tanksize->text()))
         return true;

@@ -27,7 +27,7 @@ private:
     /// Checks in their order; false, after its box, at the first fault.
     bool fieldsAreGood();
     bool refuse(const QString &text, QWidget *box);
-    bool tanksizeIsGood();
+    bool txt_tanksize_LostFocus();
     /// A new tank's identity: the date and time of its making; a tank made in the same second gets the next free one.
     QString newTankId();
     void store();

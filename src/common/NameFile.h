@@ -1,0 +1,26 @@
+// Reads a name file: one record a line, common name in characters 1 to 49, Latin name from 50 on; lines that are empty,
+// begin with
+// "!" or are shorter than 51 characters are no records. The livestock window and the names window both read here. Line
+// ends of any system, a byte order mark, UTF-8 or Latin-1 letters, and a last line without an end are all read; no name
+// is lost.
+#pragma once
+
+#include <functional>
+
+#include <QString>
+
+struct NameRecord
+{
+    QString common; ///< turned about, so that the family name leads: "Tang - Yellow "
+    QString latin;
+};
+
+/// A name of two or more words, turned about at its last blank: last word, " - ", and what stood before it with its
+/// blank.
+QString TurnAbout(const QString &name);
+
+/// Hands over each record, and after each the progress text: "Loading." with a dot more for each 20th name, anew at
+/// each 2000th. Returns the count. Throws RuntimeFailure (FileNotFound, PermissionDenied) where the file cannot be
+/// read.
+int ReadNameFile(const QString &fileName, const std::function<void(NameRecord)> &take,
+                 const std::function<void(const QString &)> &progress);

@@ -1,0 +1,150 @@
+#include "logbook/EntryForm.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QIcon>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "common/frm_Caltool.h"
+#include "platform/Doors.h"
+#include "platform/MaskedBox.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/MenuEntry.h"
+#include "text/Dates.h"
+
+EntryForm::EntryForm(Globals &globals, QWidget *parent) : DialogForm(globals, parent), m_checks(this) {}
+
+MaskedBox *EntryForm::makeDateBox(const char *name, const char *toolTip)
+{
+    auto *box = new MaskedBox;
+    box->setObjectName(QLatin1String(name));
+    box->setMask(QStringLiteral("##/##/##"));
+    box->setToolTip(QLatin1String(toolTip));
+    box->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 12);
+    return box;
+}
+
+MaskedBox *EntryForm::makeTimeBox(const char *name, const char *toolTip)
+{
+    auto *box = new MaskedBox;
+    box->setObjectName(QLatin1String(name));
+    box->setMask(QStringLiteral("##:##:## ??"));
+    box->setToolTip(QLatin1String(toolTip));
+    box->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 15);
+    return box;
+}
+
+QPushButton *EntryForm::makeCalendarButton(const char *name, const QString &whatFor)
+{
+    auto *button = new QPushButton(QIcon(QStringLiteral(":/icons/calendar.svg")), QString());
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(whatFor);
+    button->setToolTip(whatFor);
+    button->setAutoDefault(false);
+    m_checks.exempt(button);
+    return button;
+}
+
+QPushButton *EntryForm::makeButton(const char *name, const char *caption, bool isDefault)
+{
+    auto *button = new QPushButton(QLatin1String(caption));
+    button->setObjectName(QLatin1String(name));
+    button->setDefault(isDefault);
+    button->setAutoDefault(isDefault);
+    return button;
+}
+
+QPlainTextEdit *EntryForm::makeNotes(const char *name, const char *toolTip)
+{
+    auto *notes = new QPlainTextEdit;
+    notes->setObjectName(QLatin1String(name));
+    notes->setToolTip(QLatin1String(toolTip));
+    notes->setTabChangesFocus(true);
+    notes->setMinimumHeight(fontMetrics().lineSpacing() * 6);
+    return notes;
+}
+
+QComboBox *EntryForm::makeCombo(const char *name)
+{
+    auto *combo = new QComboBox;
+    combo->setObjectName(QLatin1String(name));
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(24);
+    combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
+    combo->completer()->setFilterMode(Qt::MatchContains);
+    return combo;
+}
+
+QLabel *EntryForm::makeLabel(const char *caption, QWidget *buddy)
+{
+    auto *label = new QLabel(QLatin1String(caption));
+    label->setBuddy(buddy);
+    return label;
+}
+
+void EntryForm::arrange(QWidget *page, const char *tabCaption, QPushButton *ok, QPushButton *cancel)
+{
+    auto *tabs = new QTabWidget;
+    tabs->setObjectName(QStringLiteral("SSTab1"));
+    tabs->addTab(page, QLatin1String(tabCaption));
+    tabs->setFocusPolicy(Qt::NoFocus); // a single tab: nothing to choose
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    m_checks.exempt(cancel);
+    auto *outer = new QVBoxLayout(this);
+    outer->addWidget(tabs);
+    outer->addLayout(buttons);
+    resize(outer->sizeHint().expandedTo(QSize(640, 0)));
+}
+
+void EntryForm::useDateOrder(MaskedBox &box) const
+{
+    const QString &delimiter = g.options.DateDelimiter;
+    box.setMask(u"##" + delimiter + u"##" + delimiter + u"##");
+}
+
+void EntryForm::setToNow(MaskedBox &date, MaskedBox &time) const
+{
+    const QDateTime now = Now();
+    date.setText(Format(now.date(), g.options.DatePicture));
+    time.setText(Format(now.time(), QStringLiteral("hh:mm:ss am/pm")));
+}
+
+void EntryForm::pickDate(MaskedBox &box)
+{
+    g.calendar.SelectedDate = box.ClipText().isEmpty() ? Format(Now().date(), QStringLiteral("mm/dd/yyyy"))
+                                                       : NormalizeDateText(box.Text(), g.options.DateOrder);
+    Form<frm_Caltool>().ShowCalendar(0, 0);
+    if (const auto date = ReadDate(g.calendar.SelectedDate))
+        box.setText(Format(*date, g.options.DatePicture));
+}
+
+bool EntryForm::refuse(const QString &text, QWidget *box, const QString &title)
+{
+    Beep();
+    MsgBox(text, vbExclamation, title);
+    box->setFocus();
+    return false;
+}
+
+bool EntryForm::isDate(const MaskedBox &box) const
+{
+    return IsDate(NormalizeDateText(box.Text(), g.options.DateOrder));
+}
+
+void EntryForm::showFrom(QWidget *first)
+{
+    auto &main = Form<frm_OMKMDIMain>();
+    main.mnu_FilePrint->Enabled(false);
+    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
+    first->setFocus();
+    ShowModal();
+}

@@ -1,0 +1,49 @@
+// What the entry windows of the three logs have in common: date boxes in the user's order with a calendar beside them,
+// a time box, the box that refuses a value, the closing buttons. What differs (checks, their order and words) is each
+// window's own.
+#pragma once
+
+#include "platform/LeavingChecks.h"
+#include "shell/DialogForm.h"
+
+class MaskedBox;
+class QBoxLayout;
+class QComboBox;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+
+class EntryForm : public DialogForm
+{
+protected:
+    EntryForm(Globals &globals, QWidget *parent);
+
+    // Makers of controls, each under its name.
+    MaskedBox *makeDateBox(const char *name, const char *toolTip);
+    MaskedBox *makeTimeBox(const char *name, const char *toolTip);
+    QPushButton *makeCalendarButton(const char *name, const QString &whatFor);
+    QPushButton *makeButton(const char *name, const char *caption, bool isDefault);
+    QPlainTextEdit *makeNotes(const char *name, const char *toolTip);
+    /// A box of free text with a list of what was used before; typing never changes what was typed.
+    QComboBox *makeCombo(const char *name);
+    QLabel *makeLabel(const char *caption, QWidget *buddy);
+    /// The page of the fields under its one tab, and the buttons below it.
+    void arrange(QWidget *page, const char *tabCaption, QPushButton *ok, QPushButton *cancel);
+
+    /// A date box in the user's order and delimiter; emptied.
+    void useDateOrder(MaskedBox &box) const;
+    /// Today and now, as a new entry starts.
+    void setToNow(MaskedBox &date, MaskedBox &time) const;
+    /// Opens the calendar on the box's date, or on today, and puts the choice into the box.
+    void pickDate(MaskedBox &box);
+
+    /// A beep and a warning; the focus goes back to the box. False, so that a check can end with it.
+    bool refuse(const QString &text, QWidget *box, const QString &title = QStringLiteral("Oops!"));
+    /// The date of a box, read in the user's order; nothing where it is none.
+    bool isDate(const MaskedBox &box) const;
+
+    /// Shows the window with the focus in that box.
+    void showFrom(QWidget *first);
+
+    LeavingChecks m_checks;
+};

@@ -1,0 +1,244 @@
+#include "logbook/LogReports.h"
+
+#include <array>
+
+#include "platform/Doors.h"
+#include "platform/Printer.h"
+#include "store/Database.h"
+#include "text/Dates.h"
+#include "text/Numbers.h"
+
+namespace {
+
+struct ReportColumn
+{
+    const char *head;
+    double left;        ///< fraction of the page's width
+    const char *column; ///< of the query; null for date and time
+    const char *picture;
+};
+
+struct LogReport
+{
+    const char *dialogTitle;
+    const char *title;
+    const char *empty;
+    bool landscape;
+    const char *select; ///< up to the tank filter
+    const char *orderBy;
+    const char *dateColumn;
+    const char *timeColumn;
+    std::vector<ReportColumn> columns;
+};
+
+constexpr auto water = "###0.000";
+constexpr auto tankFilter = " and t.tankid = ? ";
+
+// By LogTab. The heads "Custom1" and "Custom2" are fixed: the keeper's names for these two do not reach this report.
+const std::array<LogReport, 3> reports = {{
+    {"Print Water Quality Log",
+     "Ostrelmark Water Quality Log",
+     "No water quality entries were found for this tank. No log was printed.",
+     true,
+     "SELECT t.Tankname as tankname, t.Tankdesc, t.Tanksize, w.logdate, w.logtime, w.ph, w.Ammonia, w.nitrite, "
+     "w.nitrate, "
+     "w.sg, w.temp, w.oxygen, w.dkh, w.calcium, w.copper, w.orp, w.custom1, w.custom2, w.Comment "
+     "FROM Tanklst t, waterlog w where w.tankname = t.tankid ",
+     " ORDER BY t.Tankname COLLATE CASEBLIND, w.logdate, w.logtime",
+     "logdate",
+     "logtime",
+     {{"Date /Time Added", 0, nullptr, nullptr},
+      {"Ammonia", 1 / 15., "Ammonia", water},
+      {"Nitrite", 3 / 15., "nitrite", water},
+      {"Nitrate", 4 / 15., "nitrate", water},
+      {"ph", 5 / 15., "ph", water},
+      {"s.g.", 6 / 15., "sg", water},
+      {"Temp", 7 / 15., "temp", water},
+      {"o2", 8 / 15., "oxygen", water},
+      {"dkh", 9 / 15., "dkh", water},
+      {"Calcium", 10 / 15., "calcium", water},
+      {"Copper", 11 / 15., "copper", water},
+      {"Redox", 12 / 15., "orp", water},
+      {"Custom1", 13 / 15., "custom1", water},
+      {"Custom2", 14 / 15., "custom2", water}}},
+    {"Print Livestock Log",
+     "Ostrelmark Livestock Log",
+     "No Livestock entries were found for this tank. No log was printed.",
+     false,
+     "SELECT t.Tankname, t.Tankdesc, t.Tanksize, l.Dateadded, l.Timeadded, l.animalname, l.status, l.quantity "
+     "FROM Tanklst t, livestock L where l.tankname = t.tankid ",
+     " ORDER BY t.Tankname COLLATE CASEBLIND, l.DateAdded, l.Timeadded",
+     "Dateadded",
+     "Timeadded",
+     {{"Date /Time Added", 0, nullptr, nullptr},
+      {"Animal", 1 / 4., "animalname", nullptr},
+      {"Quantity", 1 - 1 / 4., "quantity", nullptr},
+      {"Status", 1 - 1 / 8., "status", nullptr}}},
+    {"Print Maintenance Log",
+     "Ostrelmark Maintenance Log",
+     "No Maintenance entries were found for this tank. No log was printed.",
+     false,
+     "SELECT t.Tankname, t.Tankdesc, t.Tanksize, m.maintlogdate, m.maintlogtime, m.maintlogtask, m.maintlogqty, "
+     "m.maintlogunit, "
+     "m.maintlogdesc, m.maintlognote FROM Tanklst t, maintlog m where m.mainttankname = t.tankid ",
+     " ORDER BY t.Tankname COLLATE CASEBLIND, m.maintlogdate, m.maintlogtime",
+     "maintlogdate",
+     "maintlogtime",
+     {{"Date /Time Performed", 0, nullptr, nullptr}, {"Task Performed", 1 / 4., "maintlogtask", nullptr}}},
+}};
+
+constexpr double gap = 1 / 160.; ///< of the page's width, kept free between two columns
+
+void setFont(Printer &page, const char *name, double size, bool bold = false, bool italic = false)
+{
+    page.Font = {QLatin1String(name), size, bold, italic, false};
+}
+
+/// One run of a report over its rows.
+class LogRun
+{
+public:
+    LogRun(LogTab log, Database &database, const QString &datePicture, const std::optional<QString> &tankId) :
+        m_log(log), m_report(reports[log]), m_database(database), m_datePicture(datePicture), m_tankId(tankId)
+    {
+    }
+
+    bool open()
+    {
+        const QString sql = QLatin1String(m_report.select) + QLatin1String(m_tankId ? tankFilter : "") +
+                            QLatin1String(m_report.orderBy);
+        m_rows = m_database.OpenRecordset(sql, m_tankId ? Parameters{*m_tankId} : Parameters{});
+        return !m_rows.isEmpty();
+    }
+
+    void print(Printer &page)
+    {
+        const bool orientation = page.Landscape();
+        if (m_report.landscape)
+            page.setLandscape(true);
+        bool firstTank = true;
+        QString tank;
+        int pageNumber = 1;
+        for (m_rows.MoveFirst(); !m_rows.EOF_();) {
+            if (const QString name = text("Tankname"); firstTank || name != tank) {
+                if (!firstTank)
+                    page.NewPage();
+                firstTank = false;
+                tank = name;
+                pageNumber = 1;
+                printTop(page, QLatin1String(m_report.title), pageNumber);
+            }
+            printEntry(page);
+            m_rows.MoveNext();
+            // The position across is held against a height, so this never comes: a long tank runs on by the page's own
+            // feed.
+            if (page.CurrentX > page.ScaleHeight() - page.ScaleHeight() / 11 && !m_rows.EOF_()) {
+                page.NewPage();
+                printTop(page, QStringLiteral("Ostrelmark Livestock Log"), ++pageNumber);
+            }
+        }
+        page.EndDoc();
+        if (m_report.landscape)
+            page.setLandscape(orientation);
+    }
+
+private:
+    QString text(const char *column) { return m_rows[QLatin1String(column)].text(); }
+
+    void printTop(Printer &page, const QString &title, int pageNumber)
+    {
+        PrintPageHeadings(page, title, text("Tankname"), text("Tanksize"), text("Tankdesc"), pageNumber, m_datePicture);
+        std::vector<PrintCell> heads;
+        for (size_t i = 0; i < m_report.columns.size(); ++i)
+            heads.push_back(cell(page, i, QLatin1String(m_report.columns[i].head)));
+        page.Font.underline = true;
+        page.PrintRow(heads);
+        page.Font.underline = false;
+        page.Print({});
+    }
+
+    /// A cell of that column, which ends a little before the next begins.
+    PrintCell cell(const Printer &page, size_t column, const QString &content) const
+    {
+        const bool last = column + 1 == m_report.columns.size();
+        const double right = last ? 1 : m_report.columns[column + 1].left - gap;
+        return {m_report.columns[column].left * page.ScaleWidth(), right * page.ScaleWidth(), content, false};
+    }
+
+    QString cellText(const ReportColumn &column)
+    {
+        const Value value = m_rows[QLatin1String(column.column)].value();
+        return column.picture && !value.isNull() ? Format(value.toDouble(), QLatin1String(column.picture))
+                                                 : value.text();
+    }
+
+    void printEntry(Printer &page)
+    {
+        std::vector<PrintCell> cells;
+        for (size_t i = 0; i < m_report.columns.size(); ++i) {
+            if (m_report.columns[i].column) {
+                cells.push_back(cell(page, i, cellText(m_report.columns[i])));
+                continue;
+            }
+            // Date and time stand whole in their column: in the narrow one of the water log on two lines, smaller if
+            // need be.
+            const QString date = Format(m_rows[QLatin1String(m_report.dateColumn)].value().toDate(), m_datePicture);
+            const QString time =
+                Format(m_rows[QLatin1String(m_report.timeColumn)].value().toTime(), QStringLiteral("hh:mm:ss AM/PM"));
+            cells.push_back(cell(page, i, date + (m_log == WaterTab ? u" -\n" : u" - ") + time));
+            cells.back().shrink = true;
+        }
+        page.PrintRow(cells);
+        if (m_log == MaintenanceTab) {
+            page.PrintRow(
+                {cell(page, 1, text("maintlogqty") + u"  " + text("maintlogunit") + u"  " + text("maintlogdesc"))});
+            page.PrintRow({cell(page, 1, text("maintlognote"))});
+        }
+    }
+
+    LogTab m_log;
+    const LogReport &m_report;
+    Database &m_database;
+    QString m_datePicture;
+    std::optional<QString> m_tankId;
+    Recordset m_rows;
+};
+
+} // namespace
+
+void PrintPageHeadings(Printer &page, const QString &title, const QString &tankName, const QString &tankSize,
+                       const QString &tankDescription, int pageNumber, const QString &datePicture)
+{
+    setFont(page, "Arial", 14, true, true);
+    page.Print(title);
+    page.Print({});
+    setFont(page, "Times New Roman", 10);
+    page.PrintOn(QStringLiteral("Tankname: "));
+    page.Font.bold = true;
+    page.Print(tankName);
+    page.Font.bold = false;
+    page.Print(u"Tanksize: " + tankSize + u" gal.      " + tankDescription);
+    page.Print({});
+    const double x = page.CurrentX;
+    const double y = page.CurrentY;
+    const double foot = page.ScaleHeight() - page.ScaleHeight() / 12;
+    page.CurrentX = 0;
+    page.CurrentY = foot;
+    page.Line(0, foot, page.ScaleWidth(), foot);
+    page.Print({});
+    page.Print(u"Report Created: " + Format(Now().date(), datePicture));
+    page.Print(u"Page number:" + QString::number(pageNumber));
+    page.CurrentX = x;
+    page.CurrentY = y;
+    page.setFoot(foot);
+}
+
+Report MakeLogReport(LogTab log, Database &database, const QString &datePicture, const std::optional<QString> &tankId)
+{
+    const LogReport &kind = reports[log];
+    const auto run = std::make_shared<LogRun>(log, database, datePicture, tankId);
+    return {QLatin1String(kind.dialogTitle), QLatin1String(kind.title), kind.landscape, [run] { return run->open(); },
+            [run](Printer &page) { run->print(page); }};
+}
+
+QString EmptyLogText(LogTab log) { return QLatin1String(reports[log].empty); }

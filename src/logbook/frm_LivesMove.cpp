@@ -1,0 +1,72 @@
+#include "logbook/frm_LivesMove.h"
+
+#include "platform/Doors.h"
+#include "platform/Guarded.h"
+#include "text/Dates.h"
+
+namespace {
+
+const QString tanksByName = QStringLiteral("SELECT * FROM Tanklst ORDER BY [tankname] COLLATE CASEBLIND ASC");
+const QString tankByName = QStringLiteral("SELECT * FROM tanklst where tankname = ?");
+
+} // namespace
+
+frm_LivesMove::frm_LivesMove(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+{
+    setupUi(this);
+    on(cmd_ok, &QPushButton::clicked, this, &frm_LivesMove::cmd_OK_Click);
+    on(cmd_Cancel, &QPushButton::clicked, this, &frm_LivesMove::cmd_Cancel_Click);
+    on(lst_tanklist, &QListWidget::itemDoubleClicked, this, &frm_LivesMove::lst_tanklist_DblClick);
+}
+
+void frm_LivesMove::Form_Load()
+{
+    g.livesMove.MoveCancelled = true;
+    for (Recordset tanks = g.gDatabase->OpenRecordset(tanksByName); !tanks.EOF_(); tanks.MoveNext())
+        lst_tanklist->addItem(tanks[QStringLiteral("tankname")].text());
+}
+
+void frm_LivesMove::store()
+{
+    Recordset tank = g.gDatabase->OpenRecordset(tankByName, {lst_tanklist->currentItem()->text()});
+    tank.MoveFirst();
+    const QString id = tank[QStringLiteral("tankid")].text();
+    if (chk_ChangeDate->isChecked()) {
+        g.gMoveRecordset[QStringLiteral("dateadded")].setValue(Format(Now().date(), QStringLiteral("mm/dd/yy")));
+        g.gMoveRecordset[QStringLiteral("timeadded")].setValue(Format(Now().time(), QStringLiteral("hh:mm:ss am/pm")));
+    }
+    g.gMoveRecordset[QStringLiteral("tankname")].setValue(id);
+    g.gMoveRecordset.Update();
+}
+
+void frm_LivesMove::cmd_OK_Click()
+{
+    if (lst_tanklist->selectedItems().isEmpty()) {
+        Beep();
+        g.gMessage = QStringLiteral("You must first select a tank entry to move your animal to.");
+        MsgBox(g.gMessage, vbInformation, QStringLiteral("Note!"));
+        return;
+    }
+    try {
+        store();
+    } catch (const RuntimeFailure &failure) {
+        if (failure.number() != Failure::DuplicateKey)
+            throw;
+        Beep();
+        MsgBox(QStringLiteral("That tank already has an entry for this animal at the same date and time. Let the date "
+                              "and time change to "
+                              "\"Now\", or choose another tank."),
+               vbExclamation, QStringLiteral("Oops!"));
+        return;
+    }
+    g.livesMove.MoveCancelled = false;
+    Unload(*this);
+}
+
+void frm_LivesMove::cmd_Cancel_Click()
+{
+    g.livesMove.MoveCancelled = true;
+    Unload(*this);
+}
+
+void frm_LivesMove::lst_tanklist_DblClick() { cmd_OK_Click(); }

@@ -1,0 +1,16 @@
+#include "platform/Files.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+QString FindFile(const QString &fileName)
+{
+    const QFileInfo exact(fileName);
+    if (fileName.isEmpty() || exact.isFile())
+        return fileName.isEmpty() ? QString() : exact.absoluteFilePath();
+    const QDir folder = exact.absoluteDir();
+    for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name))
+        if (name.compare(exact.fileName(), Qt::CaseInsensitive) == 0 && QFileInfo(folder, name).isFile())
+            return folder.absoluteFilePath(name);
+    return {};
+}

@@ -1,0 +1,7 @@
+// Files of the keeper's folder are found whatever the case of their names: they may come from a system that keeps none.
+#pragma once
+
+#include <QString>
+
+/// Absolute path of a file, found by its exact name or else by its name in any case of letters; empty if there is none.
+QString FindFile(const QString &fileName);
