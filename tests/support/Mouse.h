@@ -1,0 +1,39 @@
+// The mouse as it comes from outside, through the window system: Qt then gives the focus, makes double clicks and opens
+// pop-ups as for a keeper. A place is in the widget's coordinates; the middle of the widget where none is given. The
+// window must be shown.
+#pragma once
+
+#include <optional>
+
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+namespace mouse {
+
+inline QPoint inWindow(const QWidget *widget, std::optional<QPoint> place)
+{
+    return widget->mapTo(widget->window(), place.value_or(widget->rect().center()));
+}
+
+inline void press(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mousePress(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
+}
+
+inline void release(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseRelease(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
+}
+
+inline void click(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseClick(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
+}
+
+inline void doubleClick(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
+{
+    QTest::mouseDClick(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
+}
+
+} // namespace mouse

@@ -1,0 +1,81 @@
+// A printer of 100 dots an inch that writes down what was printed where, page by page. Each letter is half as wide as
+// its font is high, so that a test can count; a page is 10 x 8 inches, or 8 x 10.
+#pragma once
+
+#include <vector>
+
+#include "platform/Pages.h"
+
+struct PrintedText
+{
+    double x;
+    double y;
+    double right;
+    double bottom;
+    PageFont font;
+    QString text;
+};
+
+struct PrintedPage
+{
+    std::vector<PrintedText> texts;
+    std::vector<double> lines; ///< heights of the lines drawn
+
+    /// The texts of one height, from left to right, between bars.
+    QString row(double y) const
+    {
+        QString joined;
+        for (const PrintedText &text : texts)
+            if (text.y == y)
+                joined += (joined.isEmpty() ? QString() : QStringLiteral("|")) + text.text;
+        return joined;
+    }
+    const PrintedText *find(const QString &text) const
+    {
+        for (const PrintedText &printed : texts)
+            if (printed.text == text)
+                return &printed;
+        return nullptr;
+    }
+};
+
+struct PrintedDocument
+{
+    QString title;
+    bool landscape = false;
+    bool ended = false;
+    std::vector<PrintedPage> pages;
+};
+
+class RecordedPages : public PageSink
+{
+public:
+    explicit RecordedPages(std::vector<PrintedDocument> &documents) : m_documents(documents) {}
+
+    void setLandscape(bool landscape) override { m_landscape = landscape; }
+    double width() const override { return m_landscape ? 1000 : 800; }
+    double height() const override { return m_landscape ? 800 : 1000; }
+    double textWidth(const PageFont &font, const QString &text) const override
+    {
+        return pixels(font) / 2 * double(text.size());
+    }
+    double lineHeight(const PageFont &font) const override { return pixels(font) * 1.2; }
+    void beginDocument(const QString &title) override
+    {
+        m_documents.push_back({title, m_landscape, false, {PrintedPage()}});
+    }
+    void newPage() override { m_documents.back().pages.emplace_back(); }
+    void endDocument() override { m_documents.back().ended = true; }
+    void text(double x, double y, const PageFont &font, const QString &text) override
+    {
+        page().texts.push_back({x, y, x + textWidth(font, text), y + pixels(font), font, text});
+    }
+    void line(double, double y1, double, double) override { page().lines.push_back(y1); }
+
+private:
+    static double pixels(const PageFont &font) { return font.size * 100 / 72; }
+    PrintedPage &page() { return m_documents.back().pages.back(); }
+
+    std::vector<PrintedDocument> &m_documents;
+    bool m_landscape = false;
+};

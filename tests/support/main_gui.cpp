@@ -1,0 +1,44 @@
+// main() of the tests that drive windows: the program's own application object, and a warning of Qt fails the test that
+// caused it.
+#include <cstdio>
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "platform/Application.h"
+
+namespace {
+
+void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    // The plugin without a display says so at every dialog: "This plugin does not support raise()".
+    if (text.startsWith(u"This plugin does not support"))
+        return;
+    if (type == QtWarningMsg || type == QtCriticalMsg)
+        ADD_FAILURE() << "Qt: " << text.toStdString();
+    else
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+/// No display, no keeper's settings and a run-time folder of its own, however the tests are started or listed.
+void makeSurroundings(const QByteArray &folder)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("XDG_CONFIG_HOME", folder);
+    qputenv("XDG_RUNTIME_DIR", folder);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    ::testing::InitGoogleTest(&argc, argv);
+    const QTemporaryDir folder;
+    makeSurroundings(folder.path().toLocal8Bit());
+    qInstallMessageHandler(takeMessage);
+    Application application(argc, argv);
+    return RUN_ALL_TESTS();
+}
