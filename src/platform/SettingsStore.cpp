@@ -21,11 +21,16 @@ QString SettingsStore::value(const QString &key, const QString &defaultValue) co
 
 void SettingsStore::setValue(const QString &key, const QString &value)
 {
-    m_settings.setValue(path(key), value);
-    m_settings.sync();
-    if (m_settings.status() != QSettings::NoError)
-        throw RuntimeFailure(Failure::PermissionDenied,
-                             QStringLiteral("The settings could not be written to \"%1\".").arg(m_settings.fileName()));
+    QSettings file(m_settings.fileName(), QSettings::IniFormat); // of its own: a failure of the past stays in the status
+    const QVariant former = file.value(path(key));
+    file.setValue(path(key), value);
+    file.sync();
+    if (file.status() == QSettings::NoError)
+        return;
+    // What is not in the file must not be read back as if it were.
+    former.isValid() ? file.setValue(path(key), former) : file.remove(path(key));
+    throw RuntimeFailure(Failure::PermissionDenied,
+                         QStringLiteral("The settings could not be written to \"%1\".").arg(file.fileName()));
 }
 
 QString SettingsStore::userFileName()

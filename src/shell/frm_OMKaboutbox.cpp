@@ -10,10 +10,6 @@
 #include "platform/Guarded.h"
 #include "shell/frm_OMKCredits.h"
 
-#ifndef OMK_REVISION
-#define OMK_REVISION "2.0.0"
-#endif
-
 namespace {
 
 /// Paints the picture afresh at any scale. It is read when it is first seen, not at the start of the program.
