@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QCompleter>
-#include <QIcon>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -11,6 +10,7 @@
 
 #include "common/frm_Caltool.h"
 #include "platform/Doors.h"
+#include "platform/Icons.h"
 #include "platform/MaskedBox.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/MenuEntry.h"
@@ -40,7 +40,7 @@ MaskedBox *EntryForm::makeTimeBox(const char *name, const char *toolTip)
 
 QPushButton *EntryForm::makeCalendarButton(const char *name, const QString &whatFor)
 {
-    auto *button = new QPushButton(QIcon(QStringLiteral(":/icons/calendar.svg")), QString());
+    auto *button = new QPushButton(Icon("calendar"), QString());
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(whatFor);
     button->setToolTip(whatFor);

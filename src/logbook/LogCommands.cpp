@@ -8,6 +8,7 @@
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
 #include "platform/HourGlass.h"
+#include "platform/Icons.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/MenuEntry.h"
 
@@ -23,7 +24,7 @@ QTreeWidgetItem *makeNode(const QString &key, const QString &text)
 {
     auto *node = new QTreeWidgetItem({text});
     node->setData(0, Qt::UserRole, key);
-    node->setIcon(0, QIcon(QStringLiteral(":/icons/tank.svg")));
+    node->setIcon(0, Icon("tank"));
     return node;
 }
 

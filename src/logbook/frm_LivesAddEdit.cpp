@@ -246,6 +246,11 @@ bool frm_LivesAddEdit::fieldsAreGood()
 void frm_LivesAddEdit::store()
 {
     Recordset &row = g.gLivestockRecordset;
+    // Begun afresh: a price or date of a try that was refused must not stay when its box is empty now.
+    if (row.isEmpty())
+        row.AddNew();
+    else
+        row.Edit();
     row[QStringLiteral("tankname")].setValue(g.gTankId);
     row[QStringLiteral("dateadded")].setValue(NormalizeDateText(txt_DateAdded->Text(), g.options.DateOrder));
     row[QStringLiteral("timeadded")].setValue(txt_timeadded->Text());

@@ -31,6 +31,7 @@ void frm_LivesMove::store()
     Recordset tank = g.gDatabase->OpenRecordset(tankByName, {lst_tanklist->currentItem()->text()});
     tank.MoveFirst();
     const QString id = tank[QStringLiteral("tankid")].text();
+    g.gMoveRecordset.Edit(); // begun afresh: the date of a try that was refused must not stay
     if (chk_ChangeDate->isChecked()) {
         g.gMoveRecordset[QStringLiteral("dateadded")].setValue(Format(Now().date(), QStringLiteral("mm/dd/yy")));
         g.gMoveRecordset[QStringLiteral("timeadded")].setValue(Format(Now().time(), QStringLiteral("hh:mm:ss am/pm")));

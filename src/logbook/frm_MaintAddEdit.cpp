@@ -2,7 +2,6 @@
 
 #include <QComboBox>
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -10,6 +9,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "platform/Icons.h"
 #include "platform/MaskedBox.h"
 #include "platform/UpDown.h"
 #include "shell/ErrorHandler.h"
@@ -40,7 +40,7 @@ QString orBlank(const QString &text) { return text.isEmpty() ? QStringLiteral(" 
 frm_MaintAddEdit::frm_MaintAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
 {
     setWindowTitle(QStringLiteral("Add a New Maintenence Activity"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/maintenance.svg")));
+    setWindowIcon(Icon("maintenance"));
     makeControls();
     arrange(makePage(), "Maintenance Entry", cmd_OK, cmd_Cancel);
     connectAll();

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -11,6 +10,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "platform/Icons.h"
 #include "platform/MaskedBox.h"
 #include "platform/UpDown.h"
 #include "text/Dates.h"
@@ -38,7 +38,7 @@ bool isComment(const char *column) { return QLatin1String(column) == QLatin1Stri
 frm_WaterAddEdit::frm_WaterAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
 {
     setWindowTitle(QStringLiteral("Water Quality Log Detail"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/waterquality.svg")));
+    setWindowIcon(Icon("waterquality"));
 
     auto *page = new QWidget;
     auto *column = new QVBoxLayout(page);
@@ -220,6 +220,8 @@ void frm_WaterAddEdit::upDown_Change(const Line &line)
     // pH alone has a picture here.
     const bool isPh = QLatin1String(line.measurement->column) == QLatin1String("ph");
     line.box->setText(isPh ? Format(number, QLatin1String(line.measurement->boxPicture)) : PlainText(number));
+    if (isVisible())
+        m_checks.suspect(line.box);
 }
 
 void frm_WaterAddEdit::store()

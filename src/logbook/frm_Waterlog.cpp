@@ -1,7 +1,6 @@
 #include "logbook/frm_Waterlog.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
@@ -12,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "platform/Guarded.h"
+#include "platform/Icons.h"
 #include "shell/MenuEntry.h"
 
 namespace {
@@ -36,8 +36,6 @@ constexpr ButtonRow buttonRows[] = {
     {"refresh", "Refresh", &frm_Waterlog::Refresh_Treeview, true},
 };
 
-QIcon icon(const char *name) { return QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name))); }
-
 QStatusBar *makeStatusBar(const QString &name)
 {
     auto *bar = new QStatusBar;
@@ -51,7 +49,7 @@ QStatusBar *makeStatusBar(const QString &name)
 frm_Waterlog::frm_Waterlog(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
 {
     setWindowTitle(QStringLiteral("Logbook"));
-    setWindowIcon(icon("testlog"));
+    setWindowIcon(Icon("testlog"));
     makeToolbar();
     makeTree();
     makeLists();
@@ -89,7 +87,7 @@ void frm_Waterlog::makeToolbar()
         if (row.command)
             action = [this, command = row.command] { (this->*command)(); };
         auto *button = new MenuEntry(QLatin1String(row.key), QLatin1String(row.toolTip), std::move(action), this);
-        button->setIcon(icon(row.key));
+        button->setIcon(Icon(row.key));
         button->setToolTip(QLatin1String(row.toolTip));
         Toolbar1->addAction(button);
         Toolbar1->widgetForAction(button)->setObjectName(QLatin1String(row.key));
@@ -136,7 +134,7 @@ void frm_Waterlog::makeLists()
         for (const LogColumn &column : kind.columns)
             columns.push_back({QLatin1String(column.key), QLatin1String(column.heading), column.right, column.width});
         list->setColumns(columns);
-        tab_logtype->addTab(list, icon(kind.image), QLatin1String(kind.tabCaption));
+        tab_logtype->addTab(list, Icon(kind.image), QLatin1String(kind.tabCaption));
         m_lists[static_cast<size_t>(tab)] = list;
         connectList(list, tab);
     }

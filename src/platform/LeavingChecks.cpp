@@ -12,7 +12,24 @@ void LeavingChecks::watch(QWidget *box, Check check)
     box->installEventFilter(this);
 }
 
-bool LeavingChecks::passes() { return !m_swallow && !m_running && runPending(); }
+void LeavingChecks::suspect(QWidget *box)
+{
+    if (!m_suspects.contains(box))
+        m_suspects << box;
+}
+
+bool LeavingChecks::passes()
+{
+    if (m_swallow || m_running || !runPending())
+        return false;
+    while (!m_suspects.isEmpty()) {
+        m_pending = m_suspects.constFirst();
+        if (!runPending())
+            return false;
+        m_suspects.removeFirst();
+    }
+    return true;
+}
 
 bool LeavingChecks::eventFilter(QObject *object, QEvent *event)
 {

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include <QHash>
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QSet>
@@ -21,6 +22,9 @@ public:
     void watch(QWidget *box, Check check);
     /// Widgets that are reached without a check: Cancel, Close, the calendar button, up-downs.
     void exempt(QWidget *widget) { m_exempt.insert(widget); }
+    /// Asks that box, too, before anything is stored: its text was changed by arrows beside it, without its being
+    /// entered.
+    void suspect(QWidget *box);
     /// First line of every handler that stores: false if the box last entered does not pass.
     bool passes();
     /// Forgets what is pending: after a record was loaded by code.
@@ -38,6 +42,7 @@ private:
     QHash<QObject *, Check> m_checks;
     QSet<QWidget *> m_exempt;
     QPointer<QWidget> m_pending; ///< the box entered last that has not passed since
+    QList<QWidget *> m_suspects;
     bool m_running = false;
     bool m_swallow = false;
 };

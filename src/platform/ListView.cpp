@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
-#include <QStyleOptionFocusRect>
 #include <QTextDocument>
 #include <QToolTip>
 
@@ -287,13 +286,9 @@ void ListView::paintEvent(QPaintEvent *event)
     QTableView::paintEvent(event);
     if (!hasFocus() || !currentIndex().isValid())
         return;
-    QPainter painter(viewport());
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.state |= QStyle::State_KeyboardFocusChange;
-    option.rect = rowRect(currentIndex().row());
-    option.backgroundColor = palette().color(QPalette::Base);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    QPainter painter(viewport()); // a plain line: the style's own frame has a gradient, dear on a whole row
+    painter.setPen(palette().color(QPalette::Highlight).darker(140));
+    painter.drawRect(rowRect(currentIndex().row()).adjusted(0, 0, -1, -1));
 }
 
 void ListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

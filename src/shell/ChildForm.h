@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QWidget>
 
+#include "platform/Guarded.h"
 #include "shell/Forms.h"
 
 class ChildForm : public QWidget
@@ -17,11 +18,14 @@ public:
     virtual void Form_Unload() {}
 
 protected:
-    ChildForm(Globals &globals, QWidget *parent) : QWidget(parent), g(globals) {}
+    ChildForm(Globals &globals, QWidget *parent) : QWidget(parent), g(globals)
+    {
+        setAutoFillBackground(true); // covers its frame, which then is not painted anew with each control
+    }
 
     void closeEvent(QCloseEvent *event) override
     {
-        Form_Unload();
+        guarded([this] { Form_Unload(); })(); // the window goes whatever it could not store
         Unload(*this);
         event->accept();
     }

@@ -5,7 +5,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -16,6 +15,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "platform/Icons.h"
 #include "shell/ChildForm.h"
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKOptions.h"
@@ -60,7 +60,7 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
     QMainWindow(parent), g(globals), m_area(new QMdiArea)
 {
     setWindowTitle(QStringLiteral(" Ostrelmark 98"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/ostrelmark.svg")));
+    setWindowIcon(Icon("ostrelmark"));
     makeMenus(*this, *menuBar());
     makeToolbar();
     makeStatusBar();
@@ -75,6 +75,11 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
             guarded([this](QMdiSubWindow *window) { subWindowActivated(window); }));
     connect(mnu_Window, &QMenu::aboutToShow, this, [this] { fillWindowList(); });
     resize(1100, 740);
+}
+
+frm_OMKMDIMain::~frm_OMKMDIMain()
+{
+    m_area->disconnect(this); // a child that is left goes with it, and tells nobody
 }
 
 void frm_OMKMDIMain::makeToolbar()
@@ -96,7 +101,7 @@ void frm_OMKMDIMain::makeToolbar()
         if (same->hasAction())
             action = [same] { same->run(); };
         auto *button = new MenuEntry(QLatin1String(row.key), QLatin1String(row.toolTip), std::move(action), this);
-        button->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(row.image))));
+        button->setIcon(Icon(row.image));
         button->setToolTip(QLatin1String(row.toolTip));
         Toolbar1->addAction(button);
         Toolbar1->widgetForAction(button)->setObjectName(QLatin1String(row.key));

@@ -24,6 +24,7 @@ class frm_OMKMDIMain : public QMainWindow, public MainMenu
 public:
     static constexpr bool isDialog = false;
     frm_OMKMDIMain(Globals &globals, QWidget *parent);
+    ~frm_OMKMDIMain() override;
 
     /// The start, step by step. Throws RuntimeFailure where the database cannot be opened or is of another version;
     /// nothing is shown then.
