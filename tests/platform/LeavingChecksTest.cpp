@@ -1,0 +1,322 @@
+// Every way out of a box with a bad value, with a window that is shown modally and one that is not. The mouse enters
+// through the window system, where Qt gives the focus before it delivers the press.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/LeavingChecks.h"
+#include "support/Mouse.h"
+#include "support/ScriptedDoors.h"
+
+namespace {
+
+/// Two boxes that take no "bad", a plain button, OK and Cancel.
+class EntryWindow : public QDialog
+{
+public:
+    EntryWindow()
+    {
+        auto *form = new QFormLayout(this);
+        form->addRow(QStringLiteral("&First"), first);
+        form->addRow(QStringLiteral("&Second"), second);
+        for (QPushButton *button : {plain, ok, cancel}) {
+            form->addRow(button);
+            button->setAutoDefault(false);
+        }
+        ok->setDefault(true);
+        checks.watch(first, [this] { return check(first); });
+        checks.watch(second, [this] { return check(second); });
+        checks.exempt(cancel);
+        connect(ok, &QPushButton::clicked, this, [this] { stored += checks.passes() ? 1 : 0; });
+        connect(plain, &QPushButton::clicked, this, [this] { ++plainClicks; });
+        connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    }
+
+    QLineEdit *first = new QLineEdit;
+    QLineEdit *second = new QLineEdit;
+    QPushButton *plain = new QPushButton(QStringLiteral("Plain"));
+    QPushButton *ok = new QPushButton(QStringLiteral("&OK"));
+    QPushButton *cancel = new QPushButton(QStringLiteral("Cancel"));
+    LeavingChecks checks{this};
+    int stored = 0;
+    int plainClicks = 0;
+
+private:
+    bool check(QLineEdit *box)
+    {
+        if (box->text() != QStringLiteral("bad"))
+            return true;
+        MsgBox(QStringLiteral("Not this."), vbExclamation, QStringLiteral("Oops!"));
+        return false;
+    }
+};
+
+using mouse::click;
+using mouse::press;
+using mouse::release;
+
+struct WayOut
+{
+    const char *name;
+    void (*go)(EntryWindow &);
+    int boxes;  ///< as many as there were attempts
+    bool stays; ///< in the bad box, in the open window
+};
+
+/// A button answers its mnemonic after a while; the box tells that it did.
+void mnemonic(EntryWindow &w, Qt::Key key)
+{
+    QTest::keyClick(&w, key, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !static_cast<ScriptedDoors &>(Doors::current()).boxes.empty(); }, 2000));
+}
+
+void toAnotherWindowAndBack(EntryWindow &w)
+{
+    QWidget other;
+    QLineEdit box(&other);
+    other.show();
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    box.setFocus();
+    EXPECT_TRUE(static_cast<ScriptedDoors &>(Doors::current()).boxes.empty());
+    w.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&w));
+}
+
+const WayOut waysOut[] = {
+    {"OK by mouse", [](EntryWindow &w) { click(w.ok); }, 1, true},
+    {"OK by mnemonic", [](EntryWindow &w) { mnemonic(w, Qt::Key_O); }, 1, true},
+    {"OK by Enter", [](EntryWindow &w) { QTest::keyClick(w.first, Qt::Key_Return); }, 1, true},
+    {"OK pressed, let go over the box",
+     [](EntryWindow &w) {
+         press(w.ok);
+         release(w.first);
+     },
+     1, true},
+    {"OK pressed twice",
+     [](EntryWindow &w) {
+         click(w.ok);
+         QCoreApplication::processEvents();
+         click(w.ok);
+     },
+     2, true},
+    {"double click on OK",
+     [](EntryWindow &w) {
+         press(w.ok);
+         release(w.ok);
+         press(w.ok);
+         release(w.ok);
+     },
+     2, true},
+    {"Tab", [](EntryWindow &w) { QTest::keyClick(w.first, Qt::Key_Tab); }, 1, true},
+    {"another box by mouse", [](EntryWindow &w) { click(w.second); }, 1, true},
+    {"another box by mnemonic", [](EntryWindow &w) { mnemonic(w, Qt::Key_S); }, 1, true},
+    {"another button", [](EntryWindow &w) { click(w.plain); }, 1, true},
+    {"two bad boxes",
+     [](EntryWindow &w) {
+         w.second->setText(QStringLiteral("bad"));
+         QTest::keyClick(w.first, Qt::Key_Tab);
+     },
+     1, true},
+    {"Esc", [](EntryWindow &w) { QTest::keyClick(w.first, Qt::Key_Escape); }, 0, false},
+    {"Cancel by mouse", [](EntryWindow &w) { click(w.cancel); }, 0, false},
+    {"Cancel by Shift+Tab and Space",
+     [](EntryWindow &w) {
+         QTest::keyClick(w.first, Qt::Key_Backtab);
+         QTest::keyClick(w.cancel, Qt::Key_Space);
+     },
+     0, false},
+    {"the close box", [](EntryWindow &w) { w.close(); }, 0, false},
+    {"Cancel pressed, let go outside, then another box",
+     [](EntryWindow &w) {
+         press(w.cancel);
+         release(w.plain);
+         click(w.second);
+     },
+     1, true},
+    {"Cancel pressed, let go outside, then OK",
+     [](EntryWindow &w) {
+         press(w.cancel);
+         release(w.plain);
+         click(w.ok);
+     },
+     1, true},
+    {"another window and back", [](EntryWindow &w) { toAnotherWindowAndBack(w); }, 0, true},
+    {"another window, and back onto OK",
+     [](EntryWindow &w) {
+         toAnotherWindowAndBack(w);
+         click(w.ok);
+     },
+     1, true},
+    {"another window, and back by Enter",
+     [](EntryWindow &w) {
+         toAnotherWindowAndBack(w);
+         QTest::keyClick(w.focusWidget(), Qt::Key_Return);
+     },
+     1, true},
+    {"its own menu",
+     [](EntryWindow &w) {
+         QContextMenuEvent wanted(QContextMenuEvent::Mouse, {}, w.first->mapToGlobal(QPoint()));
+         QCoreApplication::sendEvent(w.first, &wanted);
+         auto *menu = w.first->findChild<QMenu *>();
+         EXPECT_TRUE(QTest::qWaitForWindowExposed(menu));
+         QTest::keyClick(menu, Qt::Key_Escape);
+     },
+     0, true},
+};
+
+/// A box that is really on the screen takes the activity, and gives it back.
+void showRealBox(const MsgBoxRequest &request)
+{
+    QWidget *window = QApplication::activeWindow();
+    QMessageBox box(window);
+    box.setText(request.text);
+    QTimer::singleShot(0, &box, &QDialog::accept);
+    box.exec();
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+}
+
+void enterBad(EntryWindow &w)
+{
+    w.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+    w.first->setFocus();
+    QTest::keyClicks(w.first, QStringLiteral("bad"));
+}
+
+/// The focus is in the bad box, no button is stuck, and a good value goes through.
+void mend(EntryWindow &w)
+{
+    EXPECT_TRUE(w.first->hasFocus());
+    EXPECT_FALSE(w.ok->isDown() || w.plain->isDown());
+    w.first->selectAll();
+    QTest::keyClicks(w.first, QStringLiteral("good"));
+    w.second->clear();
+    click(w.ok);
+    EXPECT_EQ(w.stored, 1);
+}
+
+void play(const WayOut &way, ScriptedDoors &doors, EntryWindow &w)
+{
+    enterBad(w);
+    way.go(w);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(doors.takeBoxes().size(), size_t(way.boxes));
+    EXPECT_EQ(w.stored, 0);
+    EXPECT_EQ(w.plainClicks, 0);
+    EXPECT_EQ(w.isVisible(), way.stays);
+    if (way.stays)
+        mend(w);
+    EXPECT_EQ(doors.takeBoxes().size(), 0u);
+    w.hide();
+}
+
+TEST(LeavingChecks, LetNoBadValueThroughByAnyWayOut)
+{
+    for (const WayOut &way : waysOut) {
+        for (const bool modal : {false, true}) {
+            for (const bool realBox : {false, true}) {
+                SCOPED_TRACE(std::string(way.name) + (modal ? ", modal" : "") + (realBox ? ", box on the screen" : ""));
+                ScriptedDoors doors;
+                if (realBox)
+                    doors.whileBoxIsUp = showRealBox;
+                EntryWindow window;
+                if (modal) {
+                    QTimer::singleShot(0, &window, [&] { play(way, doors, window); });
+                    window.exec();
+                } else {
+                    window.show();
+                    play(way, doors, window);
+                }
+            }
+        }
+    }
+}
+
+/// Enter stores but does not leave the box: what is typed into it afterwards is judged again.
+TEST(LeavingChecks, ABoxThatPassedAndKeptTheFocusIsAskedAgain)
+{
+    ScriptedDoors doors;
+    EntryWindow window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.first->setFocus();
+    QTest::keyClicks(window.first, QStringLiteral("good"));
+    QTest::keyClick(window.first, Qt::Key_Return);
+    EXPECT_EQ(window.stored, 1);
+    window.first->selectAll();
+    QTest::keyClicks(window.first, QStringLiteral("bad"));
+    QTest::keyClick(window.first, Qt::Key_Return);
+    EXPECT_EQ(window.stored, 1);
+    EXPECT_EQ(doors.takeText(), QStringLiteral("Not this."));
+}
+
+TEST(LeavingChecks, ForgetsAboutARecordThatWasLoadedByCode)
+{
+    ScriptedDoors doors;
+    EntryWindow window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.first->setFocus();
+    window.first->setText(QStringLiteral("bad"));
+    window.checks.forget();
+    QTest::keyClick(window.first, Qt::Key_Tab);
+    EXPECT_EQ(doors.takeBoxes().size(), 0u);
+    EXPECT_TRUE(window.second->hasFocus());
+}
+
+TEST(LeavingChecks, ABoxThatACheckMovesTheFocusToIsAskedInItsTurn)
+{
+    ScriptedDoors doors;
+    EntryWindow window;
+    int asked = 0;
+    window.checks.watch(window.first, [&] {
+        ++asked;
+        window.second->setFocus();
+        return true;
+    });
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.first->setFocus();
+    EXPECT_TRUE(window.checks.passes());
+    EXPECT_EQ(asked, 1);
+    QTest::keyClicks(window.second, QStringLiteral("bad"));
+    EXPECT_FALSE(window.checks.passes());
+}
+
+/// A failure in a check leaves the checks at work.
+TEST(LeavingChecks, AFailureInACheckDoesNotEndTheChecks)
+{
+    ScriptedDoors doors;
+    EntryWindow window;
+    bool failing = true;
+    window.checks.watch(window.first, [&failing]() -> bool {
+        if (failing)
+            throw RuntimeFailure(Failure::TypeMismatch);
+        return MsgBox(QStringLiteral("Asked.")) != MsgBoxAnswer::OK;
+    });
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.first->setFocus();
+    EXPECT_THROW(window.checks.passes(), RuntimeFailure);
+    failing = false;
+    EXPECT_FALSE(window.checks.passes());
+    EXPECT_EQ(doors.takeText(), QStringLiteral("Asked."));
+}
+
+} // namespace
