@@ -1,0 +1,126 @@
+// A keeper's hands: keys and mouse as they come through the window system, aimed at what he sees. The windows must be
+// shown.
+#pragma once
+
+#include <QHeaderView>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include "logbook/frm_Waterlog.h"
+#include "platform/ListView.h"
+#include "shell/MenuEntry.h"
+#include "support/Mouse.h"
+#include "windows/Keeper.h"
+
+/// A child of the main window that is not the logbook.
+class OtherChild : public ChildForm
+{
+public:
+    OtherChild(Globals &globals, QWidget *parent) : ChildForm(globals, parent) { setWindowTitle("Other"); }
+};
+
+namespace hand {
+
+/// A key for the menu that is open, or for whatever has the focus in the window in front.
+inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+{
+    QWidget *takes = nullptr;
+    for (QWidget *next : {QApplication::activeWindow(), QApplication::focusWidget(), QApplication::activePopupWidget()})
+        takes = next ? next : takes;
+    ASSERT_TRUE(takes) << "no window is in front";
+    QTest::keyClick(takes, key, modifiers);
+}
+
+/// Characters of any script for whatever has the focus.
+inline void write(const QString &text)
+{
+    for (const char32_t c : text.toUcs4()) {
+        const auto key = c == U'\n' ? Qt::Key_Return : static_cast<Qt::Key>(QChar::toUpper(c));
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, QString::fromUcs4(&c, 1), {});
+    }
+}
+
+/// Clicks into a box and writes over what it holds.
+inline void type(QWidget &box, const QString &text)
+{
+    mouse::click(&box);
+    EXPECT_TRUE(box.hasFocus()) << box.objectName().toStdString();
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    write(text);
+}
+
+/// The same, and puts away the list of suggestions that opens under a combo box. Without a window manager the list,
+/// once gone, keeps the activity that it took.
+inline void fill(QWidget &box, const QString &text)
+{
+    type(box, text);
+    if (QApplication::activePopupWidget())
+        press(Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    box.activateWindow();
+    EXPECT_TRUE(isInFront(*box.window()));
+}
+
+template <class T> void click(QWidget &window, const QString &name) { mouse::click(&control<T>(window, name)); }
+
+/// Clicks the arrow "up" or "down" of an up-down.
+inline void step(QWidget &window, const QString &upDown, const QString &arrow)
+{
+    click<QToolButton>(control<QWidget>(window, upDown), arrow);
+}
+
+/// Opens a menu of the menu bar and clicks an entry.
+inline void choose(frm_OMKMDIMain &main, QMenu &menu, const QString &entry)
+{
+    QMenuBar &bar = *main.menuBar();
+    mouse::click(&bar, bar.actionGeometry(menu.menuAction()).center());
+    ASSERT_TRUE(menu.isVisible());
+    clickEntry(menu, entry);
+}
+
+inline void clickTab(QTabWidget &tabs, int index)
+{
+    mouse::click(tabs.tabBar(), tabs.tabBar()->tabRect(index).center());
+}
+
+/// Row and column count from 1.
+inline void clickRow(ListView &list, int row, Qt::MouseButton button = Qt::LeftButton)
+{
+    mouse::click(list.viewport(), list.visualRect(list.model()->index(row - 1, 0)).center(), button);
+}
+
+inline void clickHeading(ListView &list, int column)
+{
+    QHeaderView &header = *list.horizontalHeader();
+    mouse::click(header.viewport(), QPoint(header.sectionViewportPosition(column - 1) + 12, header.height() / 2));
+}
+
+inline void clickTank(frm_Waterlog &logbook, const QString &name, Qt::MouseButton button = Qt::LeftButton)
+{
+    const auto found = logbook.TreeView1->findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(found.size(), 1) << name.toStdString();
+    mouse::click(logbook.TreeView1->viewport(), logbook.TreeView1->visualItemRect(found.front()).center(), button);
+}
+
+/// Opens the logbook, or brings it forward, by its shortcut.
+inline frm_Waterlog &openLogbook(frm_OMKMDIMain &main)
+{
+    EXPECT_TRUE(isInFront(main));
+    press(Qt::Key_L, Qt::ControlModifier);
+    return Form<frm_Waterlog>();
+}
+
+/// What a list shows in a column (sub-item from 0), from the top, joined by blanks.
+inline QString column(const ListView &list, int subItem)
+{
+    QStringList texts;
+    for (int row = 1; row <= list.Count(); ++row)
+        texts << list.Text(row, subItem);
+    return texts.join(u' ');
+}
+
+} // namespace hand

@@ -1,0 +1,160 @@
+// A keeper at his desk: a folder of his own with a new database, the world as a script, the process-wide values and the
+// windows. restart() ends the program and starts it again on the same folder and settings. inNext<F>() says what he
+// does in a modal window that the test is about to open; a window that does not come is a failure, and so is one still
+// open afterwards, which is closed, so that no test hangs.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "shell/Forms.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "store/Database.h"
+#include "store/NewDatabase.h"
+#include "support/ScriptedDoors.h"
+
+/// Waits until a window itself is in front, and no dialog of it that is just going.
+inline bool isInFront(const QWidget &window)
+{
+    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
+}
+
+class Keeper
+{
+public:
+    Keeper() : doors(folder.filePath(QStringLiteral("OMK.ini"))), m_formerDir(QDir::currentPath())
+    {
+        CreateDatabase(databaseFile());
+        QDir::setCurrent(folder.path());
+        start();
+    }
+    ~Keeper()
+    {
+        stop();
+        QDir::setCurrent(m_formerDir);
+    }
+    Keeper(const Keeper &) = delete;
+    Keeper &operator=(const Keeper &) = delete;
+
+    void restart()
+    {
+        stop();
+        start();
+    }
+
+    /// The program as main() starts it. The box about tanks that are missing is in the record of boxes.
+    frm_OMKMDIMain &startProgram()
+    {
+        auto &main = Form<frm_OMKMDIMain>();
+        main.MDIForm_Load();
+        EXPECT_TRUE(isInFront(main));
+        return main;
+    }
+    void addTank(const QString &name, const QString &id, const QString &waterType = QStringLiteral("2"))
+    {
+        g().gDatabase->Execute(QStringLiteral("INSERT INTO TANKLST (tankname, tankid, tanksize, TankWaterType) "
+                                              "VALUES (?, ?, 55, ?)"),
+                               {name, id, waterType});
+    }
+
+    QString databaseFile() const { return folder.filePath(QStringLiteral("OM.MDB")); }
+    Globals &g() { return *m_globals; }
+
+    /// A column of the first row of a SELECT, as text; read afresh.
+    QString stored(const QString &sql, const QString &column)
+    {
+        return g().gDatabase->OpenRecordset(sql)[column].text();
+    }
+    /// How many rows that is: "WATERLOG WHERE tankname = 'Reef'".
+    int count(const QString &what) { return stored(u"SELECT count(*) AS n FROM " + what, QStringLiteral("n")).toInt(); }
+    QString setting(const QString &key) { return GetSetting(key, QStringLiteral("(none)")); }
+
+    /// What the keeper was told since last asked: how many beeps, and each box as title/flags/text.
+    QString told()
+    {
+        QStringList all{QString::number(std::exchange(doors.beeps, 0))};
+        for (const MsgBoxRequest &box : doors.takeBoxes())
+            all << box.title + u'/' + QString::number(box.flags) + u'/' + box.text;
+        for (const RuntimeFailure &failure : std::exchange(doors.failures, {}))
+            all << QStringLiteral("failure %1").arg(static_cast<int>(failure.number()));
+        return all.join(u'|');
+    }
+
+    /// What the keeper does once the modal window F, which comes next, is in front.
+    template <class F> static void inNext(std::function<void(F &)> action)
+    {
+        auto *watch = new QTimer(qApp);
+        watch->setObjectName(watchName);
+        QObject::connect(watch, &QTimer::timeout, watch, [watch, action = std::move(action)] {
+            const QPointer<F> window = Forms::current().loaded<F>();
+            if (!window || !window->isVisible())
+                return; // the click that opens it is still on its way
+            watch->stop();
+            watch->setObjectName({});
+            watch->deleteLater();
+            EXPECT_TRUE(isInFront(*window));
+            action(*window);
+            if (window && window->isVisible()) {
+                ADD_FAILURE() << window->objectName().toStdString() << " is still open.";
+                Unload(*window);
+            }
+        });
+        watch->start(0);
+    }
+
+    const QTemporaryDir folder;
+    ScriptedDoors doors;
+
+private:
+    void start()
+    {
+        m_globals = std::make_unique<Globals>();
+        m_globals->splashMilliseconds = 0;
+        m_globals->gDatabaseName = QStringLiteral("OM.MDB");
+        m_globals->gCurrentDir = folder.path();
+        m_globals->gDatabase = Database::OpenDatabase(databaseFile());
+        m_forms = std::make_unique<Forms>(*m_globals);
+    }
+    void stop()
+    {
+        for (QTimer *watch : qApp->findChildren<QTimer *>(watchName, Qt::FindDirectChildrenOnly)) {
+            ADD_FAILURE() << "A window did not come.";
+            delete watch;
+        }
+        m_forms.reset();
+        m_globals.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    inline static const QString watchName = QStringLiteral("window to come");
+    QString m_formerDir;
+    std::unique_ptr<Globals> m_globals;
+    std::unique_ptr<Forms> m_forms;
+};
+
+/// A control of a window by its name; ends the test program if there is none.
+template <class T> T &control(QWidget &window, const QString &name)
+{
+    T *found = window.findChild<T *>(name);
+    if (!found)
+        qFatal("%s has no %s", qPrintable(window.objectName()), qPrintable(name));
+    return *found;
+}
+
+/// A click where the mark of an option or a check box is, or on the left of any other control.
+inline void click(QWidget &widget) { QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(10, widget.height() / 2)); }
+
+inline void clickEntry(QMenu &menu, const QString &name)
+{
+    auto &action = control<QAction>(*menu.parentWidget(), name);
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&action).center());
+}
