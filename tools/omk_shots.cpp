@@ -29,6 +29,8 @@
 #include "platform/MaskedBox.h"
 #include "platform/SettingsStore.h"
 #include "SampleData.h"
+#include "shell/frm_OMKaboutbox.h"
+#include "shell/frm_OMKCredits.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/frm_OMKOptions.h"
 #include "shell/MenuEntry.h"
@@ -250,6 +252,22 @@ void playOptions(Album &album, frm_OMKMDIMain &main)
              });
 }
 
+void playAbout(Album &album, frm_OMKMDIMain &main)
+{
+    inDialog([&main] { main.mnu_HelpAbout_Click(); },
+             [&album] {
+                 auto &about = Form<frm_OMKaboutbox>();
+                 album.take(about, QStringLiteral("about"));
+                 about.reject();
+             });
+    auto &credits = Form<frm_OMKCredits>();
+    inDialog([&credits] { credits.ShowCredits(); },
+             [&album, &credits] {
+                 album.take(credits, QStringLiteral("credits"));
+                 credits.reject();
+             });
+}
+
 void goDark()
 {
     QPalette palette(QColor(0x35, 0x37, 0x3b), QColor(0x2b, 0x2d, 0x30));
@@ -316,5 +334,6 @@ int main(int argc, char **argv)
     playMaintenance(album, logbook, doors.clock);
     playPrinting(album, logbook);
     playOptions(album, main);
+    playAbout(album, main);
     return album.failed() ? 1 : 0;
 }
