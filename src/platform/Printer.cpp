@@ -104,9 +104,12 @@ void Printer::PrintRow(const std::vector<PrintCell> &cells)
         feedFor(whole);
     for (qsizetype i = 0; i < height; ++i) {
         feedFor(LineHeight());
-        for (const LaidOut &column : columns)
+        for (const LaidOut &column : columns) {
+            const double lower =
+                LineHeight() - m_pages.lineHeight(column.font); // smaller letters stand on the same line
             if (i < column.lines.size() && !column.lines[i].isEmpty())
-                m_pages.text(column.left, CurrentY, column.font, column.lines[i]);
+                m_pages.text(column.left, CurrentY + lower, column.font, column.lines[i]);
+        }
         CurrentX = 0;
         CurrentY += LineHeight();
     }
