@@ -1,0 +1,240 @@
+// Whole expansions of thousands of random rules against a second walk, slow and literal: it makes each date of its text
+// and looks for weekdays a day at a time.
+#include <cstdlib>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "reminders/Occurrences.h"
+#include "reminders/RecurrenceRule.h"
+#include "support/ScriptedDoors.h"
+#include "text/Dates.h"
+
+namespace {
+
+class LiteralWalk
+{
+public:
+    LiteralWalk(const RecurrenceRule &rule, bool monthByName, bool usefilter, const DateRange &range) :
+        r(rule), byName(monthByName), filtered(usefilter), wanted(range)
+    {
+        switch (r.RecurrenceType * 2 + (r.RecurrenceType == 1 || r.RecurrenceType == 4 ? 0 : r.RecurrenceSubtype)) {
+        case 0: everyXDays(); break;
+        case 1: everyWeekday(); break;
+        case 2: weekly(); break;
+        case 4: monthlyDay(); break;
+        case 5: monthlyWeekday(); break;
+        case 6: yearlyDay(); break;
+        case 7: yearlyWeekday(); break;
+        case 8: emitDate(fromText(r.RecurrenceDetail)); break;
+        }
+        if (failed)
+            dates.clear();
+    }
+
+    std::vector<QDate> dates;
+    bool failed = false;
+
+private:
+    static int weekday(const QDate &date) { return date.dayOfWeek() % 7 + 1; } // 1 is Sunday
+    static QString two(int number) { return QString("%1").arg(number, 2, 10, QChar('0')); }
+
+    QDate fromText(const QString &text)
+    {
+        const auto date = ReadDate(text);
+        failed = failed || !date;
+        return date.value_or(QDate());
+    }
+    QDate firstOf(const QDate &d) { return fromText(two(d.month()) + "/01/" + QString::number(d.year())); }
+    void emitDate(const QDate &d)
+    {
+        if (!filtered || (d >= wanted.from && d <= wanted.to))
+            dates.push_back(d);
+    }
+    bool moves() { return !(failed = r.RecurrenceInterval <= 0); }
+    int number(qsizetype at, qsizetype length)
+    {
+        bool ok = false;
+        const int value = r.RecurrenceDetail.mid(at, length).toInt(&ok);
+        failed = failed || !ok;
+        return value;
+    }
+
+    void everyXDays()
+    {
+        if (!moves())
+            return;
+        for (QDate d = r.StartDate; d <= r.EndDate; d = d.addDays(r.RecurrenceInterval))
+            emitDate(d);
+    }
+    void everyWeekday()
+    {
+        for (QDate d = r.StartDate; d <= r.EndDate; d = d.addDays(1))
+            if (weekday(d) >= 2 && weekday(d) <= 6)
+                emitDate(d);
+    }
+    void weekly()
+    {
+        if (!moves())
+            return;
+        for (int i = 1; i <= 7; ++i) {
+            if (r.RecurrenceDetail.mid(i - 1, 1) != "1")
+                continue;
+            QDate d = r.StartDate;
+            while (weekday(d) != i)
+                d = d.addDays(1);
+            emitDate(d);
+            while (d <= r.EndDate) {
+                for (int week = 0; week < r.RecurrenceInterval; ++week)
+                    d = d.addDays(7);
+                emitDate(d);
+            }
+        }
+    }
+    void monthlyDay()
+    {
+        if (!moves())
+            return;
+        QDate d = fromText(two(r.StartDate.month()) + "/" + r.RecurrenceDetail.trimmed() + "/" +
+                           QString::number(r.StartDate.year()));
+        if (failed)
+            return;
+        if (d < r.StartDate)
+            d = AddMonths(d, 1);
+        for (; d <= r.EndDate; d = AddMonths(d, r.RecurrenceInterval))
+            emitDate(d);
+    }
+    /// From the first of a month to its weekday of that ordinal.
+    QDate place(QDate d, int x, int w)
+    {
+        if (x < 4) {
+            while (weekday(d) != w + 1)
+                d = d.addDays(1);
+            return d.addDays(7 * x);
+        }
+        d = AddMonths(d, 1).addDays(-1);
+        while (weekday(d) != w + 1)
+            d = d.addDays(-1);
+        return d;
+    }
+    void monthlyWeekday()
+    {
+        const int x = number(0, 1), w = number(1, 1);
+        failed = failed || w > 6; // would look for ever
+        if (failed || !moves())
+            return;
+        for (QDate d = r.StartDate; d <= r.EndDate; d = AddMonths(firstOf(d), r.RecurrenceInterval)) {
+            d = place(firstOf(d), x, w);
+            if (d >= r.StartDate)
+                emitDate(d);
+        }
+    }
+    void yearlyDay()
+    {
+        const int month = number(0, -1) + (byName ? 1 : 0);
+        QDate d = fromText(QString("%1/%2/%3").arg(month).arg(r.RecurrenceInterval).arg(r.StartDate.year()));
+        if (failed)
+            return;
+        if (d < r.StartDate)
+            d = AddYears(d, 1);
+        for (; d <= r.EndDate; d = AddYears(d, 1))
+            emitDate(d);
+    }
+    void yearlyWeekday()
+    {
+        const int x = number(0, 1), w = number(1, 1), month = number(2, 2) + (byName ? 1 : 0);
+        failed = failed || w > 6 || month < 1 || month > 12;
+        if (failed)
+            return;
+        for (QDate d = r.StartDate; d <= r.EndDate; d = AddYears(firstOf(d), 1)) {
+            d = place(fromText(two(month) + "/01/" + QString::number(d.year())), x, w);
+            if (d >= r.StartDate)
+                emitDate(d);
+        }
+    }
+
+    const RecurrenceRule &r;
+    bool byName, filtered;
+    DateRange wanted;
+};
+
+class RandomRules
+{
+public:
+    explicit RandomRules(unsigned seed) : m_engine(seed) {}
+
+    int from(int low, int high) { return std::uniform_int_distribution<int>(low, high)(m_engine); }
+    QDate day(int lastYear) { return QDate(1990, 1, 1).addDays(from(0, (lastYear - 1990) * 365)); }
+
+    RecurrenceRule next()
+    {
+        RecurrenceRule rule;
+        rule.RecurrenceType = qint16(from(0, 4));
+        rule.RecurrenceSubtype = qint16(from(0, 1));
+        rule.StartDate = day(2050);
+        rule.EndDate = rule.StartDate.addDays(from(0, 9) == 0 ? from(-60, 40) : from(0, 3000));
+        rule.RecurrenceInterval = qint16(from(0, 19) == 0 ? from(-1, 0) : from(1, from(0, 1) == 0 ? 4 : 60));
+        rule.RecurrenceDetail = from(0, 19) == 0 ? QString("x") : detail(rule);
+        if (rule.is(Pattern::Yearly) && rule.RecurrenceSubtype == 0)
+            rule.RecurrenceInterval = qint16(from(0, 32));
+        return rule;
+    }
+
+private:
+    QString detail(const RecurrenceRule &rule)
+    {
+        const bool weekday = rule.RecurrenceSubtype == 1;
+        switch (Pattern(rule.RecurrenceType)) {
+        case Pattern::Daily: return {};
+        case Pattern::Weekly: return QString("%1").arg(from(0, 127), 7, 2, QChar('0'));
+        case Pattern::Monthly:
+            return weekday ? QString("%1%2").arg(from(0, 5)).arg(from(0, 7)) : QString::number(from(0, 32));
+        case Pattern::Yearly:
+            return weekday ? QString("%1%2%3").arg(from(0, 4)).arg(from(0, 6)).arg(from(0, 12), 2, 10, QChar('0'))
+                           : QString::number(from(0, 12));
+        case Pattern::Once: return day(2050).toString("MM/dd/yyyy");
+        }
+        return {};
+    }
+
+    std::mt19937 m_engine;
+};
+
+std::string inWords(const RecurrenceRule &rule)
+{
+    return QString("%1 to %2, type %3.%4, interval %5, detail \"%6\"")
+        .arg(rule.StartDate.toString(Qt::ISODate), rule.EndDate.toString(Qt::ISODate))
+        .arg(rule.RecurrenceType)
+        .arg(rule.RecurrenceSubtype)
+        .arg(rule.RecurrenceInterval)
+        .arg(rule.RecurrenceDetail)
+        .toStdString();
+}
+
+} // namespace
+
+TEST(RandomRules, WalkAsTheLiteralWalkDoes)
+{
+    const ScriptedDoors doors;
+    const char *given = std::getenv("OMK_TEST_SEED");
+    const unsigned seed = given ? unsigned(std::strtoul(given, nullptr, 10)) : std::random_device()();
+    std::printf("seed %u\n", seed);
+    RandomRules random(seed);
+    const OccurrenceRun *const runs[] = {&previewRun, &scheduleRun, &upcomingRun};
+    int made = 0, failed = 0;
+    for (int i = 0; i < 6000; ++i) {
+        const RecurrenceRule rule = random.next();
+        const OccurrenceRun &run = *runs[i % 3];
+        const QDate from = rule.StartDate.addDays(random.from(-400, 2000));
+        const DateRange range{from, from.addDays(random.from(0, 800))};
+        const LiteralWalk literal(rule, i % 3 == 0, i % 3 != 0, range);
+        std::vector<QDate> dates;
+        const auto fault = Walk(rule, run, range, "MMDDYY", [&dates](const QDate &date) { dates.push_back(date); });
+        ASSERT_EQ(fault.has_value(), literal.failed) << inWords(rule) << ", run " << i % 3 << ", seed " << seed;
+        ASSERT_TRUE(dates == literal.dates) << inWords(rule) << ", run " << i % 3 << ", seed " << seed;
+        made += !dates.empty();
+        failed += literal.failed;
+    }
+    EXPECT_GT(made, 2500) << "too few rules had dates for the comparison to mean anything";
+    EXPECT_GT(failed, 300);
+}
