@@ -34,10 +34,10 @@ bool isRecord(QStringView line) { return line.size() >= shortestRecord && line.f
 
 } // namespace
 
-QString TurnAbout(const QString &name)
+QString TurnAbout(QStringView name)
 {
     const qsizetype blank = name.lastIndexOf(u' ');
-    return blank < 0 ? name : QString(name.sliced(blank + 1) + u" - " + name.first(blank + 1));
+    return blank < 0 ? name.toString() : QString(name.sliced(blank + 1) + u" - " + name.first(blank + 1));
 }
 
 int ReadNameFile(const QString &fileName, const std::function<void(NameRecord)> &take,

@@ -11,13 +11,13 @@
 
 struct NameRecord
 {
-    QString common; ///< turned about, so that the family name leads: "Tang - Yellow "
-    QString latin;
+    QString common;    ///< turned about, so that the family name leads: "Tang - Yellow "
+    QStringView latin; ///< holds while the record is handed over
 };
 
 /// A name of two or more words, turned about at its last blank: last word, " - ", and what stood before it with its
 /// blank.
-QString TurnAbout(const QString &name);
+QString TurnAbout(QStringView name);
 
 /// Hands over each record, and after each the progress text: "Loading." with a dot more for each 20th name, anew at
 /// each 2000th. Returns the count. Throws RuntimeFailure (FileNotFound, PermissionDenied) where the file cannot be

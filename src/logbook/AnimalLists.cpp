@@ -1,5 +1,6 @@
 // The livestock window's list of animals: from the database, or from a name file, for fresh water or for the sea.
 #include <algorithm>
+#include <numeric>
 
 #include <QComboBox>
 #include <QRadioButton>
@@ -49,14 +50,19 @@ QString missingText(const char *names, const char *cannotView)
 /// In the order of the alphabet, whatever the case of the letters.
 QStringList sorted(QStringList names)
 {
-    std::vector<std::pair<QString, QString>> keyed;
-    keyed.reserve(static_cast<size_t>(names.size()));
-    for (QString &name : names)
-        keyed.emplace_back(name.toCaseFolded(), std::move(name));
-    std::stable_sort(keyed.begin(), keyed.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
-    for (qsizetype i = 0; i < names.size(); ++i)
-        names[i] = std::move(keyed[static_cast<size_t>(i)].second);
-    return names;
+    std::vector<QString> keys;
+    keys.reserve(size_t(names.size()));
+    for (const QString &name : std::as_const(names))
+        keys.push_back(name.toCaseFolded());
+    std::vector<qsizetype> order(keys.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [&keys](qsizetype a, qsizetype b) { return keys[size_t(a)] < keys[size_t(b)]; });
+    QStringList inOrder;
+    inOrder.reserve(names.size());
+    for (const qsizetype row : order)
+        inOrder << std::move(names[row]);
+    return inOrder;
 }
 
 } // namespace

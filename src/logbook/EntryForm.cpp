@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QLabel>
+#include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -76,6 +77,7 @@ QComboBox *EntryForm::makeCombo(const char *name)
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(24);
+    qobject_cast<QListView *>(combo->view())->setUniformItemSizes(true); // names by the ten thousand, each a line high
     combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
     combo->completer()->setFilterMode(Qt::MatchContains);
     return combo;

@@ -107,19 +107,22 @@ public:
     {
         const QString sql = QLatin1String(m_report.select) + QLatin1String(m_tankId ? tankFilter : "") +
                             QLatin1String(m_report.orderBy);
-        m_rows = m_database.OpenRecordset(sql, m_tankId ? Parameters{*m_tankId} : Parameters{});
-        return !m_rows.isEmpty();
+        m_rows.reset();
+        m_rows.reset(new RowStream(m_database.OpenForwardOnly(sql, m_tankId ? Parameters{*m_tankId} : Parameters{})));
+        return !m_rows->EOF_();
     }
 
     void print(Printer &page)
     {
+        if (!m_rows)
+            open(); // a preview prints again and again
         const bool orientation = page.Landscape();
         if (m_report.landscape)
             page.setLandscape(true);
         bool firstTank = true;
         QString tank;
         int pageNumber = 1;
-        for (m_rows.MoveFirst(); !m_rows.EOF_();) {
+        while (!m_rows->EOF_()) {
             if (const QString name = text("Tankname"); firstTank || name != tank) {
                 if (!firstTank)
                     page.NewPage();
@@ -129,21 +132,22 @@ public:
                 printTop(page, QLatin1String(m_report.title), pageNumber);
             }
             printEntry(page);
-            m_rows.MoveNext();
+            m_rows->MoveNext();
             // The position across is held against a height, so this never comes: a long tank runs on by the page's own
             // feed.
-            if (page.CurrentX > page.ScaleHeight() - page.ScaleHeight() / 11 && !m_rows.EOF_()) {
+            if (page.CurrentX > page.ScaleHeight() - page.ScaleHeight() / 11 && !m_rows->EOF_()) {
                 page.NewPage();
                 printTop(page, QStringLiteral("Ostrelmark Livestock Log"), ++pageNumber);
             }
         }
         page.EndDoc();
+        m_rows.reset(); // lets the database go
         if (m_report.landscape)
             page.setLandscape(orientation);
     }
 
 private:
-    QString text(const char *column) { return m_rows[QLatin1String(column)].text(); }
+    QString text(const char *column) { return m_rows->text(QLatin1String(column)); }
 
     void printTop(Printer &page, const QString &title, int pageNumber)
     {
@@ -167,7 +171,7 @@ private:
 
     QString cellText(const ReportColumn &column)
     {
-        const Value value = m_rows[QLatin1String(column.column)].value();
+        const Value value = m_rows->value(QLatin1String(column.column));
         return column.picture && !value.isNull() ? Format(value.toDouble(), QLatin1String(column.picture))
                                                  : value.text();
     }
@@ -182,9 +186,9 @@ private:
             }
             // Date and time stand whole in their column: in the narrow one of the water log on two lines, smaller if
             // need be.
-            const QString date = Format(m_rows[QLatin1String(m_report.dateColumn)].value().toDate(), m_datePicture);
+            const QString date = Format(m_rows->value(QLatin1String(m_report.dateColumn)).toDate(), m_datePicture);
             const QString time =
-                Format(m_rows[QLatin1String(m_report.timeColumn)].value().toTime(), QStringLiteral("hh:mm:ss AM/PM"));
+                Format(m_rows->value(QLatin1String(m_report.timeColumn)).toTime(), QStringLiteral("hh:mm:ss AM/PM"));
             cells.push_back(cell(page, i, date + (m_log == WaterTab ? u" -\n" : u" - ") + time));
             cells.back().shrink = true;
         }
@@ -201,7 +205,7 @@ private:
     Database &m_database;
     QString m_datePicture;
     std::optional<QString> m_tankId;
-    Recordset m_rows;
+    std::unique_ptr<RowStream> m_rows; ///< opened, and not yet printed
 };
 
 } // namespace

@@ -4,7 +4,6 @@
 #include <QCompleter>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -15,6 +14,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "platform/Icons.h"
 #include "platform/MaskedBox.h"
 #include "platform/RuntimeFailure.h"
 #include "text/Dates.h"
@@ -47,7 +47,7 @@ QString statuses()
 frm_LivesAddEdit::frm_LivesAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
 {
     setWindowTitle(QStringLiteral("Livestock Detail Window"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/livestock.svg")));
+    setWindowIcon(Icon("livestock"));
     makeControls();
     arrange(makePage(), "Livestock Entry", cmd_OK, cmd_Cancel);
     m_checks.watch(txt_DateAdded, [this] { return txt_dateadded_LostFocus(); });

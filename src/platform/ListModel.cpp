@@ -77,20 +77,55 @@ void ListModel::append(const QString &key, const QStringList &texts)
 
 void ListModel::sortBy(int column, Qt::SortOrder order)
 {
-    const int rows = rowCount();
+    const bool known = m_sorted && m_sortedColumn == column && int(m_likeAbove.size()) == rowCount();
+    if (!known)
+        applyOrder(sortedOrder(column, order));
+    else if (m_sortedOrder != order)
+        applyOrder(turnedOrder());
+    m_sorted = true;
+    m_sortedColumn = column;
+    m_sortedOrder = order;
+}
+
+std::vector<int> ListModel::sortedOrder(int column, Qt::SortOrder order)
+{
+    const auto rows = size_t(rowCount());
     std::vector<QString> keys;
-    keys.reserve(size_t(rows));
-    for (int row = 0; row < rows; ++row)
-        keys.push_back(m_source->text(row, column).toCaseFolded());
-    std::vector<int> sorted(static_cast<size_t>(rows));
+    keys.reserve(rows);
+    for (size_t row = 0; row < rows; ++row)
+        keys.push_back(m_source->text(int(row), column).toCaseFolded());
+    std::vector<int> sorted(rows);
     std::iota(sorted.begin(), sorted.end(), 0);
     const auto before = [&keys](int a, int b) { return keys[size_t(a)] < keys[size_t(b)]; };
     if (order == Qt::AscendingOrder)
         std::stable_sort(sorted.begin(), sorted.end(), before);
     else
         std::stable_sort(sorted.begin(), sorted.end(), [&before](int a, int b) { return before(b, a); });
-    applyOrder(std::move(sorted));
-    m_sorted = true;
+    m_likeAbove.assign(rows, false);
+    for (size_t row = 1; row < rows; ++row)
+        m_likeAbove[row] = keys[size_t(sorted[row])] == keys[size_t(sorted[row - 1])];
+    return sorted;
+}
+
+/// The present order the other way round, rows of like texts still in the source's order: no text is asked for.
+std::vector<int> ListModel::turnedOrder()
+{
+    std::vector<int> turned;
+    std::vector<bool> likeAbove;
+    turned.reserve(m_order.size());
+    likeAbove.reserve(m_order.size());
+    for (size_t end = m_order.size(); end > 0;) {
+        size_t start = end - 1;
+        while (m_likeAbove[start])
+            --start;
+        for (size_t row = start; row < end; ++row) {
+            turned.push_back(m_order[row]);
+            likeAbove.push_back(row > start);
+        }
+        end = start;
+    }
+    m_likeAbove = std::move(likeAbove);
+    return turned;
 }
 
 void ListModel::applyOrder(std::vector<int> order)

@@ -43,10 +43,15 @@ private:
 
     int sourceRow(int row) const { return m_order.empty() ? row : m_order[size_t(row)]; }
     void applyOrder(std::vector<int> order);
+    std::vector<int> sortedOrder(int column, Qt::SortOrder order);
+    std::vector<int> turnedOrder();
 
     std::vector<ListColumn> m_columns;
     std::shared_ptr<const ListSource> m_source;
     std::shared_ptr<OwnRows> m_own; ///< the source, where rows are added one by one
     std::vector<int> m_order;       ///< source row of each row; empty: the source's own order
     bool m_sorted = false;
+    int m_sortedColumn = -1;
+    Qt::SortOrder m_sortedOrder = Qt::AscendingOrder;
+    std::vector<bool> m_likeAbove; ///< of each sorted row: its text is that of the row above
 };

@@ -64,6 +64,7 @@ ListView::ListView(QWidget *parent) : QTableView(parent), m_model(new ListModel(
 {
     setModel(m_model);
     setItemDelegate(new RowDelegate(this));
+    setAutoFillBackground(true); // so that its scroll bars do not paint what lies behind it anew
     setShowGrid(false);
     setWordWrap(false);
     setTextElideMode(Qt::ElideRight);
@@ -286,9 +287,11 @@ void ListView::paintEvent(QPaintEvent *event)
     QTableView::paintEvent(event);
     if (!hasFocus() || !currentIndex().isValid())
         return;
-    QPainter painter(viewport()); // a plain line: the style's own frame has a gradient, dear on a whole row
-    painter.setPen(palette().color(QPalette::Highlight).darker(140));
-    painter.drawRect(rowRect(currentIndex().row()).adjusted(0, 0, -1, -1));
+    // Plain lines, filled: the style's own frame has a gradient, dear on a whole row.
+    QPainter painter(viewport());
+    const QRect row = rowRect(currentIndex().row());
+    for (const QRect &edge : QRegion(row).subtracted(row.adjusted(1, 1, -1, -1)))
+        painter.fillRect(edge, palette().color(QPalette::Highlight).darker(140));
 }
 
 void ListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -21,7 +21,8 @@ QString SettingsStore::value(const QString &key, const QString &defaultValue) co
 
 void SettingsStore::setValue(const QString &key, const QString &value)
 {
-    QSettings file(m_settings.fileName(), QSettings::IniFormat); // of its own: a failure of the past stays in the status
+    QSettings file(m_settings.fileName(),
+                   QSettings::IniFormat); // of its own: a failure of the past stays in the status
     const QVariant former = file.value(path(key));
     file.setValue(path(key), value);
     file.sync();

@@ -18,10 +18,7 @@ public:
     virtual void Form_Unload() {}
 
 protected:
-    ChildForm(Globals &globals, QWidget *parent) : QWidget(parent), g(globals)
-    {
-        setAutoFillBackground(true); // covers its frame, which then is not painted anew with each control
-    }
+    ChildForm(Globals &globals, QWidget *parent) : QWidget(parent), g(globals) {}
 
     void closeEvent(QCloseEvent *event) override
     {

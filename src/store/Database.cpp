@@ -1,5 +1,5 @@
-#include "platform/Files.h"
 #include "store/Database.h"
+#include "platform/Files.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -141,6 +141,11 @@ Recordset Database::OpenRecordset(const QString &sql, const Parameters &paramete
         state->table = writable->table;
     state->rows = std::make_shared<const Rows>(Rows::read(query, writable ? &state->rowids : nullptr));
     return Recordset(std::move(state));
+}
+
+RowStream Database::OpenForwardOnly(const QString &sql, const Parameters &parameters)
+{
+    return RowStream(connection(), sql, parameters);
 }
 
 Recordset Database::OpenForAppend(const QString &table)

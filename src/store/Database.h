@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include "store/Recordset.h"
+#include "store/RowStream.h"
 #include "store/Value.h"
 
 using Parameters = std::vector<Value>;
@@ -47,6 +48,8 @@ public:
     /// ...] [ORDER BY ...]" of one table can be written, all else only read. For the order that a person sees there is
     /// the collation CASEBLIND: "ORDER BY tankname COLLATE CASEBLIND". Throws SyntaxError where the statement is wrong.
     Recordset OpenRecordset(const QString &sql, const Parameters &parameters = {});
+    /// The same, one row after the other and none kept.
+    RowStream OpenForwardOnly(const QString &sql, const Parameters &parameters = {});
     /// A recordset of a table for AddNew alone; reads no rows.
     Recordset OpenForAppend(const QString &table);
     /// Runs a statement that changes rows; returns how many.

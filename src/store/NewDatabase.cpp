@@ -1,5 +1,5 @@
-#include "platform/Files.h"
 #include "store/NewDatabase.h"
+#include "platform/Files.h"
 
 #include <cerrno>
 #include <cstring>

@@ -74,6 +74,20 @@ Rows Rows::read(Statement &statement, std::vector<qint64> *rowids)
     return rows;
 }
 
+bool Rows::readNext(Statement &statement)
+{
+    m_cells.clear();
+    m_tags.clear();
+    m_texts.clear();
+    m_lastTexts.assign(m_kinds.size(), 0);
+    const bool more = statement.step();
+    if (m_names.isEmpty())
+        takeColumns(statement, statement.columnCount());
+    for (int c = 0; more && c < columns(); ++c)
+        takeCell(statement, c);
+    return more;
+}
+
 void Rows::takeColumns(Statement &statement, int count)
 {
     for (int c = 0; c < count; ++c) {

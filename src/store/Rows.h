@@ -27,6 +27,8 @@ public:
     /// Takes all rows of a statement that is ready to run. With `rowids` the statement's last column is no column of
     /// the rows: its numbers go there.
     static Rows read(Statement &statement, std::vector<qint64> *rowids = nullptr);
+    /// Takes the next row alone, in the place of what was there; false, and no row, at the end.
+    bool readNext(Statement &statement);
     /// The columns of a statement and no rows.
     static Rows describe(Statement &statement);
 

@@ -177,4 +177,7 @@ TEST_F(LogReports, ALandscapeCopyLeavesTheNextDocumentUpright)
     page.Print("next");
     page.EndDoc();
     EXPECT_TRUE(documents[0].landscape && !documents[1].landscape);
+    addWater("r1", QDate(2026, 1, 3), 7);
+    water.print(page); // again, as a preview does: from a fresh query
+    EXPECT_TRUE(documents[2].pages[0].find("8.000") && documents[2].pages[0].find("7.000"));
 }

@@ -31,7 +31,7 @@ ReadResult readBytes(const QByteArray &bytes, const QString &name = "NAMESSW.TXT
         folder.filePath(asked),
         [&read](NameRecord r) {
             read.names << r.common;
-            read.latin << r.latin;
+            read.latin << r.latin.toString();
         },
         [&read](const QString &text) { read.progress << text; });
     return read;
@@ -41,9 +41,9 @@ ReadResult readBytes(const QByteArray &bytes, const QString &name = "NAMESSW.TXT
 
 TEST(NameFile, TurnsANameAboutAtItsLastBlank)
 {
-    EXPECT_EQ(TurnAbout("Yellow Tang"), "Tang - Yellow ");
-    EXPECT_EQ(TurnAbout("Red Sea Sailfin Tang"), "Tang - Red Sea Sailfin ");
-    EXPECT_EQ(TurnAbout("Betta"), "Betta");
+    EXPECT_EQ(TurnAbout(u"Yellow Tang"), "Tang - Yellow ");
+    EXPECT_EQ(TurnAbout(u"Red Sea Sailfin Tang"), "Tang - Red Sea Sailfin ");
+    EXPECT_EQ(TurnAbout(u"Betta"), "Betta");
 }
 
 TEST(NameFile, TakesRecordsAloneWhateverTheLineEnds)

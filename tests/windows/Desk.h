@@ -52,15 +52,27 @@ protected:
     }
     ListView &list() const { return static_cast<ListView &>(*logbook->tab_logtype->currentWidget()); }
     QString column(int subItem) const { return hand::column(list(), subItem); }
-    void push(const char *button) { hand::click<QToolButton>(*logbook, button); }
+    /// A command of the toolbar that opens no window.
+    void push(const char *button)
+    {
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, [] {
+            if (QWidget *window = QApplication::activeModalWidget()) {
+                ADD_FAILURE() << window->objectName().toStdString() << " came.";
+                window->close();
+            }
+        });
+        watch.start(0);
+        hand::click<QToolButton>(*logbook, button);
+    }
 
-    /// A command of the toolbar that opens the window, and what is done in it; a row is selected first (0: none).
+    /// One that opens the window, and what is done in it; a row is selected first (0: none).
     void give(const char *button, int row, const Action &action)
     {
         keeper.inNext<Window>(action);
         if (row > 0)
             hand::clickRow(list(), row);
-        push(button);
+        hand::click<QToolButton>(*logbook, button);
     }
     void add(const Action &action) { give("addentries", 0, action); }
     void change(int row, const Action &action) { give("changeentries", row, action); }
@@ -115,7 +127,8 @@ protected:
                 continue;
             mouse::click(w.cmd_OK);
             EXPECT_EQ(told(1), fault.words) << fault.box << ' ' << fault.typed.toStdString();
-            EXPECT_TRUE(control<QWidget>(w, fault.box).hasFocus() && w.isVisible()) << fault.box;
+            ASSERT_TRUE(w.isVisible()) << fault.box;
+            EXPECT_TRUE(control<QWidget>(w, fault.box).hasFocus()) << fault.box;
         }
         EXPECT_EQ(told(0), "");
     }

@@ -62,6 +62,7 @@ inline void fill(QWidget &box, const QString &text)
         press(Qt::Key_Escape);
     QCoreApplication::processEvents();
     box.activateWindow();
+    QCoreApplication::processEvents();
     EXPECT_TRUE(isInFront(*box.window()));
 }
 

@@ -267,7 +267,7 @@ TEST_F(Maintenance, ChangingLeavesALivestockWindowBehindThatDoesNoHarm)
         EXPECT_EQ(w.txt_timeadded->Text(), "09:26:53 am");
         hand::press(Qt::Key_Escape);
     });
-    push("addentries");
+    hand::click<QToolButton>(*logbook, "addentries");
     EXPECT_EQ(told(0), "");
 }
 
