@@ -1,0 +1,83 @@
+#include "Figure.h"
+
+#include <stdexcept>
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include "logbook/LogKinds.h"
+#include "OwnProcess.h"
+
+namespace {
+
+/// Runs a program that reports itself in one line.
+Sample run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationDirPath() + u'/' + program, arguments);
+    const bool finished = process.waitForFinished();
+    const QList<QByteArray> words = process.readAllStandardOutput().trimmed().split(' ');
+    if (!finished || process.exitCode() != 0 || words.size() != 2)
+        throw std::runtime_error(program.toStdString() + ": " + process.readAllStandardError().toStdString());
+    return {words[0].toDouble(), words[1].toDouble() / 1024};
+}
+
+Sample runFromStart(const QString &program, const QString &what, const QStringList &more = {})
+{
+    return run(program, QStringList{what, QString::number(nowNanoseconds())} + more);
+}
+
+} // namespace
+
+Figure openTankFigure(const QString &folder, const QString &tankId)
+{
+    const QString database = folder + u"/OM.MDB";
+    const QString select = QLatin1String(logKinds[WaterTab].select) + QLatin1String(logKinds[WaterTab].ascending);
+    return {.name = QStringLiteral("Opening a tank with 100,000 tests, ms"),
+            .target = 2,
+            .ours = [=] { return run(QStringLiteral("bench_open_tank"), {folder}); },
+            .floor =
+                [=] {
+                    return run(QStringLiteral("bench_open_tank_floor"), {database, select, tankId});
+                },
+            .extraName = QStringLiteral("  memory added, MB"),
+            .extraTarget = 1.7};
+}
+
+Figure startFigure(const QString &folder)
+{
+    return {.name = QStringLiteral("Start to first paint, ms"),
+            .target = 2,
+            .ours = [=] { return runFromStart(QStringLiteral("bench_start"), folder); },
+            .floor = [=] { return runFromStart(QStringLiteral("bench_start_floor"), folder + u"/OM.MDB"); },
+            .repetitions = 25,
+            .extraName = QStringLiteral("  resident memory, MB"),
+            .extraTarget = 1.6};
+}
+
+Figure startWithTextFigure(const QString &folder)
+{
+    Figure figure = startFigure(folder);
+    figure.name = QStringLiteral("Start, beside a floor with text, ms");
+    figure.floor = [=] {
+        return runFromStart(QStringLiteral("bench_start_floor"), folder + u"/OM.MDB", {QStringLiteral("text")});
+    };
+    return figure;
+}
+
+Figure pdfFigure(const QString &folder)
+{
+    return {.name = QStringLiteral("A PDF of 10,000 entries, of 1,000, ms"),
+            .target = 1.2,
+            .ours =
+                [=] {
+                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("10000")});
+                },
+            .floor =
+                [=] {
+                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("1000")});
+                },
+            .repetitions = 5,
+            .extraName = QStringLiteral("  most memory, MB"),
+            .extraTarget = 1.1};
+}

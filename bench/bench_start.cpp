@@ -1,0 +1,32 @@
+// bench_start FOLDER NANOSECONDS: the start of the program as main() does it, on the database of that folder, up to the
+// first paint of the main window.
+#include <cstdlib>
+
+#include <QDir>
+
+#include "FirstPaint.h"
+#include "platform/Application.h"
+#include "platform/DesktopDoors.h"
+#include "platform/Guarded.h"
+#include "shell/Forms.h"
+#include "shell/frm_OMKMDIMain.h"
+
+int main(int argc, char **argv)
+{
+    if (argc != 3 || !QDir::setCurrent(QString::fromLocal8Bit(argv[1])))
+        return 2;
+    FirstPaint<Application> application(argc, argv, std::atoll(argv[2]));
+    DesktopDoors doors;
+    Doors::install(&doors);
+    Globals globals;
+    globals.splashMilliseconds = 0;
+    Forms forms(globals);
+    try {
+        auto &main = Form<frm_OMKMDIMain>();
+        application.watch(&main);
+        main.MDIForm_Load();
+    } catch (const RuntimeFailure &failure) {
+        endWithFailure(failure);
+    }
+    return Application::exec();
+}
