@@ -13,6 +13,7 @@
 #include "platform/Doors.h"
 #include "platform/Icons.h"
 #include "platform/MaskedBox.h"
+#include "platform/RuntimeFailure.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/MenuEntry.h"
 #include "text/Dates.h"
@@ -140,6 +141,18 @@ bool EntryForm::refuse(const QString &text, QWidget *box, const QString &title)
 bool EntryForm::isDate(const MaskedBox &box) const
 {
     return IsDate(NormalizeDateText(box.Text(), g.options.DateOrder));
+}
+
+bool EntryForm::stored(const std::function<void()> &store, const QString &ifTaken, QWidget *box)
+{
+    try {
+        store();
+        return true;
+    } catch (const RuntimeFailure &failure) {
+        if (failure.number() != Failure::DuplicateKey)
+            throw;
+    }
+    return refuse(ifTaken, box);
 }
 
 void EntryForm::showFrom(QWidget *first)

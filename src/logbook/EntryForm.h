@@ -3,6 +3,8 @@
 // window's own.
 #pragma once
 
+#include <functional>
+
 #include "platform/LeavingChecks.h"
 #include "shell/DialogForm.h"
 
@@ -41,6 +43,10 @@ protected:
     bool refuse(const QString &text, QWidget *box, const QString &title = QStringLiteral("Oops!"));
     /// The date of a box, read in the user's order; nothing where it is none.
     bool isDate(const MaskedBox &box) const;
+
+    /// Runs the storing; false, after a refusal in those words, where the entry's moment is taken. Other failures go
+    /// on.
+    bool stored(const std::function<void()> &store, const QString &ifTaken, QWidget *box);
 
     /// Shows the window with the focus in that box.
     void showFrom(QWidget *first);

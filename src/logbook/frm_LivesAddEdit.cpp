@@ -273,15 +273,9 @@ void frm_LivesAddEdit::cmd_OK_Click()
 {
     if (!m_checks.passes() || !fieldsAreGood())
         return;
-    try {
-        store();
-    } catch (const RuntimeFailure &failure) {
-        if (failure.number() != Failure::DuplicateKey)
-            throw;
-        refuse(QStringLiteral("This tank already has an entry for that animal at that date and time."), txt_timeadded);
-        return;
-    }
-    Unload(*this);
+    if (stored([this] { store(); },
+               QStringLiteral("This tank already has an entry for that animal at that date and time."), txt_timeadded))
+        Unload(*this);
 }
 
 void frm_LivesAddEdit::cmd_Cancel_Click() { Unload(*this); }

@@ -239,15 +239,9 @@ void frm_WaterAddEdit::cmd_OK_Click()
 {
     if (!m_checks.passes())
         return;
-    try {
-        store();
-    } catch (const RuntimeFailure &failure) {
-        if (failure.number() != Failure::DuplicateKey)
-            throw;
-        refuse(QStringLiteral("This tank already has a water test at that date and time."), txt_time);
-        return;
-    }
-    Unload(*this);
+    if (stored([this] { store(); }, QStringLiteral("This tank already has a water test at that date and time."),
+               txt_time))
+        Unload(*this);
 }
 
 void frm_WaterAddEdit::cmd_Exit_Click() { Unload(*this); }

@@ -86,12 +86,8 @@ void frm_Waterlog::makeToolbar()
         std::function<void()> action;
         if (row.command)
             action = [this, command = row.command] { (this->*command)(); };
-        auto *button = new MenuEntry(QLatin1String(row.key), QLatin1String(row.toolTip), std::move(action), this);
-        button->setIcon(Icon(row.key));
-        button->setToolTip(QLatin1String(row.toolTip));
-        Toolbar1->addAction(button);
-        Toolbar1->widgetForAction(button)->setObjectName(QLatin1String(row.key));
-        Toolbar1->widgetForAction(button)->setAccessibleName(QLatin1String(row.toolTip));
+        auto *button =
+            AddToolButton(*Toolbar1, QLatin1String(row.key), QLatin1String(row.toolTip), row.key, std::move(action));
         m_buttons.emplace(QLatin1String(row.key), button);
     }
 }

@@ -8,6 +8,8 @@
 
 #include "platform/Guarded.h"
 
+class QToolBar;
+
 class MenuEntry : public QAction
 {
 public:
@@ -31,3 +33,7 @@ public:
 private:
     std::function<void()> m_action;
 };
+
+/// A button of a toolbar under its key, which is the name of its control too, with its tip and its picture.
+MenuEntry *AddToolButton(QToolBar &bar, const QString &key, const QString &toolTip, const char *image,
+                         std::function<void()> action);

@@ -100,12 +100,8 @@ void frm_OMKMDIMain::makeToolbar()
         std::function<void()> action;
         if (same->hasAction())
             action = [same] { same->run(); };
-        auto *button = new MenuEntry(QLatin1String(row.key), QLatin1String(row.toolTip), std::move(action), this);
-        button->setIcon(Icon(row.image));
-        button->setToolTip(QLatin1String(row.toolTip));
-        Toolbar1->addAction(button);
-        Toolbar1->widgetForAction(button)->setObjectName(QLatin1String(row.key));
-        Toolbar1->widgetForAction(button)->setAccessibleName(QLatin1String(row.toolTip));
+        auto *button =
+            AddToolButton(*Toolbar1, QLatin1String(row.key), QLatin1String(row.toolTip), row.image, std::move(action));
         m_buttons.emplace(QLatin1String(row.key), button);
     }
 
