@@ -6,8 +6,6 @@
 
 #include <QString>
 
-struct Globals;
-
 struct Measurement
 {
     const char *column;    ///< of WATERLOG

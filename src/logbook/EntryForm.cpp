@@ -15,7 +15,6 @@
 #include "platform/MaskedBox.h"
 #include "platform/RuntimeFailure.h"
 #include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 #include "text/Dates.h"
 
 EntryForm::EntryForm(Globals &globals, QWidget *parent) : DialogForm(globals, parent), m_checks(this) {}
@@ -130,14 +129,6 @@ void EntryForm::pickDate(MaskedBox &box)
         box.setText(Format(*date, g.options.DatePicture));
 }
 
-bool EntryForm::refuse(const QString &text, QWidget *box, const QString &title)
-{
-    Beep();
-    MsgBox(text, vbExclamation, title);
-    box->setFocus();
-    return false;
-}
-
 bool EntryForm::isDate(const MaskedBox &box) const
 {
     return IsDate(NormalizeDateText(box.Text(), g.options.DateOrder));
@@ -157,9 +148,7 @@ bool EntryForm::stored(const std::function<void()> &store, const QString &ifTake
 
 void EntryForm::showFrom(QWidget *first)
 {
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FilePrint->Enabled(false);
-    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
+    Form<frm_OMKMDIMain>().disablePrint();
     first->setFocus();
     ShowModal();
 }

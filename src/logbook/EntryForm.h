@@ -39,8 +39,6 @@ protected:
     /// Opens the calendar on the box's date, or on today, and puts the choice into the box.
     void pickDate(MaskedBox &box);
 
-    /// A beep and a warning; the focus goes back to the box. False, so that a check can end with it.
-    bool refuse(const QString &text, QWidget *box, const QString &title = QStringLiteral("Oops!"));
     /// The date of a box, read in the user's order; nothing where it is none.
     bool isDate(const MaskedBox &box) const;
 

@@ -4,7 +4,6 @@
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
 #include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 
 frm_OMKLogPrint::frm_OMKLogPrint(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
 {
@@ -14,19 +13,12 @@ frm_OMKLogPrint::frm_OMKLogPrint(Globals &globals, QWidget *parent) : DialogForm
     on(CMD_Cancel, &QPushButton::clicked, this, &frm_OMKLogPrint::cmd_Cancel_Click);
 }
 
-void frm_OMKLogPrint::Form_Activate()
-{
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FilePrint->Enabled(false);
-    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
-}
-
 void frm_OMKLogPrint::ShowFor(LogTab log, const QString &tankId)
 {
     QRadioButton *const options[] = {opt_WaterQuality, opt_Livestock, opt_Maintenance};
     options[log]->setChecked(true);
     m_tankId = tankId;
-    Form_Activate();
+    Form<frm_OMKMDIMain>().disablePrint();
     ShowModal();
 }
 

@@ -16,7 +16,6 @@ public:
 
 private:
     void Cancel() override { cmd_Cancel_Click(); }
-    void Form_Activate();
     void printLog(LogTab log);
     void PrintLivestockLog() { printLog(LivestockTab); }
     void PrintMaintenanceLog() { printLog(MaintenanceTab); }

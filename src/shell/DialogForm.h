@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+#include "platform/Doors.h"
 #include "shell/Forms.h"
 
 class DialogForm : public QDialog
@@ -18,6 +19,14 @@ protected:
 
     /// Leaves without storing.
     virtual void Cancel() = 0;
+    /// A beep and a warning; the focus goes to the box. False, so that a check can end with it.
+    bool refuse(const QString &text, QWidget *box, const QString &title = QStringLiteral("Oops!"))
+    {
+        Beep();
+        MsgBox(text, vbExclamation, title);
+        box->setFocus();
+        return false;
+    }
     void ShowModal() { Forms::current().showModal(*this); }
 
     Globals &g;

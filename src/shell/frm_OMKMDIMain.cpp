@@ -226,6 +226,12 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
     child.setFocus();
 }
 
+void frm_OMKMDIMain::disablePrint()
+{
+    mnu_FilePrint->Enabled(false);
+    mnu_FilePrint->setText(QStringLiteral("&Print"));
+}
+
 void frm_OMKMDIMain::setPanel(const QString &text) { m_panel->setText(text); }
 
 void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)

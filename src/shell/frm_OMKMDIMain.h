@@ -36,6 +36,8 @@ public:
 
     /// Shows a window among the children and gives it the focus.
     void ShowChild(ChildForm &child);
+    /// For a window in front that has nothing to print.
+    void disablePrint();
     /// Text of panel 1 of the status bar.
     void setPanel(const QString &text);
     /// A tool button of the toolbar by its key.

@@ -4,7 +4,6 @@
 #include "platform/Guarded.h"
 #include "shell/ErrorHandler.h"
 #include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"
 
@@ -25,7 +24,6 @@ constexpr WaterType waterTypes[] = {
 constexpr int longestName = 50;
 constexpr double biggestTank = 9999; // gallons
 
-const QString oops = QStringLiteral("Oops!");
 const QString tankByName = QStringLiteral("SELECT * FROM tanklst where tankname = ?");
 
 } // namespace
@@ -44,13 +42,6 @@ frm_TankAddNew::frm_TankAddNew(Globals &globals, QWidget *parent) : DialogForm(g
     m_checks.exempt(cmd_Cancel);
     on(cmd_OK, &QPushButton::clicked, this, &frm_TankAddNew::cmd_OK_Click);
     on(cmd_Cancel, &QPushButton::clicked, this, &frm_TankAddNew::cmd_Cancel_Click);
-}
-
-void frm_TankAddNew::Form_Activate()
-{
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FilePrint->Enabled(false);
-    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
 }
 
 QRadioButton *frm_TankAddNew::waterTypeOption(const QString &code)
@@ -72,7 +63,7 @@ void frm_TankAddNew::AddNewTank()
     ud_tanksize->setValue(55);
     txt_tanksize->setText(QStringLiteral("55"));
     g.tankDialog.DialogMode = QStringLiteral("add");
-    Form_Activate();
+    Form<frm_OMKMDIMain>().disablePrint();
     ShowModal();
 }
 
@@ -93,16 +84,8 @@ void frm_TankAddNew::ChangeTank(const QString &tankName)
     txt_tanksize->setText(size);
     g.tankDialog.DialogMode = QStringLiteral("edit");
     setWindowTitle(u"Change Tank Info for " + tankName);
-    Form_Activate();
+    Form<frm_OMKMDIMain>().disablePrint();
     ShowModal();
-}
-
-bool frm_TankAddNew::refuse(const QString &text, QWidget *box)
-{
-    Beep();
-    MsgBox(text, vbExclamation, oops);
-    box->setFocus();
-    return false;
 }
 
 bool frm_TankAddNew::fieldsAreGood()

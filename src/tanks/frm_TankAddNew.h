@@ -21,12 +21,10 @@ public:
 
 private:
     void Cancel() override { cmd_Cancel_Click(); }
-    void Form_Activate();
     /// The option of a water type's code; null for a code that is none.
     QRadioButton *waterTypeOption(const QString &code);
     /// Checks in their order; false, after its box, at the first fault.
     bool fieldsAreGood();
-    bool refuse(const QString &text, QWidget *box);
     bool txt_tanksize_LostFocus();
     /// A new tank's identity: the date and time of its making; a tank made in the same second gets the next free one.
     QString newTankId();
