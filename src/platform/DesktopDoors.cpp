@@ -1,5 +1,7 @@
 #include "platform/DesktopDoors.h"
 
+#include <map>
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -46,6 +48,26 @@ QMessageBox::Icon iconOf(int icon)
     }
 }
 
+struct BoxButton
+{
+    int of; ///< the sum's part that tells the buttons
+    QMessageBox::StandardButton standard;
+    const char *caption; ///< where it is none of the standard ones
+    QMessageBox::ButtonRole role;
+    MsgBoxAnswer answer;
+    bool leaves; ///< what Esc and the title bar do
+};
+
+constexpr BoxButton boxButtons[] = {
+    {vbOKOnly, QMessageBox::Ok, "", QMessageBox::AcceptRole, MsgBoxAnswer::OK, true},
+    {vbOKCancel, QMessageBox::Ok, "", QMessageBox::AcceptRole, MsgBoxAnswer::OK, false},
+    {vbOKCancel, QMessageBox::Cancel, "", QMessageBox::RejectRole, MsgBoxAnswer::Cancel, true},
+    {vbYesNo, QMessageBox::Yes, "", QMessageBox::YesRole, MsgBoxAnswer::Yes, false},
+    {vbYesNo, QMessageBox::No, "", QMessageBox::NoRole, MsgBoxAnswer::No, true},
+    {omkSkipDelete, QMessageBox::NoButton, "&Skip", QMessageBox::RejectRole, MsgBoxAnswer::Skip, true},
+    {omkSkipDelete, QMessageBox::NoButton, "&Delete", QMessageBox::DestructiveRole, MsgBoxAnswer::Delete, false},
+};
+
 std::optional<QString> askPdfName(QWidget *parent, const PrintDialogRequest &request)
 {
     QString name = QFileDialog::getSaveFileName(parent, QStringLiteral("No printer is set up: save as PDF"),
@@ -70,19 +92,25 @@ MsgBoxAnswer DesktopDoors::msgBox(const MsgBoxRequest &request)
     box.setWindowTitle(request.title.isEmpty() ? QStringLiteral("Ostrelmark") : request.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(request.text);
-    const bool yesNo = request.buttons() == vbYesNo;
-    const auto first = yesNo ? QMessageBox::Yes : QMessageBox::Ok;
-    const auto second = yesNo ? QMessageBox::No : QMessageBox::Cancel;
-    box.addButton(first);
-    if (request.buttons() != vbOKOnly)
-        box.addButton(second);
-    box.setDefaultButton(request.secondIsDefault() && request.buttons() != vbOKOnly ? second : first);
-    switch (box.exec()) {
-    case QMessageBox::Yes: return MsgBoxAnswer::Yes;
-    case QMessageBox::No: return MsgBoxAnswer::No;
-    case QMessageBox::Ok: return MsgBoxAnswer::OK;
-    default: return request.buttons() == vbOKOnly ? MsgBoxAnswer::OK : yesNo ? MsgBoxAnswer::No : MsgBoxAnswer::Cancel;
+    box.setDetailedText(request.details);
+    std::map<const QAbstractButton *, MsgBoxAnswer> meaning;
+    MsgBoxAnswer answerOfLeaving = MsgBoxAnswer::OK;
+    for (const BoxButton &row : boxButtons) {
+        if (row.of != request.buttons())
+            continue;
+        auto *button = row.standard != QMessageBox::NoButton ? box.addButton(row.standard)
+                                                             : box.addButton(QLatin1String(row.caption), row.role);
+        if (row.leaves) {
+            box.setEscapeButton(button);
+            answerOfLeaving = row.answer;
+        }
+        if (meaning.empty() || request.secondIsDefault())
+            box.setDefaultButton(button); // the first stays it, or the last takes it over
+        meaning.emplace(button, row.answer);
     }
+    box.exec();
+    const auto clicked = meaning.find(box.clickedButton());
+    return clicked == meaning.end() ? answerOfLeaving : clicked->second;
 }
 
 bool DesktopDoors::failureBox(const RuntimeFailure &failure, bool mayReturn)

@@ -17,9 +17,9 @@ Doors &Doors::current()
 
 Doors *Doors::install(Doors *doors) { return std::exchange(installed, doors); }
 
-MsgBoxAnswer MsgBox(const QString &text, int flags, const QString &title)
+MsgBoxAnswer MsgBox(const QString &text, int flags, const QString &title, const QString &details)
 {
-    return Doors::current().msgBox({text, flags, title});
+    return Doors::current().msgBox({text, flags, title, details});
 }
 
 void Beep() { Doors::current().beep(); }

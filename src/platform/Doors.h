@@ -19,6 +19,7 @@ enum MsgBoxFlag : int {
     vbOKOnly = 0,
     vbOKCancel = 1,
     vbYesNo = 4,
+    omkSkipDelete = 7, ///< ours: "Skip", the default and what Esc does, and "Delete"
     vbCritical = 16,
     vbQuestion = 32,
     vbExclamation = 48, ///< the warning icon
@@ -26,13 +27,14 @@ enum MsgBoxFlag : int {
     vbDefaultButton2 = 256,
 };
 
-enum class MsgBoxAnswer { OK = 1, Cancel = 2, Yes = 6, No = 7 };
+enum class MsgBoxAnswer { OK = 1, Cancel = 2, Yes = 6, No = 7, Skip = 101, Delete = 102 };
 
 struct MsgBoxRequest
 {
     QString text;
     int flags = vbOKOnly; ///< sum of MsgBoxFlag
     QString title;
+    QString details = {}; ///< a long list, shown on demand; empty for none
     int buttons() const { return flags & 15; }
     int icon() const { return flags & 0x70; }
     bool secondIsDefault() const { return (flags & vbDefaultButton2) != 0; }
@@ -104,7 +106,7 @@ public:
 };
 
 /// Shows a message box and waits for its answer. The text is shown as plain text.
-MsgBoxAnswer MsgBox(const QString &text, int flags = vbOKOnly, const QString &title = {});
+MsgBoxAnswer MsgBox(const QString &text, int flags = vbOKOnly, const QString &title = {}, const QString &details = {});
 void Beep();
 QDateTime Now();
 /// Reads a setting of section SETTINGS; the default comes back where there is none.

@@ -13,6 +13,8 @@ template <class T> T takeNext(std::deque<T> &script, T otherwise)
 
 MsgBoxAnswer defaultAnswer(const MsgBoxRequest &request)
 {
+    if (request.buttons() == omkSkipDelete)
+        return MsgBoxAnswer::Skip;
     if (request.buttons() == vbYesNo)
         return request.secondIsDefault() ? MsgBoxAnswer::No : MsgBoxAnswer::Yes;
     return request.secondIsDefault() ? MsgBoxAnswer::Cancel : MsgBoxAnswer::OK;
