@@ -9,7 +9,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "common/frm_Caltool.h"
+#include "common/DateBoxes.h"
 #include "platform/Doors.h"
 #include "platform/Icons.h"
 #include "platform/MaskedBox.h"
@@ -107,12 +107,6 @@ void EntryForm::arrange(QWidget *page, const char *tabCaption, QPushButton *ok, 
     resize(outer->sizeHint().expandedTo(QSize(640, 0)));
 }
 
-void EntryForm::useDateOrder(MaskedBox &box) const
-{
-    const QString &delimiter = g.options.DateDelimiter;
-    box.setMask(u"##" + delimiter + u"##" + delimiter + u"##");
-}
-
 void EntryForm::setToNow(MaskedBox &date, MaskedBox &time) const
 {
     const QDateTime now = Now();
@@ -122,11 +116,7 @@ void EntryForm::setToNow(MaskedBox &date, MaskedBox &time) const
 
 void EntryForm::pickDate(MaskedBox &box)
 {
-    g.calendar.SelectedDate = box.ClipText().isEmpty() ? Format(Now().date(), QStringLiteral("mm/dd/yyyy"))
-                                                       : NormalizeDateText(box.Text(), g.options.DateOrder);
-    Form<frm_Caltool>().ShowCalendar(0, 0);
-    if (const auto date = ReadDate(g.calendar.SelectedDate))
-        box.setText(Format(*date, g.options.DatePicture));
+    box.setText(Format(AskCalendar(g, NormalizeDateText(box.Text(), g.options.DateOrder)), g.options.DatePicture));
 }
 
 bool EntryForm::isDate(const MaskedBox &box) const

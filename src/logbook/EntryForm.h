@@ -32,8 +32,6 @@ protected:
     /// The page of the fields under its one tab, and the buttons below it.
     void arrange(QWidget *page, const char *tabCaption, QPushButton *ok, QPushButton *cancel);
 
-    /// A date box in the user's order and delimiter; emptied.
-    void useDateOrder(MaskedBox &box) const;
     /// Today and now, as a new entry starts.
     void setToNow(MaskedBox &date, MaskedBox &time) const;
     /// Opens the calendar on the box's date, or on today, and puts the choice into the box.

@@ -12,6 +12,7 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "common/DateBoxes.h"
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
@@ -164,8 +165,8 @@ void frm_LivesAddEdit::fillCombo(QComboBox &combo, const QString &sql)
 
 void frm_LivesAddEdit::setDateOrder()
 {
-    useDateOrder(*txt_DateAdded);
-    useDateOrder(*txt_datelost);
+    UseDateOrder(*txt_DateAdded, g.options);
+    UseDateOrder(*txt_datelost, g.options);
 }
 
 void frm_LivesAddEdit::setDefaults()

@@ -3,6 +3,7 @@
 // Cancel.
 #pragma once
 
+#include "common/DateBoxes.h"
 #include "logbook/EntryForm.h"
 
 class QLineEdit;
@@ -15,7 +16,7 @@ public:
     frm_MaintAddEdit(Globals &globals, QWidget *parent);
 
     void Form_Load();
-    void setDateOrder() { useDateOrder(*txt_logdate); }
+    void setDateOrder() { UseDateOrder(*txt_logdate, g.options); }
     /// The values that a new entry starts with.
     void setDefaults();
     void load(Recordset &row);

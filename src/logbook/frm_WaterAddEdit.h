@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "common/DateBoxes.h"
 #include "common/Measurements.h"
 #include "logbook/EntryForm.h"
 
@@ -18,7 +19,7 @@ public:
     frm_WaterAddEdit(Globals &globals, QWidget *parent);
 
     void Form_Load();
-    void setDateOrder() { useDateOrder(*txt_date); }
+    void setDateOrder() { UseDateOrder(*txt_date, g.options); }
     /// The values that a new test starts with, by the default water type and not by the tank's.
     void setDefaults(const QString &waterType);
     /// The current row's measurements and comment.
