@@ -76,6 +76,7 @@ ListView::ListView(QWidget *parent) : QTableView(parent), m_model(new ListModel(
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setFirstSectionMovable(true);

@@ -62,7 +62,7 @@ UpDown::UpDown(QWidget *parent) :
     column->setSpacing(0);
     column->addWidget(m_up);
     column->addWidget(m_down);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(m_up, &QToolButton::clicked, this, [this] { stepBy(1); });
     connect(m_down, &QToolButton::clicked, this, [this] { stepBy(-1); });
     nameButtons();
