@@ -28,6 +28,9 @@
 #include "platform/DesktopDoors.h"
 #include "platform/MaskedBox.h"
 #include "platform/SettingsStore.h"
+#include "reminders/frm_Maintsched.h"
+#include "reminders/frm_SchedNewAddEdit.h"
+#include "reminders/frm_Schedule.h"
 #include "SampleData.h"
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKCredits.h"
@@ -69,7 +72,7 @@ private:
 };
 
 /// The desktop with the clock standing still, settings of its own, and each box photographed and answered with its
-/// first button.
+/// default button.
 class ShotDoors : public DesktopDoors
 {
 public:
@@ -82,13 +85,19 @@ public:
     {
         return m_album.path(request.fileName);
     }
+    std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override
+    {
+        PrintDialogAnswer answer;
+        answer.pdfFileName = m_album.path(request.documentName + u".pdf");
+        return answer;
+    }
     MsgBoxAnswer msgBox(const MsgBoxRequest &request) override
     {
         const QString name = QStringLiteral("box-%1").arg(++m_boxes, 2, 10, QLatin1Char('0'));
         QTimer::singleShot(0, [this, name] {
-            if (QWidget *box = QApplication::activeModalWidget()) {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 m_album.take(*box, name);
-                static_cast<QDialog *>(box)->accept();
+                box->defaultButton()->click();
             }
         });
         return DesktopDoors::msgBox(request);
@@ -239,6 +248,70 @@ void playPrinting(Album &album, frm_Waterlog &logbook)
     }
 }
 
+using ComposeReminder = std::function<void(frm_SchedNewAddEdit &)>;
+
+struct SampleReminder
+{
+    const char *task;
+    ComposeReminder compose;
+};
+
+/// One of each pattern.
+const SampleReminder sampleReminders[] = {
+    {"Feed frozen food", [](frm_SchedNewAddEdit &w) { w.txt_DailyDays->setText(QStringLiteral("2")); }},
+    {"Water change, 10 gallons",
+     [](frm_SchedNewAddEdit &w) {
+         w.opt_Weekly->setChecked(true);
+         w.chk_WeeklyDay[6]->setChecked(true);
+     }},
+    {"Rinse the filter sponge",
+     [](frm_SchedNewAddEdit &w) {
+         w.opt_Monthly->setChecked(true);
+         w.Opt_MonthlyXWeekdayofEveryMonth->setChecked(true);
+         w.cbo_MonthlyWeekday->setCurrentIndex(0);
+     }},
+    {"Replace the UV lamp",
+     [](frm_SchedNewAddEdit &w) {
+         w.opt_Yearly->setChecked(true);
+         w.cbo_YearlyMonth->setCurrentIndex(8);
+         w.txt_YearlyDay->setText(QStringLiteral("15"));
+     }},
+    {"Fetch the new clownfish",
+     [](frm_SchedNewAddEdit &w) {
+         w.opt_Once->setChecked(true);
+         w.txt_OnceDate->setText(QStringLiteral("06/27/26"));
+     }},
+};
+
+void playReminders(Album &album, frm_OMKMDIMain &main)
+{
+    main.mnu_ToolsRemindersAddEdit_Click();
+    auto &list = Form<frm_Maintsched>();
+    for (const SampleReminder &reminder : sampleReminders) {
+        inDialog([&list] { list.cmd_AddTask->click(); },
+                 [&] {
+                     auto &editor = Form<frm_SchedNewAddEdit>();
+                     editor.txt_TaskDescription->setText(QLatin1String(reminder.task));
+                     reminder.compose(editor);
+                     const QString pattern = editor.panels->currentWidget()->objectName().mid(4).toLower();
+                     if (pattern == u"monthly")
+                         editor.cmd_PreviewSchedule->click();
+                     album.take(editor, u"reminder-" + pattern);
+                     editor.cmd_OK->click();
+                 });
+    }
+    list.lstv_MaintSched->Select(2);
+    album.take(list, QStringLiteral("reminders"));
+    main.mnu_ToolsReminderSchedule_Click();
+    auto &schedule = Form<frm_Schedule>();
+    schedule.cmd_Generate->click();
+    album.take(schedule, QStringLiteral("schedule"));
+    schedule.Print_Schedule();
+    album.take(main, QStringLiteral("main-reminders"));
+    schedule.parentWidget()->close();
+    list.parentWidget()->close();
+}
+
 void playOptions(Album &album, frm_OMKMDIMain &main)
 {
     auto &options = Form<frm_OMKOptions>();
@@ -333,6 +406,7 @@ int main(int argc, char **argv)
     playLivestock(album, logbook);
     playMaintenance(album, logbook, doors.clock);
     playPrinting(album, logbook);
+    playReminders(album, main);
     playOptions(album, main);
     playAbout(album, main);
     return album.failed() ? 1 : 0;

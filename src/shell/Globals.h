@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include "reminders/ReminderEditorMembers.h"
 #include "store/Database.h"
 
 /// Public members of frm_OMKOptions, filled by Get_Initial_Properties.
@@ -74,6 +75,7 @@ struct Globals
     CalendarMembers calendar;
     TankDialogMembers tankDialog;
     LivesMoveMembers livesMove;
+    ReminderEditorMembers reminderEditor;
 
     /// How long the splash screen stays; tests set it to 0.
     int splashMilliseconds = 2000;

@@ -7,6 +7,8 @@
 
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
+#include "reminders/frm_Maintsched.h"
+#include "reminders/frm_Schedule.h"
 #include "shell/Arrange.h"
 #include "shell/ChildForm.h"
 #include "shell/frm_OMKaboutbox.h"
@@ -27,6 +29,7 @@ struct PrintRow
 
 constexpr PrintRow printRows[] = {
     {"FRM_WATERLOG", [] { Form<frm_Waterlog>().Print_Entries(); }},
+    {"FRM_SCHEDULE", [] { Form<frm_Schedule>().Print_Schedule(); }},
 };
 
 /// The logbook, if it is on the screen.
@@ -96,6 +99,10 @@ void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
 }
 
 void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>()); }
+
+void frm_OMKMDIMain::mnu_ToolsRemindersAddEdit_Click() { ShowChild(Form<frm_Maintsched>()); }
+
+void frm_OMKMDIMain::mnu_ToolsReminderSchedule_Click() { ShowChild(Form<frm_Schedule>()); }
 
 void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
 

@@ -10,12 +10,16 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopeGuard>
 #include <QStatusBar>
 #include <QToolBar>
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "platform/HourGlass.h"
 #include "platform/Icons.h"
+#include "reminders/frm_Maintsched.h"
+#include "reminders/ReminderRun.h"
 #include "shell/ChildForm.h"
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKOptions.h"
@@ -163,8 +167,27 @@ void frm_OMKMDIMain::CheckDatabaseVersion()
 
 void frm_OMKMDIMain::Top20List()
 {
+    const auto rules = LoadReminders(g);
+    UpcomingReminders soonest;
+    UndatedReminders undated;
+    {
+        const HourGlass waiting;
+        const auto ready = qScopeGuard([this] { setPanel(QStringLiteral("Ready.")); });
+        undated = RunReminders(
+            g, rules,
+            {upcomingRun,
+             {},
+             [&](const QDate &date, int rule) { soonest.add(date, rules[std::size_t(rule)].TaskDescription); },
+             [this](const QString &panel, int) { setPanel(panel); }});
+    }
     cbo_Reminders->clear();
-    cbo_Reminders->addItem(QStringLiteral("(No Reminders Available)"));
+    if (rules.empty())
+        cbo_Reminders->addItem(QStringLiteral("(No Reminders Available)"));
+    else
+        cbo_Reminders->addItems(soonest.texts(g.options.DatePicture));
+    if (undated.tell(g))
+        if (auto *list = Forms::current().loaded<frm_Maintsched>())
+            list->FillTaskList();
 }
 
 void frm_OMKMDIMain::showSplash()
@@ -210,7 +233,8 @@ void frm_OMKMDIMain::CheckTanks()
 void frm_OMKMDIMain::ShowChild(ChildForm &child)
 {
     auto *frame = qobject_cast<QMdiSubWindow *>(child.parentWidget());
-    if (!frame) {
+    const bool isNew = !frame;
+    if (isNew) {
         const QSize size = child.size() + QSize(12, 36); // as the window asks for, and its frame
         frame = m_area->addSubWindow(&child);
         frame->setAttribute(Qt::WA_DeleteOnClose);
@@ -222,6 +246,11 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
     else
         frame->show();
     child.show();
+    if (isNew) { // each a little below the former, and none beyond the edge
+        const int step = 26 * (int(m_area->subWindowList().size() - 1) % 8);
+        const QSize room = m_area->viewport()->size() - frame->size();
+        frame->move(std::min(step, std::max(0, room.width())), std::min(step, std::max(0, room.height())));
+    }
     m_area->setActiveSubWindow(frame);
     child.setFocus();
 }

@@ -42,6 +42,8 @@ public:
     void setPanel(const QString &text);
     /// A tool button of the toolbar by its key.
     MenuEntry &button(const QString &key) { return *m_buttons.at(key); }
+    /// Fills the upcoming reminders with the soonest dates of all reminders, at most twenty.
+    void Top20List();
     /// Warns where there is no tank, and lets the buttons that need one follow.
     void CheckTanks();
 
@@ -59,6 +61,8 @@ public:
     void mnu_ViewOptions_Click();
     void mnu_ToolsTanksetup_Click();
     void mnu_ToolsLogbook_Click();
+    void mnu_ToolsRemindersAddEdit_Click();
+    void mnu_ToolsReminderSchedule_Click();
     void mnu_WindowCascade_Click();
     void mnu_WindowTileHorizontal_Click();
     void mnu_WindowTileVertical_Click();
@@ -86,7 +90,6 @@ private:
     void subWindowActivated(QMdiSubWindow *window);
     void cbo_Reminders_Click();
     void CheckDatabaseVersion();
-    void Top20List();
     void showSplash();
     /// Whether the tip of the day is due, by the setting Show_Tips; writes it at the first run.
     bool tipIsDue();

@@ -1,0 +1,157 @@
+#include "reminders/frm_Maintsched.h"
+
+#include "platform/Doors.h"
+#include "platform/Icons.h"
+#include "reminders/frm_SchedNewAddEdit.h"
+#include "reminders/frm_Schedule.h"
+#include "reminders/ReminderRun.h"
+#include "shell/ErrorHandler.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/MenuEntry.h"
+#include "text/Dates.h"
+
+namespace {
+
+const QString reminderByTask = QStringLiteral("SELECT * FROM maintsched where schedtask = ?");
+const QString twice =
+    QStringLiteral("That identical task already exists. Make your new task unique by changing at least one letter.");
+
+} // namespace
+
+frm_Maintsched::frm_Maintsched(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+{
+    setupUi(this);
+    setWindowIcon(Icon("handwithstring"));
+    lstv_MaintSched->setColumns({{QStringLiteral("Task"), QStringLiteral("Task"), false, 200},
+                                 {QStringLiteral("Scheduling"), QStringLiteral("Scheduling"), false, 240},
+                                 {QStringLiteral("Start Date"), QStringLiteral("Start Date"), false, 80},
+                                 {QStringLiteral("End Date"), QStringLiteral("End Date"), false, 80}});
+    setFocusProxy(lstv_MaintSched);
+    on(lstv_MaintSched, &ListView::Click, this, &frm_Maintsched::lstv_MaintSched_Click);
+    connect(lstv_MaintSched->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (lstv_MaintSched->SelectedItem() > 0)
+            lstv_MaintSched_Click(); // by keys as by mouse
+    });
+    on(lstv_MaintSched, &ListView::DblClick, this, &frm_Maintsched::lstv_MaintSched_DblClick);
+    on(cmd_AddTask, &QPushButton::clicked, this, &frm_Maintsched::cmd_AddTask_Click);
+    on(cmd_update_task, &QPushButton::clicked, this, &frm_Maintsched::cmd_update_task_Click);
+    on(cmd_DeleteTask, &QPushButton::clicked, this, &frm_Maintsched::cmd_Deletetask_Click);
+    on(cmd_ViewSchedule, &QPushButton::clicked, this, &frm_Maintsched::cmd_ViewSchedule_Click);
+}
+
+void frm_Maintsched::Form_Load()
+{
+    try {
+        FillTaskList();
+    } catch (const RuntimeFailure &failure) {
+        HandleError(g, failure, twice, vbOKOnly, {});
+    }
+}
+
+void frm_Maintsched::Form_Activate()
+{
+    MenuEntry &print = *Form<frm_OMKMDIMain>().mnu_FilePrint;
+    print.Enabled(true); // though there is nothing to print here
+    print.setText(QStringLiteral("&Print"));
+    SetListViewStyle(*lstv_MaintSched);
+}
+
+void frm_Maintsched::FillTaskList()
+{
+    lstv_MaintSched->Clear();
+    const auto rules = LoadReminders(g);
+    cmd_ViewSchedule->setEnabled(!rules.empty());
+    if (!rules.empty()) { // in an empty table the other two stand as they were
+        for (const RecurrenceRule &rule : rules)
+            lstv_MaintSched->Add({}, {rule.TaskDescription, rule.EnglishDescription,
+                                      Format(rule.StartDate, g.options.DatePicture),
+                                      Format(rule.EndDate, g.options.DatePicture)});
+        cmd_update_task->setEnabled(false);
+        cmd_DeleteTask->setEnabled(false);
+    }
+    Form<frm_OMKMDIMain>().Top20List();
+}
+
+void frm_Maintsched::lstv_MaintSched_Click()
+{
+    cmd_update_task->setEnabled(true);
+    cmd_DeleteTask->setEnabled(true);
+}
+
+bool frm_Maintsched::stored(Recordset &row, const RecurrenceRule &rule)
+{
+    try {
+        WriteRule(row, rule);
+        row.Update();
+        return true;
+    } catch (const RuntimeFailure &failure) {
+        if (failure.number() != Failure::DuplicateKey)
+            throw;
+        HandleError(g, failure, twice, vbOKOnly, {});
+        return false;
+    }
+}
+
+void frm_Maintsched::cmd_AddTask_Click()
+{
+    g.reminderEditor.rule = NewRule(Now().date());
+    Form<frm_SchedNewAddEdit>().AddNewTask([this](const RecurrenceRule &rule) {
+        g.gScheduleRecordset = g.gDatabase->OpenForAppend(QStringLiteral("maintsched"));
+        g.gScheduleRecordset.AddNew();
+        return stored(g.gScheduleRecordset, rule);
+    });
+    if (!g.reminderEditor.EditCancelled)
+        FillTaskList();
+}
+
+QString frm_Maintsched::selectedTask(const QString &otherwise)
+{
+    if (const int item = lstv_MaintSched->SelectedItem())
+        return lstv_MaintSched->Text(item);
+    Beep();
+    MsgBox(otherwise, vbInformation, QStringLiteral("Note!"));
+    return {};
+}
+
+void frm_Maintsched::cmd_update_task_Click()
+{
+    const QString task =
+        selectedTask(QStringLiteral("You must first select a maintenance task to change by clicking on it."));
+    if (task.isNull())
+        return;
+    g.gScheduleRecordset = g.gDatabase->OpenRecordset(reminderByTask, {task});
+    if (g.gScheduleRecordset.isEmpty()) {
+        MsgBox(QStringLiteral("Unable to retrieve detail for reminder message."));
+        return;
+    }
+    g.reminderEditor.rule = ReadRule(g.gScheduleRecordset);
+    Form<frm_SchedNewAddEdit>().ShowExistingTask([this](const RecurrenceRule &rule) {
+        g.gScheduleRecordset.Edit();
+        return stored(g.gScheduleRecordset, rule);
+    });
+    if (!g.reminderEditor.EditCancelled)
+        FillTaskList();
+}
+
+void frm_Maintsched::cmd_Deletetask_Click()
+{
+    const QString task =
+        selectedTask(QStringLiteral("You must first select a maintenance task to delete by clicking on it."));
+    if (task.isNull())
+        return;
+    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {task});
+    const QString sentence = g.gRecordset.isEmpty() ? QString() : ReadRule(g.gRecordset).EnglishDescription;
+    g.gMessage = u"Are you sure you want to delete this entry?\n" + task + u"\nscheduled for " + sentence +
+                 u"?\n(Remember, you CANNOT \"undo\" a delete!)";
+    Beep();
+    if (MsgBox(g.gMessage, vbOKCancel + vbQuestion, QStringLiteral("Are you sure...")) != MsgBoxAnswer::OK)
+        return;
+    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {task});
+    if (g.gRecordset.isEmpty())
+        MsgBox(QStringLiteral("Unable to delete the task!"));
+    else
+        g.gRecordset.Delete();
+    FillTaskList();
+}
+
+void frm_Maintsched::cmd_ViewSchedule_Click() { Form<frm_OMKMDIMain>().ShowChild(Form<frm_Schedule>()); }

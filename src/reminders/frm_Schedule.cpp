@@ -1,0 +1,156 @@
+#include "reminders/frm_Schedule.h"
+
+#include <QScopeGuard>
+
+#include "common/DateBoxes.h"
+#include "platform/Doors.h"
+#include "platform/HourGlass.h"
+#include "platform/Icons.h"
+#include "platform/PrintJob.h"
+#include "reminders/OccurrenceRows.h"
+#include "reminders/ReminderRun.h"
+#include "reminders/RuleFields.h"
+#include "reminders/ScheduleReport.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/MenuEntry.h"
+#include "text/Dates.h"
+
+namespace {
+
+constexpr int firstYear = 1995; ///< of the end of a range
+
+} // namespace
+
+frm_Schedule::frm_Schedule(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+{
+    setupUi(this);
+    setWindowIcon(Icon("cal"));
+    lstv_Reminders->setColumns({{QStringLiteral("date shown"), QStringLiteral("date shown"), false, 180},
+                                {QStringLiteral("Task"), QStringLiteral("Task"), false, 380},
+                                {QStringLiteral("date not shown"), QStringLiteral("date not shown"), false, 0}});
+    lstv_Reminders->setColumnHidden(2, true);
+    for (QPushButton *calendar : {cmd_Calfrom, cmd_Calto})
+        calendar->setIcon(Icon("calendar"));
+    for (QRadioButton *option : {opt_2years, opt_DateRange})
+        on(option, &QRadioButton::toggled, this, &frm_Schedule::opt_range_Click);
+    for (const auto &[button, box] : {std::pair{cmd_Calfrom, txt_startdate}, {cmd_Calto, txt_enddate}})
+        connect(button, &QPushButton::clicked, this, guarded([this, box = box](bool) { cal_Click(*box); }));
+    on(cmd_Generate, &QPushButton::clicked, this, &frm_Schedule::cmd_Generate_Click);
+    on(cmd_Print, &QPushButton::clicked, this, &frm_Schedule::Print_Schedule);
+    setFocusProxy(cmd_Generate);
+}
+
+void frm_Schedule::Form_Load()
+{
+    for (MaskedBox *box : {txt_startdate, txt_enddate})
+        UseDateOrder(*box, g.options);
+    opt_2years->setChecked(true);
+}
+
+void frm_Schedule::Form_Activate()
+{
+    MenuEntry &print = *Form<frm_OMKMDIMain>().mnu_FilePrint;
+    print.Enabled(true);
+    print.setText(QStringLiteral("&Print"));
+    SetListViewStyle(*lstv_Reminders);
+}
+
+void frm_Schedule::opt_range_Click()
+{
+    for (QWidget *control : {static_cast<QWidget *>(txt_startdate), static_cast<QWidget *>(txt_enddate),
+                             static_cast<QWidget *>(cmd_Calfrom), static_cast<QWidget *>(cmd_Calto)})
+        control->setEnabled(opt_DateRange->isChecked());
+}
+
+std::optional<QDate> frm_Schedule::dateIn(const MaskedBox &box) const
+{
+    const auto put = m_put.find(&box);
+    return ReadRangeDate({box.Text(), put == m_put.end() ? QDate() : put->second},
+                         {g.options.DateOrder, g.options.DatePicture});
+}
+
+void frm_Schedule::cal_Click(MaskedBox &box)
+{
+    const auto date = dateIn(box);
+    const QDate chosen = AskCalendar(g, date ? Format(*date, QStringLiteral("mm/dd/yyyy")) : QString());
+    if (g.calendar.PickCancelled)
+        return;
+    m_put[&box] = chosen;
+    box.setText(Format(chosen, g.options.DatePicture));
+}
+
+std::optional<DateRange> frm_Schedule::askedRange()
+{
+    const auto refuse = [](const QString &text, MaskedBox &box) -> std::optional<DateRange> {
+        MsgBox(text, vbInformation, QStringLiteral("Oops!"));
+        box.setFocus();
+        return {};
+    };
+    const auto from = dateIn(*txt_startdate);
+    if (!from)
+        return refuse(QStringLiteral("The start date must be a valid date. Please reenter it and try again."),
+                      *txt_startdate);
+    const auto to = dateIn(*txt_enddate);
+    if (!to)
+        return refuse(QStringLiteral("The end date must be a valid date. Please reenter it and try again."),
+                      *txt_enddate);
+    if (to->year() < firstYear || to->year() > lastTypedYear())
+        return refuse(QStringLiteral("The end date cannot be more than 30 years in the future or past the year 2029. "
+                                     "(Come on, 30 years of maintenance?) "),
+                      *txt_enddate);
+    if (*to < *from)
+        return refuse(
+            QStringLiteral("The start date must be prior to, or equal to, the end date for schedule generation"),
+            *txt_startdate);
+    return DateRange{*from, *to};
+}
+
+void frm_Schedule::cmd_Generate_Click()
+{
+    ProgressBar1->setValue(0);
+    std::optional<DateRange> range;
+    if (opt_DateRange->isChecked() && !(range = askedRange()))
+        return;
+    const auto rules = LoadReminders(g);
+    if (rules.empty())
+        MsgBox(QStringLiteral("No Reminder details found for maintenance schedule."));
+    else
+        generate(rules, range);
+}
+
+void frm_Schedule::generate(const std::vector<RecurrenceRule> &rules, const std::optional<DateRange> &range)
+{
+    QStringList tasks;
+    for (const RecurrenceRule &rule : rules)
+        tasks << rule.TaskDescription;
+    auto rows = std::make_shared<OccurrenceRows>(scheduleRun, g.options.DatePicture, tasks);
+    UndatedReminders undated;
+    {
+        const HourGlass waiting;
+        const auto ready = qScopeGuard([this] {
+            ProgressBar1->setValue(0);
+            StatusBar1->showMessage(QStringLiteral("Ready."));
+        });
+        ProgressBar1->setMaximum(int(rules.size()));
+        undated = RunReminders(g, rules,
+                               {scheduleRun, range, [&rows](const QDate &date, int rule) { rows->add(date, rule); },
+                                [this](const QString &panel, int rule) {
+                                    ProgressBar1->setValue(rule + 1);
+                                    StatusBar1->showMessage(panel);
+                                }});
+        rows->sort();
+        lstv_Reminders->setSource(rows);
+        if (rows->count() > 0)
+            lstv_Reminders->Select(1);
+        cmd_Print->setEnabled(true);
+    }
+    undated.tell(g);
+}
+
+void frm_Schedule::Print_Schedule()
+{
+    const Forms::Pin whileItPrints(*this);
+    RunReport(MakeScheduleReport(lstv_Reminders->Count(),
+                                 [this](int item, int subItem) { return lstv_Reminders->Text(item, subItem); }),
+              PrintTo::Printer);
+}

@@ -1,0 +1,369 @@
+// Reminders through their windows: composed, listed, scheduled, printed, changed and deleted by hand, and what the
+// toolbar says meanwhile.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+
+#include "common/CalendarControls.h"
+#include "common/frm_Caltool.h"
+#include "Hands.h"
+#include "platform/MaskedBox.h"
+#include "reminders/frm_Maintsched.h"
+#include "reminders/frm_SchedNewAddEdit.h"
+#include "reminders/frm_Schedule.h"
+
+namespace {
+
+using Compose = std::function<void(frm_SchedNewAddEdit &)>;
+
+/// All columns of a reminder that the program writes, in one line.
+const QString wholeRow = "SELECT group_concat(SchedTask || '|' || SchedStartDate || '|' || SchedEndDate || '|' || "
+                         "SchedInterval || '|' || SchedRtype || '|' || SchedRSubtype || '|' || "
+                         "coalesce(SchedDetailText, '') || '|' || SchedEnglishDesc, '  ') AS x FROM MAINTSCHED";
+
+} // namespace
+
+/// Today is Saturday, 14 March 2026.
+class Reminders : public ::testing::Test
+{
+protected:
+    void open()
+    {
+        main = &keeper.startProgram();
+        keeper.told();
+        hand::press(Qt::Key_E, Qt::ControlModifier);
+        list = Forms::current().loaded<frm_Maintsched>();
+        ASSERT_TRUE(list);
+    }
+    void startWith(const char *order, const char *delimiter)
+    {
+        keeper.restart();
+        SaveSetting("Date_Order", order);
+        SaveSetting("Date_Delim", delimiter);
+        open();
+    }
+    void insert(const QString &task, const QString &rest = "'2026-01-01', '2027-12-31', 1, 0, 0, ''")
+    {
+        keeper.g().gDatabase->Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, "
+                                      "SchedRtype, SchedRSubtype, SchedDetailText) VALUES (?, " +
+                                          rest + ")",
+                                      {task});
+    }
+    void inEditor(QPushButton *button, const Compose &action)
+    {
+        keeper.inNext<frm_SchedNewAddEdit>(action);
+        mouse::click(button);
+    }
+    void add(const QString &task, const Compose &compose)
+    {
+        inEditor(list->cmd_AddTask, [&](frm_SchedNewAddEdit &w) {
+            hand::type(*w.txt_TaskDescription, task);
+            compose(w);
+            mouse::click(w.cmd_OK);
+        });
+    }
+    frm_Schedule &openSchedule()
+    {
+        mouse::click(list->cmd_ViewSchedule);
+        return Form<frm_Schedule>();
+    }
+    QString upcoming() const
+    {
+        QStringList texts;
+        for (int i = 0; i < main->cbo_Reminders->count(); ++i)
+            texts << main->cbo_Reminders->itemText(i);
+        return texts.join(u'|');
+    }
+    QString stored() { return keeper.stored(wholeRow, "x"); }
+
+    Keeper keeper;
+    frm_OMKMDIMain *main = nullptr;
+    frm_Maintsched *list = nullptr;
+};
+
+namespace {
+
+struct PatternCase
+{
+    const char *row; ///< as stored, behind task and range
+    const char *next;
+    Compose compose;
+};
+
+const PatternCase patternCases[] = {
+    {"3|0|0||Every 3 days.", "Sat 14.03.26",
+     [](frm_SchedNewAddEdit &w) {
+         hand::step(w, "ud_Daily", "up");
+         hand::step(w, "ud_Daily", "up");
+     }},
+    {"1|0|1||Every Weekday (Mon, Tue, Wed, Thu, Fri).", "Mon 16.03.26",
+     [](frm_SchedNewAddEdit &w) { click(*w.opt_DailyEveryWeekday); }},
+    {"2|1|0|0101000|Every 2 week(s) on Mon, Wed.", "Mon 16.03.26",
+     [](frm_SchedNewAddEdit &w) {
+         click(*w.opt_Weekly);
+         hand::type(*w.txt_WeeklyWeeks, "2");
+         click(*w.chk_WeeklyDay[1]);
+         click(*w.chk_WeeklyDay[3]);
+     }},
+    {"1|2|0|15|Day 15 of every 1 months.", "Sun 15.03.26",
+     [](frm_SchedNewAddEdit &w) {
+         click(*w.opt_Monthly);
+         hand::type(*w.txt_MonthlyDay, "15");
+     }},
+    {"1|2|1|46|The Last Saturday of every 1 month(s).", "Sat 28.03.26",
+     [](frm_SchedNewAddEdit &w) {
+         click(*w.opt_Monthly);
+         click(*w.Opt_MonthlyXWeekdayofEveryMonth);
+         w.cbo_MonthlyXth->setFocus();
+         hand::press(Qt::Key_End); // "Last"; today's weekday is set already
+     }},
+    {"5|3|0|3|Every year on April 5.", "Fri 05.03.27", // the lists take the month's position for its number
+     [](frm_SchedNewAddEdit &w) {
+         click(*w.opt_Yearly);
+         w.cbo_YearlyMonth->setFocus();
+         hand::press(Qt::Key_Down);
+         hand::type(*w.txt_YearlyDay, "5");
+     }},
+    {"1|4|0|20.03.26|Only once on 20.03.26.", "Fri 20.03.26",
+     [](frm_SchedNewAddEdit &w) {
+         click(*w.opt_Once);
+         hand::type(*w.txt_OnceDate, "200326");
+     }},
+};
+
+} // namespace
+
+TEST_F(Reminders, OfEachPatternAreStoredShownOnTheToolbarAndUnchangedByASecondSaveInEachDateOrder)
+{
+    for (const PatternCase &c : patternCases) {
+        SCOPED_TRACE(c.row);
+        startWith("DDMMYY", ".");
+        EXPECT_EQ(upcoming(), "(No Reminders Available)");
+        EXPECT_FALSE(list->cmd_ViewSchedule->isEnabled());
+        add("Feed \"Nemo\"", [&](frm_SchedNewAddEdit &w) {
+            EXPECT_EQ(w.txt_EnglishDesc->text() + w.txt_StartDate->Text() + w.txt_endDate->Text(),
+                      "Every 1 days.14.03.2614.03.28");
+            c.compose(w);
+        });
+        const QString row = QString("Feed \"Nemo\"|2026-03-14|2028-03-14|") + c.row;
+        EXPECT_EQ(stored(), row);
+        EXPECT_EQ(upcoming().section('|', 0, 0), QString(c.next) + " Feed \"Nemo\"");
+        for (const auto &[order, delimiter] : {std::pair{"MMDDYY", "/"}, {"YYMMDD", "-"}, {"DDMMYY", "."}}) {
+            startWith(order, delimiter);
+            hand::clickRow(*list->lstv_MaintSched, 1);
+            inEditor(list->cmd_update_task, [](frm_SchedNewAddEdit &w) { mouse::click(w.cmd_OK); });
+            const QStringList columns = stored().split('|'), former = row.split('|');
+            EXPECT_EQ(columns.mid(0, 6), former.mid(0, 6)) << order;
+            EXPECT_EQ(columns.last().section(' ', 0, 1), former.last().section(' ', 0, 1)) << order;
+        }
+        EXPECT_EQ(keeper.told(), "0");
+        keeper.g().gDatabase->Execute("DELETE FROM MAINTSCHED");
+    }
+}
+
+TEST_F(Reminders, ThatCannotBeStoredLeaveTheEditorWithAllThatWasSet)
+{
+    insert("Feed");
+    open();
+    inEditor(list->cmd_AddTask, [this](frm_SchedNewAddEdit &w) {
+        mouse::click(w.cmd_OK);
+        EXPECT_EQ(keeper.told(), "0|Oops/64/You must enter a description for this reminder.");
+        EXPECT_TRUE(w.txt_TaskDescription->hasFocus());
+        hand::write("Feed");
+        click(*w.opt_Monthly);
+        hand::type(*w.txt_MonthlyDay, "12");
+        click(*w.opt_Weekly);
+        mouse::click(w.cmd_OK);
+        EXPECT_EQ(keeper.told(), "0|Oops/64/Check the days of the week on which you wish to schedule this reminder.");
+        EXPECT_TRUE(w.chk_WeeklyDay[0]->hasFocus());
+        EXPECT_TRUE(keeper.g().reminderEditor.EditCancelled);
+        hand::press(Qt::Key_Space);
+        mouse::click(w.cmd_OK);
+        EXPECT_EQ(keeper.told(), "1|/0/That identical task already exists. Make your new task unique by changing at "
+                                 "least one letter.");
+        EXPECT_TRUE(w.chk_WeeklyDay[0]->isChecked());
+        click(*w.opt_Monthly); // hidden meanwhile, and kept
+        EXPECT_EQ(w.txt_EnglishDesc->text(), "Day 12 of every 1 months.");
+        click(*w.opt_Weekly);
+        hand::type(*w.txt_TaskDescription, "Feet");
+        mouse::click(w.cmd_OK);
+    });
+    EXPECT_EQ(hand::column(*list->lstv_MaintSched, 0), "Feed Feet");
+    EXPECT_EQ(keeper.stored("SELECT SchedDetailText AS x FROM MAINTSCHED WHERE SchedTask = 'Feet'", "x"), "1000000");
+    inEditor(list->cmd_AddTask, [](frm_SchedNewAddEdit &w) {
+        hand::type(*w.txt_TaskDescription, "Nothing");
+        hand::press(Qt::Key_Escape);
+    });
+    EXPECT_EQ(keeper.count("MAINTSCHED"), 2);
+}
+
+TEST_F(Reminders, ArePreviewedUncheckedAndTheCalendarPutsDatesIn)
+{
+    open();
+    inEditor(list->cmd_AddTask, [this](frm_SchedNewAddEdit &w) {
+        EXPECT_FALSE(w.lstv_Schedule->isVisible());
+        keeper.inNext<frm_Caltool>([](frm_Caltool &calendar) {
+            for (DayButton *day : calendar.cmdDay)
+                if (day->text() == u"20")
+                    return mouse::click(day);
+        });
+        mouse::click(w.cmd_CalEndDate);
+        hand::type(*w.txt_endDate, "032026");
+        hand::type(*w.txt_DailyDays, "2");
+        mouse::click(w.cmd_PreviewSchedule); // without a task
+        EXPECT_EQ(hand::column(*w.lstv_Schedule, 0),
+                  "Saturday 03/14/26 Monday 03/16/26 Wednesday 03/18/26 Friday 03/20/26");
+        hand::type(*w.txt_DailyDays, "0");
+        mouse::click(w.cmd_PreviewSchedule);
+        EXPECT_EQ(keeper.told(), "0|Oops/64/Enter the number of days apart you wish to schedule this reminder.");
+        EXPECT_EQ(w.lstv_Schedule->Count(), 0);
+        click(*w.opt_Once);
+        mouse::click(w.cmd_PreviewSchedule);
+        EXPECT_EQ(keeper.told(), "0|Ooops!/64/Enter a valid date to schedule your reminder");
+        EXPECT_TRUE(w.txt_OnceDate->hasFocus());
+        hand::press(Qt::Key_Escape);
+    });
+}
+
+TEST_F(Reminders, AreDeletedAfterAQuestionAndTheToolbarFollows)
+{
+    insert("Feed", "'2026-01-01', '2027-12-31', 700, 0, 0, ''");
+    insert("It's \"late\"", "'2026-03-20', '2026-03-21', 9, 0, 0, ''");
+    open();
+    EXPECT_EQ(upcoming(), "Fri 03/20/26 It's \"late\"|Thu 12/02/27 Feed");
+    main->cbo_Reminders->setCurrentIndex(1); // for reading only
+    EXPECT_EQ(main->cbo_Reminders->currentIndex(), 0);
+    for (const auto &[button, text] :
+         {std::pair{list->cmd_update_task, "change"}, std::pair{list->cmd_DeleteTask, "delete"}}) {
+        EXPECT_FALSE(button->isEnabled());
+        button->setEnabled(true);
+        mouse::click(button);
+        EXPECT_EQ(keeper.told(),
+                  QString("1|Note!/64/You must first select a maintenance task to %1 by clicking on it.").arg(text));
+    }
+    hand::clickRow(*list->lstv_MaintSched, 2);
+    for (const MsgBoxAnswer answer : {MsgBoxAnswer::Cancel, MsgBoxAnswer::OK}) {
+        EXPECT_EQ(keeper.count("MAINTSCHED"), 2);
+        keeper.doors.answers = {answer};
+        mouse::click(list->cmd_DeleteTask);
+        EXPECT_EQ(keeper.told(), "1|Are you sure.../33/Are you sure you want to delete this entry?\nIt's \"late\"\n"
+                                 "scheduled for ?\n(Remember, you CANNOT \"undo\" a delete!)");
+    }
+    EXPECT_EQ(upcoming(), "Thu 12/02/27 Feed");
+    EXPECT_FALSE(list->cmd_DeleteTask->isEnabled());
+    keeper.doors.clock = keeper.doors.clock.addYears(2); // all is past, and the table is not empty
+    keeper.restart();
+    open();
+    EXPECT_EQ(upcoming(), "");
+    EXPECT_EQ(main->cbo_Reminders->currentIndex(), -1);
+}
+
+TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
+{
+    insert("January", "'2026-01-01', '2027-12-31', 5, 3, 0, '0'");
+    insert("Endless", "'2026-01-01', NULL, 1, 0, 0, ''");
+    insert("Stuck", "'2026-01-01', '2027-12-31', 0, 0, 0, ''");
+    insert("Feed", "'2026-03-15', '2026-03-16', 2, 0, 0, ''");
+    main = &keeper.startProgram(); // nobody is locked out
+    EXPECT_EQ(upcoming(), "Sun 03/15/26 Feed");
+    const QString told = keeper.told();
+    for (const char *line : {"Reminders without dates/55/", "January (its month cannot be read)",
+                             "Endless (it has no end date)", "Stuck (its interval is not above 0)"})
+        EXPECT_TRUE(told.contains(line)) << told.toStdString();
+    hand::press(Qt::Key_S, Qt::ControlModifier);
+    auto &schedule = Form<frm_Schedule>();
+    mouse::click(schedule.cmd_Generate);
+    EXPECT_EQ(hand::column(*schedule.lstv_Reminders, 1), "Feed");
+    EXPECT_TRUE(keeper.told().startsWith("1|Reminders without dates/55/"));
+    EXPECT_EQ(keeper.count("MAINTSCHED"), 4);
+    keeper.doors.answers = {MsgBoxAnswer::Delete};
+    hand::press(Qt::Key_E, Qt::ControlModifier);
+    list = Forms::current().loaded<frm_Maintsched>();
+    EXPECT_EQ(hand::column(*list->lstv_MaintSched, 0), "Feed");
+    EXPECT_EQ(keeper.count("MAINTSCHED"), 1);
+}
+
+TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
+{
+    insert("Feed", "'2026-01-01', '2029-12-31', 1, 0, 0, ''");
+    insert("Dose", "'2026-03-02', '2026-03-03', 1, 1, 0, '1000000'"); // a week beyond its end
+    open();
+    frm_Schedule &schedule = openSchedule();
+    EXPECT_FALSE(schedule.txt_startdate->isEnabled() || schedule.cmd_Calto->isEnabled());
+    click(*schedule.opt_DateRange);
+    const QString year = "64/The end date cannot be more than 30 years in the future or past the year 2029. (Come on, "
+                         "30 years of maintenance?) ";
+    const struct
+    {
+        const char *from, *to;
+        QString told;
+        const char *focus;
+    } cases[] = {
+        {"", "", "64/The start date must be a valid date. Please reenter it and try again.", "txt_startdate"},
+        {"030826", "023026", "64/The end date must be a valid date. Please reenter it and try again.", "txt_enddate"},
+        {"030826", "010130", year, "txt_enddate"},
+        {"030826", "123194", year, "txt_enddate"},
+        {"030826", "030726", "64/The start date must be prior to, or equal to, the end date for schedule generation",
+         "txt_startdate"},
+        {"010196", "020195", "64/The start date must be prior to, or equal to, the end date for schedule generation",
+         "txt_startdate"},
+    };
+    for (const auto &c : cases) {
+        hand::type(*schedule.txt_startdate, c.from);
+        hand::type(*schedule.txt_enddate, c.to);
+        mouse::click(schedule.cmd_Generate);
+        EXPECT_EQ(keeper.told(), QString("0|Oops!/" + c.told));
+        EXPECT_TRUE(control<MaskedBox>(schedule, c.focus).hasFocus()) << c.from << c.to;
+    }
+    EXPECT_FALSE(schedule.cmd_Print->isEnabled());
+    const auto generated = [&](const char *from, const char *to) -> QString {
+        hand::type(*schedule.txt_startdate, from);
+        hand::type(*schedule.txt_enddate, to);
+        mouse::click(schedule.cmd_Generate);
+        return hand::column(*schedule.lstv_Reminders, 0) + ": " + hand::column(*schedule.lstv_Reminders, 1);
+    };
+    EXPECT_EQ(generated("030826", "030826"), "Sunday 03/08/26 Sunday 03/08/26: Feed Dose");
+    EXPECT_EQ(schedule.lstv_Reminders->SelectedItem(), 1);
+    EXPECT_EQ(generated("123129", "123129"), "Monday 12/31/29: Feed");
+    EXPECT_EQ(generated("010125", "020125"), ": "); // none
+    EXPECT_EQ(schedule.StatusBar1->currentMessage(), "Ready.");
+    click(*schedule.opt_2years);
+    mouse::click(schedule.cmd_Generate);
+    EXPECT_EQ(schedule.lstv_Reminders->Text(1), "Saturday 03/14/26");
+    EXPECT_EQ(schedule.lstv_Reminders->Text(schedule.lstv_Reminders->Count()), "Tuesday 03/14/28"); // to the day
+    keeper.g().gDatabase->Execute("DELETE FROM MAINTSCHED");
+    mouse::click(schedule.cmd_Generate);
+    EXPECT_EQ(keeper.told(), "0|/0/No Reminder details found for maintenance schedule.");
+}
+
+TEST_F(Reminders, OnPaperAreNinetyNineOnTheFirstPageAndThenFifty)
+{
+    insert("Feed", "'2026-03-14', '2026-08-10', 1, 0, 0, ''"); // 150 days
+    open();
+    frm_Schedule &schedule = openSchedule();
+    mouse::click(schedule.cmd_Generate);
+    ASSERT_EQ(schedule.lstv_Reminders->Count(), 150);
+    PrintDialogAnswer twice;
+    twice.copies = 2;
+    keeper.doors.printers = {twice, std::nullopt};
+    hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
+    mouse::click(schedule.cmd_Print); // cancelled
+    EXPECT_EQ(keeper.doors.printDialogs.at(0).title, "Print Maintenance Schedule");
+    ASSERT_EQ(keeper.doors.documents.size(), 2u);
+    for (const PrintedDocument &document : keeper.doors.documents) {
+        QStringList firstOfPage;
+        int ends = 0;
+        for (const PrintedPage &page : document.pages) {
+            const PrintedText *title = page.find("Ostrelmark for Windows - Generated Maintenance Schedule");
+            if (title)
+                firstOfPage << title->font.name + QString::number(title->font.size) + ' ' + page.texts.at(2).text;
+            for (const PrintedText &text : page.texts)
+                ends += text.font.italic && text.font.size == 9 && !text.text.isEmpty();
+        }
+        // Days 1, 100 and 150; the paper of the test takes the first 99 in two.
+        EXPECT_EQ(firstOfPage, QStringList({"Times New Roman15 Saturday 03/14/26", "Arial18 Sunday 06/21/26",
+                                            "Arial18 Monday 08/10/26"}));
+        EXPECT_EQ(ends, 2);
+        EXPECT_TRUE(document.ended);
+    }
+}
