@@ -1,0 +1,89 @@
+// What the photographer of the windows works with: the album that the pictures go to, the world that answers him, and
+// the way into a dialog.
+#pragma once
+
+#include <cstdio>
+#include <functional>
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+
+#include "platform/DesktopDoors.h"
+#include "platform/SettingsStore.h"
+
+class Album
+{
+public:
+    explicit Album(const QString &folder) : m_folder(folder) { QDir().mkpath(folder); }
+    void take(QWidget &window, const QString &name)
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        const QString file = m_folder.filePath(name + u".png");
+        if (window.grab().save(file))
+            std::printf("%s\n", qPrintable(file));
+        else
+            m_failed = true;
+    }
+    /// Where a printout goes, its name made one of files; told like a picture.
+    QString path(QString name) const
+    {
+        const QString file = m_folder.filePath(name.replace(u' ', u'-').toLower());
+        std::printf("%s\n", qPrintable(file));
+        return file;
+    }
+    bool failed() const { return m_failed; }
+
+private:
+    QDir m_folder;
+    bool m_failed = false;
+};
+
+/// The desktop with the clock standing still, settings of its own, and each box photographed and answered with its
+/// default button.
+class ShotDoors : public DesktopDoors
+{
+public:
+    ShotDoors(Album &album, const QString &settingsFile) : m_album(album), m_settings(settingsFile) {}
+    QDateTime clock{QDate(2026, 6, 20), QTime(18, 30)};
+    QDateTime now() override { return clock; }
+    SettingsStore &settings() override { return m_settings; }
+    void beep() override {}
+    std::optional<QString> saveDialog(const SaveDialogRequest &request) override
+    {
+        return m_album.path(request.fileName);
+    }
+    std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override
+    {
+        PrintDialogAnswer answer;
+        answer.pdfFileName = m_album.path(request.documentName + u".pdf");
+        return answer;
+    }
+    MsgBoxAnswer msgBox(const MsgBoxRequest &request) override
+    {
+        const QString name = QStringLiteral("box-%1").arg(++m_boxes, 2, 10, QLatin1Char('0'));
+        QTimer::singleShot(0, [this, name] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                m_album.take(*box, name);
+                box->defaultButton()->click();
+            }
+        });
+        return DesktopDoors::msgBox(request);
+    }
+
+private:
+    Album &m_album;
+    SettingsStore m_settings;
+    int m_boxes = 0;
+};
+
+/// What to do in the next dialog while `start` waits in it.
+inline void inDialog(const std::function<void()> &start, const std::function<void()> &inside)
+{
+    QTimer::singleShot(0, inside);
+    start();
+}

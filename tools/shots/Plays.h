@@ -1,0 +1,20 @@
+// The day that omk_shots plays, a scene a tool. Each scene drives the real windows, photographs them, and leaves the
+// main window as it found it.
+#pragma once
+
+#include <QDateTime>
+
+class Album;
+class frm_OMKMDIMain;
+class frm_Waterlog;
+struct Globals;
+
+void playTanks(Album &album);
+/// Opens the logbook, which the next three work in.
+void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals);
+void playLivestock(Album &album, frm_Waterlog &logbook);
+void playMaintenance(Album &album, frm_Waterlog &logbook, QDateTime &clock);
+void playPrinting(Album &album, frm_Waterlog &logbook);
+void playReminders(Album &album, frm_OMKMDIMain &main);
+void playOptions(Album &album, frm_OMKMDIMain &main);
+void playAbout(Album &album, frm_OMKMDIMain &main);

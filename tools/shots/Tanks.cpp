@@ -1,0 +1,38 @@
+#include "shots/Album.h"
+#include "shots/Plays.h"
+
+#include "tanks/frm_TankAddNew.h"
+#include "tanks/frm_TankMaint.h"
+
+namespace {
+
+void addTank(Album &album, const QString &name, const QString &description, const QString &notes, bool picture)
+{
+    auto &dialog = Form<frm_TankAddNew>();
+    inDialog([&dialog] { dialog.AddNewTank(); },
+             [&] {
+                 dialog.txt_tankname->setText(name);
+                 dialog.txt_long_desc->setText(description);
+                 dialog.txt_tanknotes->setPlainText(notes);
+                 if (picture)
+                     album.take(dialog, QStringLiteral("tank-new"));
+                 dialog.cmd_OK->click();
+             });
+}
+
+} // namespace
+
+void playTanks(Album &album)
+{
+    addTank(album, QStringLiteral("Reef"), QStringLiteral("Mixed reef in the living room"),
+            QStringLiteral("Skimmer, two return pumps, 4 x 54 W T5.\nSet up in March."), true);
+    addTank(album, QStringLiteral("Angels"), QStringLiteral("Planted tank with angelfish"), {}, false);
+    addTank(album, QStringLiteral("Garden pond"), QStringLiteral("Goldfish and lilies"), {}, false);
+    auto &list = Form<frm_TankMaint>();
+    inDialog([&list] { list.Show_List(); },
+             [&] {
+                 list.lst_tanklist->setCurrentRow(2);
+                 album.take(list, QStringLiteral("tank-list"));
+                 list.cmd_ok->click();
+             });
+}
