@@ -81,6 +81,7 @@ int main(int argc, char **argv)
     playMaintenance(album, logbook, doors.clock);
     playPrinting(album, logbook);
     playReminders(album, main);
+    playDiagnosis(album, main);
     playOptions(album, main);
     playAbout(album, main);
     return album.failed() ? 1 : 0;

@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include "advisers/DiagnosisLog.h"
 #include "reminders/ReminderEditorMembers.h"
 #include "store/Database.h"
 
@@ -76,6 +77,7 @@ struct Globals
     TankDialogMembers tankDialog;
     LivesMoveMembers livesMove;
     ReminderEditorMembers reminderEditor;
+    DiagnosisLog diagnosisLog;
 
     /// How long the splash screen stays; tests set it to 0.
     int splashMilliseconds = 2000;

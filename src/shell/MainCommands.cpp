@@ -1,10 +1,12 @@
 // What the entries of the main window's menus do.
+#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "advisers/frm_DiagnosisQA.h"
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
 #include "reminders/frm_Maintsched.h"
@@ -103,6 +105,15 @@ void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>());
 void frm_OMKMDIMain::mnu_ToolsRemindersAddEdit_Click() { ShowChild(Form<frm_Maintsched>()); }
 
 void frm_OMKMDIMain::mnu_ToolsReminderSchedule_Click() { ShowChild(Form<frm_Schedule>()); }
+
+void frm_OMKMDIMain::mnu_ToolsDisease_Click()
+{
+    // Without the keeper's own: the second click of a double click would open a second wizard behind the first.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    WizardCancelled = false;
+    while (!WizardCancelled)
+        Form<frm_DiagnosisQA>().Question_Disclaimer();
+}
 
 void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
 

@@ -72,7 +72,7 @@ constexpr EntryRow entryRows[] = {
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsLogbook), "&Logbook", 'L', Plain, &Main::mnu_ToolsLogbook_Click},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsGraphing), "&Graphing", 'G', Plain, nullptr},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsCompatibility), "Co&mpatibility", 'M', SeparatorBefore, nullptr},
-    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsDisease), "&Disease Diagnosis", 'D', Plain, nullptr},
+    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsDisease), "&Disease Diagnosis", 'D', Plain, &Main::mnu_ToolsDisease_Click},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsRemindersAddEdit), "&Add or Change Reminders", 'E', SeparatorBefore,
      &Main::mnu_ToolsRemindersAddEdit_Click},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsReminderSchedule), "View Reminder &Schedule", 'S', Plain,

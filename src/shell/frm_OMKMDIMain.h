@@ -63,6 +63,7 @@ public:
     void mnu_ToolsLogbook_Click();
     void mnu_ToolsRemindersAddEdit_Click();
     void mnu_ToolsReminderSchedule_Click();
+    void mnu_ToolsDisease_Click();
     void mnu_WindowCascade_Click();
     void mnu_WindowTileHorizontal_Click();
     void mnu_WindowTileVertical_Click();
@@ -74,6 +75,8 @@ public:
     void mnu_TankDelete_Click();
     void mnu_TankProperties_Click();
     void mnu_GraphOptions_Click();
+
+    bool WizardCancelled = false; ///< the keeper has left the diagnosis wizard
 
     QWidget *Picture1;
     QToolBar *Toolbar1;

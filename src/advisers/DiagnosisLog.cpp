@@ -1,0 +1,64 @@
+#include "advisers/DiagnosisLog.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype lineWidth = 80; // characters
+constexpr int commentLines = 10;
+
+} // namespace
+
+void DiagnosisLog::ResetAnswerLog()
+{
+    AnswerLog.fill({});
+    // Written and never printed: a sheet begins at slot 2 and has a title of its own.
+    AnswerLog[1] = QStringLiteral(" Ostrelmark for Windows - Marine Disease Diagnosis Aid");
+    AnswerLogCount = 3;
+}
+
+void DiagnosisLog::put(const QString &line)
+{
+    // A second run on one log could pass its end; nothing behind slot 60 is ever printed.
+    if (AnswerLogCount < slotCount)
+        AnswerLog[static_cast<size_t>(AnswerLogCount)] = line;
+}
+
+void DiagnosisLog::AddAnswer(const QString &question, const QString &answer)
+{
+    put(u"Q: " + question);
+    ++AnswerLogCount;
+    put(u"  A:" + answer);
+    ++AnswerLogCount;
+}
+
+void DiagnosisLog::putAdvice(const QString &advice)
+{
+    // A line ends before a blank, which leads the next one. A last single character gets no line. A text of another
+    // window may hold a longer word: that is cut.
+    for (qsizetype at = 0; at + 1 < advice.size();) {
+        qsizetype width = lineWidth;
+        while (width > 0 && at + width < advice.size() && advice.at(at + width) != u' ')
+            --width;
+        if (width == 0)
+            width = std::min(lineWidth, advice.size() - at);
+        ++AnswerLogCount;
+        put(advice.mid(at, width));
+        at += width;
+    }
+}
+
+void DiagnosisLog::AddDiagnosis(const QString &name, const QString &advice)
+{
+    AnswerLogCount += 2;
+    put(u"DIAGNOSIS: " + name);
+    ++AnswerLogCount;
+    putAdvice(advice);
+    AnswerLogCount += 4;
+    put(u"Dealer or Vet's Comments " + QString(59, u'_'));
+    for (int i = 0; i < commentLines && AnswerLogCount < lastSlot; ++i) {
+        ++AnswerLogCount;
+        put(QString(84, u'_'));
+    }
+    AnswerLogCount = lastSlot;
+}
