@@ -237,5 +237,4 @@ const std::array<const char *, 3> reminderLines{
 };
 
 const char *const legalNotice =
-    "Ostrelmark 98, Version 2.0. Free software under the GNU General Public License, version "
-    "3 or later. It comes without any warranty.";
+    "Ostrelmark 98, Version 2.0. Free software under the GNU General Public License, version 3 or later.";
