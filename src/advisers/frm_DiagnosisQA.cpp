@@ -1,5 +1,8 @@
 #include "advisers/frm_DiagnosisQA.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QButtonGroup>
 
 #include "advisers/Diagnoses.h"
