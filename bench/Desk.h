@@ -24,6 +24,7 @@ public:
     /// Clicks on the first tank in the tree; back when its list is painted.
     void openFirstTank();
     ListView &waterList();
+    Globals &globals() { return m_globals; }
     /// What the list shows.
     std::shared_ptr<const Rows> waterRows() const { return m_globals.gRecordset.rows(); }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include <QString>
 
@@ -39,5 +40,7 @@ Figure saveFigure(const QString &databaseFile, const QString &tankId);
 /// In the livestock window, and in a list as the names window has it. Write name files into the current directory.
 Figure namesFigure();
 Figure namesAgainFigure();
+/// On a thousand reminders of all patterns, each begun in 1990.
+std::vector<Figure> reminderFigures(Desk &desk, const QString &folder);
 /// The time for 10,000 entries as it is, and as ten times that of 1,000: linear where they agree.
 Figure pdfFigure(const QString &folder);

@@ -35,10 +35,12 @@ bool measureIn(const QString &folder, int argc, char **argv)
     const QString tank = makeDatabase(file);
     Desk desk(folder);
     desk.openFirstTank();
-    return measureAndPrint({openTankFigure(folder, tank), sortFigure(desk), scrollFigure(desk), saveFigure(file, tank),
-                            startFigure(folder), startWithTextFigure(folder), namesFigure(), namesAgainFigure(),
-                            pdfFigure(folder)},
-                           argc, argv);
+    std::vector<Figure> figures{
+        openTankFigure(folder, tank), sortFigure(desk), scrollFigure(desk), saveFigure(file, tank), startFigure(folder),
+        startWithTextFigure(folder),  namesFigure(),    namesAgainFigure(), pdfFigure(folder)};
+    for (const Figure &figure : reminderFigures(desk, folder))
+        figures.push_back(figure);
+    return measureAndPrint(figures, argc, argv);
 }
 
 } // namespace
