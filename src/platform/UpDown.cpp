@@ -97,9 +97,13 @@ void UpDown::stepBy(int steps)
         from = steps > 0 ? std::floor(held) : std::ceil(held);
     }
     const int value = clamped(from + double(steps) * m_increment);
+    // A box that was typed in may come back to the value that was held all the time.
+    const bool mended = m_boundBox && value == m_value && content(m_boundBox) != PlainText(value);
     if (m_boundBox)
         write(m_boundBox, PlainText(value));
     setValue(value);
+    if (mended)
+        emit Change();
 }
 
 void UpDown::setKeyBox(QWidget *box)

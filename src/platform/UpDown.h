@@ -1,6 +1,7 @@
 // A pair of arrows that steps a whole number within bounds. It knows nothing of the box beside it but through Change(),
 // unless it is bound: then it steps from the number that the box holds and writes into it. Change() fires in code too,
-// when the value changes. setKeyBox() lets the arrow keys and the wheel in a box step it.
+// when the value changes, and at a step that changes the text of a bound box. setKeyBox() lets the arrow keys and the
+// wheel in a box step it.
 #pragma once
 
 #include <QPointer>
