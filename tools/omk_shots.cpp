@@ -82,6 +82,8 @@ int main(int argc, char **argv)
     playPrinting(album, logbook);
     playReminders(album, main);
     playDiagnosis(album, main);
+    playCompatibility(album, main);
+    playFantasyTank(album, main);
     playOptions(album, main);
     playAbout(album, main);
     return album.failed() ? 1 : 0;

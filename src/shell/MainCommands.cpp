@@ -6,7 +6,9 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "advisers/frm_Compat.h"
 #include "advisers/frm_DiagnosisQA.h"
+#include "advisers/frm_Fantasy.h"
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
 #include "reminders/frm_Maintsched.h"
@@ -114,6 +116,10 @@ void frm_OMKMDIMain::mnu_ToolsDisease_Click()
     while (!WizardCancelled)
         Form<frm_DiagnosisQA>().Question_Disclaimer();
 }
+
+void frm_OMKMDIMain::mnu_ToolsCompatibility_Click() { ShowChild(Form<frm_Compat>()); }
+
+void frm_OMKMDIMain::mnu_ToolsFantasy_Click() { ShowChild(Form<frm_Fantasy>()); }
 
 void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
 

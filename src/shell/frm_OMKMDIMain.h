@@ -64,6 +64,8 @@ public:
     void mnu_ToolsRemindersAddEdit_Click();
     void mnu_ToolsReminderSchedule_Click();
     void mnu_ToolsDisease_Click();
+    void mnu_ToolsCompatibility_Click();
+    void mnu_ToolsFantasy_Click();
     void mnu_WindowCascade_Click();
     void mnu_WindowTileHorizontal_Click();
     void mnu_WindowTileVertical_Click();

@@ -17,5 +17,7 @@ void playMaintenance(Album &album, frm_Waterlog &logbook, QDateTime &clock);
 void playPrinting(Album &album, frm_Waterlog &logbook);
 void playReminders(Album &album, frm_OMKMDIMain &main);
 void playDiagnosis(Album &album, frm_OMKMDIMain &main);
+void playCompatibility(Album &album, frm_OMKMDIMain &main);
+void playFantasyTank(Album &album, frm_OMKMDIMain &main);
 void playOptions(Album &album, frm_OMKMDIMain &main);
 void playAbout(Album &album, frm_OMKMDIMain &main);
