@@ -132,7 +132,7 @@ static_assert(isNumbered(FreshAnimals, freshAnimalCount, 50));
 
 } // namespace
 
-const AnimalRow &AnimalOf(Water water, int number)
+const AnimalRow &AnimalOf(WaterKind water, int number)
 {
-    return (water == Water::Salt ? SaltAnimals : FreshAnimals).at(size_t(number));
+    return (water == WaterKind::Salt ? SaltAnimals : FreshAnimals).at(size_t(number));
 }

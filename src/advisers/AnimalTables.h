@@ -7,7 +7,7 @@
 #include <array>
 #include <string_view>
 
-enum class Water { Salt, Fresh };
+enum class WaterKind { Salt, Fresh };
 
 struct AnimalRow
 {
@@ -28,4 +28,4 @@ extern const std::array<AnimalRow, animalRows> SaltAnimals;
 extern const std::array<AnimalRow, animalRows> FreshAnimals;
 
 /// A row of that water's table; the number must be 0 to 50.
-const AnimalRow &AnimalOf(Water water, int number);
+const AnimalRow &AnimalOf(WaterKind water, int number);

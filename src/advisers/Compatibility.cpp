@@ -14,9 +14,9 @@ QString text(std::string_view characters)
 
 } // namespace
 
-QStringList SelectionLines(Water water)
+QStringList SelectionLines(WaterKind water)
 {
-    const bool salt = water == Water::Salt;
+    const bool salt = water == WaterKind::Salt;
     QStringList lines;
     for (int number = 1; number <= (salt ? saltAnimalCount : freshAnimalCount); ++number) {
         const AnimalRow &row = AnimalOf(water, number);
@@ -26,19 +26,19 @@ QStringList SelectionLines(Water water)
     return lines;
 }
 
-char CompatLetter(Water water, int animal, int other)
+char CompatLetter(WaterKind water, int animal, int other)
 {
     const std::string_view letters = AnimalOf(water, animal).CompatLetters;
     return other >= 1 && size_t(other) <= letters.size() ? letters[size_t(other) - 1] : '\0';
 }
 
-QString ShortName(Water water, int animal)
+QString ShortName(WaterKind water, int animal)
 {
     const QString name = text(AnimalOf(water, animal).AnimalName).left(longestShortName);
     return name.left(name.indexOf(QLatin1String("  ")));
 }
 
-CompatLists SortAnimals(Water water, int animal)
+CompatLists SortAnimals(WaterKind water, int animal)
 {
     CompatLists lists;
     for (int other = 1; other <= lastSorted; ++other) {

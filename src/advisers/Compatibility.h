@@ -7,13 +7,13 @@
 #include "advisers/AnimalTables.h"
 
 /// The lines of a list to select from: animal number n is line n - 1. Each shows a size.
-QStringList SelectionLines(Water water);
+QStringList SelectionLines(WaterKind water);
 
 /// The letter of an animal's row for another animal, '\0' where the row holds none. Numbers are 0 to 50.
-char CompatLetter(Water water, int animal, int other);
+char CompatLetter(WaterKind water, int animal, int other);
 
 /// The name alone, without the blanks and the size of a salt animal.
-QString ShortName(Water water, int animal);
+QString ShortName(WaterKind water, int animal);
 
 /// Names of animals by what the row of one animal says of them, each in the order of the table.
 struct CompatLists
@@ -24,4 +24,4 @@ struct CompatLists
 };
 
 /// Sorts the animals of the table, that animal itself included.
-CompatLists SortAnimals(Water water, int animal);
+CompatLists SortAnimals(WaterKind water, int animal);

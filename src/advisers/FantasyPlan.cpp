@@ -10,9 +10,9 @@ namespace {
 constexpr double fullest = 125; ///< percent: the bar ends there
 
 /// Gallons of water for an inch of fish: a variation of the aquarists' old rule of inches to gallons.
-double gallonsPerInch(Water water, bool wetDry, bool taller)
+double gallonsPerInch(WaterKind water, bool wetDry, bool taller)
 {
-    if (water == Water::Fresh)
+    if (water == WaterKind::Fresh)
         return taller ? 1.5 : 1.2;
     return wetDry ? 1.8 : taller ? 2.2 : 2;
 }
@@ -27,9 +27,10 @@ double FantasyPlan::FantasyInches() const
     return inches;
 }
 
-void FantasyPlan::RecalcHolding(double gallons, Water water, bool wetDry, bool taller)
+void FantasyPlan::RecalcHolding(double gallons, WaterKind water, bool wetDry, bool taller)
 {
     FantasyGallons = gallons;
+    // Cut, not rounded: 55 gallons in a tall tank of salt water hold 24, because 2.2 is no exact number.
     FantasyHolding = std::floor(gallons / gallonsPerInch(water, wetDry, taller));
     const double inches = FantasyInches();
     if (FantasyHolding > 0)
@@ -39,7 +40,7 @@ void FantasyPlan::RecalcHolding(double gallons, Water water, bool wetDry, bool t
     FantasyPercent = std::fmin(FantasyPercent, fullest);
 }
 
-AddWarnings FantasyPlan::Add(Water water, double howMany, double howBig)
+AddWarnings FantasyPlan::Add(WaterKind water, double howMany, double howBig)
 {
     const FantasyRow added{SelectedAnimal, howMany, howBig};
     FantasyTank.push_back(added);
@@ -49,7 +50,7 @@ AddWarnings FantasyPlan::Add(Water water, double howMany, double howBig)
 }
 
 /// The new animal's row is asked about each animal in the tank, itself included, and never the reverse.
-AddWarnings FantasyPlan::warningsOf(Water water, const FantasyRow &added) const
+AddWarnings FantasyPlan::warningsOf(WaterKind water, const FantasyRow &added) const
 {
     AddWarnings warnings;
     warnings.crowdsOwnKind = added.HowMany > 1 && AnimalOf(water, added.AnimalNo).KeepsOwnKind == 'N';
@@ -65,7 +66,7 @@ AddWarnings FantasyPlan::warningsOf(Water water, const FantasyRow &added) const
 
 void FantasyPlan::Remove(int row) { FantasyTank.erase(FantasyTank.begin() + row); }
 
-QString FantasyLine(Water water, const FantasyRow &row)
+QString FantasyLine(WaterKind water, const FantasyRow &row)
 {
     return PlainText(row.HowMany) + u' ' + ShortName(water, row.AnimalNo) + QLatin1String(" - ") +
            PlainText(row.HowBig) + QLatin1String(" in.");

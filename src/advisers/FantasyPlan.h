@@ -42,17 +42,17 @@ public:
 
     /// Works out FantasyHolding and FantasyPercent for a tank of that many gallons. In salt water the filter counts and
     /// the shape only without it; in fresh water the shape alone counts.
-    void RecalcHolding(double gallons, Water water, bool wetDry, bool taller);
+    void RecalcHolding(double gallons, WaterKind water, bool wetDry, bool taller);
     /// Adds SelectedAnimal, by the table of that water; warnings stop nobody. The plan must not be full.
-    AddWarnings Add(Water water, double howMany, double howBig);
+    AddWarnings Add(WaterKind water, double howMany, double howBig);
     /// Takes a row out; rows count from 0.
     void Remove(int row);
     /// The empty plan of a tank of 55 gallons.
     void Reset() { *this = {}; }
 
 private:
-    AddWarnings warningsOf(Water water, const FantasyRow &added) const;
+    AddWarnings warningsOf(WaterKind water, const FantasyRow &added) const;
 };
 
 /// A row as the list shows it: "2 Gobies - 1 in."
-QString FantasyLine(Water water, const FantasyRow &row);
+QString FantasyLine(WaterKind water, const FantasyRow &row);

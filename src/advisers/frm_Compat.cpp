@@ -63,13 +63,13 @@ void frm_Compat::Form_Activate() { Form<frm_OMKMDIMain>().disablePrint(); }
 void frm_Compat::but_salt_click()
 {
     clearLists();
-    offer(SelectionLines(Water::Salt));
+    offer(SelectionLines(WaterKind::Salt));
 }
 
 void frm_Compat::but_fresh_click()
 {
     clearLists();
-    offer(SelectionLines(Water::Fresh));
+    offer(SelectionLines(WaterKind::Fresh));
 }
 
 void frm_Compat::clearLists()
@@ -92,7 +92,7 @@ void frm_Compat::lst_select_Click()
     if (lst_Select->currentIndex() < 0)
         return;
     const CompatLists lists =
-        SortAnimals(but_salt->isChecked() ? Water::Salt : Water::Fresh, lst_Select->currentIndex() + 1);
+        SortAnimals(but_salt->isChecked() ? WaterKind::Salt : WaterKind::Fresh, lst_Select->currentIndex() + 1);
     lst_compatable->addItems(lists.compatible);
     lst_maybe->addItems(lists.maybe);
     lst_incompatable->addItems(lists.incompatible);

@@ -52,7 +52,7 @@ frm_FantAddAnimal::frm_FantAddAnimal(Globals &globals, QWidget *parent) : Dialog
     on(cmd_Cancel, &QPushButton::clicked, this, &frm_FantAddAnimal::cmd_Cancel_Click);
 }
 
-void frm_FantAddAnimal::ShowAnimal(FantasyPlan &plan, Water water, const QString &line)
+void frm_FantAddAnimal::ShowAnimal(FantasyPlan &plan, WaterKind water, const QString &line)
 {
     m_plan = &plan;
     m_water = water;

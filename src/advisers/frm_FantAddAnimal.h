@@ -14,7 +14,7 @@ public:
 
     /// Asks about the plan's SelectedAnimal, by the table of that water; `line` is how the list names it. Back when the
     /// animal is in the plan, or was cancelled. The plan must live as long.
-    void ShowAnimal(FantasyPlan &plan, Water water, const QString &line);
+    void ShowAnimal(FantasyPlan &plan, WaterKind water, const QString &line);
 
 private:
     void Cancel() override { cmd_Cancel_Click(); }
@@ -29,5 +29,5 @@ private:
     void ud_Howbig_Change();
 
     FantasyPlan *m_plan = nullptr;
-    Water m_water = Water::Salt;
+    WaterKind m_water = WaterKind::Salt;
 };

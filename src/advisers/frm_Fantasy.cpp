@@ -89,10 +89,11 @@ void frm_Fantasy::RecalcHolding()
 {
     m_plan.RecalcHolding(Val(txt_tanksize->text()), water(), chk_WetDryIncluded->isChecked(), chk_Taller->isChecked());
     pb_StockingRatio->setPercent(static_cast<float>(m_plan.FantasyPercent));
-    lbl_holding->setText(QStringLiteral("A %1 gallon %2 tank, in ideal conditions, could hold about %3 inches of fish.")
-                             .arg(PlainText(m_plan.FantasyGallons),
-                                  water() == Water::Salt ? QStringLiteral("saltwater") : QStringLiteral("freshwater"),
-                                  PlainText(m_plan.FantasyHolding)));
+    lbl_holding->setText(
+        QStringLiteral("A %1 gallon %2 tank, in ideal conditions, could hold about %3 inches of fish.")
+            .arg(PlainText(m_plan.FantasyGallons),
+                 water() == WaterKind::Salt ? QStringLiteral("saltwater") : QStringLiteral("freshwater"),
+                 PlainText(m_plan.FantasyHolding)));
     const double percent = std::trunc(m_plan.FantasyPercent);
     // A blank stands where a negative number has its sign.
     lbl_pctfull->setText((percent < 0 ? QString() : QStringLiteral(" ")) + PlainText(percent) + u'%');
@@ -131,7 +132,7 @@ void frm_Fantasy::changeWater()
     }
     lst_select->clear();
     lst_select->addItems(SelectionLines(water()));
-    chk_WetDryIncluded->setEnabled(water() == Water::Salt); // its mark stays
+    chk_WetDryIncluded->setEnabled(water() == WaterKind::Salt); // its mark stays
     ResetFantasyTank();
 }
 

@@ -24,7 +24,7 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    Water water() const { return opt_Salt->isChecked() ? Water::Salt : Water::Fresh; }
+    WaterKind water() const { return opt_Salt->isChecked() ? WaterKind::Salt : WaterKind::Fresh; }
     void RecalcHolding();
     void ResetFantasyTank();
     void changeWater();
