@@ -42,5 +42,8 @@ Figure namesFigure();
 Figure namesAgainFigure();
 /// On a thousand reminders of all patterns, each begun in 1990.
 std::vector<Figure> reminderFigures(Desk &desk, const QString &folder);
+/// An animal chosen and its three lists shown; one dropped into a plan of 49 rows. In the desk's main window.
+Figure chooseAnimalFigure();
+Figure dropAnimalFigure();
 /// The time for 10,000 entries as it is, and as ten times that of 1,000: linear where they agree.
 Figure pdfFigure(const QString &folder);

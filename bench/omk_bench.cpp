@@ -35,9 +35,17 @@ bool measureIn(const QString &folder, int argc, char **argv)
     const QString tank = makeDatabase(file);
     Desk desk(folder);
     desk.openFirstTank();
-    std::vector<Figure> figures{
-        openTankFigure(folder, tank), sortFigure(desk), scrollFigure(desk), saveFigure(file, tank), startFigure(folder),
-        startWithTextFigure(folder),  namesFigure(),    namesAgainFigure(), pdfFigure(folder)};
+    std::vector<Figure> figures{openTankFigure(folder, tank),
+                                sortFigure(desk),
+                                scrollFigure(desk),
+                                saveFigure(file, tank),
+                                startFigure(folder),
+                                startWithTextFigure(folder),
+                                namesFigure(),
+                                namesAgainFigure(),
+                                chooseAnimalFigure(),
+                                dropAnimalFigure(),
+                                pdfFigure(folder)};
     for (const Figure &figure : reminderFigures(desk, folder))
         figures.push_back(figure);
     return measureAndPrint(figures, argc, argv);

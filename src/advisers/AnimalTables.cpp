@@ -116,19 +116,21 @@ constexpr std::array<AnimalRow, animalRows> FreshAnimals{{
 // clang-format on
 namespace {
 
-constexpr bool isNumbered(const std::array<AnimalRow, animalRows> &table, int count, size_t letters)
+/// Are the first animals numbered in their order, each with a letter for each of them, and `blanks` blanks behind?
+constexpr bool isWhole(const std::array<AnimalRow, animalRows> &table, int count, int blanks, std::string_view ownKind)
 {
     for (int number = 1; number <= count; ++number) {
         const AnimalRow &row = table[size_t(number)];
-        if (row.Number != number || row.AnimalName.empty() || row.CompatLetters.size() != letters ||
-            row.CompatLetters.find_first_not_of("YMN ") != std::string_view::npos)
+        if (row.Number != number || row.AnimalName.empty() || ownKind.find(row.KeepsOwnKind) == ownKind.npos ||
+            row.CompatLetters.size() != size_t(count + blanks) ||
+            row.CompatLetters.find_first_not_of("YMN") != (blanks > 0 ? size_t(count) : row.CompatLetters.npos))
             return false;
     }
     return true;
 }
 
-static_assert(isNumbered(SaltAnimals, saltAnimalCount + 1, 40)); // one blank more than animals, and a row of blanks
-static_assert(isNumbered(FreshAnimals, freshAnimalCount, 50));
+static_assert(isWhole(SaltAnimals, saltAnimalCount, 1, "YN"));
+static_assert(isWhole(FreshAnimals, freshAnimalCount, 0, std::string_view(&notTold, 1)));
 
 } // namespace
 

@@ -1,7 +1,6 @@
 #include "advisers/StockingBar.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 namespace {
 
@@ -22,9 +21,10 @@ StockingBar::StockingBar(QWidget *parent) : QProgressBar(parent)
 void StockingBar::setPercent(float percent)
 {
     m_percent = qBound(0.0f, percent, float(end));
+    setUpdatesEnabled(false); // a progress bar paints itself at once; this one is painted with its window
     setValue(int(m_percent));
+    setUpdatesEnabled(true);
     setAccessibleName(QStringLiteral("The tank is %1% full").arg(value()));
-    update();
 }
 
 QSize StockingBar::minimumSizeHint() const
@@ -38,31 +38,23 @@ QSize StockingBar::sizeHint() const { return minimumSizeHint(); }
 void StockingBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const int line = fontMetrics().height();
-    const QRectF bar = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -line - 2.5);
-    const auto x = [&bar](double percent) { return bar.left() + bar.width() * percent / end; };
-
-    QPainterPath outline;
-    outline.addRoundedRect(bar, 4, 4);
-    painter.fillPath(outline, palette().base());
-    painter.save();
-    painter.setClipPath(outline);
-    painter.fillRect(QRectF(QPointF(x(0), bar.top()), QPointF(x(qMin(m_percent, float(full))), bar.bottom())),
-                     QColor(0x3f, 0xa6, 0x6a));
+    const QRect bar = rect().adjusted(0, 0, -1, -fontMetrics().height() - 3);
+    const auto x = [&bar](double percent) { return bar.left() + qRound(bar.width() * percent / end); };
+    const auto fill = [&](double from, double to, const QBrush &brush) {
+        painter.fillRect(QRect(QPoint(x(from), bar.top()), QPoint(x(to), bar.bottom())), brush);
+    };
+    fill(0, end, palette().base());
+    fill(0, qMin(m_percent, float(full)), QColor(0x3f, 0xa6, 0x6a));
     if (m_percent > full)
-        painter.fillRect(QRectF(QPointF(x(full), bar.top()), QPointF(x(m_percent), bar.bottom())),
-                         QColor(0xe0, 0x52, 0x6a));
-    painter.restore();
+        fill(full, m_percent, QColor(0xe0, 0x52, 0x6a));
     painter.setPen(palette().color(QPalette::Mid));
-    painter.drawPath(outline);
+    painter.drawRect(bar);
 
     painter.setPen(QPen(palette().color(QPalette::WindowText), 2));
-    painter.drawLine(QPointF(x(full), bar.top()), QPointF(x(full), bar.bottom() + 3));
+    painter.drawLine(x(full), bar.top() + 1, x(full), bar.bottom() + 3);
     for (const int mark : marks) {
         const QString text = QStringLiteral("%1%").arg(mark);
         const int width = fontMetrics().horizontalAdvance(text);
-        const double left = qMax(0.0, x(mark) - width / 2.0);
-        painter.drawText(QPointF(left, height() - fontMetrics().descent()), text);
+        painter.drawText(qMax(0, x(mark) - width / 2), height() - fontMetrics().descent(), text);
     }
 }

@@ -157,8 +157,10 @@ void frm_Fantasy::cmd_AddAnimal_Click()
     const int held = m_plan.FantasyCount();
     m_plan.SelectedAnimal = row + 1;
     Form<frm_FantAddAnimal>().ShowAnimal(m_plan, water(), lst_select->item(row)->text());
-    if (m_plan.FantasyCount() > held)
+    if (m_plan.FantasyCount() > held) {
         lst_Fantank->addItem(FantasyLine(water(), m_plan.FantasyTank.back()));
+        lst_Fantank->scrollToBottom(); // to be seen
+    }
     lst_select->setCurrentRow(-1);
     RecalcHolding();
 }
