@@ -45,6 +45,7 @@ frm_Fantasy::frm_Fantasy(Globals &globals, QWidget *parent) : ChildForm(globals,
     setWindowIcon(Icon("fantasy"));
     lst_select->setItemDelegate(new SizeColumn(this));
     ud_Tanksize->setBoundBox(txt_tanksize);
+    lbl_pctfull->setMinimumWidth(lbl_pctfull->fontMetrics().horizontalAdvance(QStringLiteral(" 125%")));
     setMinimumSize(smallestWindow.expandedTo(layout()->minimumSize()));
     for (QListWidget *list : {lst_select, lst_Fantank})
         list->viewport()->installEventFilter(this);
@@ -57,9 +58,9 @@ frm_Fantasy::frm_Fantasy(Globals &globals, QWidget *parent) : ChildForm(globals,
                 if (chosen)
                     opt_fresh_click();
             }));
-    on(chk_WetDryIncluded, &QCheckBox::toggled, this, &frm_Fantasy::RecalcHolding);
-    on(chk_Taller, &QCheckBox::toggled, this, &frm_Fantasy::RecalcHolding);
-    on(ud_Tanksize, &UpDown::Change, this, &frm_Fantasy::RecalcHolding);
+    on(chk_WetDryIncluded, &QCheckBox::toggled, this, &frm_Fantasy::chk_WetDryIncluded_Click);
+    on(chk_Taller, &QCheckBox::toggled, this, &frm_Fantasy::chk_Taller_Click);
+    on(ud_Tanksize, &UpDown::Change, this, &frm_Fantasy::ud_tanksize_Change);
     on(lst_select, &QListWidget::itemSelectionChanged, this, &frm_Fantasy::lst_select_Click);
     on(lst_Fantank, &QListWidget::itemSelectionChanged, this, &frm_Fantasy::lst_Fantank_Click);
     on(cmd_AddAnimal, &QPushButton::clicked, this, &frm_Fantasy::cmd_AddAnimal_Click);
@@ -135,6 +136,12 @@ void frm_Fantasy::changeWater()
     chk_WetDryIncluded->setEnabled(water() == WaterKind::Salt); // its mark stays
     ResetFantasyTank();
 }
+
+void frm_Fantasy::chk_WetDryIncluded_Click() { RecalcHolding(); }
+
+void frm_Fantasy::chk_Taller_Click() { RecalcHolding(); }
+
+void frm_Fantasy::ud_tanksize_Change() { RecalcHolding(); }
 
 void frm_Fantasy::lst_select_Click() { cmd_AddAnimal->setEnabled(true); }
 

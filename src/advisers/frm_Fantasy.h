@@ -32,6 +32,9 @@ private:
 
     void opt_Salt_Click();
     void opt_fresh_click();
+    void chk_WetDryIncluded_Click();
+    void chk_Taller_Click();
+    void ud_tanksize_Change();
     void lst_select_Click();
     void lst_select_DblClick();
     void lst_Fantank_Click();

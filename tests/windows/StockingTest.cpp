@@ -147,8 +147,6 @@ TEST_F(Stocking, SizesAreTakenAsTyped)
     EXPECT_EQ(lines(*w.lst_Fantank), "");
     mouse::click(w.cmd_AddAnimal);
     EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select an animal to add.");
-    mouse::doubleClick(w.lst_Fantank->viewport());
-    EXPECT_EQ(keeper.told(), "1|Oops!/48/You must first select an animal to delete.");
 }
 
 TEST_F(Stocking, WarningsComeInTheirOrderAndStopNobody)
@@ -167,6 +165,14 @@ TEST_F(Stocking, WarningsComeInTheirOrderAndStopNobody)
         EXPECT_TRUE(told[i].contains(pieces[i])) << told[i].toStdString();
     EXPECT_EQ(lines(*w.lst_Fantank), "1 Filefish - 2 in.|2 Angelfish (Full size) - 5 in.");
     EXPECT_EQ(fill(w), " 44%/44/44%");
+    drop(w, 14, "1", "-30");
+    EXPECT_EQ(fill(w), "-66%/0/0%");
+    clickLine(*w.lst_Fantank, 0);
+    mouse::click(w.cmd_RemoveAnimal);
+    EXPECT_TRUE(w.lst_Fantank->selectedItems().isEmpty() && !w.cmd_RemoveAnimal->isEnabled());
+    mouse::doubleClick(w.lst_Fantank->viewport()); // below the lines
+    EXPECT_EQ(keeper.told(), "1|Oops!/48/You must first select an animal to delete.");
+    EXPECT_EQ(lines(*w.lst_Fantank), "2 Angelfish (Full size) - 5 in.|1 Gobies - -30 in.");
 }
 
 TEST_F(Stocking, ANewWaterIsAskedForAndStaysWhenItWasNotWanted)
