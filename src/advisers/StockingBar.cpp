@@ -18,9 +18,9 @@ StockingBar::StockingBar(QWidget *parent) : QProgressBar(parent)
     setPercent(0);
 }
 
-void StockingBar::setPercent(float percent)
+void StockingBar::setPercent(double percent)
 {
-    m_percent = qBound(0.0f, percent, float(end));
+    m_percent = float(qBound(0.0, percent, double(end)));
     setUpdatesEnabled(false); // a progress bar paints itself at once; this one is painted with its window
     setValue(int(m_percent));
     setUpdatesEnabled(true);

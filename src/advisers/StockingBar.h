@@ -12,7 +12,7 @@ public:
     explicit StockingBar(QWidget *parent = nullptr);
 
     /// Any number: the bar is empty below 0 and stops at 125.
-    void setPercent(float percent);
+    void setPercent(double percent);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -89,7 +89,7 @@ bool frm_Fantasy::eventFilter(QObject *object, QEvent *event)
 void frm_Fantasy::RecalcHolding()
 {
     m_plan.RecalcHolding(Val(txt_tanksize->text()), water(), chk_WetDryIncluded->isChecked(), chk_Taller->isChecked());
-    pb_StockingRatio->setPercent(static_cast<float>(m_plan.FantasyPercent));
+    pb_StockingRatio->setPercent(m_plan.FantasyPercent);
     lbl_holding->setText(
         QStringLiteral("A %1 gallon %2 tank, in ideal conditions, could hold about %3 inches of fish.")
             .arg(PlainText(m_plan.FantasyGallons),
