@@ -9,6 +9,12 @@
 
 #include <QString>
 
+// Shared by the boxes of the two windows. Both look for the freshwater file before they open their own, so a missing
+// one blocks the saltwater names too.
+inline const QString nameFileLookedFor = QStringLiteral("namesfw.txt");
+inline const QString namesNotFoundTitle = QStringLiteral("Names File Not Found!");
+inline const QString makersAddress = QStringLiteral("http://www.velmoor.example");
+
 struct NameRecord
 {
     QString common;    ///< turned about, so that the family name leads: "Tang - Yellow "

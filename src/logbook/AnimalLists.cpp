@@ -31,11 +31,6 @@ const frm_LivesAddEdit::Source frm_LivesAddEdit::freshSource = {"NAMESFW.txt", "
 
 namespace {
 
-// Both lists look for this one before they open their own: a missing freshwater file blocks the saltwater list too.
-const QString fileLookedFor = QStringLiteral("namesfw.txt");
-const QString notFoundTitle = QStringLiteral("Names File Not Found!");
-const QString makersAddress = QStringLiteral("http://www.velmoor.example");
-
 // Both waters say "freshwater names" where the file is missing.
 QString missingText(const char *names, const char *cannotView)
 {
@@ -125,10 +120,10 @@ void frm_LivesAddEdit::listFromFile(const Source &source)
     const HourGlass wait;
     tell(QStringLiteral("Loading..."));
     showAnimals({});
-    if (FindFile(fileLookedFor).isEmpty()) {
+    if (FindFile(nameFileLookedFor).isEmpty()) {
         MsgBox(missingText(source.inMessage, "freshwater names") +
                    u"\nThe Ostrelmark database version of the list will be used.",
-               vbExclamation, notFoundTitle);
+               vbExclamation, namesNotFoundTitle);
         listFromDatabase(source);
         return;
     }
@@ -140,6 +135,6 @@ void frm_LivesAddEdit::listFromFile(const Source &source)
         showAnimals(sorted(std::move(names)));
         tell(QStringLiteral("%1 names loaded.").arg(count));
     } catch (const RuntimeFailure &) {
-        MsgBox(missingText(source.inMessage, source.cannotView), vbExclamation, notFoundTitle);
+        MsgBox(missingText(source.inMessage, source.cannotView), vbExclamation, namesNotFoundTitle);
     }
 }

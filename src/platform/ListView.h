@@ -112,3 +112,10 @@ inline void SetListViewStyle(ListView &list)
     list.setFullRowSelect(true);
     list.setHeaderDragDrop(true);
 }
+
+/// A click on the head of a column (from 1): sorts by its texts, or turns the order where it is sorted so already.
+inline void SortByColumn(ListView &list, int index)
+{
+    const bool again = list.Sorted() && list.SortKey() == index - 1;
+    list.setSort(true, index - 1, again ? 1 - list.SortOrder() : 0);
+}

@@ -11,6 +11,8 @@
 #include "advisers/frm_Fantasy.h"
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
+#include "reference/frm_Conversions.h"
+#include "reference/frm_LatintoCommon.h"
 #include "reminders/frm_Maintsched.h"
 #include "reminders/frm_Schedule.h"
 #include "shell/Arrange.h"
@@ -120,6 +122,10 @@ void frm_OMKMDIMain::mnu_ToolsDisease_Click()
 void frm_OMKMDIMain::mnu_ToolsCompatibility_Click() { ShowChild(Form<frm_Compat>()); }
 
 void frm_OMKMDIMain::mnu_ToolsFantasy_Click() { ShowChild(Form<frm_Fantasy>()); }
+
+void frm_OMKMDIMain::mnu_ToolsCommonNames_Click() { ShowChild(Form<frm_LatintoCommon>()); }
+
+void frm_OMKMDIMain::mnu_ToolsConversions_Click() { ShowChild(Form<frm_Conversions>()); }
 
 void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
 

@@ -80,8 +80,10 @@ constexpr EntryRow entryRows[] = {
      &Main::mnu_ToolsReminderSchedule_Click},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsFantasy), "&Fantasy Tank", 'F', SeparatorBefore,
      &Main::mnu_ToolsFantasy_Click},
-    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsCommonNames), "Common / Latin &Names Cross-reference", 0, Plain, nullptr},
-    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsConversions), "&Conversion Calculator", 0, Plain, nullptr},
+    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsCommonNames), "Common / Latin &Names Cross-reference", 0, Plain,
+     &Main::mnu_ToolsCommonNames_Click},
+    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsConversions), "&Conversion Calculator", 0, Plain,
+     &Main::mnu_ToolsConversions_Click},
 
     {&MainMenu::mnu_Window, ENTRY(mnu_WindowCascade), "&Cascade", 0, Plain, &Main::mnu_WindowCascade_Click},
     {&MainMenu::mnu_Window, ENTRY(mnu_WindowTileHorizontal), "Tile &Horizontal", 0, Plain,

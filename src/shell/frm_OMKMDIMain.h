@@ -66,6 +66,8 @@ public:
     void mnu_ToolsDisease_Click();
     void mnu_ToolsCompatibility_Click();
     void mnu_ToolsFantasy_Click();
+    void mnu_ToolsCommonNames_Click();
+    void mnu_ToolsConversions_Click();
     void mnu_WindowCascade_Click();
     void mnu_WindowTileHorizontal_Click();
     void mnu_WindowTileVertical_Click();

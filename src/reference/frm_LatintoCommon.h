@@ -1,0 +1,40 @@
+// Animals with their common and Latin names, a child window that lists either of the two name files and sorts by either
+// name. Each load replaces the list; nothing comes from the database.
+#pragma once
+
+#include "shell/ChildForm.h"
+
+class ListView;
+class QGroupBox;
+class QLabel;
+class QRadioButton;
+class QStatusBar;
+
+class frm_LatintoCommon : public ChildForm
+{
+    Q_OBJECT
+public:
+    frm_LatintoCommon(Globals &globals, QWidget *parent);
+
+    void Form_Load();
+    void Form_Activate() override;
+    /// Fill the list from the file of that water. A file that is not there, or cannot be read, gets a box.
+    void LoadSalt();
+    void LoadFresh();
+
+    ListView *lstv_Names;
+    QGroupBox *Frame1;
+    QRadioButton *opt_Freshwater, *opt_Salt;
+    QStatusBar *StatusBar1;
+
+private:
+    void makeControls();
+    void tell(const QString &progress);
+    void load(const QString &fileName, const QString &whereItFails);
+
+    void opt_Salt_Click() { LoadSalt(); }
+    void opt_Freshwater_Click() { LoadFresh(); }
+    void lstv_Names_ColumnClick(int index);
+
+    QLabel *m_panel;
+};
