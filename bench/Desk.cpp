@@ -54,6 +54,7 @@ Desk::Desk(const QString &folder)
     m_globals.splashMilliseconds = 0;
     m_forms = std::make_unique<Forms>(m_globals);
     auto &main = Form<frm_OMKMDIMain>();
+    SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("No")); // it would wait for somebody to close it
     main.MDIForm_Load();
     main.mnu_ToolsLogbook_Click();
     m_logbook = &Form<frm_Waterlog>();

@@ -37,8 +37,9 @@ Figure sortFigure(Desk &desk);
 Figure scrollFigure(Desk &desk);
 /// On two copies of the database.
 Figure saveFigure(const QString &databaseFile, const QString &tankId);
-/// In the livestock window, and in a list as the names window has it. Write name files into the current directory.
+/// In the livestock window, and in the names window. The first two write name files into the current directory.
 Figure namesFigure();
+Figure namesWindowFigure();
 Figure namesAgainFigure();
 /// On a thousand reminders of all patterns, each begun in 1990.
 std::vector<Figure> reminderFigures(Desk &desk, const QString &folder);

@@ -12,11 +12,11 @@
 #include <QFile>
 #include <QListView>
 
-#include "common/NameFile.h"
 #include "Desk.h"
 #include "logbook/frm_LivesAddEdit.h"
 #include "OwnProcess.h"
 #include "platform/ListView.h"
+#include "reference/frm_LatintoCommon.h"
 
 namespace {
 
@@ -49,6 +49,16 @@ Sample loadInWindow(frm_LivesAddEdit &window)
     return sample;
 }
 
+Sample loadInNames(frm_LatintoCommon &window)
+{
+    settle(window.lstv_Names);
+    const std::int64_t start = nowNanoseconds();
+    PaintWatch watch(window.lstv_Names->viewport());
+    window.LoadSalt();
+    watch.wait();
+    return {millisecondsSince(start)};
+}
+
 /// The same lines read, turned about and sorted, in a plain loop.
 Sample loadPlainly()
 {
@@ -68,56 +78,23 @@ Sample loadPlainly()
     return {millisecondsSince(start), double(turned.size())};
 }
 
-/// Common and Latin names, as the names window will show them.
-class NameRows : public ListSource
-{
-public:
-    NameRows()
-    {
-        ReadNameFile(
-            QStringLiteral("namessw.txt"),
-            [this](NameRecord record) {
-                m_records.push_back({std::move(record.common), record.latin.toString()});
-            },
-            [](const QString &) {});
-    }
-    int count() const override { return int(m_records.size()); }
-    QString text(int row, int column) const override
-    {
-        const auto &[common, latin] = m_records[size_t(row)];
-        return column == 0 ? common : latin;
-    }
-    QString key(int) const override { return {}; }
-
-private:
-    std::vector<std::pair<QString, QString>> m_records;
-};
-
-/// The list beside ready keys, each call the other way round.
+/// The list of the names window beside ready keys, each call the other way round.
 class SortAgain
 {
 public:
-    SortAgain() : m_rows(std::make_shared<NameRows>()), m_list(std::make_unique<ListView>())
+    explicit SortAgain(ListView &list) : m_list(list)
     {
-        m_list->setColumns({{QStringLiteral("common"), QStringLiteral("Common Name"), false, 300},
-                            {QStringLiteral("latin"), QStringLiteral("Latin Name"), false, 300}});
-        m_list->setSource(m_rows);
-        m_list->resize(700, 500);
-        for (int row = 0; row < m_rows->count(); ++row)
-            m_keys.push_back(m_rows->text(row, 0).toCaseFolded());
+        for (int row = 1; row <= m_list.Count(); ++row)
+            m_keys.push_back(m_list.Text(row).toCaseFolded());
     }
     Sample ours()
     {
-        m_list->show();
-        settle(m_list.get());
-        m_order = 1 - m_order;
+        settle(&m_list);
         const std::int64_t start = nowNanoseconds();
-        PaintWatch watch(m_list->viewport());
-        m_list->setSort(true, 0, m_order);
+        PaintWatch watch(m_list.viewport());
+        SortByColumn(m_list, 1);
         watch.wait();
-        const Sample sample{millisecondsSince(start)};
-        m_list->hide();
-        return sample;
+        return {millisecondsSince(start)};
     }
     Sample floor()
     {
@@ -132,10 +109,8 @@ public:
     }
 
 private:
-    std::shared_ptr<NameRows> m_rows;
-    std::unique_ptr<ListView> m_list;
+    ListView &m_list;
     std::vector<QString> m_keys;
-    int m_order = 1;
     bool m_ascending = true;
 };
 
@@ -152,9 +127,21 @@ Figure namesFigure()
             .floor = loadPlainly};
 }
 
+Figure namesWindowFigure()
+{
+    writeNameFiles();
+    auto &window = Form<frm_LatintoCommon>();
+    window.resize(700, 500);
+    window.show();
+    return {.name = QStringLiteral("The same in the names window, ms"),
+            .target = 5,
+            .ours = [&window] { return loadInNames(window); },
+            .floor = loadPlainly};
+}
+
 Figure namesAgainFigure()
 {
-    const auto both = std::make_shared<SortAgain>();
+    const auto both = std::make_shared<SortAgain>(*Form<frm_LatintoCommon>().lstv_Names);
     return {.name = QStringLiteral("Sorting 50,000 names again, ms"),
             .target = 3.5,
             .ours = [both] { return both->ours(); },

@@ -42,6 +42,7 @@ bool measureIn(const QString &folder, int argc, char **argv)
                                 startFigure(folder),
                                 startWithTextFigure(folder),
                                 namesFigure(),
+                                namesWindowFigure(),
                                 namesAgainFigure(),
                                 chooseAnimalFigure(),
                                 dropAnimalFigure(),

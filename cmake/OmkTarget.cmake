@@ -22,3 +22,15 @@ function(omk_program name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} omk_options)
 endfunction()
+
+# omk_rows(VARIABLE FILE): the lines of a text file as the rows of a C++ array of texts, but for comments, which begin with #. A
+# row may hold no semicolon, bracket or backslash.
+function(omk_rows variable file)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
+    file(STRINGS ${file} rows REGEX "^[^#]" ENCODING UTF-8)
+    list(TRANSFORM rows REPLACE "\"" "\\\\\"")
+    list(TRANSFORM rows PREPEND "    \"")
+    list(TRANSFORM rows APPEND "\",")
+    list(JOIN rows "\n" joined)
+    set(${variable} "${joined}" PARENT_SCOPE)
+endfunction()

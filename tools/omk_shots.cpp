@@ -72,6 +72,7 @@ int main(int argc, char **argv)
     globals.splashMilliseconds = 0;
     Forms forms(globals);
     auto &main = Form<frm_OMKMDIMain>();
+    SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("No")); // photographed later
     main.MDIForm_Load();
     playTanks(album);
     main.CheckTanks();
@@ -84,7 +85,9 @@ int main(int argc, char **argv)
     playDiagnosis(album, main);
     playCompatibility(album, main);
     playFantasyTank(album, main);
+    playReference(album, main);
     playOptions(album, main);
+    playTip(album, main);
     playAbout(album, main);
     return album.failed() ? 1 : 0;
 }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -64,6 +65,7 @@ void frm_Conversions::makeControls()
     lstv_Convert->setAccessibleName(QStringLiteral("Conversions"));
     lstv_Convert->setColumns({{QStringLiteral("from"), QStringLiteral("Convert From"), false, 255},
                               {QStringLiteral("to"), QStringLiteral("Convert To"), false, 255}});
+    lstv_Convert->horizontalHeader()->setStretchLastSection(true);
     txt_FromValue = makeBox("txt_FromValue", "Value to convert");
     txt_ToValue = makeBox("txt_ToValue", "Result");
     txt_ToValue->setReadOnly(true);

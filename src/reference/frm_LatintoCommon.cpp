@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QRadioButton>
 #include <QStatusBar>
@@ -85,6 +86,7 @@ void frm_LatintoCommon::makeControls()
     lstv_Names->setAccessibleName(QStringLiteral("Names"));
     lstv_Names->setColumns({{QStringLiteral("common"), QStringLiteral("Common Name"), false, 250},
                             {QStringLiteral("latin"), QStringLiteral("Latin Name"), false, 250}});
+    lstv_Names->horizontalHeader()->setStretchLastSection(true);
     connect(lstv_Names, &ListView::ColumnClick, this, guarded([this](int index) { lstv_Names_ColumnClick(index); }));
 
     StatusBar1 = new QStatusBar;

@@ -20,6 +20,7 @@
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/frm_OMKOptions.h"
+#include "shell/frm_OMKtod.h"
 #include "shell/MenuEntry.h"
 #include "tanks/frm_TankAddNew.h"
 #include "tanks/frm_TankMaint.h"
@@ -164,6 +165,8 @@ void frm_OMKMDIMain::showHelp()
 void frm_OMKMDIMain::mnu_HelpContents_Click() { showHelp(); }
 
 void frm_OMKMDIMain::mnu_HelpSearch_Click() { showHelp(); }
+
+void frm_OMKMDIMain::mnu_HelpTod_Click() { Form<frm_OMKtod>().ShowTip(); }
 
 void frm_OMKMDIMain::mnu_HelpAbout_Click()
 {

@@ -95,7 +95,7 @@ constexpr EntryRow entryRows[] = {
 
     {&MainMenu::mnu_Help, ENTRY(mnu_HelpContents), "&Contents", 0, Plain, &Main::mnu_HelpContents_Click},
     {&MainMenu::mnu_Help, ENTRY(mnu_HelpSearch), "&Search For Help On...", 0, Plain, &Main::mnu_HelpSearch_Click},
-    {&MainMenu::mnu_Help, ENTRY(mnu_HelpTod), "Tip of the Day", 0, SeparatorBefore, nullptr},
+    {&MainMenu::mnu_Help, ENTRY(mnu_HelpTod), "Tip of the Day", 0, SeparatorBefore, &Main::mnu_HelpTod_Click},
     {&MainMenu::mnu_Help, ENTRY(mnu_HelpAbout), "&About Ostrelmark...", 0, SeparatorBefore, &Main::mnu_HelpAbout_Click},
 
     {&MainMenu::mnu_tankPopup, ENTRY(mnu_TankAddNew), "New Tank...", 0, Plain, &Main::mnu_TankAddNew_Click},

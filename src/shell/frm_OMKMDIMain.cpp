@@ -148,7 +148,8 @@ void frm_OMKMDIMain::MDIForm_Load()
     show();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // painted, before the splash is made ready
     showSplash();
-    tipIsDue();
+    if (tipIsDue() && !isEnding())
+        mnu_HelpTod_Click();
     if (!isEnding())
         CheckTanks();
 }
@@ -236,10 +237,12 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
     const bool isNew = !frame;
     if (isNew) {
         const QSize size = child.size() + QSize(12, 36); // as the window asks for, and its frame
-        frame = m_area->addSubWindow(&child);
+        frame = new QMdiSubWindow;
+        frame->setWidget(&child);
         frame->setAttribute(Qt::WA_DeleteOnClose);
         frame->setWindowIcon(child.windowIcon());
         frame->resize(size.boundedTo(m_area->viewport()->size()));
+        m_area->addSubWindow(frame); // of its own size already, so that it gets a place where it is seen whole
     }
     if (frame->isMinimized())
         frame->showNormal();

@@ -74,6 +74,7 @@ public:
     void mnu_WindowArrangeIcons_Click();
     void mnu_HelpContents_Click();
     void mnu_HelpSearch_Click();
+    void mnu_HelpTod_Click();
     void mnu_HelpAbout_Click();
     void mnu_TankAddNew_Click();
     void mnu_TankDelete_Click();

@@ -18,6 +18,7 @@
 
 #include "shell/Forms.h"
 #include "shell/frm_OMKMDIMain.h"
+#include "shell/frm_OMKtod.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"
 #include "support/ScriptedDoors.h"
@@ -51,10 +52,20 @@ public:
         start();
     }
 
-    /// The program as main() starts it. The box about tanks that are missing is in the record of boxes.
+    /// The program as main() starts it. A tip of the day is put away and counted; the box about tanks that are missing
+    /// is in the record of boxes.
     frm_OMKMDIMain &startProgram()
     {
         auto &main = Form<frm_OMKMDIMain>();
+        QTimer atTip;
+        QObject::connect(&atTip, &QTimer::timeout, &main, [this, &atTip] {
+            if (auto *tip = Forms::current().loaded<frm_OMKtod>(); tip && tip->isVisible()) {
+                atTip.stop();
+                ++tipsAtStart;
+                tip->close();
+            }
+        });
+        atTip.start(0);
         main.MDIForm_Load();
         EXPECT_TRUE(isInFront(main));
         return main;
@@ -113,6 +124,7 @@ public:
 
     const QTemporaryDir folder;
     ScriptedDoors doors;
+    int tipsAtStart = 0;
 
 private:
     void start()

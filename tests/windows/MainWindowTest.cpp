@@ -65,7 +65,7 @@ TEST(MainWindow, StartsWithItsWindowsInOrderAndWarnsOfMissingTanksLast)
     ShowOrder order(shown);
     keeper.doors.whileBoxIsUp = [&](const MsgBoxRequest &box) { shown << box.title; };
     auto &main = keeper.startProgram();
-    EXPECT_EQ(shown.join(u'|'), "frm_OMKMDIMain|frm_OMKaboutbox|No Tanks Set Up Yet");
+    EXPECT_EQ(shown.join(u'|'), "frm_OMKMDIMain|frm_OMKaboutbox|frm_OMKtod|No Tanks Set Up Yet");
     EXPECT_EQ(main.windowTitle(), " Ostrelmark 98");
     EXPECT_EQ(
         keeper.told(),
@@ -112,11 +112,12 @@ TEST(MainWindow, TipSettingIsReadAtTheStart)
     {
         const char *stored, *after; ///< null: none
         bool before, shows;
+        int tips;
     } rows[] = {
-        {nullptr, "Yes", false, true},  {"Not Found", "Yes", false, true},
-        {"yes", "yes", false, true},    {"No", "No", true, false},
-        {"eLSE", "Yes", false, true},   {"maybe", "maybe", false, false},
-        {"maybe", "maybe", true, true}, {"", "", true, true},
+        {nullptr, "Yes", false, true, 1},  {"Not Found", "Yes", false, true, 1},
+        {"yes", "Yes", false, true, 1},    {"No", "No", true, false, 0},
+        {"eLSE", "Yes", false, true, 1},   {"maybe", "maybe", false, false, 0},
+        {"maybe", "maybe", true, true, 0}, {"", "", true, true, 0},
     };
     Keeper keeper;
     keeper.addTank("Reef", "1");
@@ -128,6 +129,7 @@ TEST(MainWindow, TipSettingIsReadAtTheStart)
         keeper.g().gShowTips = row.before;
         keeper.startProgram();
         EXPECT_EQ(keeper.g().gShowTips, row.shows);
+        EXPECT_EQ(std::exchange(keeper.tipsAtStart, 0), row.tips);
         EXPECT_EQ(keeper.setting("Show_Tips"), row.after);
     }
     EXPECT_EQ(keeper.told(), "0");

@@ -52,6 +52,7 @@ public:
     QDateTime clock{QDate(2026, 6, 20), QTime(18, 30)};
     QDateTime now() override { return clock; }
     SettingsStore &settings() override { return m_settings; }
+    double random() override { return 0.5; }
     void beep() override {}
     std::optional<QString> saveDialog(const SaveDialogRequest &request) override
     {

@@ -19,5 +19,7 @@ void playReminders(Album &album, frm_OMKMDIMain &main);
 void playDiagnosis(Album &album, frm_OMKMDIMain &main);
 void playCompatibility(Album &album, frm_OMKMDIMain &main);
 void playFantasyTank(Album &album, frm_OMKMDIMain &main);
+void playReference(Album &album, frm_OMKMDIMain &main);
 void playOptions(Album &album, frm_OMKMDIMain &main);
 void playAbout(Album &album, frm_OMKMDIMain &main);
+void playTip(Album &album, frm_OMKMDIMain &main);

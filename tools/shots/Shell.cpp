@@ -1,12 +1,14 @@
 #include "shots/Album.h"
 #include "shots/Plays.h"
 
+#include <QCheckBox>
 #include <QTabWidget>
 
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKCredits.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/frm_OMKOptions.h"
+#include "shell/frm_OMKtod.h"
 
 void playOptions(Album &album, frm_OMKMDIMain &main)
 {
@@ -34,5 +36,16 @@ void playAbout(Album &album, frm_OMKMDIMain &main)
              [&album, &credits] {
                  album.take(credits, QStringLiteral("credits"));
                  credits.reject();
+             });
+}
+
+void playTip(Album &album, frm_OMKMDIMain &main)
+{
+    inDialog([&main] { main.mnu_HelpTod_Click(); },
+             [&album] {
+                 auto &tip = Form<frm_OMKtod>();
+                 tip.chk_ShowTipsAtStartup->setChecked(true);
+                 album.take(tip, QStringLiteral("tip"));
+                 tip.cmd_ok->click();
              });
 }
