@@ -37,7 +37,8 @@ Figure sortFigure(Desk &desk);
 Figure scrollFigure(Desk &desk);
 /// On two copies of the database.
 Figure saveFigure(const QString &databaseFile, const QString &tankId);
-/// In the livestock window, and in the names window. The first two write name files into the current directory.
+/// In the livestock window, and in the names window. The first writes the name files, which the others read, into the
+/// current directory.
 Figure namesFigure();
 Figure namesWindowFigure();
 Figure namesAgainFigure();

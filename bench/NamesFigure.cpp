@@ -129,7 +129,6 @@ Figure namesFigure()
 
 Figure namesWindowFigure()
 {
-    writeNameFiles();
     auto &window = Form<frm_LatintoCommon>();
     window.resize(700, 500);
     window.show();

@@ -32,7 +32,7 @@ QString onOneLine(QString text)
 } // namespace
 
 /// Draws a cell as part of its row: no focus rectangle of its own, a text of one line, and the whole text as a tool tip
-/// where it is cut off.
+/// where it is cut off, else the list's own.
 class ListView::RowDelegate : public QStyledItemDelegate
 {
 public:
@@ -48,7 +48,7 @@ public:
         const QString text = index.data(Qt::ToolTipRole).toString();
         const bool cut = text.contains(u'\n') || sizeHint(option, index).width() > option.rect.width();
         // As rich text, so that a long one is broken into lines and its own signs are not read as tags.
-        QToolTip::showText(event->globalPos(), cut ? Qt::convertFromPlainText(text) : QString(), view);
+        QToolTip::showText(event->globalPos(), cut ? Qt::convertFromPlainText(text) : view->toolTip(), view);
         return true;
     }
 

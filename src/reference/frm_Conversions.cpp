@@ -99,11 +99,11 @@ void frm_Conversions::connectAll()
 {
     on(cmd_Convert, &QPushButton::clicked, this, &frm_Conversions::cmd_Convert_Click);
     on(cmd_Close, &QPushButton::clicked, this, &frm_Conversions::cmd_Close_Click);
-    on(lstv_Convert, &ListView::Click, this, &frm_Conversions::SetLabels);
+    on(lstv_Convert, &ListView::Click, this, &frm_Conversions::lstv_Convert_Click);
     // Whoever walks through the list by keys sees the units of what he would convert, too.
     on(lstv_Convert->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frm_Conversions::SetLabels);
     connect(lstv_Convert, &ListView::ColumnClick, this,
-            guarded([this](int index) { SortByColumn(*lstv_Convert, index); }));
+            guarded([this](int index) { lstv_Convert_ColumnClick(index); }));
     on(txt_FromValue, &QLineEdit::returnPressed, this, &frm_Conversions::cmd_Convert_Click);
     const auto onKey = [this](Qt::Key key, QWidget *where, void (frm_Conversions::*handler)()) {
         auto *shortcut = new QShortcut(key, where);
@@ -135,6 +135,8 @@ void frm_Conversions::SetLabels()
     lbl_To->setText(UnitTo(key));
     txt_ToValue->clear();
 }
+
+void frm_Conversions::lstv_Convert_ColumnClick(int index) { SortByColumn(*lstv_Convert, index); }
 
 void frm_Conversions::refuse(const QString &text)
 {

@@ -31,6 +31,8 @@ private:
     void connectAll();
     void refuse(const QString &text);
 
+    void lstv_Convert_Click() { SetLabels(); }
+    void lstv_Convert_ColumnClick(int index);
     void cmd_Convert_Click();
     void cmd_Close_Click() { close(); }
 };

@@ -1,10 +1,12 @@
 // The reference tools: names of animals and the conversion calculator.
 #include <fstream>
 
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
+#include <QToolTip>
 
 #include "Hands.h"
 #include "reference/Conversions.h"
@@ -54,6 +56,12 @@ TEST(Names, EitherFileIsListedInTheOrderThatWasChosen)
     EXPECT_EQ(hand::column(list, 0), "Clam Tang - Yellow  Zoanthid");
     EXPECT_EQ(panel(window), "3 names loaded.");
     EXPECT_EQ(list.SelectedItem(), 1);
+    for (QWidget *part : {list.viewport(), list.horizontalHeader()->viewport()}) {
+        QHelpEvent over(QEvent::ToolTip, QPoint(20, 8), part->mapToGlobal(QPoint(20, 8)));
+        QToolTip::hideText();
+        QApplication::sendEvent(part, &over);
+        EXPECT_EQ(QToolTip::text(), "Click column headings to sort") << part->parent()->metaObject()->className();
+    }
     hand::clickHeading(list, 1);
     EXPECT_EQ(hand::column(list, 0), "Zoanthid Tang - Yellow  Clam");
     hand::clickHeading(list, 2);
@@ -157,7 +165,9 @@ TEST(Conversions, LabelsFollowTheSelectionAndTheListSorts)
     hand::choose(main, *main.mnu_Tools, "mnu_ToolsConversions");
     auto &window = Form<frm_Conversions>();
     ListView &list = *window.lstv_Convert;
-    const auto labels = [&]() -> QString { return control<QLabel>(window, "lbl_From").text() + '|' + window.lbl_To->text(); };
+    const auto labels = [&]() -> QString {
+        return control<QLabel>(window, "lbl_From").text() + '|' + window.lbl_To->text();
+    };
     EXPECT_EQ(labels(), "Gallons (US gal)|Litres (L)");
     hand::clickHeading(list, 1);
     EXPECT_EQ(list.Text(1, 0), "Centimeters (cm)");
