@@ -54,14 +54,14 @@ int ReadNameFile(const QString &fileName, const std::function<void(NameRecord)> 
         start = end + 1;
         if (!isRecord(line))
             continue;
-        take(
-            {TurnAbout(line.first(commonLength).trimmed().toString()), line.sliced(commonLength).trimmed().toString()});
+        take({TurnAbout(line.first(commonLength).trimmed()), line.sliced(commonLength).trimmed()});
         ++count;
         if (count % namesOfALine == 0)
             told = firstProgress;
         if (count % namesOfADot == 0)
             told += u'.';
-        progress(told);
+        if (count == 1 || count % namesOfADot == 0)
+            progress(told);
     }
     return count;
 }

@@ -25,8 +25,8 @@ struct NameRecord
 /// blank.
 QString TurnAbout(QStringView name);
 
-/// Hands over each record, and after each the progress text: "Loading." with a dot more for each 20th name, anew at
-/// each 2000th. Returns the count. Throws RuntimeFailure (FileNotFound, PermissionDenied) where the file cannot be
-/// read.
+/// Hands over each record, and the progress text at the first and whenever it has changed: "Loading." with a dot more
+/// for each 20th name, anew at each 2000th. Returns the count. Throws RuntimeFailure (FileNotFound, PermissionDenied)
+/// where the file cannot be read.
 int ReadNameFile(const QString &fileName, const std::function<void(NameRecord)> &take,
                  const std::function<void(const QString &)> &progress);

@@ -112,10 +112,10 @@ void frm_LatintoCommon::Form_Activate()
 
 void frm_LatintoCommon::tell(const QString &progress)
 {
-    if (progress == m_panel->text())
-        return;
+    constexpr qsizetype dotsOfARepaint = 10; // each costs as much as a hundred names
     m_panel->setText(progress);
-    m_panel->repaint(); // no other event runs while the list fills
+    if (progress.size() % dotsOfARepaint == 0)
+        m_panel->repaint(); // no other event runs while the list fills
 }
 
 void frm_LatintoCommon::LoadSalt() { load(QStringLiteral("namessw.txt"), saltMissing); }

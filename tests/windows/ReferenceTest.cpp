@@ -141,19 +141,18 @@ TEST(Conversions, AValueIsConvertedAndOneThatIsNoneIsRefused)
     hand::click<QToolButton>(main, "conversions");
     auto &window = Form<frm_Conversions>();
     for (const auto &row : rows)
-        for (const bool byEnter : {true, false}) {
+        for (QWidget *by : {static_cast<QWidget *>(window.lstv_Convert), static_cast<QWidget *>(window.txt_FromValue),
+                            static_cast<QWidget *>(window.cmd_Convert)}) {
             SCOPED_TRACE(row.typed);
             hand::type(*window.txt_FromValue, row.typed);
             window.lstv_Convert->Select(row.row);
             hand::clickRow(*window.lstv_Convert, row.row);
             EXPECT_EQ(window.txt_ToValue->text(), "");
-            if (byEnter)
-                hand::press(Qt::Key_Return);
-            else
-                mouse::click(window.cmd_Convert);
+            by->setFocus();
+            hand::press(by == window.cmd_Convert ? Qt::Key_Enter : Qt::Key_Return);
             EXPECT_EQ(window.txt_ToValue->text(), row.result);
             EXPECT_EQ(keeper.told(), row.told);
-            EXPECT_EQ(window.txt_FromValue->hasFocus(), row.told != "0");
+            EXPECT_TRUE(row.told == "0" || window.txt_FromValue->hasFocus());
         }
 }
 
