@@ -234,8 +234,7 @@ void frm_OMKMDIMain::CheckTanks()
 void frm_OMKMDIMain::ShowChild(ChildForm &child)
 {
     auto *frame = qobject_cast<QMdiSubWindow *>(child.parentWidget());
-    const bool isNew = !frame;
-    if (isNew) {
+    if (!frame) {
         const QSize size = child.size() + QSize(12, 36); // as the window asks for, and its frame
         frame = new QMdiSubWindow;
         frame->setWidget(&child);
@@ -249,11 +248,6 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
     else
         frame->show();
     child.show();
-    if (isNew) { // each a little below the former, and none beyond the edge
-        const int step = 26 * (int(m_area->subWindowList().size() - 1) % 8);
-        const QSize room = m_area->viewport()->size() - frame->size();
-        frame->move(std::min(step, std::max(0, room.width())), std::min(step, std::max(0, room.height())));
-    }
     m_area->setActiveSubWindow(frame);
     child.setFocus();
 }
