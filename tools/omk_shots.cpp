@@ -89,5 +89,6 @@ int main(int argc, char **argv)
     playOptions(album, main);
     playTip(album, main);
     playAbout(album, main);
+    playUpgrade(album, folder.path());
     return album.failed() ? 1 : 0;
 }

@@ -1,5 +1,10 @@
 // What the entries of the main window's menus do.
+#include <optional>
 #include <QCoreApplication>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -11,6 +16,7 @@
 #include "advisers/frm_Fantasy.h"
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
+#include "platform/HourGlass.h"
 #include "reference/frm_Conversions.h"
 #include "reference/frm_LatintoCommon.h"
 #include "reminders/frm_Maintsched.h"
@@ -22,6 +28,7 @@
 #include "shell/frm_OMKOptions.h"
 #include "shell/frm_OMKtod.h"
 #include "shell/MenuEntry.h"
+#include "store/Backup.h"
 #include "tanks/frm_TankAddNew.h"
 #include "tanks/frm_TankMaint.h"
 
@@ -46,6 +53,13 @@ frm_Waterlog *visibleLogbook()
     return logbook && logbook->isVisible() ? logbook : nullptr;
 }
 
+void tellNoBackup(const RuntimeFailure &failure)
+{
+    Beep();
+    MsgBox(u"The database was not backed up.\n\n" + failure.description(), vbExclamation,
+           QStringLiteral("Database Backup"));
+}
+
 } // namespace
 
 void frm_OMKMDIMain::mnu_FileNew_Click()
@@ -67,6 +81,51 @@ void frm_OMKMDIMain::mnu_FileDelete_Click()
 }
 
 void frm_OMKMDIMain::mnu_FileMoveEntry_Click() { Form<frm_Waterlog>().Move_Entries(); }
+
+void frm_OMKMDIMain::mnu_FileBackup_Click()
+{
+    const auto chosen =
+        Doors::current().saveDialog({QStringLiteral("Backup Ostrelmark Database As ..."), m_backupFile, {}, {}, false});
+    QDir::setCurrent(g.gCurrentDir); // the dialog may have moved it
+    // Cancel leaves the name of an earlier backup in place, and that backup is made again, after the question below.
+    if (chosen)
+        m_backupFile = *chosen;
+    if (m_backupFile.isEmpty())
+        return;
+    try {
+        RequireBackupTarget(g.gDatabase->fileName(), m_backupFile);
+    } catch (const RuntimeFailure &failure) {
+        return tellNoBackup(failure);
+    }
+    if (!QFileInfo::exists(m_backupFile) ||
+        MsgBox(QStringLiteral("The file already exists, overwrite?"), vbOKCancel + vbQuestion,
+               QStringLiteral("Note!")) == MsgBoxAnswer::OK)
+        backUpTo(m_backupFile);
+}
+
+void frm_OMKMDIMain::backUpTo(const QString &target)
+{
+    std::optional<RuntimeFailure> failure;
+    {
+        const HourGlass waiting;
+        g.gDatabase->Close(); // and every recordset lapses
+        try {
+            BackUpDatabase(g.gDatabase->fileName(), target);
+        } catch (const RuntimeFailure &e) {
+            failure = e;
+        }
+        // Before the box: the window in front may ask the database for something once the box is gone.
+        g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
+    }
+    if (failure)
+        return tellNoBackup(*failure);
+    Beep();
+    const QFileInfo copy(target);
+    MsgBox(g.gDatabaseName + u" was backed up to " + QDir::toNativeSeparators(target) + u" with these attributes:" +
+               copy.fileName() + u' ' + QLocale::system().toString(copy.lastModified(), QLocale::ShortFormat) + u" - " +
+               QString::number(copy.size()) + u" bytes.",
+           vbInformation, QStringLiteral("Database Backup"));
+}
 
 void frm_OMKMDIMain::mnu_FilePrint_Click()
 {

@@ -51,7 +51,7 @@ constexpr EntryRow entryRows[] = {
     {&MainMenu::mnu_File, ENTRY(mnu_FileOpen), "&Open Log Entry", 'O', Disabled, &Main::mnu_FileOpen_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_FileDelete), "&Delete Log Entry", 0, Disabled, &Main::mnu_FileDelete_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_FileMoveEntry), "&Move Log Entry...", 0, Disabled, &Main::mnu_FileMoveEntry_Click},
-    {&MainMenu::mnu_File, ENTRY(mnu_FileBackup), "&Backup Database", 0, SeparatorBefore, nullptr},
+    {&MainMenu::mnu_File, ENTRY(mnu_FileBackup), "&Backup Database", 0, SeparatorBefore, &Main::mnu_FileBackup_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_FileProperties), "Propert&ies", 0, Hidden | Disabled, nullptr},
     {&MainMenu::mnu_File, ENTRY(mnu_FilePageSetup), "Page Set&up...", 0, Hidden, &Main::mnu_FilePageSetup_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_FilePrint), "&Print", 0, Disabled | SeparatorBefore, &Main::mnu_FilePrint_Click},

@@ -24,6 +24,7 @@
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKOptions.h"
 #include "shell/MenuEntry.h"
+#include "store/frm_OMKupgrade.h"
 #include "store/Version.h"
 
 namespace {
@@ -159,11 +160,7 @@ void frm_OMKMDIMain::CheckDatabaseVersion()
     g.gDbVersion = ReadDatabaseVersion(*g.gDatabase);
     if (g.gDbVersion == presentDatabaseVersion)
         return;
-    throw RuntimeFailure(
-        Failure::UnrecognizedFormat,
-        QStringLiteral("The database \"%1\" in \"%2\" is of version \"%3\"; this program works with version \"%4\". "
-                       "The file was left as it is.")
-            .arg(g.gDatabaseName, g.gCurrentDir, g.gDbVersion.trimmed(), presentDatabaseVersion.trimmed()));
+    frm_OMKupgrade(g.gDatabase, g.gDatabaseName, g.gDbVersion).Upgrade();
 }
 
 void frm_OMKMDIMain::Top20List()

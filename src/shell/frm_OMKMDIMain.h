@@ -26,8 +26,8 @@ public:
     frm_OMKMDIMain(Globals &globals, QWidget *parent);
     ~frm_OMKMDIMain() override;
 
-    /// The start, step by step. Throws RuntimeFailure where the database cannot be opened or is of another version;
-    /// nothing is shown then.
+    /// The start, step by step. Throws RuntimeFailure where the database cannot be opened or upgraded; no window is
+    /// left on the screen then.
     void MDIForm_Load();
     /// Tells the active child that it is in front: after a dialog, or another program, closed over it.
     void MDIForm_Activate();
@@ -52,6 +52,7 @@ public:
     void mnu_FileOpen_Click();
     void mnu_FileDelete_Click();
     void mnu_FileMoveEntry_Click();
+    void mnu_FileBackup_Click();
     void mnu_FilePageSetup_Click();
     void mnu_FilePrint_Click();
     void mnu_Exit_Click();
@@ -97,15 +98,19 @@ private:
     void fillWindowList();
     void subWindowActivated(QMdiSubWindow *window);
     void cbo_Reminders_Click();
+    /// Sets gDbVersion; upgrades a database of an earlier version.
     void CheckDatabaseVersion();
     void showSplash();
     /// Whether the tip of the day is due, by the setting Show_Tips; writes it at the first run.
     bool tipIsDue();
     void showHelp();
+    /// What the keeper asked for with the database closed, and open again afterwards; tells how it went.
+    void backUpTo(const QString &target);
 
     Globals &g;
     QMdiArea *m_area;
     QLabel *m_panel;
     std::map<QString, MenuEntry *> m_buttons;
     QPointer<ChildForm> m_activeChild;
+    QString m_backupFile; ///< the name last chosen for a backup
 };

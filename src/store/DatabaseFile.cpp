@@ -24,14 +24,6 @@ constexpr qint32 utf8Encoding = 1;
 
 constexpr mode_t anyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 
-/// May it be written? By its bits as well, which do not bind every user but say what the keeper wants.
-bool isWritable(const QByteArray &path, int access)
-{
-    struct stat status = {};
-    return ::stat(path.constData(), &status) == 0 && (status.st_mode & anyWriteBit) != 0 &&
-           ::access(path.constData(), access) == 0;
-}
-
 [[noreturn]] void throwForeign(const QString &path, const QString &why)
 {
     throw RuntimeFailure(Failure::UnrecognizedFormat, QStringLiteral("%1: %2").arg(path, why));
@@ -44,15 +36,6 @@ sqlite3_file *fileOf(Connection &connection)
     return file;
 }
 
-qint64 sizeOf(Connection &connection)
-{
-    sqlite3_file *file = fileOf(connection);
-    sqlite3_int64 size = 0;
-    if (file && file->pMethods)
-        file->pMethods->xFileSize(file, &size);
-    return size;
-}
-
 /// The one number that a statement without values gives; 0 if it gives none.
 qint64 oneNumber(const std::shared_ptr<Connection> &connection, const QString &sql, const QString &doing)
 {
@@ -62,14 +45,39 @@ qint64 oneNumber(const std::shared_ptr<Connection> &connection, const QString &s
 
 } // namespace
 
+bool isWritable(const QString &path, int access)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status = {};
+    return ::stat(name.constData(), &status) == 0 && (status.st_mode & anyWriteBit) != 0 &&
+           ::access(name.constData(), access) == 0;
+}
+
+qint64 fileSize(Connection &connection)
+{
+    sqlite3_file *file = fileOf(connection);
+    sqlite3_int64 size = 0;
+    if (file && file->pMethods)
+        file->pMethods->xFileSize(file, &size);
+    return size;
+}
+
+void readFile(Connection &connection, char *to, int size, qint64 at, const QString &doing)
+{
+    sqlite3_file *file = fileOf(connection);
+    const int code = file && file->pMethods ? file->pMethods->xRead(file, to, size, at) : SQLITE_CANTOPEN;
+    if (code != SQLITE_OK)
+        connection.fail(code, doing);
+}
+
 void requireWritable(const QString &path)
 {
     const QFileInfo file(QFileInfo(path).canonicalFilePath()); // a link's journal is made beside what it leads to
-    if (!isWritable(QFile::encodeName(file.filePath()), R_OK | W_OK))
+    if (!isWritable(file.filePath(), R_OK | W_OK))
         throw RuntimeFailure(
             Failure::PermissionDenied,
             QStringLiteral("The database %1 is read-only. Make it writable and start again.").arg(path));
-    if (!isWritable(QFile::encodeName(file.path()), W_OK | X_OK))
+    if (!isWritable(file.path(), W_OK | X_OK))
         throw RuntimeFailure(
             Failure::PermissionDenied,
             QStringLiteral("The folder %1 of the database is read-only, so nothing could be stored. Make it "
@@ -82,12 +90,9 @@ void requireOurHeader(Connection &connection, const QString &path)
     if (sqlite3_db_readonly(connection.handle(), "main") != 0)
         throw RuntimeFailure(Failure::PermissionDenied, QStringLiteral("The database %1 is read-only.").arg(path));
     std::array<char, headerSize> header{};
-    sqlite3_file *file = fileOf(connection);
-    if (!file || !file->pMethods || sizeOf(connection) < headerSize)
+    if (fileSize(connection) < headerSize)
         throwForeign(path, QStringLiteral("The file is empty or too short for a database."));
-    const int code = file->pMethods->xRead(file, header.data(), int(header.size()), 0);
-    if (code != SQLITE_OK)
-        connection.fail(code, QStringLiteral("Reading the database %1.").arg(path));
+    readFile(connection, header.data(), int(header.size()), 0, QStringLiteral("Reading the database %1.").arg(path));
     if (!std::equal(std::begin(magic), std::end(magic), header.begin()))
         throwForeign(path, QStringLiteral("The file is no database, or its beginning is damaged."));
     if (qFromBigEndian<qint32>(header.data() + applicationIdAt) != schema::applicationId)
@@ -111,7 +116,7 @@ void requireWholeContent(const std::shared_ptr<Connection> &connection, const QS
             throwForeign(path, QStringLiteral("The table %1 is missing.").arg(QLatin1String(table.name)));
     const qint64 pages = oneNumber(connection, QStringLiteral("PRAGMA page_count"), doing);
     const qint64 pageSize = oneNumber(connection, QStringLiteral("PRAGMA page_size"), doing);
-    if (sizeOf(*connection) < pages * pageSize)
+    if (fileSize(*connection) < pages * pageSize)
         throwForeign(path, QStringLiteral("The end of the file is missing."));
     if (oneNumber(connection, QStringLiteral("SELECT EXISTS (SELECT * FROM CONFIG)"), doing) == 0)
         throwForeign(path, QStringLiteral("The table CONFIG has no row."));

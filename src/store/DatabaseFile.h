@@ -18,3 +18,12 @@ void requireOurHeader(Connection &connection, const QString &path);
 /// Throws UnrecognizedFormat where the file is shorter than it says, or a table or the row of CONFIG is missing. The
 /// first to take a lock: throws PermissionDenied where another program holds the file.
 void requireWholeContent(const std::shared_ptr<Connection> &connection, const QString &path);
+
+/// May it be written? `access` is what access() is asked for; the bits must allow it as well, which do not bind every
+/// user but say what the keeper wants.
+bool isWritable(const QString &path, int access);
+
+/// Length of the open file in bytes.
+qint64 fileSize(Connection &connection);
+/// Reads exactly so many bytes of the open file. Throws what stands for the engine's code; `doing` as elsewhere.
+void readFile(Connection &connection, char *to, int size, qint64 at, const QString &doing);

@@ -15,12 +15,7 @@ class DatabaseFileTest : public StoreTest
 protected:
     DatabaseFileTest() { db->Close(); }
 
-    void write(const QByteArray &bytes)
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    void write(const QByteArray &bytes) { writeFile(path(), bytes); }
     QByteArray bytes() { return contentOf(folder.path())["OM.MDB"]; }
     void overwrite(qsizetype at, const QByteArray &with) { write(bytes().replace(at, with.size(), with)); }
     void truncate(qsizetype size) { write(bytes().left(size)); }

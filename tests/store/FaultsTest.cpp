@@ -48,13 +48,10 @@ protected:
     FaultVfs faults; // installed before the database is opened again
 };
 
-constexpr std::pair<int, bool> kinds[] = {
-    {SQLITE_FULL, false}, {SQLITE_FULL, true}, {SQLITE_IOERR_WRITE, false}, {SQLITE_IOERR_WRITE, true}};
-
 TEST_F(FaultsTest, AnEntryIsWrittenWholeOrNotAtAll)
 {
     int day = 10;
-    for (const auto &[code, forEver] : kinds) {
+    for (const auto &[code, forEver] : diskFaults) {
         const qsizetype before = count("WATERLOG");
         Recordset rows =
             adding("WATERLOG", {{"tankname", QString("T")}, {"logdate", QDate(2003, 1, day)}, {"ph", 8.0}});

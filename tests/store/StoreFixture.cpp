@@ -67,3 +67,10 @@ std::map<QString, QByteArray> contentOf(const QString &folder)
     }
     return content;
 }
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}

@@ -54,5 +54,6 @@ private:
 std::optional<RuntimeFailure> failureOf(const std::function<void()> &work);
 /// Its number; 0 if it ends well.
 int numberOf(const std::function<void()> &work);
+void writeFile(const QString &path, const QByteArray &bytes);
 /// Names and contents of all files of a folder.
 std::map<QString, QByteArray> contentOf(const QString &folder);

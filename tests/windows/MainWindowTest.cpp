@@ -152,9 +152,6 @@ TEST(MainWindow, AFileThatCannotBeUsedStopsTheStartAndStaysAsItIs)
              writeFile(keeper.databaseFile(), contentOf(keeper.databaseFile()).left(100) + QByteArray(9000, 'x'));
          },
          Failure::UnrecognizedFormat},
-        {"other version",
-         [](Keeper &) { Database::OpenDatabase("OM.MDB")->Execute("UPDATE CONFIG SET db_version = '1.1 '"); },
-         Failure::UnrecognizedFormat},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);

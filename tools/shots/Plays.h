@@ -9,6 +9,8 @@ class frm_OMKMDIMain;
 class frm_Waterlog;
 struct Globals;
 
+/// The upgrade of an old database, which it writes into that folder.
+void playUpgrade(Album &album, const QString &folder);
 void playTanks(Album &album);
 /// Opens the logbook, which the next three work in.
 void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals);

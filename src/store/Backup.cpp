@@ -1,0 +1,198 @@
+#include "store/Backup.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "platform/Files.h"
+#include "platform/RuntimeFailure.h"
+#include "store/Connection.h"
+#include "store/DatabaseFile.h"
+#include "store/Draft.h"
+
+namespace {
+
+/// The database while it is copied: others may read it meanwhile and not write, and what a crash of another program
+/// left half done has been undone.
+class Source
+{
+public:
+    Source(const QString &fileName, const QString &doing) : m_connection(foundFile(fileName)), m_doing(doing)
+    {
+        requireOurHeader(m_connection, fileName);
+        m_connection.run("BEGIN; SELECT count(*) FROM sqlite_master", doing);
+        m_size = fileSize(m_connection);
+    }
+
+    /// Calls `take(bytes, count)` with one piece after the other, until it returns false; true if it never did.
+    template <class Take> bool read(Take take)
+    {
+        for (qint64 at = 0; at < m_size;) {
+            const int count = int(std::min<qint64>(qint64(m_piece.size()), m_size - at));
+            readFile(m_connection, m_piece.data(), count, at, m_doing);
+            if (!take(m_piece.data(), std::size_t(count)))
+                return false;
+            at += count;
+        }
+        return true;
+    }
+    qint64 size() const { return m_size; }
+
+private:
+    static QString foundFile(const QString &fileName)
+    {
+        const QString path = FindFile(fileName);
+        if (path.isEmpty())
+            throw RuntimeFailure(Failure::CouldNotFindFile,
+                                 QStringLiteral("The database %1 is no longer there.").arg(fileName));
+        return path;
+    }
+
+    Connection m_connection;
+    QString m_doing;
+    qint64 m_size = 0;
+    std::vector<char> m_piece = std::vector<char>(1 << 20);
+};
+
+/// A file that is being written, without a buffer: what is full or broken is told by the call that meets it.
+class Output
+{
+public:
+    Output(const QString &path, const QString &doing) :
+        m_file(::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC)), m_doing(doing)
+    {
+        check(m_file >= 0);
+    }
+    ~Output() { ::close(m_file); }
+    Output(const Output &) = delete;
+    Output &operator=(const Output &) = delete;
+
+    void write(const char *from, std::size_t count)
+    {
+        while (count > 0) {
+            const ssize_t written = ::write(m_file, from, count);
+            if (written < 0 && errno == EINTR)
+                continue;
+            check(written > 0);
+            from += written;
+            count -= std::size_t(written);
+        }
+    }
+    /// Who may read the database may read its copy, and nobody else. Not every file system knows of that.
+    void setModeOf(const QString &path)
+    {
+        struct stat status = {};
+        if (::stat(QFile::encodeName(path).constData(), &status) == 0)
+            ::fchmod(m_file, status.st_mode & 0777);
+    }
+    void sync() { check(::fsync(m_file) == 0); }
+
+private:
+    void check(bool good) const
+    {
+        if (!good)
+            throwErrno(errno, m_doing);
+    }
+    int m_file;
+    QString m_doing;
+};
+
+void copyInto(const Draft &draft, Source &source, const QString &database, const QString &doing)
+{
+    Output output(draft.path(), doing);
+    source.read([&output](const char *bytes, std::size_t count) {
+        output.write(bytes, count);
+        return true;
+    });
+    output.setModeOf(database);
+    output.sync();
+}
+
+bool isSame(Source &source, const QString &path)
+{
+    QFile copy(path);
+    if (!copy.open(QIODevice::ReadOnly) || copy.size() != source.size())
+        return false;
+    return source.read([&copy](const char *bytes, std::size_t count) {
+        return copy.read(qint64(count)) == QByteArrayView(bytes, qsizetype(count));
+    });
+}
+
+/// The target itself, where its path leads to it by a link.
+QString realPath(const QString &target)
+{
+    const QFileInfo file(target);
+    const QString real = file.canonicalFilePath(); // empty where there is no such file
+    return real.isEmpty() ? file.absoluteFilePath() : real;
+}
+
+/// Is it the database by another path, a link, or one of the files that the engine keeps beside it?
+bool belongsTo(const QString &database, const QString &target)
+{
+    struct stat one = {}, other = {};
+    if (::stat(QFile::encodeName(database).constData(), &one) == 0 &&
+        ::stat(QFile::encodeName(target).constData(), &other) == 0 && one.st_dev == other.st_dev &&
+        one.st_ino == other.st_ino)
+        return true;
+    const QFileInfo copy(realPath(target));
+    const QString folder = QFileInfo(copy.absolutePath()).canonicalFilePath();
+    const QString path = QDir(folder.isEmpty() ? copy.absolutePath() : folder).filePath(copy.fileName());
+    for (const char *ending : {"-journal", "-wal", "-shm"})
+        if (path == realPath(database) + QLatin1String(ending))
+            return true;
+    return false;
+}
+
+} // namespace
+
+void RequireBackupTarget(const QString &database, const QString &target)
+{
+    const auto refuse = [](const QString &why) { throw RuntimeFailure(Failure::PermissionDenied, why); };
+    const QFileInfo file(target);
+    if (file.isDir())
+        refuse(QStringLiteral("\"%1\" is a folder. Choose a name for the copy in it.").arg(target));
+    if (belongsTo(FindFile(database), target))
+        refuse(QStringLiteral("\"%1\" is the database itself. Choose another name for the copy.").arg(target));
+    if (file.exists() && !file.isFile())
+        refuse(QStringLiteral("\"%1\" is a device and no file. Choose another name for the copy.").arg(target));
+    if (file.exists() && !isWritable(target, W_OK))
+        refuse(QStringLiteral("\"%1\" is read-only. Choose another name for the copy.").arg(target));
+}
+
+void BackUpDatabase(const QString &database, const QString &target)
+{
+    RequireBackupTarget(database, target);
+    const QString doing = QStringLiteral("Copying the database to \"%1\".").arg(target);
+    Source source(database, doing);
+    Draft draft(realPath(target), doing);
+    copyInto(draft, source, database, doing);
+    draft.replace();
+}
+
+QString KeepOldDatabase(const QString &database, const QString &version)
+{
+    const QString path = FindFile(database);
+    const QString doing = QStringLiteral("Keeping a copy of the old database \"%1\" beside it.").arg(path);
+    const QFileInfo file(path);
+    const QDir folder = file.absoluteDir();
+    const QString name = file.completeBaseName() + u"-version-" + version;
+    Source source(path, doing);
+    for (int number = 1;; ++number) {
+        const QString ending = (number > 1 ? u'-' + QString::number(number) : QString()) + u'.' + file.suffix();
+        const QString copy = folder.filePath(name + ending);
+        if (isSame(source, copy))
+            return copy;
+        if (QFileInfo::exists(copy) || QFileInfo(copy).isSymLink())
+            continue;
+        Draft draft(copy, doing);
+        copyInto(draft, source, path, doing);
+        draft.giveName();
+        return copy;
+    }
+}

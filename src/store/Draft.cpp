@@ -1,0 +1,77 @@
+#include "store/Draft.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <stdio.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "platform/RuntimeFailure.h"
+
+namespace {
+
+QByteArray encoded(const QString &path) { return QFile::encodeName(path); }
+
+/// A name is on the disk only when its folder is. Some file systems cannot be asked for it, and do it by themselves.
+void syncFolderOf(const QString &path)
+{
+    const int folder = ::open(encoded(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    ::fsync(folder);
+    ::close(folder);
+}
+
+} // namespace
+
+void throwErrno(int error, const QString &doing)
+{
+    const Failure failure = error == ENOENT || error == ENOTDIR                    ? Failure::PathNotFound
+                            : error == ENOSPC || error == EDQUOT || error == EFBIG ? Failure::DiskFull
+                            : error == EIO                                         ? Failure::DeviceError
+                                                                                   : Failure::PermissionDenied;
+    throw RuntimeFailure(failure, QStringLiteral("%1\n(%2)").arg(doing, qt_error_string(error)));
+}
+
+void throwExists(const QString &path)
+{
+    throw RuntimeFailure(Failure::PermissionDenied,
+                         QStringLiteral("The file %1 is there already, and is left as it is.").arg(path));
+}
+
+Draft::Draft(const QString &fileName, const QString &doing) :
+    m_path(QStringLiteral("%1.new-%2").arg(fileName).arg(::getpid())), m_name(fileName), m_doing(doing)
+{
+    const int file = ::open(encoded(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (file < 0)
+        throwErrno(errno, m_doing);
+    ::close(file);
+}
+
+Draft::~Draft()
+{
+    ::unlink(encoded(m_path).constData());
+    ::unlink(encoded(m_path + QStringLiteral("-journal")).constData());
+}
+
+void Draft::giveName()
+{
+    const QByteArray from = encoded(m_path), to = encoded(m_name);
+    // Not every file system knows the first way; the second one the old ones know.
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) != 0 &&
+        (errno == EEXIST || ::link(from.constData(), to.constData()) != 0)) {
+        if (errno == EEXIST)
+            throwExists(m_name);
+        throwErrno(errno, m_doing);
+    }
+    syncFolderOf(m_name);
+}
+
+void Draft::replace()
+{
+    if (::rename(encoded(m_path).constData(), encoded(m_name).constData()) != 0)
+        throwErrno(errno, m_doing);
+    syncFolderOf(m_name);
+}

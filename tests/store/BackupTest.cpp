@@ -1,0 +1,158 @@
+// The backup: the whole file or none, whatever the target, the disk or a kill does, and never over the database itself.
+#include "store/Backup.h"
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <QDir>
+
+#include "Child.h"
+#include "StoreFixture.h"
+
+namespace {
+
+/// No file of this process grows beyond so many bytes, as if the disk were full there. What writes on is told so, or,
+/// with a death, killed in the middle of it.
+class SmallDisk
+{
+public:
+    SmallDisk(rlim_t bytes, bool death)
+    {
+        ::signal(SIGXFSZ, death ? SIG_DFL : SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SmallDisk() { ::setrlimit(RLIMIT_FSIZE, &m_former); }
+
+private:
+    rlimit m_former{};
+};
+
+class BackupTest : public StoreTest
+{
+protected:
+    BackupTest()
+    {
+        QDir(folder.path()).mkdir("to");
+        writeFile(path("to/old.MDB"), "an older file");
+        addWater(1, 8);
+        db->Close();
+    }
+    void expectUnharmed()
+    {
+        open();
+        EXPECT_EQ(count("WATERLOG"), 1);
+        db->Close();
+        EXPECT_EQ(contentOf(path("to"))["old.MDB"], "an older file");
+    }
+};
+
+TEST_F(BackupTest, TargetsThatCanHoldNoCopyAreRefused)
+{
+    ASSERT_EQ(::symlink(qPrintable(path()), qPrintable(path("to/symbolic"))), 0);
+    ASSERT_EQ(::link(qPrintable(path()), qPrintable(path("to/hard"))), 0);
+    writeFile(path("to/locked"), "precious");
+    ASSERT_EQ(::chmod(qPrintable(path("to/locked")), 0444), 0);
+    const struct
+    {
+        QString target;
+        Failure number;
+        const char *word;
+    } rows[] = {
+        {path(), Failure::PermissionDenied, "database itself"},
+        {path("to/../OM.MDB"), Failure::PermissionDenied, "database itself"},
+        {path("to/symbolic"), Failure::PermissionDenied, "database itself"},
+        {path("to/hard"), Failure::PermissionDenied, "database itself"},
+        {path("to/../OM.MDB-journal"), Failure::PermissionDenied, "database itself"},
+        {path("to"), Failure::PermissionDenied, "a folder"},
+        {path("to/locked"), Failure::PermissionDenied, "read-only"},
+        {"/dev/full", Failure::PermissionDenied, "a device"},
+        {path("nowhere/copy"), Failure::PathNotFound, "nowhere"},
+        {path("to/old.MDB/copy"), Failure::PathNotFound, "old.MDB"},
+        {path("to/" + QString(300, 'x')), Failure::PermissionDenied, "xxx"},
+    };
+    const auto before = contentOf(path("to"));
+    for (const auto &row : rows) {
+        const auto failure = failureOf([&] { BackUpDatabase(path(), row.target); });
+        ASSERT_TRUE(failure) << row.target.toStdString();
+        EXPECT_EQ(failure->number(), row.number) << failure->what();
+        EXPECT_TRUE(failure->description().contains(row.word)) << failure->what();
+    }
+    EXPECT_EQ(contentOf(path("to")), before);
+    expectUnharmed();
+}
+
+TEST_F(BackupTest, IsTheSameToTheLastByteAndAsPrivate)
+{
+    ASSERT_EQ(::chmod(qPrintable(path()), 0600), 0);
+    ASSERT_EQ(::symlink("old.MDB", qPrintable(path("to/link.MDB"))), 0);
+    for (const char *target : {"to/new.MDB", "to/link.MDB"})
+        BackUpDatabase(path(), path(target));
+    const auto copies = contentOf(path("to"));
+    for (const char *name : {"new.MDB", "old.MDB"}) {
+        EXPECT_EQ(copies.at(name), contentOf(folder.path())["OM.MDB"]) << name;
+        EXPECT_EQ(QFile::permissions(path("to/" + QString(name))) & QFile::ReadGroup, 0);
+    }
+    EXPECT_EQ(copies.size(), 3u);
+    EXPECT_TRUE(QFileInfo(path("to/link.MDB")).isSymLink());
+}
+
+TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
+{
+    const qint64 size = QFileInfo(path()).size();
+    const auto before = contentOf(path("to"));
+    for (qint64 room = 0; room < size; room += size / 9 + 1) {
+        const int number = numberOf([&] {
+            const SmallDisk disk(rlim_t(room), false);
+            BackUpDatabase(path(), path("to/old.MDB"));
+        });
+        EXPECT_EQ(number, int(Failure::DiskFull)) << room;
+        EXPECT_EQ(contentOf(path("to")), before);
+        const int signal = signalThatEnds([&] {
+            const SmallDisk disk(rlim_t(room), true);
+            BackUpDatabase(path(), path("to/old.MDB"));
+        });
+        EXPECT_EQ(signal, SIGXFSZ) << room;
+        expectUnharmed();
+        for (const auto &[name, content] : contentOf(path("to")))
+            EXPECT_TRUE(name == "old.MDB" || (name.startsWith("old.MDB.new-") && QFile::remove(path("to/" + name))));
+    }
+    BackUpDatabase(path(), path("to/old.MDB"));
+    EXPECT_NO_THROW(Database::OpenDatabase(path("to/old.MDB")));
+}
+
+TEST_F(BackupTest, WaitsForWhatAnotherProgramWrites)
+{
+    OtherProgram other(path());
+    ASSERT_EQ(other.run("BEGIN EXCLUSIVE; DELETE FROM WATERLOG"), "");
+    Database::setBusyTimeout(10);
+    EXPECT_EQ(numberOf([this] { BackUpDatabase(path(), path("to/new.MDB")); }), int(Failure::PermissionDenied));
+    Database::setBusyTimeout(5000);
+    other.run("ROLLBACK");
+    EXPECT_EQ(contentOf(path("to")).size(), 1u);
+    expectUnharmed();
+}
+
+TEST_F(BackupTest, WhatIsNoDatabaseAnyMoreTakesNoBackupsPlace)
+{
+    writeFile(path(), "");
+    EXPECT_EQ(numberOf([this] { BackUpDatabase(path(), path("to/old.MDB")); }), int(Failure::UnrecognizedFormat));
+    QFile::remove(path());
+    EXPECT_EQ(numberOf([this] { BackUpDatabase(path(), path("to/old.MDB")); }), int(Failure::CouldNotFindFile));
+    EXPECT_EQ(contentOf(path("to")), (std::map<QString, QByteArray>{{"old.MDB", "an older file"}}));
+}
+
+TEST_F(BackupTest, AnOldDatabaseIsKeptOnceAndNeverOverwritten)
+{
+    writeFile(path("OM-version-1.0.MDB"), "from long ago");
+    EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-2.MDB"));
+    EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-2.MDB"));
+    open();
+    addWater(2, 7);
+    EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-3.MDB"));
+    EXPECT_EQ(KeepOldDatabase(path(), "1.1"), path("OM-version-1.1.MDB"));
+    EXPECT_EQ(contentOf(folder.path())["OM-version-1.0.MDB"], "from long ago");
+}
+
+} // namespace

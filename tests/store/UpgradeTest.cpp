@@ -1,0 +1,212 @@
+// Databases of versions 1.0 and 1.1 brought up: with every row, and at every moment that a full disk, a kill or a power
+// cut can choose, whole and ready to be tried again.
+#include "store/Upgrade.h"
+
+#include <QDir>
+#include <sqlite3.h>
+
+#include "Child.h"
+#include "FaultVfs.h"
+#include "OldDatabase.h"
+#include "store/Backup.h"
+#include "store/NewDatabase.h"
+#include "store/Version.h"
+#include "StoreFixture.h"
+
+namespace {
+
+const char *const layout = "SELECT group_concat(m.name || ' ' || c.name || ' ' || c.type) FROM sqlite_master m, "
+                           "pragma_table_info(m.name) c WHERE m.type = 'table'";
+
+class UpgradeTest : public StoreTest
+{
+protected:
+    UpgradeTest() { db->Close(); }
+
+    void writeOld(const QString &version, int rows)
+    {
+        for (const QString &name : QDir(folder.path()).entryList(QDir::Files))
+            QFile::remove(path(name));
+        WriteOldDatabase(path(), version, rows);
+        oldBytes = contentOf(folder.path())["OM.MDB"];
+        db = Database::OpenDatabase(path());
+        oldRows.clear();
+        for (const QString &table : db->TableDefs())
+            oldRows[table] = rowsOf(table, namesOf(table).join(","));
+        oldVersion = ReadDatabaseVersion(*db);
+        db->Close();
+        oldLayout = OtherProgram(path()).run(layout);
+    }
+    QStringList namesOf(const QString &table)
+    {
+        QStringList names;
+        for (const FieldDef &field : db->Fields(table))
+            if (field.Name != "db_version")
+                names << field.Name;
+        return names;
+    }
+    QStringList rowsOf(const QString &table, const QString &columns)
+    {
+        QStringList texts{columns};
+        RowStream rows = db->OpenForwardOnly("SELECT " + columns + " FROM " + table + " ORDER BY rowid");
+        for (; !rows.EOF_(); rows.MoveNext()) {
+            QString text;
+            for (const QString &name : columns.split(','))
+                text += rows.text(name) + '|';
+            texts << text;
+        }
+        return texts;
+    }
+    /// All that the window does, without its windows: the copy, then step by step. The bar's moves come back.
+    QString upgrade()
+    {
+        open();
+        QStringList bars;
+        const QString version = ReadDatabaseVersion(*db);
+        if (!UpgradeSteps(version).empty())
+            KeepOldDatabase(path(), version == "0.0 " ? "1.0" : version.trimmed());
+        for (const UpgradeStep &step : UpgradeSteps(version)) {
+            db->Close();
+            db = Database::OpenDatabase(path(), Database::Access::Exclusive);
+            step.run(*db, [&bars](int bar) { bars << QString::number(bar); });
+        }
+        db->Close();
+        return bars.join(' ');
+    }
+    /// The file is whole, has every old row as it was, and nothing new while it is of the old version.
+    void expectWhole()
+    {
+        open();
+        const QString version = ReadDatabaseVersion(*db);
+        EXPECT_TRUE(QStringList({oldVersion, "1.1 ", "2.0 "}).contains(version)) << version.toStdString();
+        for (const auto &[table, rows] : oldRows) {
+            QStringList now = rowsOf(table, rows.front());
+            if (table == "ANIMALLIST") // which has got new words at its end
+                now = now.mid(0, rows.size());
+            EXPECT_EQ(now, rows) << table.toStdString();
+        }
+        db->Close();
+        OtherProgram other(path());
+        EXPECT_EQ(other.run("PRAGMA integrity_check"), "ok");
+        EXPECT_EQ(other.run(layout) == oldLayout, version == oldVersion);
+    }
+    void expectUpgraded()
+    {
+        expectWhole();
+        EXPECT_EQ(upgrade(), "") << "it is done once";
+        OtherProgram other(path());
+        EXPECT_EQ(other.run("SELECT count(*) FROM ANIMALLIST WHERE AnimalType IN ('1', 'M')"),
+                  oldVersion == "0.0 " || oldRows["ANIMALLIST"].size() > 1 ? "67" : "0");
+        EXPECT_EQ(other.run("SELECT count(*) FROM MAINTSCHED WHERE SchedRtype IS NOT 0"), "0");
+        EXPECT_EQ(other.run("PRAGMA user_version"), "20");
+        EXPECT_EQ(contentOf(folder.path())[oldVersion == "0.0 " ? "OM-version-1.0.MDB" : "OM-version-1.1.MDB"],
+                  oldBytes);
+    }
+
+    QByteArray oldBytes;
+    std::map<QString, QStringList> oldRows;
+    QString oldVersion, oldLayout;
+};
+
+const QString bars11 = "10 20 30 40 50 60 70 80 90 100", bars20 = "20 30 40 50 60 70 80";
+
+TEST_F(UpgradeTest, KeepsEveryRowAndEndsLikeANewDatabase)
+{
+    CreateDatabase(path("new.MDB"));
+    const QString newLayout = OtherProgram(path("new.MDB")).run(layout);
+    const struct
+    {
+        const char *version;
+        int rows;
+        QString bars, waterType;
+    } rows[] = {{"1.0", 3000, bars11 + ' ' + bars20, "2"},
+                {"1.1", 3000, bars20, "3"},
+                {"1.0", 0, bars11 + ' ' + bars20, ""},
+                {"1.1", 0, bars20, ""}};
+    for (const auto &row : rows) {
+        writeOld(row.version, row.rows);
+        EXPECT_EQ(upgrade(), row.bars);
+        expectUpgraded();
+        OtherProgram other(path());
+        EXPECT_EQ(other.run(layout), newLayout);
+        EXPECT_EQ(other.run("SELECT DISTINCT TankWaterType FROM TANKLST"), row.waterType);
+    }
+}
+
+TEST_F(UpgradeTest, RemindersEndSoManyYearsAfterTheirStart)
+{
+    const struct
+    {
+        const char *start, *years, *end; ///< as SQL; what is read back
+    } rows[] = {
+        {"'1999-12-31'", "2", "2001-12-31"},
+        {"'1996-02-29'", "1", "1997-02-28"},
+        {"'1996-02-29'", "4", "2000-02-29"},
+        {"'2005-06-01'", "40", "2045-06-01"},
+        {"'2005-06-01'", "0", "2005-06-01"},
+        {"'2005-06-01'", "NULL", ""},
+        {"NULL", "3", ""},
+        {"'9998-01-01'", "5", ""},
+    };
+    writeOld("1.1", 0);
+    for (const auto &row : rows)
+        OtherProgram(path()).run(qPrintable(
+            QString("INSERT INTO MAINTSCHED (SchedStartDate, schedyears) VALUES (%1, %2)").arg(row.start, row.years)));
+    upgrade();
+    int number = 0;
+    for (const auto &row : rows)
+        EXPECT_EQ(OtherProgram(path()).run(qPrintable(
+                      QString("SELECT ifnull(SchedEndDate, '') FROM MAINTSCHED WHERE rowid = %1").arg(++number))),
+                  row.end)
+            << row.start << ' ' << row.years;
+}
+
+TEST_F(UpgradeTest, VersionsThatNothingIsKnownOfTakeNoStep)
+{
+    const std::pair<const char *, int> versions[] = {{"0.0 ", 2}, {"1.1", 1},  {"1.1 ", 1}, {"0.0", 0},
+                                                     {"2.0 ", 0}, {"3.0 ", 0}, {"", 0}};
+    for (const auto &[version, steps] : versions)
+        EXPECT_EQ(int(UpgradeSteps(version).size()), steps) << version;
+}
+
+TEST_F(UpgradeTest, AFullDiskLeavesTheVersionAndTheNextTryComesThrough)
+{
+    FaultVfs faults;
+    for (const char *version : {"1.0", "1.1"})
+        for (const auto &[code, forEver] : diskFaults) {
+            writeOld(version, 40);
+            int place = 0;
+            for (bool struck = true; struck && place < 1000; ++place) {
+                faults.plan({code, place, forEver});
+                const int number = numberOf([this] { upgrade(); });
+                struck = faults.hasStruck();
+                faults.plan({});
+                db->Close();
+                EXPECT_EQ(number != 0, struck) << "at place " << place;
+                expectWhole();
+            }
+            EXPECT_GT(place, 15);
+            expectUpgraded();
+        }
+}
+
+TEST_F(UpgradeTest, AKillOrAPowerCutLeavesTheVersionAndTheNextTryComesThrough)
+{
+    FaultVfs faults;
+    writeOld("1.0", 40); // whose two steps are all that there is
+    for (const Death death : {Death::Killed, Death::PowerCut})
+        for (int place = 0, signal = SIGKILL; signal != 0; ++place) {
+            ASSERT_LT(place, 1000);
+            writeFile(path(), oldBytes);
+            signal = signalThatEnds([&] {
+                faults.plan({.after = place, .death = death});
+                upgrade();
+            });
+            EXPECT_TRUE(signal != 0 || place > 30);
+            expectWhole();
+            EXPECT_EQ(numberOf([this] { upgrade(); }), 0) << "after place " << place;
+            expectUpgraded();
+        }
+}
+
+} // namespace
