@@ -59,6 +59,19 @@ const QString noTankText = QStringLiteral("You have no tanks set up in Ostrelmar
                                           "the \"Setup / Manage Tanks\" button on the "
                                           "main menu.");
 
+/// Settings that cannot be written are told, and the start goes on: nobody is locked out of his data for a setting.
+void saveAtStart(const QString &key, const QString &value)
+{
+    try {
+        SaveSetting(key, value);
+    } catch (const RuntimeFailure &failure) {
+        Beep();
+        MsgBox(failure.description() +
+                   u"\n\nYour data is not touched by this; only settings that you change are not kept.",
+               vbExclamation, QStringLiteral("Settings"));
+    }
+}
+
 } // namespace
 
 frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
@@ -201,7 +214,7 @@ bool frm_OMKMDIMain::tipIsDue()
     // "ELSE" is a word of the settings like the others; any word that is not one of the four changes nothing.
     if (stored == u"NOT FOUND" || stored == u"ELSE") {
         g.gShowTips = true;
-        SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("Yes"));
+        saveAtStart(QStringLiteral("Show_Tips"), QStringLiteral("Yes"));
         return true;
     }
     if (stored == u"YES") {

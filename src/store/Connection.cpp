@@ -23,6 +23,8 @@ constexpr FailureOfCode failures[] = {
     {SQLITE_CONSTRAINT_NOTNULL, Failure::InvalidUseOfNull, ""},
     {SQLITE_CONSTRAINT, Failure::DataTypeConversion, ""},
     {SQLITE_FULL, Failure::DiskFull, "Make room on the disk and try again."},
+    {SQLITE_READONLY_DBMOVED, Failure::CouldNotFindFile,
+     "The file of the database was moved or deleted while the program ran. Put it back and try again."},
     {SQLITE_READONLY, Failure::PermissionDenied, "The database is read-only."},
     {SQLITE_PERM, Failure::PermissionDenied, "The database may not be used by this user."},
     {SQLITE_AUTH, Failure::PermissionDenied, ""},

@@ -1,4 +1,5 @@
 // The start on a database of an earlier version: the window of the upgrade before every other, its bar, its boxes.
+#include <QFileInfo>
 #include <QLabel>
 #include <QProgressBar>
 
@@ -92,6 +93,8 @@ TEST(Upgrade, RunsBeforeTheOtherWindowsAndTellsEachStep)
         EXPECT_EQ(keeper.g().gDbVersion, row.version);
         EXPECT_EQ(keeper.stored("SELECT db_version FROM CONFIG", "db_version"), row.version);
         EXPECT_NO_THROW(Database::OpenDatabase(keeper.databaseFile())) << "others may read again";
+        EXPECT_EQ(QFileInfo::exists(keeper.folder.filePath(QString("OM-version-%1.MDB").arg(row.written))),
+                  row.version == "2.0 ");
     }
 }
 

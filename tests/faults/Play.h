@@ -1,0 +1,176 @@
+// A keeper's work as a game that can be played twice: once through the real windows, in a process that may be killed,
+// and once in a book that says what must then be in the file. The same seed gives the same moves.
+#pragma once
+
+#include <map>
+#include <random>
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "logbook/frm_LivesAddEdit.h"
+#include "logbook/frm_LivesMove.h"
+#include "logbook/frm_MaintAddEdit.h"
+#include "logbook/frm_WaterAddEdit.h"
+#include "platform/Guarded.h"
+#include "platform/MaskedBox.h"
+#include "windows/Hands.h"
+
+/// "kind|tank|moment" and the number in it, of every entry; "T|tank|" and 0 of every tank. The kinds are W, L and M, in
+/// the order of the tabs of the logbook.
+using Book = std::map<QString, int>;
+
+inline const QString kinds = "WLM";
+inline const char *const momentPicture = "yyyy-MM-dd HH:mm:ss";
+
+struct Move
+{
+    enum What { Add, Change, Remove, MoveTank, RemoveTank } what;
+    QString key; ///< of the entry, or of the tank
+    int number = 0;
+    QString to = {}; ///< the tank that an animal moves to
+    QChar kind() const { return key[0]; }
+    QString tank() const { return key.section('|', 1, 1); }
+    QString moment() const { return key.section('|', 2); }
+    QString keyThere() const { return key.section('|', 0, 0) + '|' + to + '|' + moment(); }
+};
+
+inline QString keyOf(QChar kind, const QString &tank, const QString &moment)
+{
+    return kind + QString("|%1|%2").arg(tank, moment);
+}
+
+inline Move nextMove(const Book &book, std::minstd_rand &random, const QDateTime &moment)
+{
+    const auto pick = [&random](std::size_t n) { return int(random() % n); };
+    QStringList tanks, entries;
+    for (const auto &[key, number] : book)
+        (key.startsWith('T') ? tanks : entries) << key;
+    const int number = 1 + pick(90);
+    if (tanks.size() == 2 && pick(30) == 0)
+        return {Move::RemoveTank, tanks[pick(2)]};
+    if (entries.size() < 5 || (entries.size() < 25 && pick(3) == 0))
+        return {Move::Add,
+                keyOf(kinds[pick(3)], tanks[pick(std::size_t(tanks.size()))].section('|', 1, 1),
+                      moment.toString(momentPicture)),
+                number};
+    const QString key = entries[pick(std::size_t(entries.size()))];
+    const int what = pick(key[0] == 'L' && tanks.size() == 2 ? 3 : 2);
+    return {what == 0   ? Move::Change
+            : what == 1 ? Move::Remove
+                        : Move::MoveTank,
+            key, number, key.section('|', 1, 1) == "A" ? "B" : "A"};
+}
+
+inline void note(Book &book, const Move &move)
+{
+    switch (move.what) {
+    case Move::Add:
+    case Move::Change: book[move.key] = move.number; break;
+    case Move::Remove: book.erase(move.key); break;
+    case Move::MoveTank:
+        book[move.keyThere()] = book.at(move.key);
+        book.erase(move.key);
+        break;
+    case Move::RemoveTank:
+        std::erase_if(book, [&move](const auto &row) { return row.first.section('|', 1, 1) == move.tank(); });
+    }
+}
+
+/// What is in the file, as a book; an entry that is there twice is told.
+inline Book bookOf(Database &database)
+{
+    Book book;
+    RowStream rows = database.OpenForwardOnly(
+        "SELECT 'W|' || tankname || '|' || logdate || ' ' || logtime AS k, nitrate AS n FROM WATERLOG UNION ALL "
+        "SELECT 'L|' || tankname || '|' || dateadded || ' ' || timeadded, quantity FROM LIVESTOCK UNION ALL "
+        "SELECT 'M|' || mainttankname || '|' || maintlogdate || ' ' || maintlogtime, maintlogqty FROM MAINTLOG UNION "
+        "ALL "
+        "SELECT 'T|' || tankname || '|', 0 FROM TANKLST");
+    for (; !rows.EOF_(); rows.MoveNext())
+        EXPECT_TRUE(book.emplace(rows.text("k"), int(rows.value("n").toDouble())).second)
+            << rows.text("k").toStdString();
+    return book;
+}
+
+/// Plays moves through the windows of a program that runs. The tanks are called like their ids.
+class Player
+{
+public:
+    explicit Player(Keeper &keeper) :
+        m_keeper(keeper), m_main(keeper.startProgram()), m_logbook(hand::openLogbook(m_main))
+    {
+        m_keeper.told();
+    }
+
+    /// What `confirm` does in the entry window once it is filled; OK where nothing is said.
+    std::function<void(QPushButton &ok)> confirm = [](QPushButton &ok) { ok.click(); };
+
+    /// As a menu or a button would: a failure is shown, and does not come out.
+    void play(const Move &move)
+    {
+        guarded([this, &move] { carryOut(move); })();
+    }
+
+private:
+    void carryOut(const Move &move)
+    {
+        hand::clickTank(m_logbook, move.tank());
+        if (move.what == Move::RemoveTank) {
+            m_keeper.doors.answers = {MsgBoxAnswer::OK};
+            m_main.mnu_TankDelete_Click();
+            return;
+        }
+        m_logbook.tab_logtype->setCurrentIndex(int(kinds.indexOf(move.kind())));
+        if (move.what != Move::Add)
+            select(move);
+        switch (move.what) {
+        case Move::Add: expectEntryWindow(move); return m_logbook.Add_Entries();
+        case Move::Change: expectEntryWindow(move); return m_logbook.Change_Entries();
+        case Move::Remove: m_keeper.doors.answers = {MsgBoxAnswer::OK}; return m_logbook.Delete_Entries();
+        default:
+            m_keeper.inNext<frm_LivesMove>([this, to = move.to](frm_LivesMove &window) {
+                window.lst_tanklist->setCurrentItem(window.lst_tanklist->findItems(to, Qt::MatchExactly).at(0));
+                confirm(*window.cmd_ok);
+            });
+            return m_logbook.Move_Entries();
+        }
+    }
+
+    void select(const Move &move)
+    {
+        auto &list = static_cast<ListView &>(*m_logbook.tab_logtype->currentWidget());
+        const QString key =
+            QLocale::c().toString(QDateTime::fromString(move.moment(), momentPicture), "MM/dd/yy - hh:mm:ss AP");
+        for (int row = 1; row <= list.Count(); ++row)
+            if (list.Key(row).startsWith(key, Qt::CaseInsensitive))
+                return list.Select(row);
+        ADD_FAILURE() << key.toStdString() << " is not in the list.";
+    }
+    void expectEntryWindow(const Move &move)
+    {
+        const QString number = QString::number(move.number);
+        if (move.kind() == 'W')
+            m_keeper.inNext<frm_WaterAddEdit>([this, number](frm_WaterAddEdit &window) {
+                control<MaskedBox>(window, "txt_nitrate").setText(number);
+                confirm(*window.cmd_OK);
+            });
+        else if (move.kind() == 'L')
+            m_keeper.inNext<frm_LivesAddEdit>([this, number](frm_LivesAddEdit &window) {
+                window.lst_AnimalList->setEditText("Tang - Yellow");
+                window.txt_quantity->setText(number);
+                confirm(*window.cmd_OK);
+            });
+        else
+            m_keeper.inNext<frm_MaintAddEdit>([this, number](frm_MaintAddEdit &window) {
+                window.lst_mainttasklist->setEditText("Water Change");
+                window.txt_quantity->setText(number);
+                confirm(*window.cmd_OK);
+            });
+    }
+
+    Keeper &m_keeper;
+    frm_OMKMDIMain &m_main;
+    frm_Waterlog &m_logbook;
+};
