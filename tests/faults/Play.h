@@ -48,7 +48,7 @@ inline Move nextMove(const Book &book, std::minstd_rand &random, const QDateTime
     for (const auto &[key, number] : book)
         (key.startsWith('T') ? tanks : entries) << key;
     const int number = 1 + pick(90);
-    if (tanks.size() == 2 && pick(30) == 0)
+    if (tanks.size() == 2 && pick(12) == 0)
         return {Move::RemoveTank, tanks[pick(2)]};
     if (entries.size() < 5 || (entries.size() < 25 && pick(3) == 0))
         return {Move::Add,
