@@ -1,7 +1,9 @@
 #include "store/Backup.h"
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
+#include <vector>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,10 +1,12 @@
 #include "store/Draft.h"
 
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <stdio.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -22,6 +24,28 @@ void syncFolderOf(const QString &path)
         return;
     ::fsync(folder);
     ::close(folder);
+}
+
+const QString mark = QStringLiteral(".new-"); // and the number of the process follows
+
+void removeWithJournal(const QString &path)
+{
+    ::unlink(encoded(path).constData());
+    ::unlink(encoded(path + QStringLiteral("-journal")).constData());
+}
+
+/// Drafts of that file whose process is gone: a kill or a power cut left them.
+void removeStrayDrafts(const QString &fileName)
+{
+    const QFileInfo file(fileName);
+    const QDir folder = file.absoluteDir();
+    const QString start = file.fileName() + mark;
+    for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden)) {
+        bool isNumber = false;
+        const int process = name.startsWith(start) ? name.mid(start.size()).toInt(&isNumber) : 0;
+        if (isNumber && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH)
+            removeWithJournal(folder.filePath(name));
+    }
 }
 
 } // namespace
@@ -42,19 +66,16 @@ void throwExists(const QString &path)
 }
 
 Draft::Draft(const QString &fileName, const QString &doing) :
-    m_path(QStringLiteral("%1.new-%2").arg(fileName).arg(::getpid())), m_name(fileName), m_doing(doing)
+    m_path(fileName + mark + QString::number(::getpid())), m_name(fileName), m_doing(doing)
 {
+    removeStrayDrafts(fileName);
     const int file = ::open(encoded(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (file < 0)
         throwErrno(errno, m_doing);
     ::close(file);
 }
 
-Draft::~Draft()
-{
-    ::unlink(encoded(m_path).constData());
-    ::unlink(encoded(m_path + QStringLiteral("-journal")).constData());
-}
+Draft::~Draft() { removeWithJournal(m_path); }
 
 void Draft::giveName()
 {

@@ -1,7 +1,7 @@
 // A file that grows under a name of its own beside the one that it is to be, and gets that name once it is complete:
 // whoever looks finds the old file or the whole new one, never a part. Gone with this object unless it got its name;
-// what a power cut leaves behind is called NAME.new-NUMBER, and nobody reads it. Used by CreateDatabase and by the
-// copies of Backup.h.
+// what a kill or a power cut leaves behind is called NAME.new-NUMBER, is read by nobody, and goes with the next draft
+// of that file. Used by CreateDatabase and by the copies of Backup.h.
 #pragma once
 
 #include <QString>

@@ -1,6 +1,8 @@
 // The backup: the whole file or none, whatever the target, the disk or a kill does, and never over the database itself.
 #include "store/Backup.h"
 
+#include <cstdio>
+
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -102,7 +104,8 @@ TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
 {
     const qint64 size = QFileInfo(path()).size();
     const auto before = contentOf(path("to"));
-    for (qint64 room = 0; room < size; room += size / 9 + 1) {
+    int tries = 0;
+    for (qint64 room = 0; room < size; room += size / 9 + 1, ++tries) {
         const int number = numberOf([&] {
             const SmallDisk disk(rlim_t(room), false);
             BackUpDatabase(path(), path("to/old.MDB"));
@@ -114,12 +117,13 @@ TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
             BackUpDatabase(path(), path("to/old.MDB"));
         });
         EXPECT_EQ(signal, SIGXFSZ) << room;
-        expectUnharmed();
-        for (const auto &[name, content] : contentOf(path("to")))
-            EXPECT_TRUE(name == "old.MDB" || (name.startsWith("old.MDB.new-") && QFile::remove(path("to/" + name))));
+        expectUnharmed(); // and what is left of the copy goes with the next one
     }
     BackUpDatabase(path(), path("to/old.MDB"));
     EXPECT_NO_THROW(Database::OpenDatabase(path("to/old.MDB")));
+    EXPECT_EQ(contentOf(path("to")).size(), 1u);
+    std::printf("| backup over an older copy, disk full after so many bytes | %d |\n", tries);
+    std::printf("| backup over an older copy, killed after so many bytes | %d |\n", tries);
 }
 
 TEST_F(BackupTest, WaitsForWhatAnotherProgramWrites)

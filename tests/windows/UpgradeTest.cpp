@@ -81,6 +81,7 @@ TEST(Upgrade, RunsBeforeTheOtherWindowsAndTellsEachStep)
         {"1.0", nullptr, opening + first + second, "0|" + firstBox + secondBox, "2.0 "},
         {"1.1", nullptr, opening + second, "0|" + secondBox, "2.0 "},
         {"1.1", "UPDATE CONFIG SET db_version = '1.1'", opening + second, "0|" + secondBox, "2.0 "},
+        {"1.1", "UPDATE CONFIG SET db_version = '0.0'", opening, "0", "0.0"},
         {"1.1", "UPDATE CONFIG SET db_version = '3.0 '", opening, "0", "3.0 "},
     };
     for (const auto &row : rows) {
