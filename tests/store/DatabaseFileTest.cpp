@@ -137,24 +137,4 @@ TEST_F(DatabaseFileTest, AnotherWayOfJournallingIsPutBack)
     EXPECT_EQ(contentOf(folder.path()).size(), 1u);
 }
 
-TEST_F(DatabaseFileTest, WorkThatACrashCutOffIsUndoneAtTheNextStart)
-{
-    {
-        OtherProgram other(path());
-        ASSERT_EQ(other.run("PRAGMA cache_size = 1; PRAGMA cache_spill = 1; BEGIN; UPDATE ANIMALLIST SET animalname = "
-                            "'x' || animalname"),
-                  "");
-        for (int i = 0; i < 8; ++i) // enough of them that pages go to the file before the commit
-            other.run("INSERT INTO ANIMALLIST SELECT animalname || animalname, '1' FROM ANIMALLIST");
-        ASSERT_TRUE(QFile::copy(path("OM.MDB-journal"), path("journal")));
-        ASSERT_TRUE(QFile::copy(path(), path("file")));
-        other.run("ROLLBACK");
-    }
-    ASSERT_TRUE(QFile::remove(path()) && QFile::rename(path("file"), path()));
-    ASSERT_TRUE(QFile::rename(path("journal"), path("OM.MDB-journal")));
-    open();
-    EXPECT_EQ(db->OpenRecordset("SELECT * FROM ANIMALLIST WHERE animalname LIKE 'x%'").RecordCount(), 0);
-    EXPECT_EQ(OtherProgram(path()).run("PRAGMA integrity_check"), "ok");
-}
-
 } // namespace

@@ -68,41 +68,6 @@ TEST_F(FaultsTest, AnEntryIsWrittenWholeOrNotAtAll)
     }
 }
 
-TEST_F(FaultsTest, ATankIsDeletedWithItsLogsOrNotAtAll)
-{
-    add("TANKLST", {{"tankname", QString("Tank")}, {"tankid", QString("T")}});
-    const auto deleteTank = [&] {
-        Database::Transaction transaction(*db);
-        db->Execute("DELETE FROM WATERLOG WHERE tankname = 'T'");
-        db->Execute("DELETE FROM TANKLST WHERE tankid = 'T'");
-        transaction.commit();
-    };
-    const auto bothThere = [&] {
-        EXPECT_EQ(count("WATERLOG"), 3);
-        EXPECT_EQ(count("TANKLST"), 1);
-        EXPECT_EQ(integrity(), "ok");
-    };
-    EXPECT_GT(sweep(SQLITE_FULL, true, deleteTank, bothThere), 3);
-    EXPECT_EQ(count("WATERLOG"), 0);
-    EXPECT_EQ(count("TANKLST"), 0);
-}
-
-TEST_F(FaultsTest, TheProgramMayEndInTheMiddleOfTheFault)
-{
-    for (int place = 0; place < 8; ++place) {
-        faults.plan({SQLITE_IOERR_WRITE, place, true});
-        numberOf([&] { addWater(20 + place, 8); });
-        const bool struck = faults.hasStruck();
-        db->Close();
-        faults.plan({});
-        open();
-        EXPECT_EQ(db->OpenRecordset("SELECT * FROM WATERLOG WHERE ph = 8").RecordCount(), struck ? 0 : place == 7);
-        if (!struck)
-            break;
-    }
-    EXPECT_EQ(integrity(), "ok");
-}
-
 TEST_F(FaultsTest, ANewDatabaseIsCompleteOrNotThere)
 {
     const QString fresh = path("new/OM.MDB");

@@ -57,16 +57,4 @@ TEST_F(NewDatabaseTest, TheMarineListIsSortedWithoutDoubles)
         EXPECT_TRUE(QString(animal) == QString(animal).simplified() && QString(animal).size() <= 50) << animal;
 }
 
-TEST_F(NewDatabaseTest, TheUpgradesBarMovesInItsSteps)
-{
-    std::vector<std::pair<std::string, int>> marks;
-    for (const Word &word : upgradeWords())
-        if (word.bar != 0)
-            marks.emplace_back(word.name, word.bar);
-    const std::vector<std::pair<std::string, int>> expected = {
-        {"Angel - Silver", 60}, {"Discus", 70}, {"Killifish", 80}, {"Zebra", 90}, {"Water Test", 100}};
-    EXPECT_EQ(marks, expected);
-    EXPECT_EQ(upgradeWords().size(), 67u);
-}
-
 } // namespace
