@@ -103,6 +103,8 @@ void frm_OMKtod::cmd_nexttip_Click()
 
 void frm_OMKtod::chk_ShowTipsAtStartup_Click()
 {
+    if (g.gShowTips == chk_ShowTipsAtStartup->isChecked())
+        return; // shown as it is stored: settings that cannot be written must not stop a start
     g.gShowTips = chk_ShowTipsAtStartup->isChecked();
     SaveSetting(QStringLiteral("Show_Tips"), g.gShowTips ? QStringLiteral("Yes") : QStringLiteral("No"));
 }

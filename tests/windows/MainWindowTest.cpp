@@ -115,7 +115,7 @@ TEST(MainWindow, TipSettingIsReadAtTheStart)
         int tips;
     } rows[] = {
         {nullptr, "Yes", false, true, 1},  {"Not Found", "Yes", false, true, 1},
-        {"yes", "Yes", false, true, 1},    {"No", "No", true, false, 0},
+        {"yes", "yes", false, true, 1},    {"No", "No", true, false, 0},
         {"eLSE", "Yes", false, true, 1},   {"maybe", "maybe", false, false, 0},
         {"maybe", "maybe", true, true, 0}, {"", "", true, true, 0},
     };

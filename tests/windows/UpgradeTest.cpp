@@ -50,11 +50,16 @@ private:
     QPointer<frm_OMKupgrade> window;
 };
 
+/// With one of an older version, where one is told.
 void replaceDatabase(Keeper &keeper, const QString &version, const char *statement = nullptr)
 {
     keeper.g().gDatabase.reset();
-    QFile::remove(keeper.databaseFile());
-    WriteOldDatabase(keeper.databaseFile(), version, 20);
+    if (!version.isEmpty()) {
+        QFile::remove(keeper.databaseFile());
+        WriteOldDatabase(keeper.databaseFile(), version, 20);
+        // Reminders that would have no end afterwards have a box of their own.
+        Database::OpenDatabase(keeper.databaseFile())->Execute("DELETE FROM MAINTSCHED WHERE schedyears IS NULL");
+    }
     if (statement)
         Database::OpenDatabase(keeper.databaseFile())->Execute(statement);
 }
@@ -81,15 +86,16 @@ TEST(Upgrade, RunsBeforeTheOtherWindowsAndTellsEachStep)
         {"1.0", nullptr, opening + first + second, "0|" + firstBox + secondBox, "2.0 "},
         {"1.1", nullptr, opening + second, "0|" + secondBox, "2.0 "},
         {"1.1", "UPDATE CONFIG SET db_version = '1.1'", opening + second, "0|" + secondBox, "2.0 "},
-        {"1.1", "UPDATE CONFIG SET db_version = '0.0'", opening, "0", "0.0"},
-        {"1.1", "UPDATE CONFIG SET db_version = '3.0 '", opening, "0", "3.0 "},
+        {"", "UPDATE CONFIG SET db_version = '0.0'", opening, "0", "0.0"},
+        {"", "UPDATE CONFIG SET db_version = '3.0 '", opening, "0", "3.0 "},
     };
     for (const auto &row : rows) {
         Keeper keeper;
+        keeper.addTank("Reef", "r1");
         replaceDatabase(keeper, row.written, row.statement);
         Watcher watcher(keeper);
         keeper.startProgram();
-        EXPECT_EQ(watcher.seen.join('|'), row.shown + "frm_OMKMDIMain|frm_OMKaboutbox");
+        EXPECT_EQ(watcher.seen.join('|'), QString(row.shown + "frm_OMKMDIMain|frm_OMKaboutbox|frm_OMKtod"));
         EXPECT_EQ(keeper.told(), row.told);
         EXPECT_EQ(keeper.g().gDbVersion, row.version);
         EXPECT_EQ(keeper.stored("SELECT db_version FROM CONFIG", "db_version"), row.version);
@@ -122,7 +128,7 @@ TEST(Upgrade, AFailureEndsTheStartAndTheNextOneGoesOn)
     }
     keeper.restart();
     keeper.startProgram();
-    EXPECT_EQ(keeper.told(), "0|" + firstBox + secondBox);
+    EXPECT_EQ(keeper.told(), QString("0|" + firstBox + secondBox));
 }
 
 } // namespace
