@@ -1,7 +1,7 @@
 # What Ostrelmark is built with, from the distribution's packages, and the way to have it. Sourced by run and test.
 # Nothing is asked or fetched when everything is there.
 
-build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlite3-dev fonts-liberation"
+build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlite3-dev libqcustomplot-dev fonts-liberation"
 test_packages="libgtest-dev libgmock-dev"
 
 # install_missing PACKAGE ...: as root, or through sudo.

@@ -1,0 +1,198 @@
+#include "platform/chart/Chart.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+
+#include "platform/chart/ChartPlot.h"
+#include "platform/RuntimeFailure.h"
+
+namespace {
+
+constexpr double paperWidth = 1000; // pixels that a chart on paper counts across
+constexpr double fullTurn = 300;    // pixels from straight on to the far side
+
+ChartTurn turnedBy(const ChartTurn &turn, const QPointF &moved)
+{
+    return {std::clamp(turn.right + moved.x() / fullTurn, -1.0, 1.0),
+            std::clamp(turn.up - moved.y() / fullTurn, 0.0, 1.0)};
+}
+
+} // namespace
+
+Chart::Chart(QWidget *parent) : QWidget(parent), m_plot(new ChartPlot(this))
+{
+    setMouseTracking(true); // the chart is turned, and the tips are told, without a button pressed
+    setFocusPolicy(Qt::StrongFocus);
+    m_plot->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_plot->setFocusPolicy(Qt::NoFocus);
+    changed();
+}
+
+void Chart::changed()
+{
+    if (std::exchange(m_stale, true))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this] { drawNow(); }, Qt::QueuedConnection);
+}
+
+void Chart::drawNow() const
+{
+    if (!std::exchange(m_stale, false))
+        return;
+    m_plot->build(m_data, m_type, m_title, ChartColours::onScreen(palette()));
+    m_plot->replot(QCustomPlot::rpQueuedRefresh);
+}
+
+void Chart::setColumnCount(int count)
+{
+    m_data.resize(m_data.rows(), count);
+    changed();
+}
+
+void Chart::setRowCount(int count)
+{
+    m_data.resize(count, m_data.columns());
+    changed();
+}
+
+void Chart::setChartType(int code)
+{
+    m_type = code;
+    changed();
+}
+
+void Chart::setRow(int row)
+{
+    if (row < 1 || row > m_data.rows())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("Row %1 of the chart.").arg(row));
+    m_row = row;
+}
+
+void Chart::setColumn(int column)
+{
+    if (column < 1 || column > m_data.columns())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("Column %1 of the chart.").arg(column));
+    m_column = column;
+}
+
+void Chart::setRowLabel(const QString &label)
+{
+    m_data.rowLabels[m_row - 1] = label;
+    changed();
+}
+
+void Chart::setColumnLabel(const QString &label)
+{
+    m_data.columnLabels[m_column - 1] = label;
+    changed();
+}
+
+void Chart::setData(const QString &text)
+{
+    m_data.write(m_row - 1, m_column - 1, text);
+    changed();
+}
+
+void Chart::setTitleText(const QString &title)
+{
+    m_title = title;
+    changed();
+}
+
+void Chart::dressForPaper(ChartPlot &plot) const
+{
+    drawNow(); // it may just have been turned
+    plot.setFont(font());
+    plot.setTurn(m_plot->turn());
+    plot.build(m_data, m_type, m_title, ChartColours::onPaper());
+}
+
+void Chart::EditCopy() const
+{
+    ChartPlot paper;
+    dressForPaper(paper);
+    QGuiApplication::clipboard()->setImage(paper.toPixmap(width(), height(), 2).toImage());
+}
+
+void Chart::paintOn(QPainter &painter, const QSizeF &size) const
+{
+    ChartPlot paper;
+    dressForPaper(paper);
+    const double scale = size.width() / paperWidth;
+    painter.save();
+    painter.scale(scale, scale);
+    paper.paintVectors(painter, size / scale);
+    painter.restore();
+}
+
+QRectF Chart::place(int row, int column) const
+{
+    drawNow();
+    return m_plot->place(row - 1, column - 1);
+}
+
+QString Chart::tip(const QPointF &place) const
+{
+    drawNow();
+    const ChartCell cell = m_plot->cellAt(place);
+    if (!cell)
+        return {};
+    return m_data.rowLabels.at(cell.row) + u'\n' + m_data.columnLabels.at(cell.column) + QStringLiteral(": ") +
+           m_data.text(cell.row, cell.column);
+}
+
+bool Chart::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ToolTip: {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        QToolTip::showText(help->globalPos(), tip(help->pos()), this);
+        return true;
+    }
+    case QEvent::PaletteChange:
+    case QEvent::FontChange:
+        m_plot->setFont(font());
+        changed();
+        break;
+    default: break;
+    }
+    return QWidget::event(event);
+}
+
+void Chart::resizeEvent(QResizeEvent *) { m_plot->setGeometry(rect()); }
+
+void Chart::turn(const QPointF &pointer)
+{
+    if (m_turned) {
+        m_plot->setTurn(turnedBy(m_plot->turn(), pointer - *m_turned));
+        m_plot->replot(QCustomPlot::rpQueuedReplot);
+    }
+    m_turned = pointer;
+}
+
+void Chart::mouseMoveEvent(QMouseEvent *event)
+{
+    const bool turns = ChartKindOf(m_type).depth && event->modifiers().testFlag(Qt::ControlModifier);
+    if (turns) {
+        turn(event->position());
+        setCursor(Qt::SizeAllCursor);
+    } else if (m_turned) {
+        m_turned.reset();
+        unsetCursor();
+    }
+    QWidget::mouseMoveEvent(event);
+}
+
+void Chart::mouseReleaseEvent(QMouseEvent *event) { emit MouseUp(event->button(), event->globalPosition().toPoint()); }
+
+// The menu key stands for the right button, whose own menu comes when it is let go.
+void Chart::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        emit MouseUp(Qt::RightButton, mapToGlobal(rect().center()));
+}

@@ -1,0 +1,119 @@
+#include "platform/chart/ChartParts.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double betweenLabels = 8;  // pixels
+constexpr double labelHeights = 1.5; // what a label of a value takes with the gap to the next
+constexpr double mostTicks = 6;
+constexpr int sampleWidth = 20;
+constexpr int sampleGap = 5;
+constexpr double markerSize = 7;
+
+} // namespace
+
+bool ChartRowTicker::fit(double pixels, const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    double widest = 0;
+    for (const QString &label : m_labels)
+        widest = std::max(widest, metrics.horizontalAdvance(label));
+    const double row = pixels / double(std::max<qsizetype>(1, m_labels.size()));
+    const int step = row > 0 ? std::max(1, int(std::ceil((widest + betweenLabels) / row))) : int(m_labels.size()) + 1;
+    return std::exchange(m_step, step) != step;
+}
+
+QVector<double> ChartRowTicker::createTickVector(double, const QCPRange &range)
+{
+    QVector<double> ticks;
+    for (int row = 0; row < m_labels.size(); row += m_step)
+        if (range.contains(row + 1))
+            ticks << row + 1;
+    return ticks;
+}
+
+QVector<QString> ChartRowTicker::createLabelVector(const QVector<double> &ticks, const QLocale &, QChar, int)
+{
+    QVector<QString> labels;
+    for (const double tick : ticks)
+        labels << m_labels.at(qRound(tick) - 1);
+    return labels;
+}
+
+bool ChartValueTicker::fit(double pixels, const QFont &font)
+{
+    const double most = std::clamp(pixels / (QFontMetricsF(font).height() * labelHeights), 1.0, mostTicks);
+    return std::exchange(m_most, most) != most;
+}
+
+double ChartValueTicker::roundStep(double step)
+{
+    const double power = std::pow(10, std::floor(std::log10(step)));
+    for (const double round : {1.0, 2.0, 2.5, 5.0})
+        if (step <= round * power)
+            return round * power;
+    return 10 * power;
+}
+
+QCPScatterStyle ChartMarkerOf(const ChartLook &look, double size)
+{
+    using Style = QCPScatterStyle;
+    static constexpr Style::ScatterShape shapes[] = {
+        Style::ssDisc,       Style::ssSquare,      Style::ssTriangle,   Style::ssDiamond, Style::ssTriangleInverted,
+        Style::ssCross,      Style::ssPlus,        Style::ssCircle,     Style::ssStar,    Style::ssCrossSquare,
+        Style::ssPlusSquare, Style::ssCrossCircle, Style::ssPlusCircle, Style::ssPeace,
+    };
+    const bool filled = look.marker < 5;
+    return Style(shapes[look.marker], QPen(look.colour, filled ? 1 : 1.5), filled ? QBrush(look.colour) : QBrush(),
+                 filled ? size : size + 1);
+}
+
+ChartSample ChartSampleOf(const ChartKind &kind, int column, const QColor &paper)
+{
+    const bool line = kind.shape == ChartShape::Line || kind.shape == ChartShape::Step ||
+                      (kind.shape == ChartShape::Combination && !DrawnAsBars(kind.shape, column));
+    const bool body = kind.shape != ChartShape::Points && (kind.depth || !line);
+    return {ChartLookOf(column), paper, body, line && !body, kind.shape == ChartShape::Points};
+}
+
+void ChartSample::draw(QCPPainter &painter, const QRectF &place) const
+{
+    painter.setAntialiasing(!body);
+    if (body) {
+        painter.setPen(look.rim());
+        painter.setBrush(look.body(paper));
+        painter.drawRect(place.adjusted(3, 1, -1, -1));
+        return;
+    }
+    if (line) {
+        painter.setPen(look.line());
+        painter.drawLine(QPointF(place.left(), place.center().y()), QPointF(place.right(), place.center().y()));
+    }
+    const QCPScatterStyle style = ChartMarkerOf(look, markerSize);
+    style.applyTo(&painter, look.line());
+    style.drawShape(&painter, place.center());
+}
+
+ChartLegendItem::ChartLegendItem(QCPLegend *legend, const ChartSample &sample, const QString &text) :
+    QCPAbstractLegendItem(legend), m_sample(sample), m_text(text)
+{
+    setFont(legend->font());
+    setTextColor(legend->textColor());
+}
+
+void ChartLegendItem::draw(QCPPainter *painter)
+{
+    const QRectF place = rect();
+    const double sample = std::min(12.0, place.height());
+    m_sample.draw(*painter, QRectF(place.left(), place.center().y() - sample / 2, sampleWidth, sample));
+    painter->setFont(font());
+    painter->setPen(textColor());
+    painter->drawText(place.adjusted(sampleWidth + sampleGap, 0, 1, 0), Qt::AlignVCenter | Qt::TextSingleLine, m_text);
+}
+
+QSize ChartLegendItem::minimumOuterSizeHint() const
+{
+    const QFontMetrics metrics(font());
+    return {sampleWidth + sampleGap + metrics.horizontalAdvance(m_text) + 2, metrics.height() + 2};
+}

@@ -1,0 +1,350 @@
+#include "platform/chart/ChartPlot.h"
+
+#include <cmath>
+
+#include <QPicture>
+#include <QScopedValueRollback>
+
+#include "platform/chart/ChartDepth.h"
+#include "platform/chart/ChartParts.h"
+#include "platform/chart/ChartPie.h"
+
+namespace {
+
+constexpr int edge = 8;              // pixels between the chart and its rim
+constexpr double reach = 6;          // how far from a value the pointer still means it
+constexpr double legendShare = 0.35; // of the height at most
+constexpr double markerSize = 6;
+constexpr double loneMarkerSize = 9;
+constexpr int areaAlpha = 110;
+
+QFont inPixels(QFont font, double factor = 1)
+{
+    font.setPixelSize(std::max(1, qRound(QFontInfo(font).pixelSize() * factor))); // points would grow on paper
+    return font;
+}
+
+double distance(const QRectF &rect, const QPointF &point)
+{
+    const double x = std::max({rect.left() - point.x(), 0.0, point.x() - rect.right()});
+    const double y = std::max({rect.top() - point.y(), 0.0, point.y() - rect.bottom()});
+    return std::hypot(x, y);
+}
+
+} // namespace
+
+ChartPlot::ChartPlot(QWidget *parent) :
+    QCustomPlot(parent), m_kind(ChartKindOf(1)), m_colours(ChartColours::onPaper()), m_margins(new QCPMarginGroup(this))
+{
+    plotLayout()->clear();
+    plotLayout()->setRowSpacing(4);
+    setNoAntialiasingOnDrag(false);
+    connect(this, &QCustomPlot::afterLayout, this, [this] { fit(); });
+}
+
+void ChartPlot::clear()
+{
+    clearPlottables();
+    m_bands.clear();
+    m_hiddenLegend.reset();
+    plotLayout()->clear();
+    plotLayout()->setRowStretchFactors({});
+}
+
+void ChartPlot::build(const ChartData &data, int chartType, const QString &title, const ChartColours &colours)
+{
+    clear();
+    m_data = data;
+    m_kind = ChartKindOf(chartType);
+    m_colours = colours;
+    m_font = inPixels(font());
+    m_away = {};
+    setBackground(QBrush(colours.paper));
+    if (!title.isEmpty())
+        addTitle(title);
+    if (m_kind.shape == ChartShape::Pie) {
+        addPie();
+    } else {
+        const std::vector<ChartBand> bands = MakeChartBands(m_data, m_kind.shape);
+        m_rows = QSharedPointer<ChartRowTicker>::create(m_data.rowLabels);
+        m_bands.reserve(bands.size()); // what paints keeps copies, with pointers into this plot alone
+        for (const ChartBand &band : bands)
+            addBand(band, &band == &bands.back());
+    }
+    addLegend();
+}
+
+void ChartPlot::addTitle(const QString &title)
+{
+    QFont bold = inPixels(font(), 1.25);
+    bold.setBold(true);
+    auto *element = new QCPTextElement(this, title, bold);
+    element->setTextColor(m_colours.ink);
+    plotLayout()->addElement(plotLayout()->rowCount(), 0, element);
+}
+
+void ChartPlot::addPie()
+{
+    auto *rect = new QCPAxisRect(this);
+    plotLayout()->addElement(plotLayout()->rowCount(), 0, rect);
+    for (QCPAxis *axis : rect->axes()) {
+        axis->setVisible(false);
+        axis->grid()->setVisible(false);
+    }
+    rect->setMinimumMargins(QMargins(edge, edge, edge, 0));
+    m_pie = new ChartPie(*rect, m_data, m_colours, m_font);
+}
+
+/// Colours and letters of the axes. Those of the right side stand in for the left where the depth goes to the left.
+void ChartPlot::dress(QCPAxisRect &rect)
+{
+    rect.setMarginGroup(QCP::msLeft | QCP::msRight, m_margins);
+    const QPen line(m_colours.ink, 1);
+    for (QCPAxis *axis : rect.axes()) {
+        axis->setLayer(QStringLiteral("axes"));
+        axis->grid()->setLayer(QStringLiteral("grid"));
+        axis->grid()->setVisible(axis->axisType() == QCPAxis::atLeft && !m_kind.depth);
+        axis->grid()->setPen(QPen(m_colours.grid, 1));
+        axis->grid()->setZeroLinePen(QPen(m_colours.ink, 1));
+        axis->setBasePen(line);
+        axis->setTickPen(line);
+        axis->setSubTicks(false);
+        axis->setTickLabelFont(m_font);
+        axis->setTickLabelColor(m_colours.ink);
+    }
+}
+
+void ChartPlot::addBand(const ChartBand &band, bool isLast)
+{
+    auto *rect = new QCPAxisRect(this);
+    plotLayout()->addElement(plotLayout()->rowCount(), 0, rect);
+    dress(*rect);
+    rect->setMinimumMargins(QMargins(edge, edge, 2 * edge, 4));
+    QCPAxis *keys = rect->axis(QCPAxis::atBottom);
+    keys->setTicker(m_rows);
+    keys->setTickLabels(isLast);
+    keys->setRange(0.4, std::max(1, m_data.rows()) + 0.6);
+    const auto ticker = QSharedPointer<ChartValueTicker>::create();
+    for (const auto side : {QCPAxis::atLeft, QCPAxis::atRight}) {
+        QCPAxis *values = rect->axis(side);
+        values->setTickLabels(true);
+        values->setRange(band.low, band.high);
+        values->setTicker(ticker);
+    }
+    const ChartBandView &view =
+        m_bands.emplace_back(ChartBandView{&m_data, band, m_kind, keys, rect->axis(QCPAxis::atLeft), &m_away});
+    if (m_kind.depth) {
+        new ChartDepth(view, m_colours);
+        return;
+    }
+    // Bars first: lines and points lie over them.
+    for (const int column : view.backToFront())
+        if (DrawnAsBars(m_kind.shape, column))
+            addBars(view, column);
+    for (const int column : view.backToFront())
+        if (!DrawnAsBars(m_kind.shape, column))
+            addGraph(view, column);
+}
+
+void ChartPlot::addBars(const ChartBandView &view, int column)
+{
+    const ChartLook look = ChartLookOf(column);
+    const auto [offset, width] = view.bar(column);
+    auto *bars = new QCPBars(view.keys, view.values);
+    QSharedPointer<QCPBarsDataContainer> cells(new QCPBarsDataContainer);
+    for (int row = 0; row < m_data.rows(); ++row)
+        if (!m_data.isBlank(row, column))
+            cells->add(QCPBarsData(row + 1 + offset, m_data.value(row, column)));
+    bars->setData(cells);
+    bars->setWidth(width);
+    bars->setPen(look.rim());
+    bars->setBrush(look.body(m_colours.paper));
+    bars->setAntialiased(false);
+    bars->setAntialiasedFill(false);
+}
+
+void ChartPlot::addGraph(const ChartBandView &view, int column)
+{
+    const ChartLook look = ChartLookOf(column);
+    auto *graph = new QCPGraph(view.keys, view.values);
+    QSharedPointer<QCPGraphDataContainer> cells(new QCPGraphDataContainer);
+    for (int row = 0; row < m_data.rows(); ++row)
+        cells->add(QCPGraphData(row + 1, m_data.value(row, column))); // not a number where it is blank: a gap
+    graph->setData(cells);
+    graph->setAdaptiveSampling(false);
+    graph->setPen(look.line());
+    const bool points = m_kind.shape == ChartShape::Points;
+    graph->setScatterStyle(ChartMarkerOf(look, points ? loneMarkerSize : markerSize));
+    graph->setLineStyle(points                             ? QCPGraph::lsNone
+                        : m_kind.shape == ChartShape::Step ? QCPGraph::lsStepCenter
+                                                           : QCPGraph::lsLine);
+    if (m_kind.shape == ChartShape::Area) {
+        QColor fill = look.colour;
+        fill.setAlpha(look.second ? areaAlpha / 2 : areaAlpha);
+        graph->setBrush(fill);
+    }
+}
+
+void ChartPlot::addLegend()
+{
+    if (m_data.columns() == 0)
+        return;
+    m_legend = new QCPLegend;
+    plotLayout()->addElement(plotLayout()->rowCount(), 0, m_legend);
+    plotLayout()->setRowStretchFactor(plotLayout()->rowCount() - 1, 0.001); // no higher than its lines
+    m_legend->setLayer(QStringLiteral("legend"));
+    m_legend->setBrush(Qt::NoBrush);
+    m_legend->setBorderPen(Qt::NoPen);
+    m_legend->setFont(m_font);
+    m_legend->setTextColor(m_colours.ink);
+    m_legend->setColumnSpacing(14);
+    m_legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
+    for (int column = 0; column < m_data.columns(); ++column)
+        m_legend->addItem(new ChartLegendItem(m_legend, ChartSampleOf(m_kind, column, m_colours.paper),
+                                              m_data.columnLabels.at(column)));
+}
+
+// A change of one may make another necessary: fewer lines of legend give the bands more height, and so more depth.
+void ChartPlot::fit()
+{
+    if (m_fitting)
+        return;
+    const QScopedValueRollback<bool> once(m_fitting, true);
+    for (int pass = 0; pass < 3; ++pass) {
+        const bool legend = fitLegend(), depth = fitDepth(), labels = fitLabels();
+        if (!legend && !depth && !labels)
+            return;
+        updateLayout();
+    }
+}
+
+/// As many entries in a line as the width holds; no legend where it would leave the chart no room.
+bool ChartPlot::fitLegend()
+{
+    if (!m_legend)
+        return false;
+    int widest = 1, height = 1;
+    for (int i = 0; i < m_legend->elementCount(); ++i)
+        if (const QCPLayoutElement *item = m_legend->elementAt(i)) { // the last line may have empty places
+            const QSize size = item->minimumOuterSizeHint();
+            widest = std::max(widest, size.width());
+            height = size.height();
+        }
+    const int count = m_data.columns();
+    const int entry = widest + m_legend->columnSpacing();
+    const int room = viewport().width() - 4 * edge + m_legend->columnSpacing();
+    const int wrap = std::clamp(room / entry, 1, count);
+    // What is left over stands to the right of them.
+    m_legend->setMargins(QMargins(2 * edge, 0, 2 * edge + std::max(0, room - wrap * entry), 4));
+    const int lines = (count + wrap - 1) / wrap;
+    const bool fits = lines * (height + m_legend->rowSpacing()) <= viewport().height() * legendShare;
+    bool changed = false;
+    if (fits != !m_hiddenLegend) {
+        changed = true;
+        if (fits) {
+            plotLayout()->addElement(plotLayout()->rowCount(), 0, m_hiddenLegend.release());
+            plotLayout()->setRowStretchFactor(plotLayout()->rowCount() - 1, 0.001);
+        } else {
+            plotLayout()->take(m_legend);
+            plotLayout()->simplify();
+            m_hiddenLegend.reset(m_legend);
+        }
+        m_legend->setVisible(fits);
+    }
+    if (m_legend->wrap() != wrap) {
+        changed = true;
+        m_legend->setWrap(wrap);
+        m_legend->setFillOrder(QCPLayoutGrid::foColumnsFirst, true);
+    }
+    return changed;
+}
+
+/// In pixels: a part of the height of a band, and of bars no more than they are wide.
+double ChartPlot::depth() const
+{
+    double depth = std::min<double>(viewport().width() / 2.0, viewport().height() / double(m_bands.size())) * 0.22;
+    if (m_kind.shape == ChartShape::Bar)
+        for (const ChartBandView &view : m_bands)
+            if (!view.band.columns.empty())
+                depth = std::min(depth, viewport().width() / view.keys->range().size() *
+                                            view.bar(view.band.columns.front()).width * 1.5);
+    return std::clamp(depth, 8.0, 90.0);
+}
+
+bool ChartPlot::fitDepth()
+{
+    if (!m_kind.depth || m_bands.empty())
+        return false;
+    const QPointF away(depth() * m_turn.right * 1.2, -depth() * m_turn.up);
+    if (away == m_away)
+        return false;
+    m_away = away;
+    const bool toTheRight = away.x() >= 0;
+    const int side = int(std::ceil(std::abs(away.x()))) + edge;
+    for (const ChartBandView &view : m_bands) {
+        QCPAxisRect *rect = view.keys->axisRect();
+        rect->setMinimumMargins(
+            QMargins(toTheRight ? edge : side, int(std::ceil(-away.y())) + edge, toTheRight ? side + edge : edge, 4));
+        rect->axis(QCPAxis::atLeft)->setVisible(toTheRight);
+        rect->axis(QCPAxis::atRight)->setVisible(!toTheRight);
+    }
+    return true;
+}
+
+bool ChartPlot::fitLabels()
+{
+    if (m_bands.empty())
+        return false;
+    bool changed = m_rows->fit(m_bands.back().keys->axisRect()->width(), m_font);
+    for (const ChartBandView &view : m_bands) {
+        const auto ticker = view.values->ticker().staticCast<ChartValueTicker>();
+        changed = ticker->fit(view.values->axisRect()->height(), m_font) || changed;
+    }
+    return changed;
+}
+
+// Through a recording: the painter may be anybody's, and QCustomPlot's own would end the page.
+void ChartPlot::paintVectors(QPainter &painter, const QSizeF &size)
+{
+    QPicture picture;
+    QCPPainter recorder;
+    recorder.begin(&picture);
+    recorder.setMode(QCPPainter::pmVectorized);
+    recorder.setMode(QCPPainter::pmNoCaching);
+    toPainter(&recorder, qRound(size.width()), qRound(size.height()));
+    recorder.end();
+    // A recording is played as large as on the screen that it was made for.
+    const QPaintDevice &device = *painter.device();
+    painter.scale(double(picture.logicalDpiX()) / device.logicalDpiX(),
+                  double(picture.logicalDpiY()) / device.logicalDpiY());
+    painter.drawPicture(0, 0, picture);
+}
+
+ChartCell ChartPlot::cellAt(const QPointF &place) const
+{
+    if (m_pie && m_kind.shape == ChartShape::Pie)
+        return m_pie->cellAt(place);
+    ChartCell nearest;
+    double least = reach;
+    for (const ChartBandView &view : m_bands)
+        for (const int column : view.backToFront()) // of two that meet, the one in front
+            for (int row = 0; row < m_data.rows(); ++row)
+                if (!m_data.isBlank(row, column))
+                    if (const double away = distance(view.place(row, column), place); away <= least) {
+                        least = away;
+                        nearest = {row, column};
+                    }
+    return nearest;
+}
+
+QRectF ChartPlot::place(int row, int column) const
+{
+    if (m_data.isBlank(row, column))
+        return {};
+    if (m_pie && m_kind.shape == ChartShape::Pie)
+        return m_pie->place(row, column);
+    for (const ChartBandView &view : m_bands)
+        if (view.has(column))
+            return view.place(row, column);
+    return {};
+}
