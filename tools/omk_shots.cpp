@@ -86,6 +86,7 @@ int main(int argc, char **argv)
     playCompatibility(album, main);
     playFantasyTank(album, main);
     playReference(album, main);
+    playGraph(album, main, globals);
     playOptions(album, main);
     playTip(album, main);
     playAbout(album, main);

@@ -42,6 +42,9 @@ void frm_Waterlog::Change_Entries() { (this->*entryPaths[static_cast<size_t>(tab
 
 void frm_Waterlog::Delete_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].remove)(); }
 
+// The graph of the tank in hand, in front.
+void frm_Waterlog::Graph_Entries() { Form<frm_OMKMDIMain>().mnu_ToolsGraphing_Click(); }
+
 void frm_Waterlog::Refresh_Treeview()
 {
     CurrentTankText.clear();
@@ -206,6 +209,8 @@ void frm_Waterlog::Form_Activate()
         FirstActivation = false;
         return;
     }
+    if (TreeView1->currentItem())
+        takeTankInHand(); // the graph may have taken another, and an entry is for the tank that is shown here
     main.mnu_FilePrint->Enabled(isTankSelected());
     enableLogCommands(); // with "All Tanks" in hand they stay disabled
 }

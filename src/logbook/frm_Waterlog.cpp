@@ -32,7 +32,7 @@ constexpr ButtonRow buttonRows[] = {
     {"deleteentries", "Delete Entry", &frm_Waterlog::Delete_Entries, false},
     {"moveentries", "Move Livestock to Another Tank", &frm_Waterlog::Move_Entries, true},
     {"printentries", "Print Log Entries", &frm_Waterlog::Print_Entries, true},
-    {"graphentries", "View Graph of Entries", nullptr, false},
+    {"graphentries", "View Graph of Entries", &frm_Waterlog::Graph_Entries, false},
     {"refresh", "Refresh", &frm_Waterlog::Refresh_Treeview, true},
 };
 

@@ -33,6 +33,7 @@ public:
     void Delete_Entries();
     void Move_Entries();
     void Print_Entries();
+    void Graph_Entries();
     /// Reloads the list on show: "descending" by date, any other text ascending.
     void Refresh_Listview(const QString &order);
     /// Rebuilds the tree, which ends with "All Tanks" selected, and reloads the list.

@@ -62,6 +62,9 @@ constexpr BoxButton boxButtons[] = {
     {vbOKOnly, QMessageBox::Ok, "", QMessageBox::AcceptRole, MsgBoxAnswer::OK, true},
     {vbOKCancel, QMessageBox::Ok, "", QMessageBox::AcceptRole, MsgBoxAnswer::OK, false},
     {vbOKCancel, QMessageBox::Cancel, "", QMessageBox::RejectRole, MsgBoxAnswer::Cancel, true},
+    {vbYesNoCancel, QMessageBox::Yes, "", QMessageBox::YesRole, MsgBoxAnswer::Yes, false},
+    {vbYesNoCancel, QMessageBox::No, "", QMessageBox::NoRole, MsgBoxAnswer::No, false},
+    {vbYesNoCancel, QMessageBox::Cancel, "", QMessageBox::RejectRole, MsgBoxAnswer::Cancel, true},
     {vbYesNo, QMessageBox::Yes, "", QMessageBox::YesRole, MsgBoxAnswer::Yes, false},
     {vbYesNo, QMessageBox::No, "", QMessageBox::NoRole, MsgBoxAnswer::No, true},
     {omkSkipDelete, QMessageBox::NoButton, "&Skip", QMessageBox::RejectRole, MsgBoxAnswer::Skip, true},
@@ -104,8 +107,8 @@ MsgBoxAnswer DesktopDoors::msgBox(const MsgBoxRequest &request)
             box.setEscapeButton(button);
             answerOfLeaving = row.answer;
         }
-        if (meaning.empty() || request.secondIsDefault())
-            box.setDefaultButton(button); // the first stays it, or the last takes it over
+        if (meaning.empty() || (meaning.size() == 1 && request.secondIsDefault()))
+            box.setDefaultButton(button); // the first stays it, or the second takes it over
         meaning.emplace(button, row.answer);
     }
     box.exec();

@@ -18,6 +18,7 @@ class SettingsStore;
 enum MsgBoxFlag : int {
     vbOKOnly = 0,
     vbOKCancel = 1,
+    vbYesNoCancel = 3,
     vbYesNo = 4,
     omkSkipDelete = 7, ///< ours: "Skip", the default and what Esc does, and "Delete"
     vbCritical = 16,

@@ -2,7 +2,12 @@
 // left top of its printable area. Printer (Printer.h) turns the verbs of a report into these calls.
 #pragma once
 
+#include <functional>
+
+#include <QSizeF>
 #include <QString>
+
+class QPainter;
 
 struct PageFont
 {
@@ -12,6 +17,9 @@ struct PageFont
     bool italic = false;
     bool underline = false;
 };
+
+/// Paints a picture into a rectangle of that size, whose left top corner is 0, 0.
+using PagePicture = std::function<void(QPainter &painter, const QSizeF &size)>;
 
 class PageSink
 {
@@ -34,4 +42,5 @@ public:
     /// One line of text, its top left corner at the place given.
     virtual void text(double x, double y, const PageFont &font, const QString &text) = 0;
     virtual void line(double x1, double y1, double x2, double y2) = 0;
+    virtual void picture(double x, double y, const QSizeF &size, const PagePicture &paint) = 0;
 };

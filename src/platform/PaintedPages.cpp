@@ -61,6 +61,13 @@ public:
         m_painter.setPen(QPen(Qt::black, device().logicalDpiX() / 96.0));
         m_painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
     }
+    void picture(double x, double y, const QSizeF &size, const PagePicture &paint) override
+    {
+        m_painter.save();
+        m_painter.translate(x, y);
+        paint(m_painter, size);
+        m_painter.restore();
+    }
 
 protected:
     virtual QPagedPaintDevice &device() const = 0;

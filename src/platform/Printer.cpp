@@ -54,6 +54,12 @@ void Printer::Line(double x1, double y1, double x2, double y2)
     m_pages.line(x1, y1, x2, y2);
 }
 
+void Printer::PaintPicture(double x, double y, double width, double height, const PagePicture &paint)
+{
+    begin();
+    m_pages.picture(x, y, QSizeF(width, height), paint);
+}
+
 QStringList Printer::wrap(const QString &text, double width) const
 {
     QStringList lines;

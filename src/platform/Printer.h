@@ -42,6 +42,8 @@ public:
     /// Prints and stays behind the text.
     void PrintOn(const QString &text);
     void Line(double x1, double y1, double x2, double y2);
+    /// Paints a picture on this page; the position stays.
+    void PaintPicture(double x, double y, double width, double height, const PagePicture &paint);
     /// Cells side by side, as high as the highest; kept on one page unless higher than a page. Ends the line.
     void PrintRow(const std::vector<PrintCell> &cells);
     void NewPage();

@@ -14,6 +14,7 @@
 #include "advisers/frm_Compat.h"
 #include "advisers/frm_DiagnosisQA.h"
 #include "advisers/frm_Fantasy.h"
+#include "graph/frm_WaterGraph.h"
 #include "logbook/frm_Waterlog.h"
 #include "platform/Doors.h"
 #include "platform/HourGlass.h"
@@ -44,6 +45,7 @@ struct PrintRow
 constexpr PrintRow printRows[] = {
     {"FRM_WATERLOG", [] { Form<frm_Waterlog>().Print_Entries(); }},
     {"FRM_SCHEDULE", [] { Form<frm_Schedule>().Print_Schedule(); }},
+    {"FRM_WATERGRAPH", [] { Form<frm_WaterGraph>().PrintGraph(); }},
 };
 
 /// The logbook, if it is on the screen.
@@ -187,6 +189,13 @@ void frm_OMKMDIMain::mnu_ToolsCommonNames_Click() { ShowChild(Form<frm_LatintoCo
 
 void frm_OMKMDIMain::mnu_ToolsConversions_Click() { ShowChild(Form<frm_Conversions>()); }
 
+void frm_OMKMDIMain::mnu_ToolsGraphing_Click()
+{
+    auto &graph = Form<frm_WaterGraph>();
+    ShowChild(graph);
+    graph.GraphChart();
+}
+
 void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
 
 void frm_OMKMDIMain::mnu_WindowTileHorizontal_Click() { TileWindows(*m_area, Qt::Horizontal); }
@@ -251,4 +260,10 @@ void frm_OMKMDIMain::mnu_TankProperties_Click()
     Form<frm_Waterlog>().Refresh_Treeview();
 }
 
-void frm_OMKMDIMain::mnu_GraphOptions_Click() { Form<frm_OMKOptions>().ShowOptions(1); }
+void frm_OMKMDIMain::mnu_GraphOptions_Click()
+{
+    Form<frm_OMKOptions>().ShowOptions(1);
+    auto *graph = Forms::current().loaded<frm_WaterGraph>();
+    if (graph && graph->isVisible() && !isEnding())
+        graph->GraphChart();
+}

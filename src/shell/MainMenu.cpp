@@ -70,7 +70,7 @@ constexpr EntryRow entryRows[] = {
 
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsTanksetup), "&Tank Setup", 'T', Plain, &Main::mnu_ToolsTanksetup_Click},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsLogbook), "&Logbook", 'L', Plain, &Main::mnu_ToolsLogbook_Click},
-    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsGraphing), "&Graphing", 'G', Plain, nullptr},
+    {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsGraphing), "&Graphing", 'G', Plain, &Main::mnu_ToolsGraphing_Click},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsCompatibility), "Co&mpatibility", 'M', SeparatorBefore,
      &Main::mnu_ToolsCompatibility_Click},
     {&MainMenu::mnu_Tools, ENTRY(mnu_ToolsDisease), "&Disease Diagnosis", 'D', Plain, &Main::mnu_ToolsDisease_Click},

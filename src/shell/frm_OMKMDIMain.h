@@ -69,6 +69,7 @@ public:
     void mnu_ToolsFantasy_Click();
     void mnu_ToolsCommonNames_Click();
     void mnu_ToolsConversions_Click();
+    void mnu_ToolsGraphing_Click();
     void mnu_WindowCascade_Click();
     void mnu_WindowTileHorizontal_Click();
     void mnu_WindowTileVertical_Click();

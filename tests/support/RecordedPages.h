@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include <QRectF>
+
 #include "platform/Pages.h"
 
 struct PrintedText
@@ -20,6 +22,7 @@ struct PrintedPage
 {
     std::vector<PrintedText> texts;
     std::vector<double> lines; ///< heights of the lines drawn
+    std::vector<QRectF> pictures;
 
     /// The texts of one height, from left to right, between bars.
     QString row(double y) const
@@ -71,6 +74,10 @@ public:
         page().texts.push_back({x, y, x + textWidth(font, text), y + pixels(font), font, text});
     }
     void line(double, double y1, double, double) override { page().lines.push_back(y1); }
+    void picture(double x, double y, const QSizeF &size, const PagePicture &) override
+    {
+        page().pictures.push_back(QRectF(QPointF(x, y), size));
+    }
 
 private:
     static double pixels(const PageFont &font) { return font.size * 100 / 72; }

@@ -15,7 +15,7 @@ MsgBoxAnswer defaultAnswer(const MsgBoxRequest &request)
 {
     if (request.buttons() == omkSkipDelete)
         return MsgBoxAnswer::Skip;
-    if (request.buttons() == vbYesNo)
+    if (request.buttons() == vbYesNo || request.buttons() == vbYesNoCancel)
         return request.secondIsDefault() ? MsgBoxAnswer::No : MsgBoxAnswer::Yes;
     return request.secondIsDefault() ? MsgBoxAnswer::Cancel : MsgBoxAnswer::OK;
 }

@@ -22,6 +22,8 @@ void playDiagnosis(Album &album, frm_OMKMDIMain &main);
 void playCompatibility(Album &album, frm_OMKMDIMain &main);
 void playFantasyTank(Album &album, frm_OMKMDIMain &main);
 void playReference(Album &album, frm_OMKMDIMain &main);
+/// The graph as a keeper sees it first, a sheet of all its styles, and its printout.
+void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals);
 void playOptions(Album &album, frm_OMKMDIMain &main);
 void playAbout(Album &album, frm_OMKMDIMain &main);
 void playTip(Album &album, frm_OMKMDIMain &main);

@@ -6,7 +6,7 @@ namespace {
 
 // Okabe and Ito, "Color Universal Design" (2008), without yellow and black, which are lost on one of the two grounds,
 // and with a grey.
-constexpr QRgb hues[] = {0x0072b2, 0xe69f00, 0x009e73, 0xd55e00, 0x56b4e9, 0xcc79a7, 0x808080};
+constexpr QRgb hues[] = {0x0072b2, 0xe69f00, 0x009e73, 0xd55e00, 0x56b4e9, 0xcc79a7, 0x707070};
 constexpr int hueCount = int(std::size(hues));
 
 QColor mixed(const QColor &one, const QColor &other, double share)

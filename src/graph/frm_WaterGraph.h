@@ -1,0 +1,61 @@
+// The graph of a tank's water tests: a page of tests as a chart, with the measurements and the style that the Options
+// window keeps, which a right click opens. Draws the tank in hand; a tank chosen in its list becomes the tank in hand.
+// Prints the chart. Reads the database and writes nothing.
+#pragma once
+
+#include <vector>
+
+#include "graph/GraphPaging.h"
+#include "shell/ChildForm.h"
+
+class Chart;
+class Printer;
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+class frm_WaterGraph : public ChildForm
+{
+    Q_OBJECT
+public:
+    frm_WaterGraph(Globals &globals, QWidget *parent);
+
+    /// Draws the tank in hand, its page and the options as they are now. Where that makes no graph, a box says why and
+    /// the chart stays as it stands.
+    void GraphChart();
+    /// Prints the chart on a landscape page, once for each copy; each time the clipboard gets its picture too.
+    void PrintGraph();
+
+    void Form_Load();
+    void Form_Activate() override;
+
+    QComboBox *tanklistbox;
+    Chart *Chart1;
+    QPushButton *cmd_Next;
+    QPushButton *cmd_Previous;
+    QLabel *pic_HiddenPicForPrinting; ///< holds the picture that was printed
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    void arrange();
+    void fillTankList();
+    bool tankIsThere();
+    bool selectTankInHand();
+    void selectLine(int index);
+    void draw(const std::vector<GraphColumn> &columns, const Rows &rows);
+    void tellNotEnough();
+    void takeFocus();
+    bool mayPrintAsItIs();
+    void printPage(Printer &page);
+
+    void tanklistbox_Click();
+    void cmd_Next_Click();
+    void cmd_previous_Click();
+    void Chart1_MouseUp(Qt::MouseButton button, const QPoint &position);
+
+    GraphPaging m_paging;
+    QString m_currentTank; ///< name of the tank drawn
+    bool m_loading = false;
+};

@@ -1,0 +1,37 @@
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+
+#include "graph/frm_WaterGraph.h"
+#include "platform/chart/Chart.h"
+#include "shell/frm_OMKMDIMain.h"
+#include "shell/frm_OMKOptions.h"
+#include "shots/Album.h"
+#include "shots/Plays.h"
+
+void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals)
+{
+    main.mnu_ToolsGraphing_Click();
+    auto &graph = Form<frm_WaterGraph>();
+    album.take(graph, QStringLiteral("graph"));
+    globals.options.GraphChecks = QStringLiteral("1111110110100");
+    graph.parentWidget()->resize(560, 440);
+    const QComboBox &styles = *Form<frm_OMKOptions>().cbo_GraphType;
+    QWidget sheet;
+    auto *grid = new QGridLayout(&sheet);
+    for (int i = 0; i < styles.count(); ++i) {
+        globals.options.GraphStyle = qint16(styles.itemData(i).toInt());
+        graph.GraphChart();
+        graph.Chart1->setTitleText(styles.itemText(i));
+        QCoreApplication::processEvents();
+        auto *picture = new QLabel;
+        picture->setPixmap(graph.Chart1->grab());
+        grid->addWidget(picture, i / 3, i % 3);
+    }
+    sheet.adjustSize();
+    album.take(sheet, QStringLiteral("graph-styles"));
+    globals.options.GraphStyle = 3; // lines
+    graph.GraphChart();
+    main.mnu_FilePrint_Click();
+    graph.close();
+}
