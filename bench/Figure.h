@@ -49,3 +49,8 @@ Figure chooseAnimalFigure();
 Figure dropAnimalFigure();
 /// The time for 10,000 entries as it is, and as ten times that of 1,000: linear where they agree.
 Figure pdfFigure(const QString &folder);
+/// A page of 20 tests with 13 measurements as a picture of 1000 x 700, beside QCustomPlot alone.
+Figure barChartFigure();
+Figure lineChartFigure();
+/// On a desk where the tank is in hand, from the menu to the painted window, beside two statements of bare SQL.
+Figure openGraphFigure(const QString &databaseFile, const QString &tankId);

@@ -46,7 +46,10 @@ bool measureIn(const QString &folder, int argc, char **argv)
                                 namesAgainFigure(),
                                 chooseAnimalFigure(),
                                 dropAnimalFigure(),
-                                pdfFigure(folder)};
+                                pdfFigure(folder),
+                                barChartFigure(),
+                                lineChartFigure(),
+                                openGraphFigure(file, tank)};
     for (const Figure &figure : reminderFigures(desk, folder))
         figures.push_back(figure);
     return measureAndPrint(figures, argc, argv);

@@ -34,5 +34,5 @@ QBrush ChartLook::body(const QColor &paper) const { return second ? mixed(colour
 
 QPen ChartLook::rim() const { return {second ? colour : colour.darker(115), second ? 2.0 : 1.0}; }
 
-// Flat ends and plain joins: round ones cost many times the rest of the picture.
-QPen ChartLook::line() const { return {colour, 2, second ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin}; }
+// Square ends close the corners of lines that are drawn piece by piece.
+QPen ChartLook::line() const { return {colour, second ? 1.0 : 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin}; }

@@ -1,6 +1,6 @@
 // The colours of a chart. The columns' own are chosen so that nobody has to see red or green to tell them apart, and
 // so that they differ in lightness on paper without colour: seven hues, and after them the same seven once more in a
-// second dress (pale bodies with a rim, dashed lines), with a marker of its own for each of fourteen. Used by what
+// second dress (pale bodies with a rim, thin lines), with a marker of its own for each of fourteen. Used by what
 // paints.
 #pragma once
 

@@ -39,6 +39,7 @@ ChartPlot::ChartPlot(QWidget *parent) :
     plotLayout()->clear();
     plotLayout()->setRowSpacing(4);
     setNoAntialiasingOnDrag(false);
+    setPlottingHint(QCP::phFastPolylines); // a wide line as a whole costs many times its pieces
     connect(this, &QCustomPlot::afterLayout, this, [this] { fit(); });
 }
 

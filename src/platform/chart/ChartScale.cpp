@@ -68,7 +68,10 @@ void setRange(ChartBand &band, const ChartData &data, ChartShape shape)
         high = std::max(high, 0.0);
     }
     const double size = std::max(std::abs(low), std::abs(high));
-    const double room = high - low > size * 1e-9 ? (high - low) * 0.06 : size > 0 ? size * 0.1 : 1;
+    // A marker is higher than its point.
+    const double room = high - low > size * 1e-9 ? (high - low) * (standsOnZero ? 0.06 : 0.1)
+                        : size > 0               ? size * 0.1
+                                                 : 1;
     band.low = low == 0 ? 0 : low - room;
     band.high = high == 0 ? 0 : high + room;
     if (band.low == band.high)
