@@ -106,7 +106,11 @@ void frm_WaterGraph::arrange()
     column->addWidget(makeRule());
     column->addWidget(Chart1, 1);
     column->addLayout(bottom);
+    setTabOrder(tanklistbox, Chart1);
+    setTabOrder(Chart1, cmd_Previous);
+    setTabOrder(cmd_Previous, cmd_Next);
     setFocusProxy(tanklistbox);
+    Chart1->setAccessibleName(windowTitle());
     resize(900, 560);
 }
 

@@ -7,7 +7,9 @@
 
 #include "common/CalendarControls.h"
 #include "common/frm_Caltool.h"
+#include "graph/frm_WaterGraph.h"
 #include "logbook/frm_WaterAddEdit.h"
+#include "platform/chart/Chart.h"
 #include "platform/MaskedBox.h"
 #include "shell/frm_OMKOptions.h"
 #include "tanks/frm_TankAddNew.h"
@@ -173,6 +175,17 @@ TEST_P(FirstDay, EndsAsItIsFoundInTheMorning)
     });
     hand::clickTank(*logbook, "Nan's Reef", Qt::RightButton);
     clickEntry(*main->mnu_tankPopup, "mnu_TankProperties");
+    EXPECT_TRUE(isInFront(*main));
+
+    hand::clickTank(*logbook, "Nan's Reef");
+    keeper.g().options.GraphChecks = "1000000000010";
+    hand::click<QToolButton>(*logbook, "graphentries");
+    Chart &chart = *Form<frm_WaterGraph>().Chart1;
+    QStringList drawn; // from the oldest on, and month first whatever his order
+    for (int row = 1; row <= chart.RowCount(); ++row)
+        drawn << chart.tip(chart.place(row, 1).center()).replace('\n', ' ');
+    EXPECT_EQ(drawn.join(u'|'), "3/25 ph: 8.7|4/5 ph: 8.25|12/11 ph: 10");
+    EXPECT_EQ(chart.tip(chart.place(3, 2).center()), "12/11\nIron: 0.02");
     EXPECT_EQ(keeper.told(), "0");
 }
 

@@ -258,6 +258,8 @@ TEST(Chart, CtrlAndTheMouseTurnAChartWithDepthAlone)
         chart.setTitleText("T");
         chart.setTitleText("");
         EXPECT_EQ(chart.picture(), turned) << "drawn anew, it stays turned";
+        QTest::keyClick(&chart, Qt::Key_Right, Qt::ControlModifier);
+        EXPECT_EQ(chart.picture() != turned, turned != before);
     }
 }
 

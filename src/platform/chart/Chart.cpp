@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
 
 #include "platform/chart/ChartPlot.h"
@@ -13,6 +14,8 @@ namespace {
 
 constexpr double paperWidth = 1000; // pixels that a chart on paper counts across
 constexpr double fullTurn = 300;    // pixels from straight on to the far side
+constexpr double keyTurn = 20;      // pixels that an arrow key stands for
+constexpr int frame = 1;            // around the plot, seen when the chart has the focus
 
 ChartTurn turnedBy(const ChartTurn &turn, const QPointF &moved)
 {
@@ -132,13 +135,14 @@ void Chart::paintOn(QPainter &painter, const QSizeF &size) const
 QRectF Chart::place(int row, int column) const
 {
     drawNow();
-    return m_plot->place(row - 1, column - 1);
+    const QRectF onPlot = m_plot->place(row - 1, column - 1);
+    return onPlot.isNull() ? onPlot : onPlot.translated(m_plot->pos());
 }
 
 QString Chart::tip(const QPointF &place) const
 {
     drawNow();
-    const ChartCell cell = m_plot->cellAt(place);
+    const ChartCell cell = m_plot->cellAt(place - m_plot->pos());
     if (!cell)
         return {};
     return m_data.rowLabels.at(cell.row) + u'\n' + m_data.columnLabels.at(cell.column) + QStringLiteral(": ") +
@@ -163,28 +167,44 @@ bool Chart::event(QEvent *event)
     return QWidget::event(event);
 }
 
-void Chart::resizeEvent(QResizeEvent *) { m_plot->setGeometry(rect()); }
+void Chart::resizeEvent(QResizeEvent *) { m_plot->setGeometry(rect().adjusted(frame, frame, -frame, -frame)); }
 
-void Chart::turn(const QPointF &pointer)
+void Chart::paintEvent(QPaintEvent *)
 {
-    if (m_turned) {
-        m_plot->setTurn(turnedBy(m_plot->turn(), pointer - *m_turned));
-        m_plot->replot(QCustomPlot::rpQueuedReplot);
-    }
-    m_turned = pointer;
+    QPainter painter(this);
+    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Base));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Chart::turnBy(const QPointF &moved)
+{
+    m_plot->setTurn(turnedBy(m_plot->turn(), moved));
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Chart::mouseMoveEvent(QMouseEvent *event)
 {
     const bool turns = ChartKindOf(m_type).depth && event->modifiers().testFlag(Qt::ControlModifier);
-    if (turns) {
-        turn(event->position());
+    if (turns && m_turned)
+        turnBy(event->position() - *m_turned);
+    if (turns && !m_turned)
         setCursor(Qt::SizeAllCursor);
-    } else if (m_turned) {
-        m_turned.reset();
+    if (!turns && m_turned)
         unsetCursor();
-    }
+    m_turned = turns ? std::optional(event->position()) : std::nullopt;
     QWidget::mouseMoveEvent(event);
+}
+
+void Chart::keyPressEvent(QKeyEvent *event)
+{
+    const bool across = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    const bool along = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (!ChartKindOf(m_type).depth || !event->modifiers().testFlag(Qt::ControlModifier) || (!across && !along)) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const double step = event->key() == Qt::Key_Left || event->key() == Qt::Key_Up ? -keyTurn : keyTurn;
+    turnBy(across ? QPointF(step, 0) : QPointF(0, step));
 }
 
 void Chart::mouseReleaseEvent(QMouseEvent *event) { emit MouseUp(event->button(), event->globalPosition().toPoint()); }

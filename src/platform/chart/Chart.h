@@ -1,6 +1,7 @@
 // The chart control: a grid of cells that is filled through a selected row and column, drawn as one of twelve types.
-// Holding Ctrl and moving the mouse turns a chart with depth; a tool tip tells the row, the column and the value under
-// the pointer. The picture is drawn anew once, when the event loop comes round, however many cells were written.
+// Moving the mouse with Ctrl held, or an arrow key, turns a chart with depth; a tool tip tells the row, the column and
+// the value under the pointer. The picture is drawn anew once, when the event loop comes round, however many cells were
+// written.
 #pragma once
 
 #include <optional>
@@ -54,6 +55,8 @@ signals:
 protected:
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -64,7 +67,7 @@ private:
     void changed();
     void drawNow() const;
     void dressForPaper(ChartPlot &plot) const;
-    void turn(const QPointF &pointer);
+    void turnBy(const QPointF &moved);
 
     ChartData m_data;
     int m_type = 1;
