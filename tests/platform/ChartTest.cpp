@@ -79,11 +79,13 @@ TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
 {
     for (const int type : allTypes)
         for (const auto &[rows, columns] : {std::pair{1, 1}, {2, 13}, {20, 1}, {20, 13}})
-            for (const QSize size : {QSize(700, 500), QSize(150, 110)}) {
+            for (const QSize size : {QSize(700, 500), QSize(150, 110), QSize(150, 600)}) {
                 SCOPED_TRACE(QStringLiteral("type %1, %2 x %3").arg(type).arg(rows).arg(columns).toStdString());
                 auto cells = wave(rows, columns);
                 cells.back().back() = rows > 1 ? "" : "5";
                 ShownChart chart(type, cells, size);
+                chart.setTitleText("Ostrelmark Graph for a tank with quite a long name");
+                chart.setColumnLabel(QString(99, 'W')); // of the last
                 EXPECT_GT(painted(chart.picture(), size.width() / 2.0, size.width() / 2.0 - 1, 0), 3);
                 for (int row = 1; row <= rows; ++row)
                     for (int column = 1; column <= columns; ++column) {

@@ -9,6 +9,7 @@ constexpr double labelHeights = 1.5; // what a label of a value takes with the g
 constexpr double mostTicks = 6;
 constexpr int sampleWidth = 20;
 constexpr int sampleGap = 5;
+constexpr int widestEntry = 180; // pixels of a legend's text
 constexpr double markerSize = 7;
 
 } // namespace
@@ -96,7 +97,8 @@ void ChartSample::draw(QCPPainter &painter, const QRectF &place) const
 }
 
 ChartLegendItem::ChartLegendItem(QCPLegend *legend, const ChartSample &sample, const QString &text) :
-    QCPAbstractLegendItem(legend), m_sample(sample), m_text(text)
+    QCPAbstractLegendItem(legend), m_sample(sample),
+    m_text(QFontMetrics(legend->font()).elidedText(text, Qt::ElideRight, widestEntry))
 {
     setFont(legend->font());
     setTextColor(legend->textColor());

@@ -61,8 +61,9 @@ void ChartPlot::build(const ChartData &data, int chartType, const QString &title
     m_font = inPixels(font());
     m_away = {};
     setBackground(QBrush(colours.paper));
+    m_titleText = title;
     if (!title.isEmpty())
-        addTitle(title);
+        addTitle();
     if (m_kind.shape == ChartShape::Pie) {
         addPie();
     } else {
@@ -75,13 +76,13 @@ void ChartPlot::build(const ChartData &data, int chartType, const QString &title
     addLegend();
 }
 
-void ChartPlot::addTitle(const QString &title)
+void ChartPlot::addTitle()
 {
     QFont bold = inPixels(font(), 1.25);
     bold.setBold(true);
-    auto *element = new QCPTextElement(this, title, bold);
-    element->setTextColor(m_colours.ink);
-    plotLayout()->addElement(plotLayout()->rowCount(), 0, element);
+    m_title = new QCPTextElement(this, m_titleText, bold);
+    m_title->setTextColor(m_colours.ink);
+    plotLayout()->addElement(plotLayout()->rowCount(), 0, m_title);
 }
 
 void ChartPlot::addPie()
@@ -212,11 +213,23 @@ void ChartPlot::fit()
         return;
     const QScopedValueRollback<bool> once(m_fitting, true);
     for (int pass = 0; pass < 3; ++pass) {
-        const bool legend = fitLegend(), depth = fitDepth(), labels = fitLabels();
-        if (!legend && !depth && !labels)
+        const bool title = fitTitle(), legend = fitLegend(), depth = fitDepth(), labels = fitLabels();
+        if (!title && !legend && !depth && !labels)
             return;
         updateLayout();
     }
+}
+
+/// No wider than the picture, which it would widen.
+bool ChartPlot::fitTitle()
+{
+    if (!m_title)
+        return false;
+    const QString text = QFontMetrics(m_title->font())
+                             .elidedText(m_titleText, Qt::ElideRight, std::max(0, viewport().width() - 4 * edge));
+    const bool changed = text != m_title->text();
+    m_title->setText(text);
+    return changed;
 }
 
 /// As many entries in a line as the width holds; no legend where it would leave the chart no room.
@@ -238,7 +251,8 @@ bool ChartPlot::fitLegend()
     // What is left over stands to the right of them.
     m_legend->setMargins(QMargins(2 * edge, 0, 2 * edge + std::max(0, room - wrap * entry), 4));
     const int lines = (count + wrap - 1) / wrap;
-    const bool fits = lines * (height + m_legend->rowSpacing()) <= viewport().height() * legendShare;
+    const bool fits = widest + 4 * edge <= viewport().width() &&
+                      lines * (height + m_legend->rowSpacing()) <= viewport().height() * legendShare;
     bool changed = false;
     if (fits != !m_hiddenLegend) {
         changed = true;

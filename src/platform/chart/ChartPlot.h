@@ -43,7 +43,7 @@ public:
 
 private:
     void clear();
-    void addTitle(const QString &title);
+    void addTitle();
     void addPie();
     void addBand(const ChartBand &band, bool isLast);
     void dress(QCPAxisRect &rect);
@@ -52,6 +52,7 @@ private:
     void addLegend();
 
     void fit();
+    bool fitTitle();
     bool fitLegend();
     double depth() const;
     bool fitDepth();
@@ -62,6 +63,8 @@ private:
     ChartColours m_colours;
     ChartTurn m_turn;
     QFont m_font;
+    QString m_titleText;
+    QPointer<QCPTextElement> m_title;
     QCPMarginGroup *m_margins;
     QSharedPointer<ChartRowTicker> m_rows;
     std::vector<ChartBandView> m_bands;
