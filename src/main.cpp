@@ -1,16 +1,25 @@
-#include <QDir>
+#include <cstdio>
 
 #include "platform/Application.h"
 #include "platform/DesktopDoors.h"
+#include "platform/Files.h"
 #include "platform/Guarded.h"
+#include "shell/CommandLine.h"
 #include "shell/Forms.h"
 #include "shell/frm_OMKMDIMain.h"
+#include "shell/KeepersFolder.h"
 
 int main(int argc, char **argv)
 {
+    const CommandLine line = ReadCommandLine({argv + 1, argv + argc});
+    if (line.status) {
+        std::fputs(qPrintable(line.text), *line.status == 0 ? stdout : stderr);
+        return *line.status;
+    }
     Application application(argc, argv);
     DesktopDoors doors;
     Doors::install(&doors);
+    KeepersFolder folder; // the last to go: the database is closed before another program comes in
     Globals globals;
     Forms forms(globals);
     setEndHook([&globals] {
@@ -18,6 +27,8 @@ int main(int argc, char **argv)
             globals.gDatabase->Close();
     });
     try {
+        if (!folder.open(line.folder.isEmpty() ? KeepersFolder::usual() : line.folder, DataFolder()))
+            return 1;
         Form<frm_OMKMDIMain>().MDIForm_Load();
     } catch (const RuntimeFailure &failure) {
         endWithFailure(failure);

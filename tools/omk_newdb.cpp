@@ -1,5 +1,5 @@
-// omk_newdb FILE: writes an empty database. Run once by the installer or the start script; a file that is there is left
-// as it is.
+// omk_newdb FILE: writes an empty database by hand, as the program does at its first start; a file that is there is
+// left as it is.
 #include <cstdio>
 
 #include <QCoreApplication>

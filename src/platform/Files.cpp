@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -13,4 +14,9 @@ QString FindFile(const QString &fileName)
         if (name.compare(exact.fileName(), Qt::CaseInsensitive) == 0 && QFileInfo(folder, name).isFile())
             return folder.absoluteFilePath(name);
     return {};
+}
+
+QString DataFolder()
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(OMK_DATA_FROM_BIN));
 }

@@ -1,5 +1,5 @@
-// Writes an empty database file of the present version: the tables, the one row of CONFIG and the word list. Called by
-// the program that the installer and the start script use, and by tests.
+// Writes an empty database file of the present version: the tables, the one row of CONFIG and the word list. Called at
+// the first start in a folder, by omk_newdb, and by tests.
 #pragma once
 
 #include <QString>

@@ -1,0 +1,18 @@
+// The command line: a folder, or a question that is answered at once. main() reads it before anything of the desktop is
+// touched, so that the answers come without a display as well.
+#pragma once
+
+#include <optional>
+#include <span>
+
+#include <QString>
+
+struct CommandLine
+{
+    QString folder;            ///< as given; empty: the keeper's usual one
+    std::optional<int> status; ///< there is nothing more to do: the status to end with
+    QString text;              ///< to be printed then: on stdout where the status is 0, else on stderr
+};
+
+/// Of the arguments after the program's name. A wrong one gives status 2 and a line that says so.
+CommandLine ReadCommandLine(std::span<char *const> arguments);
