@@ -1,8 +1,9 @@
-# What Ostrelmark is built with, from the distribution's packages, and the way to have it. Sourced by run and test.
+# What Ostrelmark is built with, from the distribution's packages, and the way to have it. Sourced by run, test and packaging/deb.
 # Nothing is asked or fetched when everything is there.
 
 build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlite3-dev libqcustomplot-dev fonts-liberation"
 test_packages="libgtest-dev libgmock-dev"
+package_packages="dpkg-dev file lintian desktop-file-utils appstream"
 
 # install_missing PACKAGE ...: as root, or through sudo.
 install_missing() {
