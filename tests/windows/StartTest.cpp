@@ -1,0 +1,126 @@
+#include <gmock/gmock.h>
+
+#include "Keeper.h"
+#include "shell/CommandLine.h"
+#include "shell/KeepersFolder.h"
+
+namespace {
+
+struct LineRow
+{
+    std::vector<std::string> arguments;
+    std::optional<int> status;
+    const char *folder;
+    const char *printed; ///< a part of it
+};
+
+const LineRow lineRows[] = {
+    {{}, {}, "", ""},
+    {{"Größe/x y"}, {}, "Größe/x y", ""},
+    {{"-platform", "offscreen", "a"}, {}, "a", ""}, // the toolkit's, whose value is no folder
+    {{"-session", "--version"}, {}, "", ""},
+    {{"--", "--help"}, {}, "--help", ""},
+    {{"a", "--version"}, 0, "", "Ostrelmark 2."},
+    {{"--help", "--bogus"}, 0, "", "Usage: ostrelmark [FOLDER]"},
+    {{"--bogus"}, 2, "", "no option \"--bogus\""},
+    {{"-"}, 2, "", "no option"},
+    {{"a", "b"}, 2, "", "more than one folder"},
+    {{""}, 2, "", "empty"},
+};
+
+void write(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+/// Where the program is started, with the data of its installation; puts the current directory back.
+struct Place
+{
+    Place()
+    {
+        QDir(top.path()).mkdir("data");
+        for (const char *name : {"data/NAMESSW.TXT", "data/NAMESFW.TXT"})
+            write(path(name), "ours");
+    }
+    ~Place() { QDir::setCurrent(former); }
+    QString path(const QString &name) const { return top.filePath(name); }
+    bool open(KeepersFolder &folder, const QString &name = "keeper/logbook")
+    {
+        return folder.open(path(name), path("data"));
+    }
+
+    const QTemporaryDir top;
+    const QString former = QDir::currentPath();
+    ScriptedDoors doors;
+};
+
+} // namespace
+
+TEST(Start, CommandLine)
+{
+    for (const LineRow &row : lineRows) {
+        SCOPED_TRACE(::testing::PrintToString(row.arguments));
+        std::vector<std::string> arguments = row.arguments;
+        std::vector<char *> raw;
+        for (std::string &argument : arguments)
+            raw.push_back(argument.data());
+        const CommandLine line = ReadCommandLine(raw);
+        EXPECT_EQ(line.status, row.status);
+        EXPECT_EQ(line.folder.toStdString(), row.folder);
+        EXPECT_THAT(line.text.toStdString(), ::testing::HasSubstr(row.printed));
+    }
+}
+
+TEST(Start, FirstStartMakesTheFolderAndTheNextOverwritesNothing)
+{
+    Place place;
+    {
+        KeepersFolder folder;
+        ASSERT_TRUE(place.open(folder));
+        EXPECT_EQ(QDir::currentPath(), place.path("keeper/logbook"));
+        EXPECT_EQ(QDir().entryList(QDir::Files), QStringList({"NAMESFW.TXT", "NAMESSW.TXT", "OM.MDB"}));
+        Database::OpenDatabase("OM.MDB")->Execute("INSERT INTO TANKLST (tankname, tankid) VALUES ('Reef', 'R')");
+    }
+    QFile::rename("OM.MDB", "Om.Mdb");
+    QFile::rename("NAMESSW.TXT", "namessw.txt");
+    write("namessw.txt", "the keeper's");
+    QFile::remove("NAMESFW.TXT");
+    KeepersFolder folder;
+    ASSERT_TRUE(place.open(folder));
+    EXPECT_EQ(QDir().entryList(QDir::Files), QStringList({"NAMESFW.TXT", "namessw.txt", "Om.Mdb"}));
+    EXPECT_EQ(QFileInfo("namessw.txt").size(), 12);
+    EXPECT_FALSE(Database::OpenDatabase("OM.MDB")->OpenRecordset("SELECT * FROM TANKLST").EOF_());
+}
+
+TEST(Start, TheSecondOnAFolderSaysSoAndMakesNothing)
+{
+    Place place;
+    KeepersFolder second, elsewhere;
+    {
+        KeepersFolder first;
+        ASSERT_TRUE(place.open(first));
+        QFile::remove("OM.MDB");
+        EXPECT_FALSE(place.open(second));
+        EXPECT_THAT(place.doors.takeText().toStdString(),
+                    ::testing::HasSubstr(place.path("keeper/logbook").toStdString()));
+        EXPECT_FALSE(QFile::exists("OM.MDB"));
+        EXPECT_TRUE(place.open(elsewhere, "other"));
+    }
+    KeepersFolder third;
+    EXPECT_TRUE(place.open(third));
+    EXPECT_TRUE(place.doors.boxes.empty());
+}
+
+TEST(Start, WhatCannotBeMadeFails)
+{
+    Place place;
+    write(place.path("letter"), "Dear ...");
+    KeepersFolder folder;
+    EXPECT_THROW(place.open(folder, "letter/logbook"), RuntimeFailure);
+    // The database was lost, and its journal is not to be played into an empty one.
+    QDir(place.top.path()).mkdir("lost");
+    write(place.path("lost/om.mdb-journal"), "pages");
+    EXPECT_TRUE(place.open(folder, "lost"));
+    EXPECT_FALSE(QFile::exists("OM.MDB"));
+}
