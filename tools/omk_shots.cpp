@@ -76,12 +76,12 @@ int main(int argc, char **argv)
     main.MDIForm_Load();
     playTanks(album);
     main.CheckTanks();
+    playReminders(album, main);
     playLogbook(album, main, globals);
     auto &logbook = Form<frm_Waterlog>();
     playLivestock(album, logbook);
     playMaintenance(album, logbook, doors.clock);
     playPrinting(album, logbook);
-    playReminders(album, main);
     playDiagnosis(album, main);
     playCompatibility(album, main);
     playFantasyTank(album, main);
