@@ -89,9 +89,10 @@ std::optional<double> valueOf(const Scanned &number)
     if (e != std::string::npos) {
         const bool fits = std::from_chars(begin + e + 1, end, exponent).ec == std::errc();
         if (!fits)
-            exponent = number.plain[e + 1] == '-' ? -1'000'000'000 : 1'000'000'000;
+            exponent =
+                number.plain[e + 1] == '-' ? std::numeric_limits<qint64>::min() : std::numeric_limits<qint64>::max();
     }
-    if (exponent + number.leading < 0)
+    if (exponent < -number.leading)
         return 0.0;
     return std::nullopt;
 }
