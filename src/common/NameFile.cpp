@@ -25,7 +25,8 @@ QString readAll(const QString &fileName)
         throw RuntimeFailure(Failure::PermissionDenied,
                              QStringLiteral("The name file \"%1\" cannot be read.").arg(fileName));
     const QByteArray bytes = file.readAll();
-    QStringDecoder utf8(QStringDecoder::Utf8); // takes a byte order mark off
+    // Takes a byte order mark off. Stateless, it knows a letter that the end of the file cuts short for an error.
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = utf8(bytes);
     return utf8.hasError() ? QString::fromLatin1(bytes) : text;
 }

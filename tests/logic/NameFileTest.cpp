@@ -66,6 +66,7 @@ TEST(NameFile, CountsCharactersNotBytes)
     EXPECT_EQ(readBytes(umlaut.toUtf8()).names, QStringList(QString::fromUtf8("Fisch - Grüner ")));
     EXPECT_EQ(readBytes(umlaut.toLatin1()).names, QStringList(QString::fromUtf8("Fisch - Grüner ")));
     EXPECT_EQ(readBytes(umlaut.toLatin1()).latin, QStringList("Pisces viridis"));
+    EXPECT_EQ(readBytes(recordLine("Fish", "Pisces b\xe9")).latin, QStringList(QString::fromUtf8("Pisces bé")));
     EXPECT_EQ(readBytes(QString(QString::fromUtf8("ü").repeated(50)).toUtf8()).count, 0); // 100 bytes, 50 characters
 }
 
