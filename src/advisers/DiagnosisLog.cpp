@@ -35,8 +35,8 @@ void DiagnosisLog::AddAnswer(const QString &question, const QString &answer)
 void DiagnosisLog::putAdvice(const QString &advice)
 {
     // A line ends before a blank, which leads the next one. A last single character gets no line. A text of another
-    // window may hold a longer word: that is cut.
-    for (qsizetype at = 0; at + 1 < advice.size();) {
+    // window may hold a longer word: that is cut. It may also be longer than the log: the count then stops.
+    for (qsizetype at = 0; at + 1 < advice.size() && AnswerLogCount < slotCount;) {
         qsizetype width = lineWidth;
         while (width > 0 && at + width < advice.size() && advice.at(at + width) != u' ')
             --width;

@@ -105,9 +105,9 @@ TEST(Diagnosis, AdviceIsWrappedAtEightyCharactersAndAlwaysEnds)
     EXPECT_EQ(wrapped(a + ' ' + b + 'c').join('|'), a + "| " + b + 'c') << "81 do not";
     EXPECT_EQ(wrapped(a + ' ' + b + ' ').join('|'), a + ' ' + b) << "a last single character gets no line";
     EXPECT_EQ(wrapped(word).join('|'), QString(80, 'w') + '|' + QString(80, 'w') + '|' + QString(40, 'w'));
-    DiagnosisLog log; // two runs without a reset would pass the end
+    DiagnosisLog log; // two runs without a reset would pass the end, and a vast text that of the count's 16 bits
     for (int run = 0; run < 2; ++run)
-        log.AddDiagnosis("X", word.repeated(20));
+        log.AddDiagnosis("X", word.repeated(20'000));
     EXPECT_EQ(log.AnswerLogCount, 60);
 }
 
