@@ -21,12 +21,12 @@ QString SettingsStore::value(const QString &key, const QString &defaultValue) co
 
 void SettingsStore::setValue(const QString &key, const QString &value)
 {
-    QSettings file(m_settings.fileName(),
-                   QSettings::IniFormat); // of its own: a failure of the past stays in the status
+    QSettings file(m_settings.fileName(), QSettings::IniFormat);
     const QVariant former = file.value(path(key));
     file.setValue(path(key), value);
-    file.sync();
-    if (file.status() == QSettings::NoError)
+    // A status keeps the first failure: of the past, or of a line in the file that is no setting. So another object
+    // writes, as each does when it is made, and has a status of its own.
+    if (QSettings(m_settings.fileName(), QSettings::IniFormat).status() == QSettings::NoError)
         return;
     // What is not in the file must not be read back as if it were.
     former.isValid() ? file.setValue(path(key), former) : file.remove(path(key));
