@@ -7,6 +7,9 @@ if(OMK_SANITIZE)
     target_compile_options(omk_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(omk_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(OMK_FUZZ) # what the fuzzer steers by; a fuzz target links the fuzzer itself
+    target_compile_options(omk_options INTERFACE -fsanitize=fuzzer-no-link,float-cast-overflow -fno-sanitize-recover=float-cast-overflow)
+endif()
 
 # omk_library(NAME SOURCES ... LINK ...): one layer of the house. What it links is what it may include.
 function(omk_library name)

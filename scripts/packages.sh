@@ -2,7 +2,7 @@
 # Nothing is asked or fetched when everything is there.
 
 build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlite3-dev libqcustomplot-dev fonts-liberation"
-test_packages="libgtest-dev libgmock-dev"
+test_packages="libgtest-dev libgmock-dev clang libclang-rt-14-dev"
 package_packages="dpkg-dev file lintian desktop-file-utils appstream"
 
 # install_missing PACKAGE ...: as root, or through sudo.

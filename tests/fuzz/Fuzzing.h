@@ -1,0 +1,87 @@
+// What the fuzz targets share: the input taken apart, the doors with their clock, a folder in memory for the files that
+// a target reads, and the check that ends a run. A target says what must hold whatever the input is.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+
+#include "support/ScriptedDoors.h"
+
+/// Ends the process, so that libFuzzer keeps the input; `seen` is a text of what was found.
+#define FUZZ_REQUIRE(holds, seen)                                                                                      \
+    do {                                                                                                               \
+        if (!(holds)) {                                                                                                \
+            std::fprintf(stderr, "%s:%d: %s\n%s\n", __FILE__, __LINE__, #holds, qPrintable(QString(seen)));            \
+            std::abort();                                                                                              \
+        }                                                                                                              \
+    } while (false)
+
+/// Hands the input out from its front. Past its end there are empty lines and zeros.
+class Input
+{
+public:
+    Input(const std::uint8_t *data, std::size_t size) : m_rest(reinterpret_cast<const char *>(data), qsizetype(size)) {}
+
+    bool isEmpty() const { return m_rest.isEmpty(); }
+    /// Up to the next line feed, which is dropped.
+    QByteArrayView bytes()
+    {
+        const qsizetype end = m_rest.indexOf('\n');
+        const QByteArrayView line = end < 0 ? m_rest : m_rest.first(end);
+        m_rest = end < 0 ? QByteArrayView() : m_rest.sliced(end + 1);
+        return line;
+    }
+    QString line() { return QString::fromUtf8(bytes()); }
+    /// 0 to `count` - 1 of one byte; the digit "0" is 0, so that inputs can be read and written by hand.
+    int choice(int count)
+    {
+        const auto byte = number(1);
+        return int(std::uint8_t(byte - '0')) % count;
+    }
+    /// A number of that many bytes, the highest first.
+    std::uint32_t number(int length)
+    {
+        std::uint32_t value = 0;
+        for (; length > 0 && !m_rest.isEmpty(); --length, m_rest = m_rest.sliced(1))
+            value = value << 8 | std::uint8_t(m_rest.front());
+        return value;
+    }
+    QByteArray rest() { return std::exchange(m_rest, {}).toByteArray(); }
+
+private:
+    QByteArrayView m_rest;
+};
+
+/// Installed at the first call, and there until the end.
+inline ScriptedDoors &fuzzDoors()
+{
+    static ScriptedDoors doors;
+    return doors;
+}
+
+/// Path of a file in a folder that goes with the process; in memory where the system has a place for that.
+inline QString scratchPath(const QString &name)
+{
+    static const QTemporaryDir memory(QStringLiteral("/dev/shm/omk_fuzz-XXXXXX"));
+    static const QTemporaryDir disk;
+    return (memory.isValid() ? memory : disk).filePath(name);
+}
+
+inline void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    FUZZ_REQUIRE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(), path);
+}
+
+inline QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    FUZZ_REQUIRE(file.open(QIODevice::ReadOnly), path);
+    return file.readAll();
+}

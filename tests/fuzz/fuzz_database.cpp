@@ -1,0 +1,172 @@
+// A database file with damaged bytes and pages: it is opened, read and written, or refused with a failure that says so.
+// A refusal leaves the file as it was. The input is a list of damages.
+#include <QFileInfo>
+
+#include "Fuzzing.h"
+#include "platform/RuntimeFailure.h"
+#include "reminders/RecurrenceRule.h"
+#include "store/Database.h"
+#include "store/NewDatabase.h"
+#include "store/schema.h"
+#include "store/Version.h"
+
+namespace {
+
+constexpr qsizetype pageSize = 4096;
+
+/// A file with pages of each kind: leaves, inner pages, and those that a long text goes on over.
+QByteArray makeWholeFile()
+{
+    const QString path = scratchPath(QStringLiteral("WHOLE.MDB"));
+    CreateDatabase(path);
+    const auto database = Database::OpenDatabase(path);
+    Database::Transaction transaction(*database);
+    const QString note(60, u'n');
+    const auto add = [&](const char *table, const char *columns, const char *marks, const Parameters &values) {
+        database->Execute(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                              .arg(QLatin1String(table), QLatin1String(columns), QLatin1String(marks)),
+                          values);
+    };
+    for (int i = 0; i < 120; ++i) {
+        const QDate day = QDate(2003, 1, 1).addDays(i);
+        const QString tank = QString::number(i % 2);
+        add("WATERLOG", "tankname, logdate, logtime, ph, Comment", "?, ?, ?, ?, ?",
+            {tank, day, QTime(9, 0), 8.1, note});
+        if (i % 4 != 0)
+            continue;
+        add("LIVESTOCK", "tankname, dateadded, timeadded, animalname, quantity", "?, ?, ?, 'Tang', 1",
+            {tank, day, QTime(9, 0)});
+        add("MAINTSCHED", "SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype", "?, ?, ?, 1, 0",
+            {QStringLiteral("Task %1").arg(i), day, day.addDays(30)});
+    }
+    add("TANKLST", "tankname, tankid, tanknotes", "'Tank', '0', ?",
+        {QString(3 * pageSize, u'n')}); // over several pages
+    transaction.commit();
+    database->Close();
+    return readFile(path);
+}
+
+/// One damage of eight bytes: what it is, where, and with what.
+void damage(QByteArray &file, Input &input)
+{
+    const int kind = input.choice(5);
+    const qsizetype place = input.number(3), at = place % file.size(), page = place % (file.size() / pageSize);
+    const std::uint32_t with = input.number(4);
+    char *bytes = file.data();
+    switch (kind) {
+    case 0: bytes[at] = char(with); break;
+    case 1:
+        for (qsizetype i = 0; i < 4 && at + i < file.size(); ++i)
+            bytes[at + i] = char(with >> (24 - 8 * i));
+        break;
+    case 2: bytes[page * pageSize + with % 128] = char(with >> 8); break; // its header and its first pointers
+    case 3: std::copy_n(bytes + with % (file.size() / pageSize) * pageSize, pageSize, bytes + page * pageSize); break;
+    case 4: file.truncate(std::max<qsizetype>(at, pageSize)); break;
+    }
+}
+
+/// Does the work, which may fail with a RuntimeFailure and with nothing else; true if it did not.
+template <class Work> bool attempt(Work work)
+{
+    try {
+        work();
+        return true;
+    } catch (const RuntimeFailure &failure) {
+        FUZZ_REQUIRE(!failure.description().isEmpty(), QStringLiteral("a failure without words"));
+        return false;
+    }
+}
+
+void readTable(Database &database, const QString &table)
+{
+    const QString sql = u"SELECT * FROM " + table;
+    const Recordset set = database.OpenRecordset(sql);
+    const auto rows = set.rows();
+    for (qsizetype row = 0; row < rows->count(); ++row)
+        for (int c = 0; c < rows->columns(); ++c) {
+            const Value value = rows->value(row, c);
+            FUZZ_REQUIRE(value.isNull() == rows->isNull(row, c) && rows->text(row, c) == value.text(), value.text());
+            const QDate date = rows->date(row, c);
+            FUZZ_REQUIRE(!date.isValid() || (date.year() >= 1 && date.year() <= 9999), value.text());
+            rows->number(row, c);
+            rows->time(row, c);
+        }
+    qsizetype count = 0;
+    for (RowStream stream = database.OpenForwardOnly(sql); !stream.EOF_(); stream.MoveNext())
+        ++count;
+    FUZZ_REQUIRE(count == set.RecordCount(), table);
+}
+
+void readReminders(Database &database)
+{
+    Recordset set = database.OpenRecordset(QStringLiteral("SELECT * FROM maintsched"));
+    for (const RecurrenceRule &rule : ReadRules(*set.rows())) {
+        FUZZ_REQUIRE(ReadRule(set) == rule, rule.TaskDescription);
+        set.MoveNext();
+    }
+}
+
+/// A refused row stays in progress; one that was written is counted.
+void writeWater(Database &database)
+{
+    Recordset set = database.OpenRecordset(QStringLiteral("SELECT * FROM waterlog"));
+    set.AddNew();
+    set[QStringLiteral("tankname")].setValue(QStringLiteral("new"));
+    set[QStringLiteral("logdate")].setValue(QDate(2004, 2, 29));
+    const bool added = attempt([&set] { set.Update(); });
+    FUZZ_REQUIRE(set.isEditing() != added, QStringLiteral("after adding"));
+    if (set.isEmpty())
+        return;
+    const qsizetype before = set.RecordCount();
+    set.MoveFirst();
+    set.Edit();
+    set[QStringLiteral("Comment")].setValue(QString(5000, u'c'));
+    const bool changed = attempt([&set] { set.Update(); });
+    FUZZ_REQUIRE(set.isEditing() != changed, QStringLiteral("after changing"));
+    const bool deleted = attempt([&set] { set.Delete(); });
+    FUZZ_REQUIRE(set.RecordCount() == before - deleted, QStringLiteral("after deleting"));
+    set.FindFirst(QStringLiteral("tankname = ?"), {QStringLiteral("new")});
+}
+
+void use(Database &database)
+{
+    for (const schema::Table &table : schema::tables()) {
+        const QString name = QLatin1String(table.name);
+        attempt([&] { readTable(database, name); });
+        attempt([&] { database.Fields(name); });
+    }
+    attempt([&] { ReadDatabaseVersion(database); });
+    attempt([&] { readReminders(database); });
+    attempt([&] { writeWater(database); });
+    attempt([&] {
+        Database::Transaction transaction(database);
+        database.Execute(QStringLiteral("DELETE FROM WATERLOG WHERE tankname = '1'"));
+        database.Execute(QStringLiteral("DELETE FROM LIVESTOCK WHERE tankname = '1'"));
+        transaction.commit();
+    });
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    fuzzDoors();
+    static const QByteArray whole = makeWholeFile();
+    static const QString path = scratchPath(QStringLiteral("OM.MDB"));
+    Input input(data, size);
+    QByteArray file = whole;
+    while (!input.isEmpty())
+        damage(file, input);
+    writeFile(path, file);
+
+    std::unique_ptr<Database> database;
+    if (attempt([&] { database = Database::OpenDatabase(path); })) {
+        use(*database);
+        database->Close();
+    } else {
+        FUZZ_REQUIRE(file != whole && readFile(path) == file, QStringLiteral("a refused file was changed"));
+    }
+    for (const char *suffix : {"-journal", "-wal", "-shm"})
+        FUZZ_REQUIRE(!QFileInfo::exists(path + QLatin1String(suffix)), QLatin1String(suffix));
+    return 0;
+}

@@ -1,0 +1,55 @@
+// Any bytes as a name file.
+#include "common/NameFile.h"
+#include "Fuzzing.h"
+
+namespace {
+
+/// Bytes that are UTF-8 are read as that, all others as Latin-1: no letter is dropped or made another.
+QString lettersOf(const QByteArray &bytes)
+{
+    const QString text = QString::fromUtf8(bytes);
+    const QByteArray withoutMark = bytes.startsWith("\xef\xbb\xbf") ? bytes.sliced(3) : bytes;
+    return text.toUtf8() == withoutMark ? text : QString::fromLatin1(bytes);
+}
+
+void checkTurnedAbout(const QString &name)
+{
+    const QString turned = TurnAbout(name);
+    const qsizetype blank = name.lastIndexOf(u' ');
+    FUZZ_REQUIRE(turned.size() == name.size() + (blank < 0 ? 0 : 3), name);
+    FUZZ_REQUIRE(turned.startsWith(QStringView(name).mid(blank + 1)), name);
+    FUZZ_REQUIRE(turned.endsWith(QStringView(name).first(blank + 1)), name);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    Input input(data, size);
+    const bool many = input.choice(256) == 1; // so many that the progress begins anew
+    const QByteArray bytes = many ? input.rest().repeated(64) : input.rest();
+    static const QString path = scratchPath(QStringLiteral("NAMES.TXT"));
+    writeFile(path, bytes);
+
+    QStringList wanted;
+    for (const QString &line : lettersOf(bytes).replace(u'\r', u'\n').split(u'\n'))
+        if (line.size() >= 51 && !line.startsWith(u'!'))
+            wanted << line;
+    QString progress;
+    qsizetype taken = 0, told = 0;
+    const int count = ReadNameFile(
+        path,
+        [&](const NameRecord &name) {
+            FUZZ_REQUIRE(taken < wanted.size(), QString::number(taken));
+            const QString line = wanted[taken++];
+            checkTurnedAbout(line.left(49).trimmed());
+            FUZZ_REQUIRE(name.common == TurnAbout(line.left(49).trimmed()), name.common);
+            FUZZ_REQUIRE(name.latin == line.mid(49).trimmed(), name.latin.toString());
+        },
+        [&](const QString &text) {
+            progress = text;
+            FUZZ_REQUIRE(++told == taken && text.startsWith(u"Loading.") && text.size() <= 8 + 100, text);
+        });
+    FUZZ_REQUIRE(count == wanted.size() && taken == count && told == count, QString::number(count));
+    return 0;
+}

@@ -1,0 +1,43 @@
+// Any bytes as the settings file: it is read, every setting is text, and what is written is read back.
+#include "Fuzzing.h"
+#include "platform/SettingsStore.h"
+
+namespace {
+
+const QString keys[] = {QStringLiteral("DateOrder"), QStringLiteral("DateDelimiter"), QStringLiteral("ShowTips"),
+                        QStringLiteral("TipNumber"), QStringLiteral("Caption 1")};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // Qt complains of odd values
+    Input input(data, size);
+    const QString key = keys[input.choice(int(std::size(keys)))];
+    const QString written = input.line();
+    static int files = 0; // a name for each: settings of the same name and age are not read again
+    const QString path = scratchPath(QStringLiteral("%1.ini").arg(++files));
+    writeFile(path, input.rest());
+
+    QStringList before;
+    {
+        const SettingsStore store(path);
+        for (const QString &k : keys)
+            before << store.value(k, QStringLiteral("default"));
+        FUZZ_REQUIRE(store.value(QStringLiteral("No such key"), QStringLiteral("default")) == u"default" ||
+                         readFile(path).contains("No"),
+                     path);
+    }
+    SettingsStore store(path);
+    store.setValue(key, written);
+    FUZZ_REQUIRE(store.value(key, QStringLiteral("default")) == written, written);
+    QFile::copy(path, path + u'2'); // under another name it comes from the file
+    const SettingsStore again(path + u'2');
+    for (std::size_t i = 0; i < std::size(keys); ++i) {
+        const QString now = again.value(keys[i], QStringLiteral("default"));
+        FUZZ_REQUIRE(now == (keys[i] == key ? written : before[qsizetype(i)]), keys[i] + u": " + now);
+    }
+    QFile::remove(path);
+    QFile::remove(path + u'2');
+    return 0;
+}
