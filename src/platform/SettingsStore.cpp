@@ -15,13 +15,16 @@ SettingsStore::SettingsStore(const QString &fileName) : m_settings(fileName, QSe
 QString SettingsStore::value(const QString &key, const QString &defaultValue) const
 {
     const QVariant stored = m_settings.value(path(key), defaultValue);
-    // A text with a comma that someone wrote by hand, without quotation marks, is read as a list.
-    return stored.typeId() == QMetaType::QStringList ? stored.toStringList().join(u", ") : stored.toString();
+    // A text with a comma that someone wrote by hand, without quotation marks, is read as a list; of variants where a
+    // part of it begins with "@".
+    const bool isList = stored.typeId() == QMetaType::QStringList || stored.typeId() == QMetaType::QVariantList;
+    return isList ? stored.toStringList().join(u", ") : stored.toString();
 }
 
 void SettingsStore::setValue(const QString &key, const QString &value)
 {
     QSettings file(m_settings.fileName(), QSettings::IniFormat);
+    file.allKeys(); // reads all sections
     const QVariant former = file.value(path(key));
     file.setValue(path(key), value);
     // A status keeps the first failure: of the past, or of a line in the file that is no setting. So another object

@@ -14,10 +14,12 @@ TEST(SettingsStore, ALineThatIsNoSettingKeepsNoneFromBeingReadOrStored)
     const QString path = folder.filePath("OMK.ini");
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[SETTINGS]\nDate_Order=DDMMYY\nno setting at all\n[Half a section\nDate_Delim=.\n");
+    file.write(
+        "nothing\n[SETTINGS]\nDate_Order=DDMMYY\nCustom1=@, b\nno setting at all\n[Half a section\nDate_Delim=.\n");
     file.close();
     SettingsStore settings(path);
     EXPECT_EQ(settings.value("Date_Order", "MMDDYY"), "DDMMYY");
+    EXPECT_EQ(settings.value("Custom1", ""), "@, b");
     EXPECT_NO_THROW(settings.setValue("Date_Order", "YYMMDD"));
     ASSERT_TRUE(QFile::copy(path, path + "2")); // by another name it is read anew
     EXPECT_EQ(SettingsStore(path + "2").value("Date_Order", "MMDDYY"), "YYMMDD");
