@@ -2,6 +2,8 @@
 #include <cmath>
 #include <limits>
 
+#include <QRegularExpression>
+
 #include "Fuzzing.h"
 #include "platform/RuntimeFailure.h"
 #include "store/Conversion.h"
@@ -16,6 +18,8 @@ void checkPlainText(double number)
 {
     const QString plain = PlainText(number);
     FUZZ_REQUIRE(IsNumeric(plain), plain);
+    static const QRegularExpression noDigit(QStringLiteral("^-?0*\\.?0*|\\.|E.*"));
+    FUZZ_REQUIRE(QString(plain).remove(noDigit).size() <= 15, plain);
     if (std::abs(number) > 1.797693134862315e308)
         return; // rounded up, the digits would be beyond a double
     const auto back = ReadNumber(plain);

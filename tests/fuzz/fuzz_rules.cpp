@@ -74,14 +74,17 @@ Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRang
     return walked;
 }
 
-/// None before the start; beyond the end one of each weekday, or one later in the year of the end; in order, but for
-/// the weekdays of a week.
+/// Those of a weekday of the month are on that day. None before the start; beyond the end one of each weekday, or one
+/// later in the year of the end; in order, but for the weekdays of a week.
 void checkPreview(const RecurrenceRule &rule, const Dates &dates)
 {
     if (rule.is(Pattern::Once)) {
         FUZZ_REQUIRE(dates.size() <= 1, inWords(rule));
         return;
     }
+    const bool byWeekday = (rule.is(Pattern::Monthly) || rule.is(Pattern::Yearly)) && rule.RecurrenceSubtype == 1;
+    for (const QDate &date : dates)
+        FUZZ_REQUIRE(!byWeekday || date.dayOfWeek() % 7 == rule.RecurrenceDetail[1].digitValue(), inWords(rule));
     const auto beyond = std::count_if(dates.begin(), dates.end(), [&](QDate d) { return d > rule.EndDate; });
     const bool ascending = std::adjacent_find(dates.begin(), dates.end(), std::greater_equal<>()) == dates.end();
     FUZZ_REQUIRE(std::all_of(dates.begin(), dates.end(), [&](QDate d) { return d >= rule.StartDate; }), inWords(rule));
