@@ -1,6 +1,8 @@
-// Answers and advice of any length on the log of a diagnosis.
+// Answers and advice of any length on the log of a diagnosis, and its sheet.
 #include "advisers/DiagnosisLog.h"
+#include "advisers/DiagnosisSheet.h"
 #include "Fuzzing.h"
+#include "platform/Printer.h"
 
 namespace {
 
@@ -17,6 +19,31 @@ void checkAdvice(const DiagnosisLog &log, int slot, const QString &advice)
         at += line.size();
         FUZZ_REQUIRE(at >= advice.size() || advice[at] == u' ' || line.size() == lineWidth, line);
     }
+}
+
+QString letters(const QString &text)
+{
+    QString kept = text;
+    return kept.removeIf([](QChar c) { return c.isSpace(); });
+}
+
+/// Every letter of the log stands on the sheet, in order and within the width of the page.
+void checkSheet(const DiagnosisLog &log, DiagnosisWindow window)
+{
+    std::vector<PrintedDocument> documents;
+    RecordedPages pages(documents);
+    Printer page(pages, {});
+    MakeDiagnosisSheet(log, window).print(page);
+    FUZZ_REQUIRE(documents.size() == 1 && documents[0].ended, QString::number(documents.size()));
+    QString printed, wanted;
+    for (const PrintedPage &made : documents[0].pages)
+        for (const PrintedText &text : made.texts) {
+            FUZZ_REQUIRE(text.x >= -0.5 && text.right <= page.ScaleWidth() + 0.5, text.text);
+            printed += letters(text.text);
+        }
+    for (int slot = 2; slot <= log.AnswerLogCount; ++slot)
+        wanted += letters(log.AnswerLog[std::size_t(slot)]);
+    FUZZ_REQUIRE(printed.contains(wanted), printed + u" has not " + wanted);
 }
 
 } // namespace
@@ -39,6 +66,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         if (slot + 2 < DiagnosisLog::slotCount)
             FUZZ_REQUIRE(log.AnswerLog[std::size_t(slot + 2)] == u"DIAGNOSIS: " + name, name);
         checkAdvice(log, slot + 4, advice);
+        for (const DiagnosisWindow window : {DiagnosisWindow::Wizard, DiagnosisWindow::OwnWindow})
+            checkSheet(log, window);
     }
     return 0;
 }
