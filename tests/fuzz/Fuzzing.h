@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include <QByteArray>
 #include <QFile>
@@ -30,20 +31,15 @@ public:
 
     bool isEmpty() const { return m_rest.isEmpty(); }
     /// Up to the next line feed, which is dropped.
-    QByteArrayView bytes()
+    QString line()
     {
         const qsizetype end = m_rest.indexOf('\n');
         const QByteArrayView line = end < 0 ? m_rest : m_rest.first(end);
         m_rest = end < 0 ? QByteArrayView() : m_rest.sliced(end + 1);
-        return line;
+        return QString::fromUtf8(line);
     }
-    QString line() { return QString::fromUtf8(bytes()); }
     /// 0 to `count` - 1 of one byte; the digit "0" is 0, so that inputs can be read and written by hand.
-    int choice(int count)
-    {
-        const auto byte = number(1);
-        return int(std::uint8_t(byte - '0')) % count;
-    }
+    int choice(int count) { return std::uint8_t(number(1) - '0') % count; }
     /// A number of that many bytes, the highest first.
     std::uint32_t number(int length)
     {

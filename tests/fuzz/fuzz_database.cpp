@@ -46,7 +46,7 @@ QByteArray makeWholeFile()
     return readFile(path);
 }
 
-/// One damage of eight bytes: what it is, where, and with what.
+/// Eight bytes of the input are one damage: of what kind, where, and with what.
 void damage(QByteArray &file, Input &input)
 {
     const int kind = input.choice(5);
