@@ -18,81 +18,41 @@ QStringList lopsidedPairs(WaterKind water, int count)
     return pairs;
 }
 
-/// Numbers of the salt animals that are so.
-std::vector<int> saltAnimals(const std::function<bool(const AnimalRow &)> &condition)
-{
-    std::vector<int> numbers;
-    for (int number = 1; number <= saltAnimalCount; ++number)
-        if (condition(SaltAnimals[size_t(number)]))
-            numbers.push_back(number);
-    return numbers;
-}
-
 } // namespace
 
-TEST(AnimalTables, OfTheSea)
+TEST(AnimalTables, DifferByWhoIsAskedInThesePairsAlone)
 {
-    using Numbers = std::vector<int>;
-    const auto own = [](const AnimalRow &row) { return row.CompatLetters[size_t(row.Number) - 1]; };
-    EXPECT_EQ(lopsidedPairs(WaterKind::Salt, saltAnimalCount), QStringList({"2-13", "12-30"}));
-    EXPECT_EQ(saltAnimals([&](const AnimalRow &row) { return own(row) != 'Y'; }), Numbers{2});
-    EXPECT_EQ(saltAnimals([](const AnimalRow &row) { return std::ranges::count(row.CompatLetters, 'Y') == 1; }),
-              Numbers({11, 14, 23, 27, 33}));
-    // A size stands behind 26 characters in the first nine rows, behind 25 in the others; three are not the usual ones.
-    const auto sizeAt = [](const AnimalRow &row) { return size_t(row.Number < 10 ? 26 : 25); };
-    EXPECT_EQ(saltAnimals([&](const AnimalRow &row) { return row.AnimalName.substr(sizeAt(row) + 1) != " in."; }),
-              Numbers{});
-    EXPECT_EQ(saltAnimals([&](const AnimalRow &row) { return row.AnimalName[sizeAt(row)] != '0' + row.TypicalSize; }),
-              Numbers({3, 9, 22}));
-}
-
-TEST(AnimalTables, OfFreshWaterFollowTheTemperaments)
-{
-    const std::string_view temperaments[] = {FreshAnimals[1].CompatLetters, FreshAnimals[2].CompatLetters,
-                                             FreshAnimals[4].CompatLetters};
-    const char *const rule[] = {"MMN", "NMM", "NMY"};
-    const auto temperament = [&](int number) {
-        return std::ranges::find(temperaments, FreshAnimals[size_t(number)].CompatLetters) - temperaments;
-    };
-    for (int one = 1; one <= freshAnimalCount; ++one) {
-        ASSERT_LT(temperament(one), 3) << one;
-        EXPECT_EQ(FreshAnimals[size_t(one)].KeepsOwnKind, '\0') << one;
-        for (int other = 1; other <= freshAnimalCount; ++other)
-            EXPECT_EQ(CompatLetter(WaterKind::Fresh, one, other), rule[temperament(one)][temperament(other)])
-                << one << ' ' << other;
-    }
     EXPECT_EQ(lopsidedPairs(WaterKind::Fresh, freshAnimalCount).size(), 144);
+    EXPECT_EQ(lopsidedPairs(WaterKind::Salt, saltAnimalCount), QStringList({"2-13", "12-30"}));
+    std::vector<int> notItsOwn, loners;
+    for (int number = 1; number <= saltAnimalCount; ++number) {
+        const auto &letters = SaltAnimals[size_t(number)].CompatLetters;
+        if (letters[size_t(number) - 1] != 'Y')
+            notItsOwn.push_back(number);
+        if (std::ranges::count(letters, 'Y') == 1)
+            loners.push_back(number);
+    }
+    EXPECT_EQ(notItsOwn, std::vector{2});
+    EXPECT_EQ(loners, std::vector({11, 14, 23, 27, 33}));
 }
 
 TEST(Compatibility, SortsTheFirst39AnimalsOfEitherTable)
 {
-    const CompatLists drums = SortAnimals(WaterKind::Salt, 11), danios = SortAnimals(WaterKind::Fresh, 50);
-    EXPECT_EQ(drums.compatible, QStringList("Drums/High Hats          3 in."));
-    EXPECT_EQ(drums.incompatible.size(), 38);
+    const CompatLists danios = SortAnimals(WaterKind::Fresh, 50);
     EXPECT_EQ((danios.compatible + danios.maybe + danios.incompatible).size(), 39);
     EXPECT_FALSE(danios.compatible.contains("Zebra Danios"));
-    int loners = 0;
-    for (int number = 1; number <= freshAnimalCount; ++number)
-        loners += SortAnimals(WaterKind::Fresh, number).compatible.isEmpty();
-    EXPECT_EQ(loners, 24);
 }
 
 TEST(FantasyPlan, HoldsByWaterFilterAndShape)
 {
-    const struct
-    {
-        double gallons;
-        WaterKind water;
-        bool wetDry, taller;
-        double holds;
-    } tanks[] = {{55, WaterKind::Salt, false, false, 27}, {55, WaterKind::Salt, true, true, 30},
-                 {55, WaterKind::Salt, false, true, 24},  {5, WaterKind::Salt, false, true, 2},
-                 {55, WaterKind::Fresh, true, false, 45}, {55, WaterKind::Fresh, true, true, 36}};
-    for (const auto &tank : tanks) {
+    const auto holds = [](double gallons, WaterKind water, bool wetDry, bool taller) {
         FantasyPlan plan;
-        plan.RecalcHolding(tank.gallons, tank.water, tank.wetDry, tank.taller);
-        EXPECT_EQ(plan.FantasyHolding, tank.holds);
-    }
+        plan.RecalcHolding(gallons, water, wetDry, taller);
+        return plan.FantasyHolding;
+    };
+    EXPECT_EQ(holds(55, WaterKind::Salt, true, true), 30);
+    EXPECT_EQ(holds(5, WaterKind::Salt, false, true), 2);
+    EXPECT_EQ(holds(55, WaterKind::Fresh, true, true), 36);
     FantasyPlan plan{.FantasyTank = {{15, 1, 1}}};
     plan.RecalcHolding(1, WaterKind::Salt, false, false); // holds nothing at all
     EXPECT_EQ(plan.FantasyPercent, 125);
@@ -100,32 +60,19 @@ TEST(FantasyPlan, HoldsByWaterFilterAndShape)
 
 TEST(FantasyPlan, WarnsOfWhatTheNewAnimalMeets)
 {
-    const struct
-    {
-        WaterKind water;
-        std::vector<int> before; ///< animals that are in the tank, and then how many of which one come
-        int animal;
-        double howMany;
-        const char *warnings; ///< own kind, maybe, not
-    } adds[] = {
-        {WaterKind::Salt, {}, 2, 1, "0||"},
-        {WaterKind::Salt, {}, 2, 2, "1|Angelfish (Full size), |"},
-        {WaterKind::Salt, {}, 2, 0.5, "0|Angelfish (Full size), |"},
-        {WaterKind::Salt, {13}, 2, 1, "0|Angelfish (Full size), |Filefish, "},
-        {WaterKind::Salt, {2}, 13, 2, "0||"}, // asked the other way round
-        {WaterKind::Salt, {15, 14, 15, 14}, 2, 1, "0|Gobies, Gobies, Angelfish (Full size), |Fingerfish, Fingerfish, "},
-        {WaterKind::Fresh, {48, 50, 31}, 44, 1, "0|Oscars, Snakeheads, |Tiger Barbs, Zebra Danios, "},
-        {WaterKind::Salt, {50}, 45, 3, "0||"}, // numbers of the other table
-    };
-    for (const auto &add : adds) {
-        SCOPED_TRACE(add.animal);
+    const auto warnings = [](WaterKind water, const std::vector<int> &before, int animal, double howMany) {
         FantasyPlan plan;
-        for (const int animal : add.before)
-            plan.FantasyTank.push_back({animal, 1, 1});
-        plan.SelectedAnimal = add.animal;
-        const AddWarnings warnings = plan.Add(add.water, add.howMany, 1);
-        EXPECT_EQ(QString(QString::number(warnings.crowdsOwnKind) + '|' + warnings.maybe + '|' + warnings.incompatible)
-                      .toStdString(),
-                  add.warnings);
-    }
+        for (const int present : before)
+            plan.FantasyTank.push_back({present, 1, 1});
+        plan.SelectedAnimal = animal;
+        const AddWarnings told = plan.Add(water, howMany, 1);
+        return QString(QString::number(told.crowdsOwnKind) + '|' + told.maybe + '|' + told.incompatible);
+    };
+    EXPECT_EQ(warnings(WaterKind::Salt, {}, 2, 2), "1|Angelfish (Full size), |");
+    EXPECT_EQ(warnings(WaterKind::Salt, {}, 2, 0.5), "0|Angelfish (Full size), |");
+    EXPECT_EQ(warnings(WaterKind::Salt, {15, 14, 15, 14}, 2, 1),
+              "0|Gobies, Gobies, Angelfish (Full size), |Fingerfish, Fingerfish, ");
+    EXPECT_EQ(warnings(WaterKind::Salt, {2}, 13, 2), "0||") << "asked the other way round";
+    EXPECT_EQ(warnings(WaterKind::Fresh, {48, 50, 31}, 44, 1), "0|Oscars, Snakeheads, |Tiger Barbs, Zebra Danios, ");
+    EXPECT_EQ(warnings(WaterKind::Salt, {50}, 45, 3), "0||") << "numbers of the other table";
 }

