@@ -38,207 +38,120 @@ EditorFields goodFields(Pattern pattern, bool secondVariant = false)
     return f;
 }
 
-using Change = void (*)(EditorFields &);
-
 } // namespace
 
-TEST(EditorFields, SentenceAndStoredForm)
+TEST(EditorFields, WhatIsNoNumberYetStandsInTheSentenceAndPlacesMakeTheDetail)
 {
     const ScriptedDoors doors;
-    const struct
-    {
-        Pattern pattern;
-        bool second;
-        const char *sentence;
-        int subtype, interval; // 7: what an earlier pattern left
-        const char *detail;
-    } cases[] = {
-        {Pattern::Daily, false, "Every 3 days.", 0, 3, "left"},
-        {Pattern::Daily, true, "Every Weekday (Mon, Tue, Wed, Thu, Fri).", 1, 3, "left"},
-        {Pattern::Weekly, false, "Every 2 week(s) on Mon, Wed.", 7, 2, "0101000"},
-        {Pattern::Monthly, false, "Day 15 of every 1 months.", 0, 1, "15"},
-        {Pattern::Monthly, true, "The Forth Monday of every 2 month(s).", 1, 2, "31"},
-        {Pattern::Yearly, false, "Every year on March 5.", 0, 5, "2"},
-        {Pattern::Yearly, true, "The Last Saturday of every December.", 1, 7, "4611"},
-        {Pattern::Once, false, "Only once on 07/04/26.", 7, 7, "07/04/26"},
-    };
-    for (const auto &row : cases) {
-        const EditorFields fields = goodFields(row.pattern, row.second);
-        EXPECT_EQ(fields.txt_EnglishDesc, row.sentence);
-        RecurrenceRule rule;
-        rule.RecurrenceInterval = rule.RecurrenceSubtype = 7;
-        rule.RecurrenceDetail = "left";
-        StoreRecurrence(fields, american, rule);
-        EXPECT_EQ(rule, (RecurrenceRule{"Feed", QDate(2026, 3, 14), QDate(2028, 3, 14), qint16(row.interval),
-                                        qint16(row.pattern), qint16(row.subtype), row.detail, row.sentence}))
-            << row.sentence << ' ' << rule.RecurrenceDetail.toStdString();
-    }
-    EditorFields noDay = goodFields(Pattern::Weekly);
-    noDay.chk_WeeklyDay = {};
-    noDay.txt_WeeklyWeeks = "1";
-    EXPECT_EQ(EnglishSentence(noDay), "Every 1 week(s) on .");
     EditorFields typing = goodFields(Pattern::Monthly);
     typing.txt_MonthlyDay = " 7%1";
     EXPECT_EQ(EnglishSentence(typing), "Day  7%1 of every 1 months.");
-    EditorFields march = goodFields(Pattern::Yearly, true);
-    march.cbo_YearlyXth = 1, march.cbo_YearlyWeekday = 2, march.cbo_YearlyMonth2 = 2;
     RecurrenceRule rule;
-    StoreRecurrence(march, american, rule);
-    EXPECT_EQ(rule.RecurrenceDetail, "1202");
+    rule.RecurrenceInterval = 7; // left by an earlier pattern, and not this one's
+    StoreRecurrence(goodFields(Pattern::Yearly, true), american, rule);
+    EXPECT_EQ(rule.RecurrenceDetail, "4611");
+    EXPECT_EQ(rule.RecurrenceInterval, 7);
 }
 
-TEST(EditorFields, RefusalsAndTheirLimits)
+TEST(EditorFields, RefusalsComeInTheirOrder)
+{
+    const ScriptedDoors doors;
+    EditorFields f = goodFields(Pattern::Daily);
+    const auto expectRefused = [&f](const char *message, const char *control) {
+        const auto fault = EditFault(f, american).value_or(EditorComplaint{});
+        EXPECT_EQ(fault.text, message);
+        EXPECT_EQ(fault.control, control) << message;
+    };
+    f.txt_endDate.text = "03/15/26";
+    expectRefused("", "");
+    f.txt_DailyDays = "0";
+    f.txt_endDate.text = f.txt_StartDate.text;
+    expectRefused("Your End Date must be greater than your Start date for recurring reminders.", "txt_endDate");
+    f.txt_endDate.text = "__/__/__";
+    expectRefused("Please enter a valid date to end your recurring reminders.", "txt_endDate");
+    f.txt_StartDate.text = "02/29/27";
+    expectRefused("Please enter a valid date from which to begin your reminders.", "txt_StartDate");
+    f.txt_TaskDescription = "";
+    expectRefused("You must enter a description for this reminder.", "txt_TaskDescription");
+    f = goodFields(Pattern::Once);
+    f.txt_OnceDate.text = "31/12/26";
+    expectRefused("Please enter a valid date, or choose one with the calendar.", "txt_OnceDate");
+}
+
+TEST(EditorFields, NumbersAreRefusedAndLessStrictlyPreviewed)
 {
     const ScriptedDoors doors;
     const char *const day = "When choosing the same day of the every month, the day must be between 1 and 28.";
     const char *const months = "The number of months must be greater than 0.";
-    const char *const yearly = "Please enter a valid combination of Month and Day (Sorry No February 29ths here).";
-    const char *const later = "Your End Date must be greater than your Start date for recurring reminders.";
+    const char *const weeks = "The number of weeks must be greater than 0.";
     const char *const days = "Enter the number of days apart you wish to schedule this reminder.";
-    const char *const once = "Please enter a valid date, or choose one with the calendar.";
+    const char *const yearly = "Please enter a valid combination of Month and Day (Sorry No February 29ths here).";
+    using Fields = EditorFields;
     const struct
     {
         Pattern pattern;
         bool second;
-        Change change;
-        const char *message; // empty: it passes
-        const char *control;
+        QString Fields::*box;
+        const char *name, *text, *message; // empty: it passes
+        bool previewed;
     } cases[] = {
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_TaskDescription = "", f.txt_StartDate.text = ""; },
-         "You must enter a description for this reminder.", "txt_TaskDescription"},
-        {Pattern::Once, false, [](EditorFields &f) { f.txt_StartDate.text = "02/29/27", f.txt_endDate.text = ""; },
-         "Please enter a valid date from which to begin your reminders.", "txt_StartDate"},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_endDate.text = "__/__/__", f.txt_DailyDays = "0"; },
-         "Please enter a valid date to end your recurring reminders.", "txt_endDate"},
-        {Pattern::Once, false, [](EditorFields &f) { f.txt_endDate.text = f.txt_StartDate.text; }, later,
-         "txt_endDate"},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_endDate.text = "03/15/26"; }, "", ""},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_DailyDays = "abc"; }, days, "txt_DailyDays"},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_DailyDays = "-3"; }, days, "txt_DailyDays"},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_DailyDays = "0.4"; }, days, "txt_DailyDays"},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_DailyDays = "40000"; }, days, "txt_DailyDays"},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_DailyDays = "1,000"; }, "", ""},
-        {Pattern::Daily, true, [](EditorFields &f) { f.txt_DailyDays = "0"; }, "", ""},
-        {Pattern::Weekly, false, [](EditorFields &f) { f.txt_WeeklyWeeks = "0", f.chk_WeeklyDay = {}; },
-         "The number of weeks must be greater than 0.", "txt_WeeklyWeeks"},
-        {Pattern::Weekly, false, [](EditorFields &f) { f.chk_WeeklyDay = {}; },
-         "Check the days of the week on which you wish to schedule this reminder.", "chk_WeeklyDay_0"},
-        {Pattern::Monthly, false, [](EditorFields &f) { f.txt_MonthlyDay = "0"; }, day, "txt_MonthlyDay"},
-        {Pattern::Monthly, false, [](EditorFields &f) { f.txt_MonthlyDay = "29"; }, day, "txt_MonthlyDay"},
-        {Pattern::Monthly, false, [](EditorFields &f) { f.txt_MonthlyDay = "28", f.txt_MonthlyNumofMonths2 = "0"; }, "",
-         ""},
-        {Pattern::Monthly, false, [](EditorFields &f) { f.txt_MonthlyNumofMonths = ""; }, months,
-         "txt_MonthlyNumofMonths"},
-        {Pattern::Monthly, true, [](EditorFields &f) { f.cbo_MonthlyXth = -1; }, "Choose a frequency from the list.",
-         "cbo_MonthlyXth"},
-        {Pattern::Monthly, true, [](EditorFields &f) { f.cbo_MonthlyWeekday = -1; }, "Choose a weekday from the list.",
-         "cbo_MonthlyWeekday"},
-        {Pattern::Monthly, true, [](EditorFields &f) { f.txt_MonthlyNumofMonths2 = "0"; }, months,
-         "txt_MonthlyNumofMonths2"},
-        {Pattern::Monthly, true, [](EditorFields &f) { f.txt_MonthlyDay = "31", f.txt_MonthlyNumofMonths = "0"; }, "",
-         ""},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = -1; }, "Choose a month.", "cbo_YearlyMonth"},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = 0, f.txt_YearlyDay = "31"; }, yearly,
-         "txt_YearlyDay"},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = 0, f.txt_YearlyDay = "30"; }, "", ""},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = 1, f.txt_YearlyDay = "29"; }, yearly,
-         "txt_YearlyDay"},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = 1, f.txt_YearlyDay = "28"; }, "", ""},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.txt_YearlyDay = "5x"; }, yearly, "txt_YearlyDay"},
-        {Pattern::Yearly, true, [](EditorFields &f) { f.cbo_YearlyXth = -1; }, "Choose a frequency from the list.",
-         "cbo_YearlyXth"},
-        {Pattern::Yearly, true, [](EditorFields &f) { f.cbo_YearlyWeekday = -1; }, "Choose a weekday from the list.",
-         "cbo_YearlyWeekday"},
-        {Pattern::Yearly, true, [](EditorFields &f) { f.cbo_YearlyMonth2 = -1; }, "Choose a Month from the list.",
-         "cbo_YearlyMonth2"},
-        {Pattern::Yearly, true, [](EditorFields &f) { f.txt_YearlyDay = "31"; }, "", ""},
-        {Pattern::Once, false, [](EditorFields &f) { f.txt_OnceDate.text = "31/12/26"; }, once, "txt_OnceDate"},
-        {Pattern::Once, false, [](EditorFields &f) { f.txt_DailyDays = f.txt_WeeklyWeeks = "0"; }, "", ""},
+        {Pattern::Daily, false, &Fields::txt_DailyDays, "txt_DailyDays", "0.4", days, false},
+        {Pattern::Daily, false, &Fields::txt_DailyDays, "txt_DailyDays", "40000", days, false},
+        {Pattern::Daily, false, &Fields::txt_DailyDays, "txt_DailyDays", "1,000", "", true},
+        {Pattern::Daily, true, &Fields::txt_DailyDays, "", "0", "", true},
+        {Pattern::Weekly, false, &Fields::txt_WeeklyWeeks, "txt_WeeklyWeeks", "0", weeks, false},
+        {Pattern::Monthly, false, &Fields::txt_MonthlyDay, "txt_MonthlyDay", "0", day, false},
+        {Pattern::Monthly, false, &Fields::txt_MonthlyDay, "txt_MonthlyDay", "29", day, true},
+        {Pattern::Monthly, false, &Fields::txt_MonthlyNumofMonths, "txt_MonthlyNumofMonths", "0", months, false},
+        {Pattern::Monthly, true, &Fields::txt_MonthlyNumofMonths2, "txt_MonthlyNumofMonths2", "0", months, false},
+        {Pattern::Monthly, true, &Fields::txt_MonthlyDay, "", "31", "", true},
+        {Pattern::Yearly, false, &Fields::txt_YearlyDay, "txt_YearlyDay", "32", yearly, false},
+        {Pattern::Yearly, false, &Fields::txt_YearlyDay, "txt_YearlyDay", "5x", yearly, true},
+        {Pattern::Yearly, true, &Fields::txt_YearlyDay, "", "31", "", true},
     };
     for (const auto &row : cases) {
+        SCOPED_TRACE(std::string(row.name) + ' ' + row.text);
         EditorFields fields = goodFields(row.pattern, row.second);
-        EXPECT_FALSE(EditFault(fields, american));
-        row.change(fields);
+        fields.*row.box = row.text;
         const auto fault = EditFault(fields, american).value_or(EditorComplaint{});
         EXPECT_EQ(fault.text, row.message);
-        EXPECT_EQ(fault.control, row.control) << row.message;
-        EXPECT_EQ(fault.title, *row.message ? "Oops" : "");
-    }
-}
-
-TEST(EditorFields, PreviewNeedsNoTaskAndTellsWhatKeepsItFromDates)
-{
-    const ScriptedDoors doors;
-    const struct
-    {
-        Pattern pattern;
-        bool second;
-        Change change;
-        const char *control; // empty: there are dates
-        const char *first;
-    } cases[] = {
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_TaskDescription = ""; }, "", "2026-03-14"},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_StartDate.text = ""; }, "txt_StartDate", ""},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_endDate.text = ""; }, "txt_endDate", ""},
-        {Pattern::Daily, false, [](EditorFields &f) { f.txt_DailyDays = "0"; }, "txt_DailyDays", ""},
-        {Pattern::Daily, true, [](EditorFields &f) { f.txt_DailyDays = "0"; }, "", "2026-03-16"},
-        {Pattern::Weekly, false, [](EditorFields &f) { f.txt_WeeklyWeeks = "0"; }, "txt_WeeklyWeeks", ""},
-        {Pattern::Monthly, false, [](EditorFields &f) { f.txt_MonthlyDay = "29"; }, "", "2026-03-29"},
-        {Pattern::Monthly, false, [](EditorFields &f) { f.txt_MonthlyDay = "32"; }, "txt_MonthlyDay", ""},
-        {Pattern::Monthly, false, [](EditorFields &f) { f.txt_MonthlyNumofMonths = "0"; }, "txt_MonthlyNumofMonths",
-         ""},
-        {Pattern::Monthly, true, [](EditorFields &f) { f.cbo_MonthlyXth = -1; }, "cbo_MonthlyXth", ""},
-        {Pattern::Monthly, true, [](EditorFields &f) { f.cbo_MonthlyWeekday = -1; }, "cbo_MonthlyWeekday", ""},
-        {Pattern::Monthly, true, [](EditorFields &f) { f.txt_MonthlyNumofMonths2 = "0"; }, "txt_MonthlyNumofMonths2",
-         ""},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = 0; }, "", "2027-01-05"},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = -1; }, "cbo_YearlyMonth", ""},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.txt_YearlyDay = "32"; }, "txt_YearlyDay", ""},
-        {Pattern::Yearly, false, [](EditorFields &f) { f.cbo_YearlyMonth = 1, f.txt_YearlyDay = "30"; },
-         "txt_YearlyDay", ""},
-        {Pattern::Yearly, true, [](EditorFields &f) { f.cbo_YearlyXth = -1; }, "cbo_YearlyXth", ""},
-        {Pattern::Yearly, true, [](EditorFields &f) { f.cbo_YearlyWeekday = -1; }, "cbo_YearlyWeekday", ""},
-        {Pattern::Yearly, true, [](EditorFields &f) { f.cbo_YearlyMonth2 = -1; }, "cbo_YearlyMonth2", ""},
-        {Pattern::Once, false, [](EditorFields &f) { f.txt_StartDate.text = ""; }, "", "2026-07-04"},
-        {Pattern::Once, false, [](EditorFields &f) { f.txt_OnceDate.text = "31/12/26"; }, "txt_OnceDate", ""},
-    };
-    for (const auto &row : cases) {
-        EditorFields fields = goodFields(row.pattern, row.second);
-        row.change(fields);
+        EXPECT_EQ(fault.control, *row.message ? row.name : "");
         const RulePreview preview = MakePreview(fields, american);
-        const auto complaint = preview.complaint.value_or(EditorComplaint{});
-        EXPECT_EQ(complaint.control, row.control);
-        EXPECT_EQ(complaint.text.isEmpty(), *row.control == 0) << row.control;
-        EXPECT_EQ(preview.dates.empty() ? "" : preview.dates[0].toString(Qt::ISODate), row.first) << row.control;
+        EXPECT_EQ(preview.dates.empty(), !row.previewed);
+        EXPECT_EQ(preview.complaint.value_or(EditorComplaint{}).control, row.previewed ? "" : row.name);
     }
-    EditorFields bad = goodFields(Pattern::Once);
-    bad.txt_OnceDate.text = "";
-    EXPECT_EQ(MakePreview(bad, american).complaint->text, "Enter a valid date to schedule your reminder");
-    EXPECT_EQ(MakePreview(bad, american).complaint->title, "Ooops!");
+    EditorFields last = goodFields(Pattern::Yearly);
+    for (const auto &[month, lastDay] : {std::pair{0, 30}, {1, 28}})
+        for (const int over : {0, 1}) {
+            last.cbo_YearlyMonth = month;
+            last.txt_YearlyDay = QString::number(lastDay + over);
+            EXPECT_EQ(EditFault(last, american).value_or(EditorComplaint{}).text, over ? yearly : "") << month;
+        }
 }
 
-TEST(EditorFields, OpenedAndStoredAgainARuleIsTheSameInEveryOrder)
+TEST(EditorFields, EachChoiceIsWanted)
 {
     const ScriptedDoors doors;
-    for (const DateConventions &dates : {american, german, japanese}) {
-        for (int pattern = 0; pattern <= 4; ++pattern)
-            for (const bool second : {false, true}) {
-                RecurrenceRule rule;
-                StoreRecurrence(goodFields(Pattern(pattern), second), american, rule);
-                rule.EndDate = QDate(2047, 2, 3); // two digits would mean 1947
-                rule.EnglishDescription = "A sentence that stands.";
-                EditorFields fields;
-                ShowRecurrence(rule, dates, fields);
-                EXPECT_EQ(fields.txt_EnglishDesc, rule.EnglishDescription);
-                EXPECT_FALSE(EditFault(fields, dates)) << pattern;
-                RecurrenceRule again = rule;
-                StoreRecurrence(fields, dates, again);
-                if (rule.is(Pattern::Once)) { // the text follows the order, the date does not
-                    EXPECT_EQ(ReadOnceDetail(again.RecurrenceDetail, dates.order), QDate(2026, 7, 4));
-                    again.RecurrenceDetail = rule.RecurrenceDetail;
-                }
-                EXPECT_EQ(again, rule) << pattern << ' ' << again.RecurrenceDetail.toStdString();
-            }
+    using Fields = EditorFields;
+    for (const auto &[box, name] : {std::pair{&Fields::cbo_MonthlyXth, "cbo_MonthlyXth"},
+                                    {&Fields::cbo_MonthlyWeekday, "cbo_MonthlyWeekday"},
+                                    {&Fields::cbo_YearlyMonth, "cbo_YearlyMonth"},
+                                    {&Fields::cbo_YearlyXth, "cbo_YearlyXth"},
+                                    {&Fields::cbo_YearlyWeekday, "cbo_YearlyWeekday"},
+                                    {&Fields::cbo_YearlyMonth2, "cbo_YearlyMonth2"}}) {
+        const bool monthly = QString(name).startsWith("cbo_Monthly");
+        Fields fields = goodFields(monthly ? Pattern::Monthly : Pattern::Yearly, box != &Fields::cbo_YearlyMonth);
+        EXPECT_FALSE(EditFault(fields, american) || MakePreview(fields, american).complaint) << name;
+        fields.*box = -1;
+        EXPECT_EQ(EditFault(fields, american).value_or(EditorComplaint{}).control, name);
+        EXPECT_EQ(MakePreview(fields, american).complaint.value_or(EditorComplaint{}).control, name);
+    }
+}
+
+TEST(EditorFields, AOnceDateIsTheSameDayInEveryOrderAndCentury)
+{
+    const ScriptedDoors doors;
+    for (const DateConventions &dates : {american, german, japanese})
         for (QDate day(2027, 1, 1); day.year() < 2041; day = day.addDays(day.year() < 2028 ? 1 : 97)) {
             EditorFields fields = goodFields(Pattern::Once);
             fields.txt_OnceDate = PutDate(day, dates); // as the calendar does
@@ -251,30 +164,27 @@ TEST(EditorFields, OpenedAndStoredAgainARuleIsTheSameInEveryOrder)
             StoreRecurrence(shown, dates, rule);
             ASSERT_EQ(ReadOnceDetail(rule.RecurrenceDetail, dates.order), day) << rule.RecurrenceDetail.toStdString();
         }
-    }
 }
 
 TEST(EditorFields, ShowsAnUpgradedRuleAndRefusesStrangeDetails)
 {
     const ScriptedDoors doors;
-    RecurrenceRule old{"Old", QDate(1997, 3, 1), QDate(1999, 3, 1), 3, 0, 0, {}, {}};
+    const QDate start(1997, 3, 1), end(2047, 3, 1); // two digits would mean 1947
+    RecurrenceRule old{"Old", start, end, 3, 0, 0, {}, {}};
     EditorFields fields = goodFields(Pattern::Once);
     ShowRecurrence(old, american, fields);
     EXPECT_EQ(fields.txt_DailyDays, "3");
     EXPECT_EQ(fields.txt_EnglishDesc, "Every 3 days.");
     EXPECT_EQ(fields.txt_OnceDate.text, "07/04/26") << "the other patterns keep what they have";
-
-    RecurrenceRule seventh{"Blank", old.StartDate, old.EndDate, 1, 2, 0, " 7", {}};
-    ShowRecurrence(seventh, american, fields);
+    StoreRecurrence(fields, american, old);
+    EXPECT_EQ(old.EndDate, end);
+    ShowRecurrence({"Blank", start, end, 1, 2, 0, " 7", {}}, american, fields);
     EXPECT_EQ(fields.txt_MonthlyDay, "7");
-
-    RecurrenceRule once{"Once", old.StartDate, old.EndDate, 1, 4, 0, "one day", {}};
-    ShowRecurrence(once, american, fields);
+    ShowRecurrence({"Once", start, end, 1, 4, 0, "one day", {}}, american, fields);
     EXPECT_EQ(EditFault(fields, american)->control, "txt_OnceDate");
-
-    for (const auto &[type, subtype, detail] : {std::tuple{2, 1, "51"}, {2, 1, "0"}, {3, 0, "12"}, {3, 1, "00"}}) {
-        const RecurrenceRule strange{"Strange",    old.StartDate,   old.EndDate, 1,
-                                     qint16(type), qint16(subtype), detail,      {}};
-        EXPECT_THROW(ShowRecurrence(strange, american, fields), RuntimeFailure) << detail;
-    }
+    for (const auto &[type, subtype, detail] : {std::tuple{2, 1, "51"}, {2, 1, "0"}, {3, 0, "12"}, {3, 1, "00"}})
+        EXPECT_THROW(
+            ShowRecurrence({"Strange", start, end, 1, qint16(type), qint16(subtype), detail, {}}, american, fields),
+            RuntimeFailure)
+            << detail;
 }

@@ -14,25 +14,21 @@ namespace {
 
 struct GoldenCase
 {
+    explicit GoldenCase(const QString &fileName)
+    {
+        QFile file(fileName);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        for (const QString &line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts))
+            if (line[0].isDigit())
+                dates << line;
+            else if (line[0] != '#')
+                words[line.section(' ', 0, 0)] = line.section(' ', 1);
+    }
+    QDate date(const QString &word) const { return QDate::fromString(words.value(word), Qt::ISODate); }
+
     QMap<QString, QString> words;
     QStringList dates;
-
-    QDate date(const QString &word) const { return QDate::fromString(words.value(word), Qt::ISODate); }
 };
-
-GoldenCase readGolden(const QString &fileName)
-{
-    GoldenCase golden;
-    QFile file(fileName);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    for (const QString &line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
-        if (line[0].isDigit())
-            golden.dates << line;
-        else if (line[0] != '#')
-            golden.words[line.section(' ', 0, 0)] = line.section(' ', 1);
-    }
-    return golden;
-}
 
 const QMap<QString, const OccurrenceRun *> runsByName{
     {"preview", &previewRun}, {"schedule", &scheduleRun}, {"upcoming", &upcomingRun}};
@@ -50,7 +46,7 @@ TEST(GoldenDates, EachFileGivesItsDatesInOrder)
     ASSERT_FALSE(files.isEmpty());
     for (const QFileInfo &file : files) {
         SCOPED_TRACE(file.fileName().toStdString());
-        const GoldenCase golden = readGolden(file.filePath());
+        const GoldenCase golden(file.filePath());
         ASSERT_TRUE(runsByName.contains(golden.words["run"]));
         RecurrenceRule rule;
         rule.StartDate = golden.date("start");

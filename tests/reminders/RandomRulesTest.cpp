@@ -62,9 +62,7 @@ private:
 
     void everyXDays()
     {
-        if (!moves())
-            return;
-        for (QDate d = r.StartDate; d <= r.EndDate; d = d.addDays(r.RecurrenceInterval))
+        for (QDate d = r.StartDate; moves() && d <= r.EndDate; d = d.addDays(r.RecurrenceInterval))
             emitDate(d);
     }
     void everyWeekday()
@@ -75,20 +73,15 @@ private:
     }
     void weekly()
     {
-        if (!moves())
-            return;
-        for (int i = 1; i <= 7; ++i) {
+        for (int i = 1; moves() && i <= 7; ++i) {
             if (r.RecurrenceDetail.mid(i - 1, 1) != "1")
                 continue;
             QDate d = r.StartDate;
             while (weekday(d) != i)
                 d = d.addDays(1);
             emitDate(d);
-            while (d <= r.EndDate) {
-                for (int week = 0; week < r.RecurrenceInterval; ++week)
-                    d = d.addDays(7);
-                emitDate(d);
-            }
+            while (d <= r.EndDate)
+                emitDate(d = d.addDays(7 * r.RecurrenceInterval));
         }
     }
     void monthlyDay()
@@ -202,13 +195,10 @@ private:
 
 std::string inWords(const RecurrenceRule &rule)
 {
-    return QString("%1 to %2, type %3.%4, interval %5, detail \"%6\"")
-        .arg(rule.StartDate.toString(Qt::ISODate), rule.EndDate.toString(Qt::ISODate))
-        .arg(rule.RecurrenceType)
-        .arg(rule.RecurrenceSubtype)
-        .arg(rule.RecurrenceInterval)
-        .arg(rule.RecurrenceDetail)
-        .toStdString();
+    QString words = rule.StartDate.toString(Qt::ISODate) + " to " + rule.EndDate.toString(Qt::ISODate) + ": ";
+    for (const int number : {rule.RecurrenceType, rule.RecurrenceSubtype, rule.RecurrenceInterval})
+        words += QString::number(number) + ' ';
+    return words.append(rule.RecurrenceDetail).toStdString();
 }
 
 } // namespace
