@@ -18,16 +18,7 @@ protected:
     void write(const QByteArray &bytes) { writeFile(path(), bytes); }
     QByteArray bytes() { return contentOf(folder.path())["OM.MDB"]; }
     void overwrite(qsizetype at, const QByteArray &with) { write(bytes().replace(at, with.size(), with)); }
-    void truncate(qsizetype size) { write(bytes().left(size)); }
     void sql(const char *statements) { ASSERT_NE(OtherProgram(path()).run(statements), "error"); }
-    /// Permission bits go, and come back, so that the folder can be removed.
-    void withoutWriteBits(const QString &what, const std::function<void()> &work)
-    {
-        const QByteArray name = QFile::encodeName(what);
-        ASSERT_EQ(::chmod(name.constData(), 0555), 0);
-        work();
-        ::chmod(name.constData(), 0755);
-    }
     /// Opening ends in that failure with that word in it, and no byte of the folder differs afterwards.
     void expectRefused(Failure number, const char *word, const char *what)
     {
@@ -52,13 +43,9 @@ TEST_F(DatabaseFileTest, ForeignAndDamagedFilesAreRefusedAndLeftAlone)
     } cases[] = {
         {"empty", [&] { write(""); }, "too short"},
         {"a text", [&] { write(QByteArray(5000, 'x')); }, "no database"},
-        {"first bytes lost", [&] { overwrite(0, QByteArray(16, '\0')); }, "no database"},
-        {"of another program", [&] { sql("PRAGMA application_id = 7"); }, "another program"},
-        {"of another program, with write-ahead log",
-         [&] { sql("PRAGMA application_id = 7; PRAGMA journal_mode = WAL"); }, "another"},
-        {"half of it", [&] { truncate(good.size() / 2); }, "damaged"},
-        {"last bytes lost", [&] { truncate(good.size() - 100); }, "end of the file"},
-        {"encoding", [&] { overwrite(56, QByteArray("\0\0\0\2", 4)); }, "damaged"},
+        {"of another program", [&] { sql("PRAGMA application_id = 7; PRAGMA journal_mode = WAL"); }, "another program"},
+        {"half of it", [&] { write(good.left(good.size() / 2)); }, "damaged"},
+        {"last bytes lost", [&] { write(good.left(good.size() - 100)); }, "end of the file"},
         {"page of the schema", [&] { overwrite(100, QByteArray(3000, '\xff')); }, "damaged"},
         {"a table missing", [&] { sql("DROP TABLE LIVESTOCK"); }, "LIVESTOCK"},
         {"no row of CONFIG", [&] { sql("DELETE FROM CONFIG"); }, "CONFIG"},
@@ -68,24 +55,20 @@ TEST_F(DatabaseFileTest, ForeignAndDamagedFilesAreRefusedAndLeftAlone)
         row.spoil();
         expectRefused(Failure::UnrecognizedFormat, row.word, row.what);
     }
-    write(good);
-    open();
-    EXPECT_EQ(count("CONFIG"), 1);
-}
-
-TEST_F(DatabaseFileTest, AMissingFileIsNamedAndNotMade)
-{
     ASSERT_TRUE(QFile::remove(path()));
     expectRefused(Failure::CouldNotFindFile, "OM.MDB", "missing");
     QDir(folder.path()).mkdir("OM.MDB");
     expectRefused(Failure::CouldNotFindFile, "OM.MDB", "a folder of that name");
-    EXPECT_EQ(numberOf([] { Database::OpenDatabase({}); }), int(Failure::CouldNotFindFile));
 }
 
 TEST_F(DatabaseFileTest, ReadOnlyFilesAndFoldersAreRefused)
 {
-    withoutWriteBits(path(), [&] { expectRefused(Failure::PermissionDenied, "read-only", "file"); });
-    withoutWriteBits(folder.path(), [&] { expectRefused(Failure::PermissionDenied, "read-only", "folder"); });
+    for (const QString &what : {path(), folder.path()}) {
+        const QByteArray name = QFile::encodeName(what);
+        ASSERT_EQ(::chmod(name.constData(), 0555), 0);
+        expectRefused(Failure::PermissionDenied, "read-only", name.constData());
+        ::chmod(name.constData(), 0755); // so that the folder can be removed
+    }
     open();
 }
 
