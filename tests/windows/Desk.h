@@ -132,19 +132,6 @@ protected:
         }
         EXPECT_EQ(told(0), "");
     }
-    /// Texts that are caught whichever way the box is left: for another box, by OK or by Enter.
-    void expectCaught(Window &w, MaskedBox &box, const std::vector<const char *> &bad, QWidget *other,
-                      const QString &words)
-    {
-        for (const char *text : bad)
-            for (const int way : {0, 1, 2}) {
-                hand::type(box, text);
-                way == 2 ? hand::press(Qt::Key_Return) : mouse::click(way == 0 ? other : w.cmd_OK);
-                EXPECT_EQ(told(1), words) << text << way;
-                EXPECT_TRUE(box.hasFocus() && w.isVisible()) << text << way;
-            }
-    }
-
     Keeper keeper;
     frm_OMKMDIMain *main;
     frm_Waterlog *logbook;
