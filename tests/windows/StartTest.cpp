@@ -16,14 +16,12 @@ struct LineRow
 
 const LineRow lineRows[] = {
     {{}, {}, "", ""},
-    {{"Größe/x y"}, {}, "Größe/x y", ""},
     {{"-platform", "offscreen", "a"}, {}, "a", ""}, // the toolkit's, whose value is no folder
     {{"-session", "--version"}, {}, "", ""},
     {{"--", "--help"}, {}, "--help", ""},
     {{"a", "--version"}, 0, "", "Ostrelmark 2."},
     {{"--help", "--bogus"}, 0, "", "Usage: ostrelmark [FOLDER]"},
     {{"--bogus"}, 2, "", "no option \"--bogus\""},
-    {{"-"}, 2, "", "no option"},
     {{"a", "b"}, 2, "", "more than one folder"},
     {{""}, 2, "", "empty"},
 };

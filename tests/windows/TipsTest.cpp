@@ -1,18 +1,10 @@
 // The tip of the day.
-#include <set>
-
 #include <QCheckBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "Hands.h"
 #include "shell/Tips.h"
-
-TEST(Tips, AreToldOnceAndStandAtTheirPlaces)
-{
-    EXPECT_EQ(std::set<std::string>(tips().begin(), tips().end()).size(), 94u);
-    EXPECT_STREQ(tips()[87 - 1], "You can have many of Ostrelmark's windows open at one time!");
-}
 
 TEST(Tips, NextDrawsAnotherAndTheBoxIsStoredAtOnce)
 {
@@ -26,7 +18,6 @@ TEST(Tips, NextDrawsAnotherAndTheBoxIsStoredAtOnce)
         std::deque<double> atNext;
         int loaded, next;
     } rows[] = {{0, {0.1}, 1, 8},
-                {0.9999, {0.9999}, 94, 81},
                 {0, {0}, 1, 1}, // a draw of 0 differs from 1, and becomes 1
                 {5.5 / 94, {6.5 / 82, 6.5 / 82, 0}, 6, 1}};
     for (const auto &row : rows) {
