@@ -3,7 +3,9 @@
 #include <map>
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPrintDialog>
@@ -13,7 +15,9 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 
+#include "platform/Files.h"
 #include "platform/Guarded.h"
+#include "platform/HelpViewer.h"
 #include "platform/PaintedPages.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"
@@ -190,6 +194,17 @@ void DesktopDoors::preview(const PreviewRequest &request)
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                      guarded([&request](QPrinter *pages) { request.print(*PagesOnPrinter(*pages)); }));
     dialog.exec();
+}
+
+bool DesktopDoors::showHelp(const HelpRequest &request)
+{
+    const QString file = QDir(DataFolder()).absoluteFilePath(QStringLiteral("ostrelmark.qch"));
+    if (!QFileInfo(file).isFile())
+        return false;
+    if (!m_help)
+        m_help = std::make_unique<HelpViewer>(file);
+    m_help->open(request);
+    return true;
 }
 
 QDateTime DesktopDoors::now() { return QDateTime::currentDateTime(); }

@@ -5,6 +5,8 @@
 
 #include "platform/Doors.h"
 
+class HelpViewer;
+
 class DesktopDoors : public Doors
 {
 public:
@@ -18,10 +20,12 @@ public:
     std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override;
     std::unique_ptr<PageSink> openPages(const PageTarget &target) override;
     void preview(const PreviewRequest &request) override;
+    bool showHelp(const HelpRequest &request) override;
     QDateTime now() override;
     double random() override;
     SettingsStore &settings() override { return *m_settings; }
 
 private:
     std::unique_ptr<SettingsStore> m_settings;
+    std::unique_ptr<HelpViewer> m_help; ///< once it was asked for
 };

@@ -1,5 +1,5 @@
-// The doors through which the program meets the world: boxes, beeps, file and print dialogs, the clock, random numbers
-// and the settings. Everything outside goes through here and nowhere else, so that a test can put a script in the place
+// The doors through which the program meets the world: boxes, beeps, file and print dialogs, the help, the clock,
+// random numbers and the settings. Everything outside goes through here and nowhere else, so that a test can put a script in the place
 // of the world. The desktop's own doors are in DesktopDoors.h; those of the tests in tests/support/ScriptedDoors.h.
 #pragma once
 
@@ -80,6 +80,13 @@ struct PreviewRequest
     std::function<void(PageSink &)> print;
 };
 
+struct HelpRequest
+{
+    enum class At { Contents, Search, Window };
+    At at = At::Contents;
+    QString window = {}; ///< objectName of the window whose page is wanted; one without a page gets the contents
+};
+
 class Doors
 {
 public:
@@ -95,6 +102,9 @@ public:
     virtual std::unique_ptr<PageSink> openPages(const PageTarget &target) = 0;
     /// Shows a document on the screen and waits until the keeper has closed it.
     virtual void preview(const PreviewRequest &request) = 0;
+    /// Opens the help beside whatever is in front, and does not wait. False where there is no help file; throws
+    /// RuntimeFailure where it cannot be shown.
+    virtual bool showHelp(const HelpRequest &request) = 0;
     virtual QDateTime now() = 0;
     /// A random number from 0 up to, and without, 1.
     virtual double random() = 0;

@@ -224,16 +224,6 @@ void frm_OMKMDIMain::fillWindowList()
     }
 }
 
-void frm_OMKMDIMain::showHelp()
-{
-    MsgBox(QStringLiteral("Unable to display Help Contents. There is no Help associated with this project."),
-           vbInformation, windowTitle());
-}
-
-void frm_OMKMDIMain::mnu_HelpContents_Click() { showHelp(); }
-
-void frm_OMKMDIMain::mnu_HelpSearch_Click() { showHelp(); }
-
 void frm_OMKMDIMain::mnu_HelpTod_Click() { Form<frm_OMKtod>().ShowTip(); }
 
 void frm_OMKMDIMain::mnu_HelpAbout_Click()

@@ -92,6 +92,7 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
     connect(m_area, &QMdiArea::subWindowActivated, this,
             guarded([this](QMdiSubWindow *window) { subWindowActivated(window); }));
     connect(mnu_Window, &QMenu::aboutToShow, this, [this] { fillWindowList(); });
+    qApp->installEventFilter(this);
     resize(1100, 740);
 }
 

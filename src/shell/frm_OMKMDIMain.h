@@ -12,6 +12,7 @@
 #include "shell/MainMenu.h"
 
 class ChildForm;
+struct HelpRequest;
 class QComboBox;
 class QLabel;
 class QMdiArea;
@@ -92,6 +93,8 @@ public:
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    /// F1, in whatever window of the program.
+    bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     void makeToolbar();
@@ -104,7 +107,9 @@ private:
     void showSplash();
     /// Whether the tip of the day is due, by the setting Show_Tips; writes it at the first run.
     bool tipIsDue();
-    void showHelp();
+    void showHelp(const HelpRequest &request);
+    /// Name of the form that the keeper is at: a dialog, the active child, or this window.
+    QString formInFront() const;
     /// What the keeper asked for with the database closed, and open again afterwards; tells how it went.
     void backUpTo(const QString &target);
 

@@ -83,4 +83,10 @@ void ScriptedDoors::preview(const PreviewRequest &request)
     request.print(pages);
 }
 
+bool ScriptedDoors::showHelp(const HelpRequest &request)
+{
+    helps.push_back(request);
+    return helpIsThere;
+}
+
 double ScriptedDoors::random() { return takeNext(randoms, 0.5); }

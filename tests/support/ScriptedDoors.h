@@ -31,6 +31,7 @@ public:
     std::deque<std::optional<PrintDialogAnswer>> printers;
     std::deque<bool> endAnswers; ///< of the next failure boxes: true for End; else Return
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
+    bool helpIsThere = true;
     std::deque<double> randoms;                              ///< else 0.5
     std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< what happens while a box is on the screen
 
@@ -41,6 +42,7 @@ public:
     std::vector<PrintDialogRequest> printDialogs;
     std::vector<PageTarget> targets;        ///< of the documents printed
     std::vector<PrintedDocument> documents; ///< printed, and previewed
+    std::vector<HelpRequest> helps;
     int previews = 0;
     int beeps = 0;
 
@@ -55,6 +57,7 @@ public:
     std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override;
     std::unique_ptr<PageSink> openPages(const PageTarget &target) override;
     void preview(const PreviewRequest &request) override;
+    bool showHelp(const HelpRequest &request) override;
     QDateTime now() override { return clock; }
     double random() override;
     SettingsStore &settings() override { return *m_settings; }

@@ -109,6 +109,23 @@ TEST(MainWindow, AFileThatCannotBeUsedStopsTheStartAndStaysAsItIs)
     }
 }
 
+TEST(MainWindow, TheEntriesOfTheHelpOpenItOrSayThatItIsMissing)
+{
+    Keeper keeper;
+    keeper.addTank("Reef", "1");
+    auto &main = keeper.startProgram();
+    keeper.doors.helpIsThere = false;
+    for (const char *entry : {"mnu_HelpContents", "mnu_HelpSearch"}) {
+        hand::choose(main, *main.mnu_Help, entry);
+        EXPECT_EQ(keeper.told(),
+                  "0| Ostrelmark 98/64/Unable to display Help Contents. There is no Help associated with "
+                  "this project.");
+    }
+    ASSERT_EQ(keeper.doors.helps.size(), 2U);
+    EXPECT_TRUE(keeper.doors.helps[0].at == HelpRequest::At::Contents);
+    EXPECT_TRUE(keeper.doors.helps[1].at == HelpRequest::At::Search);
+}
+
 TEST(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
 {
     Keeper keeper;

@@ -1,0 +1,47 @@
+// The help, as the main window opens it: at its contents, at its search, or, by F1, at the page of the window in front.
+#include <QApplication>
+#include <QKeyEvent>
+
+#include "platform/Doors.h"
+#include "platform/Guarded.h"
+#include "platform/RuntimeFailure.h"
+#include "shell/ChildForm.h"
+#include "shell/frm_OMKMDIMain.h"
+
+void frm_OMKMDIMain::showHelp(const HelpRequest &request)
+{
+    try {
+        if (!Doors::current().showHelp(request))
+            MsgBox(QStringLiteral("Unable to display Help Contents. There is no Help associated with this project."),
+                   vbInformation, windowTitle());
+    } catch (const RuntimeFailure &failure) {
+        MsgBox(failure.description(), vbOKOnly, windowTitle());
+    }
+}
+
+void frm_OMKMDIMain::mnu_HelpContents_Click() { showHelp({HelpRequest::At::Contents}); }
+
+void frm_OMKMDIMain::mnu_HelpSearch_Click() { showHelp({HelpRequest::At::Search}); }
+
+QString frm_OMKMDIMain::formInFront() const
+{
+    // A box or a file dialog is no form: its page is that of the form that it stands over.
+    for (const QWidget *window = QApplication::activeWindow(); window; window = window->parentWidget()) {
+        if (window == this)
+            return m_activeChild ? m_activeChild->objectName() : objectName();
+        if (window->objectName().startsWith(u"frm_"))
+            return window->objectName();
+    }
+    return {};
+}
+
+bool frm_OMKMDIMain::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || !object->isWidgetType())
+        return false;
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier || key->isAutoRepeat())
+        return false;
+    guarded([this] { showHelp({HelpRequest::At::Window, formInFront()}); })();
+    return true;
+}
