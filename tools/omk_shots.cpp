@@ -24,6 +24,7 @@ void goDark()
         palette.setColor(role, QColor(0xe6, 0xe6, 0xe6));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x83, 0x88));
+    palette.setColor(QPalette::Link, QColor(0x5c, 0xb8, 0xd0));
     palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xa0));
     QApplication::setPalette(palette);
 }
