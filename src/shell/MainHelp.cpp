@@ -42,6 +42,8 @@ bool frm_OMKMDIMain::eventFilter(QObject *object, QEvent *event)
     const auto *key = static_cast<QKeyEvent *>(event);
     if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier || key->isAutoRepeat())
         return false;
+    if (QWidget *menu = QApplication::activePopupWidget())
+        menu->close(); // it would hold mouse and keys
     guarded([this] { showHelp({HelpRequest::At::Window, formInFront()}); })();
     return true;
 }

@@ -130,11 +130,13 @@ TEST(Help, ViewerCanBeUsedOverADialogAndFindsWords)
     EXPECT_TRUE(QTest::qWaitFor([&viewer] { // once the contents are read
         return control<QTreeView>(viewer, "contents").currentIndex().data() == "Disease diagnosis";
     }));
+    auto &tabs = control<QTabWidget>(viewer, "tabs");
+    hand::clickTab(tabs, 1);
+    EXPECT_EQ(tabs.currentIndex(), 1);
     QDialog second; // over the help
     second.setModal(true);
     second.show();
     QCoreApplication::processEvents();
-    auto &tabs = control<QTabWidget>(viewer, "tabs");
     hand::clickTab(tabs, 2);
     EXPECT_EQ(tabs.currentIndex(), 2);
     second.close();
