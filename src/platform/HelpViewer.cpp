@@ -240,14 +240,28 @@ void HelpViewer::markInContents()
 void HelpViewer::standOverDialog()
 {
     winId(); // else there is no window yet that could stand over another
-    const QWidget *dialog = QApplication::activeModalWidget();
+    QWidget *dialog = QApplication::activeModalWidget();
     windowHandle()->setTransientParent(dialog ? dialog->window()->windowHandle() : nullptr);
+    if (dialog)
+        dialog->installEventFilter(this);
+}
+
+/// Not at once: Qt is about to tell its windows of the dialog that came or went.
+void HelpViewer::dialogsChanged()
+{
+    QMetaObject::invokeMethod(this, guarded([this] { standOverDialog(); }), Qt::QueuedConnection);
 }
 
 bool HelpViewer::event(QEvent *event)
 {
-    // A dialog came up while the help was open. Not at once: Qt is about to tell the other windows of it.
-    if (event->type() == QEvent::WindowBlocked)
-        QMetaObject::invokeMethod(this, guarded([this] { standOverDialog(); }), Qt::QueuedConnection);
+    if (event->type() == QEvent::WindowBlocked) // by a dialog that came up while the help was open
+        dialogsChanged();
     return QWidget::event(event);
+}
+
+bool HelpViewer::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() == QEvent::Hide) // of the dialog, which may have stood over another
+        dialogsChanged();
+    return false;
 }

@@ -35,6 +35,7 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *dialog, QEvent *event) override;
 
 private:
     void makePage();
@@ -47,6 +48,7 @@ private:
     void markInContents();
     /// A dialog blocks every window but those that stand over it.
     void standOverDialog();
+    void dialogsChanged();
 
     QTemporaryDir m_folder;
     std::unique_ptr<QHelpEngine> m_engine; ///< goes before the window does, and takes its lists out of it

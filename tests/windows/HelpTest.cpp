@@ -122,7 +122,8 @@ TEST(Help, ViewerCanBeUsedOverADialogAndFindsWords)
     const QStringList before = filesOf(folder, "*");
     HelpViewer viewer(helpFile);
     QDialog first;
-    first.open();
+    first.setModal(true);
+    first.show();
     viewer.open({At::Window, "frm_DiagDiagnosis"});
     EXPECT_TRUE(isInFront(viewer));
     EXPECT_EQ(control<QTextBrowser>(viewer, "page").source().toString(),
