@@ -10,6 +10,7 @@
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
+#include "platform/ListKeys.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "text/Numbers.h"
 
@@ -49,6 +50,9 @@ frm_Fantasy::frm_Fantasy(Globals &globals, QWidget *parent) : ChildForm(globals,
     setMinimumSize(smallestWindow.expandedTo(layout()->minimumSize()));
     for (QListWidget *list : {lst_select, lst_Fantank})
         list->viewport()->installEventFilter(this);
+    for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_Return, Qt::Key_Enter})
+        OnListKey(*lst_select, key, *cmd_AddAnimal);
+    OnListKey(*lst_Fantank, Qt::Key_Delete, *cmd_RemoveAnimal);
     m_checks.watch(txt_tanksize, [this] { return txt_tanksize_LostFocus(); });
     connect(opt_Salt, &QRadioButton::toggled, this, guarded([this](bool chosen) {
                 if (chosen)

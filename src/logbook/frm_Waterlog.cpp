@@ -12,6 +12,7 @@
 
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
+#include "platform/ListKeys.h"
 #include "shell/MenuEntry.h"
 
 namespace {
@@ -147,6 +148,8 @@ void frm_Waterlog::connectList(ListView *list, int tab)
 {
     connect(list, &ListView::ColumnClick, this, guarded([this, list](int index) { ColumnClick(*list, index); }));
     on(list, &ListView::DblClick, this, &frm_Waterlog::Change_Entries);
+    OnListKey(*list, Qt::Key_Delete, button(QStringLiteral("deleteentries")));
+    OnListKey(*list, Qt::Key_Insert, button(QStringLiteral("addentries")));
     connect(list, &ListView::MouseUp, this,
             guarded([this](Qt::MouseButton button, const QPoint &position) { list_MouseUp(button, position); }));
     if (tab != LivestockTab) // the livestock list has no such handler

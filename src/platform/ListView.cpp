@@ -1,5 +1,6 @@
 #include "platform/ListView.h"
 
+#include <set>
 #include <utility>
 
 #include <QContextMenuEvent>
@@ -8,6 +9,7 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
@@ -94,6 +96,43 @@ void ListView::setColumns(const std::vector<ListColumn> &columns)
     m_model->setColumns(columns);
     for (int i = 0; i < int(columns.size()); ++i)
         setColumnWidth(i, qRound(columns[size_t(i)].width * m_scale));
+}
+
+QString ListView::columnLayout() const
+{
+    QStringList layout;
+    bool fills = true;
+    for (int place = columnCount() - 1; place >= 0; --place) {
+        const int column = horizontalHeader()->logicalIndex(place);
+        const bool shown = !isColumnHidden(column);
+        const int width = qRound(columnWidth(column) / m_scale);
+        layout.prepend(shown && !fills ? QStringLiteral("%1:%2").arg(column + 1).arg(width)
+                                       : QString::number(column + 1));
+        fills = fills && !shown;
+    }
+    return layout.join(u' ');
+}
+
+void ListView::setColumnLayout(const QString &layout)
+{
+    static const QRegularExpression entry(QStringLiteral("^([1-9][0-9]?)(?::([0-9]{1,4}))?$"));
+    std::vector<std::pair<int, int>> columns; // in the order of their places; width 0: as it is
+    std::set<int> seen;
+    for (const QString &text : layout.split(u' ')) {
+        const auto match = entry.match(text);
+        const int column = match.captured(1).toInt() - 1;
+        if (!match.hasMatch() || column >= columnCount() || !seen.insert(column).second)
+            return;
+        columns.emplace_back(column, match.captured(2).toInt());
+    }
+    if (int(columns.size()) != columnCount())
+        return;
+    for (int place = 0; place < columnCount(); ++place) {
+        const auto [column, width] = columns[size_t(place)];
+        horizontalHeader()->moveSection(horizontalHeader()->visualIndex(column), place);
+        if (width > 0 && !isColumnHidden(column))
+            setColumnWidth(column, qRound(width * m_scale));
+    }
 }
 
 int ListView::columnCount() const { return m_model->columnCount(); }

@@ -41,6 +41,12 @@ public:
     void setColumns(const std::vector<ListColumn> &columns);
     int columnCount() const;
 
+    /// Order and widths of the columns as text, "2:80 1:96 3": column and width, as ListColumn gives it. The last one
+    /// in sight has no width, for it fills the list.
+    QString columnLayout() const;
+    /// Puts the columns so. A text that is not such a layout of this list changes nothing.
+    void setColumnLayout(const QString &layout);
+
     /// Shows the rows of a source in its order, whatever Sorted says; selects nothing.
     void setSource(std::shared_ptr<const ListSource> source);
     /// Rows added one by one at the end, for short lists. Throws KeyNotUnique for a key that is there already (an empty

@@ -1,5 +1,5 @@
-// The per-user settings: texts under keys, kept as an INI file with one section "SETTINGS" (more sections may follow
-// for what the program remembers of its windows). A key is exact; every value is text.
+// The per-user settings: texts under keys, kept as an INI file. Section "SETTINGS" holds what the keeper has chosen,
+// "WINDOWS" what the program remembers of its windows. A key is exact; every value is text.
 #pragma once
 
 #include <QSettings>
@@ -11,9 +11,11 @@ public:
     /// Opens, or will make at the first write, the INI file of that path.
     explicit SettingsStore(const QString &fileName);
 
-    QString value(const QString &key, const QString &defaultValue) const;
+    enum class Section { Settings, Windows };
+
+    QString value(const QString &key, const QString &defaultValue, Section section = Section::Settings) const;
     /// Writes through to the file. Throws RuntimeFailure (PermissionDenied) where it cannot be written.
-    void setValue(const QString &key, const QString &value);
+    void setValue(const QString &key, const QString &value, Section section = Section::Settings);
     QString fileName() const { return m_settings.fileName(); }
 
     /// The file of this user: OMK.ini in the folder of the program's configuration.

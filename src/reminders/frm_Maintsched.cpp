@@ -2,6 +2,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Icons.h"
+#include "platform/ListKeys.h"
 #include "reminders/frm_SchedNewAddEdit.h"
 #include "reminders/frm_Schedule.h"
 #include "reminders/ReminderRun.h"
@@ -33,6 +34,8 @@ frm_Maintsched::frm_Maintsched(Globals &globals, QWidget *parent) : ChildForm(gl
             lstv_MaintSched_Click(); // by keys as by mouse
     });
     on(lstv_MaintSched, &ListView::DblClick, this, &frm_Maintsched::lstv_MaintSched_DblClick);
+    OnListKey(*lstv_MaintSched, Qt::Key_Delete, *cmd_DeleteTask);
+    OnListKey(*lstv_MaintSched, Qt::Key_Insert, *cmd_AddTask);
     on(cmd_AddTask, &QPushButton::clicked, this, &frm_Maintsched::cmd_AddTask_Click);
     on(cmd_update_task, &QPushButton::clicked, this, &frm_Maintsched::cmd_update_task_Click);
     on(cmd_DeleteTask, &QPushButton::clicked, this, &frm_Maintsched::cmd_Deletetask_Click);

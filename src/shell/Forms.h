@@ -10,6 +10,7 @@
 #include <QPointer>
 
 #include "shell/Globals.h"
+#include "shell/WindowMemory.h"
 
 class Forms
 {
@@ -30,6 +31,7 @@ public:
             F *made = new F(m_globals, F::isDialog ? m_main.data() : nullptr);
             made->setObjectName(QLatin1String(F::staticMetaObject.className()));
             slot = made;
+            RememberWindow(*made);
             if constexpr (requires { made->Form_Load(); })
                 made->Form_Load();
         }

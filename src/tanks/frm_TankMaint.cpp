@@ -2,6 +2,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "platform/ListKeys.h"
 #include "tanks/frm_TankAddNew.h"
 
 namespace {
@@ -25,6 +26,10 @@ frm_TankMaint::frm_TankMaint(Globals &globals, QWidget *parent) : DialogForm(glo
     setupUi(this);
     on(lst_tanklist, &QListWidget::itemSelectionChanged, this, &frm_TankMaint::lst_tanklist_Click);
     on(lst_tanklist, &QListWidget::itemActivated, this, &frm_TankMaint::cmd_ChangeTank_Click);
+    for (const Qt::Key key : enterKeys)
+        OnListKey(*lst_tanklist, key, *cmd_ChangeTank);
+    OnListKey(*lst_tanklist, Qt::Key_Delete, *cmd_DeleteTank);
+    OnListKey(*lst_tanklist, Qt::Key_Insert, *cmd_AddTank);
     on(cmd_AddTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_AddTank_Click);
     on(cmd_ChangeTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_ChangeTank_Click);
     on(cmd_DeleteTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_DeleteTank_Click);
