@@ -128,7 +128,6 @@ void frm_Caltool::arrange()
     for (int column = 0; column < 7; ++column) {
         auto *weekday = new QLabel(Format(aSunday.addDays(column), QStringLiteral("ddd")));
         weekday->setAlignment(Qt::AlignCenter);
-        weekday->setForegroundRole(QPalette::PlaceholderText);
         month->addWidget(weekday, 0, column);
     }
     for (int i = 0; i < int(cmdDay.size()); ++i)

@@ -109,7 +109,7 @@ void frm_WaterGraph::arrange()
     setTabOrder(tanklistbox, Chart1);
     setTabOrder(Chart1, cmd_Previous);
     setTabOrder(cmd_Previous, cmd_Next);
-    setFocusProxy(tanklistbox);
+    beginWith(tanklistbox);
     Chart1->setAccessibleName(windowTitle());
     resize(900, 560);
 }

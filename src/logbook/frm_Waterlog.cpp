@@ -72,7 +72,7 @@ frm_Waterlog::frm_Waterlog(Globals &globals, QWidget *parent) : ChildForm(global
     column->addWidget(sb_ListviewCaption);
     column->addWidget(splitter, 1);
     column->addWidget(StatusBar1);
-    setFocusProxy(TreeView1);
+    beginWith(TreeView1);
     resize(940, 560);
 }
 

@@ -54,7 +54,7 @@ frm_Conversions::frm_Conversions(Globals &globals, QWidget *parent) : ChildForm(
     makeControls();
     arrange();
     connectAll();
-    setFocusProxy(txt_FromValue);
+    beginWith(txt_FromValue);
     resize(560, 460);
 }
 

@@ -61,7 +61,7 @@ frm_LatintoCommon::frm_LatintoCommon(Globals &globals, QWidget *parent) : ChildF
     column->addWidget(Frame1);
     column->addWidget(lstv_Names, 1);
     column->addWidget(StatusBar1);
-    setFocusProxy(lstv_Names);
+    beginWith(lstv_Names);
     resize(560, 520);
 }
 

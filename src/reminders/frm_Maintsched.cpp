@@ -27,7 +27,7 @@ frm_Maintsched::frm_Maintsched(Globals &globals, QWidget *parent) : ChildForm(gl
                                  {QStringLiteral("Scheduling"), QStringLiteral("Scheduling"), false, 240},
                                  {QStringLiteral("Start Date"), QStringLiteral("Start Date"), false, 80},
                                  {QStringLiteral("End Date"), QStringLiteral("End Date"), false, 80}});
-    setFocusProxy(lstv_MaintSched);
+    beginWith(lstv_MaintSched);
     on(lstv_MaintSched, &ListView::Click, this, &frm_Maintsched::lstv_MaintSched_Click);
     connect(lstv_MaintSched->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (lstv_MaintSched->SelectedItem() > 0)

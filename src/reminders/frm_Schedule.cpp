@@ -37,7 +37,7 @@ frm_Schedule::frm_Schedule(Globals &globals, QWidget *parent) : ChildForm(global
         connect(button, &QPushButton::clicked, this, guarded([this, box = box](bool) { cal_Click(*box); }));
     on(cmd_Generate, &QPushButton::clicked, this, &frm_Schedule::cmd_Generate_Click);
     on(cmd_Print, &QPushButton::clicked, this, &frm_Schedule::Print_Schedule);
-    setFocusProxy(cmd_Generate);
+    beginWith(cmd_Generate);
 }
 
 void frm_Schedule::Form_Load()

@@ -8,6 +8,9 @@
 #include "platform/Guarded.h"
 #include "shell/Forms.h"
 
+/// What is added to a child's size for its frame.
+inline constexpr QSize childFrame(12, 36);
+
 class ChildForm : public QWidget
 {
 public:
@@ -17,8 +20,14 @@ public:
     virtual void Form_LostFocus() {}
     virtual void Form_Unload() {}
 
+    /// Gives the focus to the control that the window begins with.
+    void takeFocus() { (m_first ? m_first : this)->setFocus(); }
+
 protected:
     ChildForm(Globals &globals, QWidget *parent) : QWidget(parent), g(globals) {}
+
+    /// No focus proxy: as such it would be one more stop of Tab, and the controls before it would not be reached.
+    void beginWith(QWidget *control) { m_first = control; }
 
     void closeEvent(QCloseEvent *event) override
     {
@@ -28,4 +37,7 @@ protected:
     }
 
     Globals &g;
+
+private:
+    QWidget *m_first = nullptr;
 };

@@ -15,6 +15,7 @@
 #include "platform/ListView.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"
+#include "shell/ChildForm.h"
 
 namespace {
 
@@ -96,9 +97,11 @@ private:
     /// Nothing where the window has no size of its own, because the child is maximized or an icon.
     std::optional<Geometry> geometry() const
     {
-        if (const auto *frame = qobject_cast<QMdiSubWindow *>(m_window.parentWidget());
-            frame && (frame->isMaximized() || frame->isMinimized() || frame->isShaded()))
-            return {};
+        if (const auto *frame = qobject_cast<QMdiSubWindow *>(m_window.parentWidget())) {
+            if (frame->isMaximized() || frame->isMinimized() || frame->isShaded())
+                return {};
+            return Geometry{frame->size() - childFrame, {}};
+        }
         if (!isMain())
             return Geometry{m_window.size(), {}};
         const QRect normal = m_window.normalGeometry();

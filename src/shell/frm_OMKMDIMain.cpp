@@ -246,10 +246,13 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
 {
     auto *frame = qobject_cast<QMdiSubWindow *>(child.parentWidget());
     if (!frame) {
-        const QSize size = child.size() + QSize(12, 36); // as the window asks for, and its frame
+        const QSize size = child.size() + childFrame; // as the window asks for
         frame = new QMdiSubWindow;
         frame->setWidget(&child);
         frame->setAttribute(Qt::WA_DeleteOnClose);
+        // Else Tab comes from the last control to the frame, which hands it to the control that the child begins with,
+        // and those before that one are never reached.
+        frame->setFocusPolicy(Qt::NoFocus);
         frame->setWindowIcon(child.windowIcon());
         frame->resize(size.boundedTo(m_area->viewport()->size()));
         m_area->addSubWindow(frame); // of its own size already, so that it gets a place where it is seen whole
@@ -260,7 +263,7 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
         frame->show();
     child.show();
     m_area->setActiveSubWindow(frame);
-    child.setFocus();
+    child.takeFocus();
 }
 
 void frm_OMKMDIMain::disablePrint()

@@ -67,7 +67,6 @@ frm_OMKaboutbox::frm_OMKaboutbox(Globals &globals, QWidget *parent) :
         line("Free software under the GNU General Public License, version 3 or later. It comes without any warranty.",
              0.9, false);
     licence->setWordWrap(true);
-    licence->setForegroundRole(QPalette::PlaceholderText);
     texts->addWidget(licence);
 
     auto *all = new QVBoxLayout(this);
