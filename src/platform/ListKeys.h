@@ -1,11 +1,13 @@
 // What keys do in a list beside walking through it: Enter opens, Delete deletes, Insert adds. A key presses a button of
-// the window, so that it does what the button does, and nothing while the button is disabled. The key goes no further:
-// Enter in a dialog's list does not press the default button as well.
+// the window, so that it does what the button does, and nothing while the button is disabled; it is meant for the row
+// in the frame, which is selected first: a list that gets the focus frames its first row without selecting it. The key
+// goes no further: Enter in a dialog's list does not press the default button as well.
 #pragma once
 
 #include <initializer_list>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QShortcut>
 
@@ -13,22 +15,28 @@ inline const std::initializer_list<Qt::Key> enterKeys = {Qt::Key_Return, Qt::Key
 
 namespace listkeys {
 
-template <class Command> void connectTo(QWidget &list, Qt::Key key, Command &command, void (Command::*press)())
+template <class Command>
+void connectTo(QAbstractItemView &list, Qt::Key key, Command &command, void (Command::*press)())
 {
     auto *shortcut = new QShortcut(QKeySequence(key), &list);
     shortcut->setContext(Qt::WidgetShortcut);
     shortcut->setAutoRepeat(false); // a key that is held down deletes one row
-    QObject::connect(shortcut, &QShortcut::activated, &command, press);
+    QObject::connect(shortcut, &QShortcut::activated, &command, [&list, &command, press] {
+        if (!list.selectionModel()->isRowSelected(list.currentIndex().row()) && list.currentIndex().isValid())
+            list.selectionModel()->select(list.currentIndex(),
+                                          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        (command.*press)();
+    });
 }
 
 } // namespace listkeys
 
-inline void OnListKey(QWidget &list, Qt::Key key, QAbstractButton &button)
+inline void OnListKey(QAbstractItemView &list, Qt::Key key, QAbstractButton &button)
 {
     listkeys::connectTo(list, key, button, &QAbstractButton::click);
 }
 
-inline void OnListKey(QWidget &list, Qt::Key key, QAction &command)
+inline void OnListKey(QAbstractItemView &list, Qt::Key key, QAction &command)
 {
     listkeys::connectTo(list, key, command, &QAction::trigger);
 }

@@ -1,0 +1,271 @@
+// What every window owes to a keeper without a mouse, without eyes, or with a desktop of his own arrangement.
+#include <map>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QGroupBox>
+
+#include "advisers/frm_Compat.h"
+#include "advisers/frm_DiagDiagnosis.h"
+#include "advisers/frm_DiagnosisQA.h"
+#include "advisers/frm_FantAddAnimal.h"
+#include "advisers/frm_Fantasy.h"
+#include "common/frm_Caltool.h"
+#include "graph/frm_WaterGraph.h"
+#include "Hands.h"
+#include "logbook/frm_LivesAddEdit.h"
+#include "logbook/frm_LivesMove.h"
+#include "logbook/frm_MaintAddEdit.h"
+#include "logbook/frm_OMKLogPrint.h"
+#include "logbook/frm_WaterAddEdit.h"
+#include "reference/frm_Conversions.h"
+#include "reference/frm_LatintoCommon.h"
+#include "reminders/frm_Maintsched.h"
+#include "reminders/frm_SchedNewAddEdit.h"
+#include "reminders/frm_Schedule.h"
+#include "shell/frm_OMKCredits.h"
+#include "shell/frm_OMKOptions.h"
+#include "shell/frm_OMKtod.h"
+#include "tanks/frm_TankAddNew.h"
+#include "tanks/frm_TankMaint.h"
+
+namespace {
+
+/// Letters that go to two captions which keepers know: an option and a menu, or the same words in two groups.
+const std::map<QString, QString> knownTwice = {{"frm_Fantasy", "F"}, {"frm_Schedule", "T"}, {"frm_OMKOptions", "O"}};
+
+template <class F> QWidget *make(frm_OMKMDIMain &main)
+{
+    auto &form = Form<F>();
+    if constexpr (requires { form.setDefaults(); })
+        form.setDefaults();
+    if constexpr (requires { form.setDefaults(QString()); })
+        form.setDefaults({});
+    if constexpr (F::isDialog)
+        form.setVisible(true);
+    else
+        main.ShowChild(form);
+    return &form;
+}
+constexpr QWidget *(*windows[])(frm_OMKMDIMain &) = {
+    make<frm_TankMaint>,     make<frm_TankAddNew>,    make<frm_Waterlog>,        make<frm_WaterAddEdit>,
+    make<frm_LivesAddEdit>,  make<frm_LivesMove>,     make<frm_MaintAddEdit>,    make<frm_OMKLogPrint>,
+    make<frm_WaterGraph>,    make<frm_Maintsched>,    make<frm_SchedNewAddEdit>, make<frm_Schedule>,
+    make<frm_Compat>,        make<frm_Fantasy>,       make<frm_FantAddAnimal>,   make<frm_DiagnosisQA>,
+    make<frm_DiagDiagnosis>, make<frm_LatintoCommon>, make<frm_Conversions>,     make<frm_OMKOptions>,
+    make<frm_OMKtod>,        make<frm_OMKCredits>,
+};
+
+bool takesTab(const QWidget &control)
+{
+    return control.isVisible() && control.isEnabled() && (control.focusPolicy() & Qt::TabFocus) &&
+           !control.focusProxy();
+}
+
+/// Focusable controls that a screen reader has no name for.
+QStringList nameless(const QWidget &window)
+{
+    QStringList names;
+    for (QWidget *control : window.findChildren<QWidget *>())
+        if (control->focusPolicy() != Qt::NoFocus && !control->focusProxy() && control->window() == window.window() &&
+            QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty())
+            names << control->objectName() + u'/' + QLatin1String(control->metaObject()->className());
+    return names;
+}
+
+/// Controls that Tab, pressed until it is back where it began, does not come to once.
+QStringList unreached(QWidget &window)
+{
+    QStringList names;
+    QMap<QWidget *, int> visits;
+    for (int i = 0; i < 80 && visits[QApplication::focusWidget()] < 1; ++i) {
+        ++visits[QApplication::focusWidget()];
+        hand::press(Qt::Key_Tab);
+    }
+    for (QWidget *control : window.findChildren<QWidget *>())
+        if (takesTab(*control) && visits[control] != 1)
+            names << control->objectName();
+    return names;
+}
+
+/// Letters that two captions in sight are pressed by with Alt.
+QString colliding(QWidget &window)
+{
+    QString letters = window.isWindow() ? "" : "FVTWH", twice; // a child's go with those of the menus
+    for (const QWidget *control : window.findChildren<QWidget *>()) {
+        const auto *label = qobject_cast<const QLabel *>(control);
+        const QString caption =
+            control->property(qobject_cast<const QGroupBox *>(control) ? "title" : "text").toString();
+        const QString letter = QKeySequence::mnemonic(caption).toString().right(1);
+        if (letter.isEmpty() || !control->isVisible() || (label && !label->buddy()))
+            continue;
+        (letters.contains(letter) ? twice : letters) += letter;
+    }
+    return twice;
+}
+
+void examine(QWidget &window)
+{
+    SCOPED_TRACE(window.objectName().toStdString());
+    EXPECT_TRUE(isInFront(*window.window()));
+    EXPECT_EQ(nameless(window).join(u' '), "");
+    auto *tabs = window.findChild<QTabWidget *>();
+    QString twice;
+    for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
+        if (tabs)
+            tabs->setCurrentIndex(page);
+        EXPECT_EQ(unreached(window).join(u' '), "") << page;
+        twice += colliding(window);
+    }
+    const auto known = knownTwice.find(window.objectName());
+    EXPECT_EQ(twice, known == knownTwice.end() ? QString() : known->second);
+}
+
+} // namespace
+
+TEST(Comfort, EveryControlHasANameAndIsReachedByKeys)
+{
+    Keeper keeper;
+    keeper.addTank("Reef", "1");
+    auto &main = keeper.startProgram();
+    for (const auto window : windows) {
+        QWidget &shown = *window(main);
+        shown.window()->activateWindow();
+        examine(shown);
+        Unload(shown);
+    }
+    keeper.inNext<frm_Caltool>([](auto &calendar) {
+        examine(calendar);
+        calendar.close();
+    });
+    Form<frm_Caltool>().ShowCalendar(0, 0);
+    EXPECT_EQ(nameless(main).join(u' '), "");
+}
+
+TEST(Comfort, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
+{
+    Keeper keeper;
+    for (const char *tank : {"Bowl", "Reef"})
+        keeper.addTank(tank, tank);
+    auto &main = keeper.startProgram();
+    auto &logbook = hand::openLogbook(main);
+    logbook.lstv_WaterLog->setFocus();
+    hand::press(Qt::Key_Insert); // "All Tanks": its button is disabled
+    hand::clickTank(logbook, "Reef");
+    logbook.lstv_WaterLog->setFocus();
+    keeper.inNext<frm_WaterAddEdit>([](auto &) { hand::press(Qt::Key_Return); });
+    hand::press(Qt::Key_Insert);
+    EXPECT_TRUE(isInFront(main));
+    keeper.inNext<frm_WaterAddEdit>([](auto &) { hand::press(Qt::Key_Escape); });
+    hand::press(Qt::Key_Return);
+    EXPECT_TRUE(isInFront(main));
+    EXPECT_EQ(keeper.count("WATERLOG"), 1);
+    keeper.doors.answers = {MsgBoxAnswer::OK, MsgBoxAnswer::OK};
+    hand::press(Qt::Key_Delete);
+    EXPECT_EQ(keeper.count("WATERLOG"), 0);
+    keeper.inNext<frm_TankMaint>([&](frm_TankMaint &tanks) {
+        tanks.lst_tanklist->setFocus();
+        for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_Return}) {
+            keeper.inNext<frm_TankAddNew>([](auto &) { hand::press(Qt::Key_Escape); });
+            hand::press(key);
+            EXPECT_TRUE(isInFront(tanks)) << "Enter in the list is not the window's OK";
+        }
+        hand::press(Qt::Key_Delete);
+        EXPECT_EQ(keeper.count("TANKLST"), 1);
+        hand::press(Qt::Key_Escape);
+    });
+    hand::press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(keeper.doors.takeBoxes().size(), 3U) << "two questions, and that the tank is gone";
+}
+
+class Memory : public ::testing::Test
+{
+protected:
+    /// Starts anew, and tells how the windows come up.
+    QString next()
+    {
+        keeper.restart();
+        main = &keeper.startProgram();
+        logbook = &hand::openLogbook(*main);
+        return arranged();
+    }
+    QString arranged() const
+    {
+        const QRect place = main->geometry();
+        return QString("%1,%2 %3x%4 %5x%6 ")
+                   .arg(place.x())
+                   .arg(place.y())
+                   .arg(place.width())
+                   .arg(place.height())
+                   .arg(logbook->width())
+                   .arg(logbook->height()) +
+               logbook->lstv_Livestock->columnLayout();
+    }
+    void arrange()
+    {
+        main->setGeometry(40, 30, 700, 620);
+        logbook->parentWidget()->resize(500, 400);
+        logbook->lstv_Livestock->setColumnWidth(1, 66);
+        logbook->lstv_Livestock->horizontalHeader()->moveSection(1, 0);
+    }
+
+    Keeper keeper;
+    frm_OMKMDIMain *main = (keeper.addTank("Reef", "1"), nullptr);
+    frm_Waterlog *logbook = nullptr;
+};
+
+TEST_F(Memory, BringsWindowsBackAsTheyWereLeft)
+{
+    const QString untouched = next();
+    arrange();
+    const QString left = arranged();
+    EXPECT_NE(left, untouched);
+    QSize dialog;
+    keeper.inNext<frm_TankMaint>([&](auto &tanks) {
+        tanks.resize(dialog = tanks.size() + QSize(50, 70));
+        tanks.close();
+    });
+    hand::press(Qt::Key_T, Qt::ControlModifier);
+    main->close();
+    EXPECT_EQ(next(), left);
+    keeper.inNext<frm_TankMaint>([&](auto &tanks) {
+        EXPECT_EQ(tanks.size(), dialog);
+        tanks.close();
+    });
+    hand::press(Qt::Key_T, Qt::ControlModifier);
+}
+
+TEST_F(Memory, PassesOverWhatItCannotUseOrWrite)
+{
+    const QString untouched = next();
+    const struct
+    {
+        const char *key, *value;
+    } damaged[] = {{"frm_OMKMDIMain", "0x620+40+30"},
+                   {"frm_OMKMDIMain", "700x620+40"},
+                   {"frm_OMKMDIMain", "700000x620"},
+                   {"frm_OMKMDIMain", "big"},
+                   {"frm_Waterlog", "-5x400"},
+                   {"frm_Waterlog.lstv_Livestock", "2:66 1:96"},
+                   {"frm_Waterlog.lstv_Livestock", "2:66 2:66 3:66 4:66 5:66 6:66 7:66 8"},
+                   {"frm_Waterlog.lstv_Livestock", "wide"}};
+    const QString file = keeper.doors.settings().fileName();
+    const auto next = [&](const char *key, const char *value) {
+        main->close();
+        QFile::remove(file);
+        keeper.doors.settings().setValue(key, value, SettingsStore::Section::Windows);
+        return Memory::next();
+    };
+    for (const auto &row : damaged)
+        EXPECT_EQ(next(row.key, row.value), untouched) << row.key << ' ' << row.value;
+    EXPECT_TRUE(next("frm_OMKMDIMain", "700x620+5000+30").startsWith(untouched.section(' ', 0, 0) + " 700x620 "))
+        << "off every screen";
+
+    QFile::remove(file);
+    QDir().mkdir(file);
+    arrange();
+    keeper.told();
+    main->hide();
+    EXPECT_EQ(keeper.told(), "0");
+    QDir().rmdir(file);
+}
