@@ -290,6 +290,8 @@ void ListView::keyPressEvent(QKeyEvent *event)
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && plain && current.isValid()) {
         Select(current.row() + 1);
         emit DblClick();
+    } else if (event->key() == Qt::Key_Down && plain && current.isValid() && SelectedItem() == 0) {
+        Select(current.row() + 1); // framed when the focus came, but not selected: else it would be passed over
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         menuByKey();
     else if ((event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) && plain)
