@@ -11,7 +11,7 @@
 #include "reminders/ReminderEditorMembers.h"
 #include "store/Database.h"
 
-/// Public members of frm_OMKOptions, filled by Get_Initial_Properties.
+/// Public members of frm_OMKOptions, filled by ReadOptions.
 struct OptionsMembers
 {
     QString GraphChecks = QStringLiteral("0111000000000"); ///< one "0" or "1" a measurement

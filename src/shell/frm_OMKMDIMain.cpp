@@ -24,6 +24,7 @@
 #include "shell/frm_OMKaboutbox.h"
 #include "shell/frm_OMKOptions.h"
 #include "shell/MenuEntry.h"
+#include "shell/Options.h"
 #include "store/frm_OMKupgrade.h"
 #include "store/Version.h"
 
@@ -156,7 +157,7 @@ void frm_OMKMDIMain::MDIForm_Load()
     g.gCurrentDir = QDir::currentPath();
     g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
     CheckDatabaseVersion();
-    Form<frm_OMKOptions>().Get_Initial_Properties();
+    ReadOptions(g);
     g.gGraphPageSize = 20;
     QApplication::processEvents();
     Top20List();

@@ -4,52 +4,10 @@
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "shell/Options.h"
 #include "text/Dates.h"
 
 namespace {
-
-const QString selectConfig = QStringLiteral("SELECT * FROM CONFIG ");
-const QString notFound = QStringLiteral("Not Found");
-
-/// A text of the settings store and the member that holds its value. A stored text of the wrong form leaves the
-/// default.
-struct Setting
-{
-    const char *key;
-    void (*take)(OptionsMembers &, const QString &stored);
-    QString (*text)(const OptionsMembers &);
-};
-
-void takeNumber(qint16 &member, const QString &stored)
-{
-    bool good = false;
-    const qint16 number = stored.trimmed().toShort(&good);
-    if (good)
-        member = number;
-}
-
-QString flagText(bool flag) { return flag ? QStringLiteral("TRUE") : QStringLiteral("FALSE"); }
-bool isTrue(const QString &stored) { return stored.toUpper() == u"TRUE"; }
-
-// In the order in which they are written.
-constexpr Setting settings[] = {
-    {"Graph_Checks", [](OptionsMembers &o, const QString &stored) { o.GraphChecks = stored; },
-     [](const OptionsMembers &o) { return o.GraphChecks; }},
-    {"Graph_Style", [](OptionsMembers &o, const QString &stored) { takeNumber(o.GraphStyle, stored); },
-     [](const OptionsMembers &o) { return QString::number(o.GraphStyle); }},
-    {"Graph_SkipZeroes", [](OptionsMembers &o, const QString &stored) { takeNumber(o.GraphSkipZeroes, stored); },
-     [](const OptionsMembers &o) { return QString::number(o.GraphSkipZeroes); }},
-    {"GraphPrintColor", [](OptionsMembers &o, const QString &stored) { takeNumber(o.GraphPrintColor, stored); },
-     [](const OptionsMembers &o) { return QString::number(o.GraphPrintColor); }},
-    {"Date_Order", [](OptionsMembers &o, const QString &stored) { o.DateOrder = stored; },
-     [](const OptionsMembers &o) { return o.DateOrder; }},
-    {"Date_Delim", [](OptionsMembers &o, const QString &stored) { o.DateDelimiter = stored; },
-     [](const OptionsMembers &o) { return o.DateDelimiter; }},
-    {"UseFile_Fresh", [](OptionsMembers &o, const QString &stored) { o.UseFileFresh = isTrue(stored); },
-     [](const OptionsMembers &o) { return flagText(o.UseFileFresh); }},
-    {"UseFile_Salt", [](OptionsMembers &o, const QString &stored) { o.UseFileSalt = isTrue(stored); },
-     [](const OptionsMembers &o) { return flagText(o.UseFileSalt); }},
-};
 
 struct GraphType
 {
@@ -61,8 +19,6 @@ constexpr GraphType graphTypes[] = {
     {"3D Bar", 0},  {"2D Bar", 1},  {"3D Line", 2}, {"2D Line", 3},        {"3D Step", 6},        {"2D Pie", 14},
     {"2D Step", 7}, {"3D Area", 4}, {"2D Area", 5}, {"3D Combination", 8}, {"2D Combination", 9}, {"2D XY", 16},
 };
-
-constexpr const char *delimiters[] = {"/", "-", "."};
 
 /// A caption that shows an ampersand of the keeper's own as it is.
 QString caption(QString name) { return name.replace(u'&', QStringLiteral("&&")); }
@@ -110,13 +66,13 @@ void frm_OMKOptions::connectControls()
 
 void frm_OMKOptions::Get_Initial_Properties()
 {
+    m_config = ReadOptions(g);
+    const OptionsMembers inForce = g.options; // the clicks that the showing makes are copied to the members
     fillLists();
-    readConfig();
-    readSettings();
-    showDateSettings();
-    showGraphSettings();
-    (g.options.UseFileFresh ? opt_UseFreshFile : opt_UseFreshDB)->setChecked(true);
-    (g.options.UseFileSalt ? opt_UseSaltFile : opt_UseSaltDb)->setChecked(true);
+    showGeneral(inForce);
+    showGraphSettings(inForce);
+    (inForce.UseFileFresh ? opt_UseFreshFile : opt_UseFreshDB)->setChecked(true);
+    (inForce.UseFileSalt ? opt_UseSaltFile : opt_UseSaltDb)->setChecked(true);
 }
 
 void frm_OMKOptions::fillLists()
@@ -127,51 +83,22 @@ void frm_OMKOptions::fillLists()
         cbo_GraphType->addItem(QLatin1String(type.text), type.code);
     cbo_GraphType->setCurrentIndex(-1);
     cbo_Delimiter->clear();
-    for (const char *delimiter : delimiters)
+    for (const char *delimiter : dateDelimiters)
         cbo_Delimiter->addItem(QLatin1String(delimiter));
     cbo_Delimiter->setCurrentIndex(-1);
 }
 
-void frm_OMKOptions::readConfig()
+void frm_OMKOptions::showGeneral(const OptionsMembers &options)
 {
-    m_config = g.gDatabase->OpenRecordset(selectConfig);
-    m_config.MoveFirst();
-    const bool salt = m_config[QStringLiteral("default_salt")].value().toBool();
-    g.gDefaultWaterType = g.options.DefaultWaterType = salt ? QStringLiteral("SALT") : QStringLiteral("FRESH");
-    (salt ? opt_Salt : opt_Fresh)->setChecked(true);
-    g.gUserFieldName1 = m_config[QStringLiteral("user_fieldname1")].text();
-    g.gUserFieldName2 = m_config[QStringLiteral("user_fieldname2")].text();
-    chk_User1->setText(caption(g.gUserFieldName1));
-    chk_user2->setText(caption(g.gUserFieldName2));
+    (options.DefaultWaterType == u"SALT" ? opt_Salt : opt_Fresh)->setChecked(true);
     txt_username1->setText(g.gUserFieldName1);
     txt_username2->setText(g.gUserFieldName2);
-}
-
-void frm_OMKOptions::readSettings()
-{
-    OptionsMembers fresh;
-    for (const Setting &setting : settings) {
-        const QString stored = GetSetting(QLatin1String(setting.key), notFound);
-        if (stored.compare(notFound, Qt::CaseInsensitive) != 0)
-            setting.take(fresh, stored);
-    }
-    fresh.ActiveTab = g.options.ActiveTab;
-    fresh.DefaultWaterType = g.options.DefaultWaterType;
-    g.options = fresh;
-}
-
-void frm_OMKOptions::showDateSettings()
-{
-    QRadioButton *option = g.options.DateOrder == u"DDMMYY"   ? opt_Dateform_ddmmyy
-                           : g.options.DateOrder == u"YYMMDD" ? opt_Dateform_YYMMDD
-                                                              : opt_Dateform_MMDDYY;
-    if (option == opt_Dateform_MMDDYY)
-        g.options.DateOrder = QStringLiteral("MMDDYY"); // also for a word that is none of the three
+    QRadioButton *option = options.DateOrder == u"DDMMYY"   ? opt_Dateform_ddmmyy
+                           : options.DateOrder == u"YYMMDD" ? opt_Dateform_YYMMDD
+                                                            : opt_Dateform_MMDDYY;
     option->setChecked(true);
-    // A text that is no delimiter goes to "/": the list's event writes the list's text over it.
-    cbo_Delimiter->setCurrentIndex(std::max(0, cbo_Delimiter->findText(g.options.DateDelimiter)));
+    cbo_Delimiter->setCurrentIndex(cbo_Delimiter->findText(options.DateDelimiter));
     showDateCaptions();
-    g.options.DatePicture = MakeDatePicture(g.options.DateOrder, g.options.DateDelimiter);
 }
 
 void frm_OMKOptions::showDateCaptions()
@@ -184,16 +111,15 @@ void frm_OMKOptions::showDateCaptions()
     opt_Dateform_YYMMDD->setText(pattern.arg(year, month, day));
 }
 
-void frm_OMKOptions::showGraphSettings()
+void frm_OMKOptions::showGraphSettings(const OptionsMembers &options)
 {
+    chk_User1->setText(caption(g.gUserFieldName1));
+    chk_user2->setText(caption(g.gUserFieldName2));
     for (size_t i = 0; i < m_checks.size(); ++i)
-        m_checks[i]->setChecked(g.options.GraphChecks.mid(qsizetype(i), 1) == u"1");
-    g.options.GraphChecks = graphChecks();
-    cbo_GraphType->setCurrentIndex(cbo_GraphType->findData(g.options.GraphStyle)); // none for an unknown code
-    g.options.GraphSkipZeroes = g.options.GraphSkipZeroes == 1;
-    chk_SkipZeroValues->setChecked(g.options.GraphSkipZeroes == 1);
-    g.options.GraphPrintColor = g.options.GraphPrintColor == 1;
-    (g.options.GraphPrintColor == 1 ? opt_ColorPrinting : opt_BWPrinting)->setChecked(true);
+        m_checks[i]->setChecked(options.GraphChecks[qsizetype(i)] == u'1');
+    cbo_GraphType->setCurrentIndex(cbo_GraphType->findData(options.GraphStyle)); // none for an unknown code
+    chk_SkipZeroValues->setChecked(options.GraphSkipZeroes == 1);
+    (options.GraphPrintColor == 1 ? opt_ColorPrinting : opt_BWPrinting)->setChecked(true);
 }
 
 QString frm_OMKOptions::graphChecks() const
@@ -233,8 +159,7 @@ void frm_OMKOptions::store()
     const bool salt = opt_Salt->isChecked();
     m_config.Edit();
     g.options.GraphChecks = graphChecks();
-    for (const Setting &setting : settings)
-        SaveSetting(QLatin1String(setting.key), setting.text(g.options));
+    SaveOptionSettings(g.options);
     m_config[QStringLiteral("default_salt")].setValue(salt);
     m_config[QStringLiteral("default_fresh")].setValue(!salt);
     m_config[QStringLiteral("user_fieldname1")].setValue(txt_username1->text());

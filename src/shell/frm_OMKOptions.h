@@ -1,12 +1,11 @@
-// The keeper's preferences: a dialog of three tabs, and the loader of the values in force. Most of them are texts of
-// the settings store; the default water type and the names of the two user-defined measurements stand in the one row of
-// CONFIG, so that they travel with the data. The values are in Globals (options, gDefaultWaterType, gUserFieldName1 and
-// 2) and outlive the window.
+// The keeper's preferences: a dialog of three tabs. Their values are in Globals (options, gDefaultWaterType,
+// gUserFieldName1 and 2) and outlive the window.
 #pragma once
 
 #include <array>
 
 #include "shell/DialogForm.h"
+#include "shell/Options.h"
 #include "ui_frm_OMKOptions.h"
 
 class frm_OMKOptions : public DialogForm, public Ui::frm_OMKOptions
@@ -15,8 +14,7 @@ class frm_OMKOptions : public DialogForm, public Ui::frm_OMKOptions
 public:
     frm_OMKOptions(Globals &globals, QWidget *parent);
 
-    /// Loads every stored value into the controls and the public members. Throws RuntimeFailure where CONFIG cannot be
-    /// read.
+    /// Brings every stored value into force and shows it. Throws RuntimeFailure where CONFIG cannot be read.
     void Get_Initial_Properties();
     /// The dialog, opened at a tab: 0 General, 1 Graphing, 2 Livestock Lists. Only OK stores; whatever else closes it
     /// brings the stored values back.
@@ -51,16 +49,14 @@ private:
     void cmdApply_Click();
 
     void fillLists();
-    void readConfig();
-    void readSettings();
-    void showDateSettings();
-    void showGraphSettings();
+    void showGeneral(const OptionsMembers &options);
+    void showGraphSettings(const OptionsMembers &options);
     void showDateCaptions();
     QString graphChecks() const;
     void store();
 
     /// The check boxes of the measurements, in the order of GraphChecks.
-    std::array<QCheckBox *, 13> m_checks;
+    std::array<QCheckBox *, graphMeasurements> m_checks;
     Recordset m_config; ///< the row of CONFIG, kept from the loading until OK changes it
     bool Cancelled = true;
 };
