@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QToolTip>
@@ -41,6 +42,23 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant &value, const QLocale &) const override { return onOneLine(value.toString()); }
+
+    /// A cell has a background and one line of text. The style would lay the text out as a paragraph, twice if it is
+    /// cut off, and look for a picture, a check box and a frame.
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const QStyle &style = *cell.widget->style();
+        style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+        const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 1;
+        const QRect place = cell.rect.adjusted(margin, 0, -margin, 0);
+        const bool enabled = cell.state & QStyle::State_Enabled;
+        const bool selected = cell.state & QStyle::State_Selected;
+        style.drawItemText(painter, place, int(cell.displayAlignment) | Qt::TextSingleLine, cell.palette, enabled,
+                           cell.fontMetrics.elidedText(cell.text, cell.textElideMode, place.width()),
+                           selected ? QPalette::HighlightedText : QPalette::Text);
+    }
 
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override
