@@ -52,6 +52,8 @@ frm_OMKaboutbox::frm_OMKaboutbox(Globals &globals, QWidget *parent) :
     DialogForm(globals, parent), tim_splash(new QTimer(this))
 {
     setWindowTitle(QStringLiteral("About Ostrelmark"));
+    if (parent)
+        parent->installEventFilter(this);
     tim_splash->setObjectName(QStringLiteral("tim_splash"));
     tim_splash->setSingleShot(true);
     on(tim_splash, &QTimer::timeout, this, &frm_OMKaboutbox::tim_splash_Timer);
@@ -83,6 +85,14 @@ void frm_OMKaboutbox::ShowBox()
     if (g.gSplashMode)
         tim_splash->start(g.splashMilliseconds);
     ShowModal();
+}
+
+/// The desktop puts the main window in its place only after it has been shown: the splash goes along.
+bool frm_OMKaboutbox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Move && g.gSplashMode)
+        move(parentWidget()->geometry().center() - rect().center());
+    return DialogForm::eventFilter(watched, event);
 }
 
 void frm_OMKaboutbox::Cancel() { Form_Click(); }

@@ -16,6 +16,7 @@ public:
     void ShowBox();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void Cancel() override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
