@@ -116,6 +116,7 @@ void frm_Waterlog::makeTree()
                 m_nodeJustChanged = false;
                 TreeView1_MouseUp(TreeView1->viewport()->mapToGlobal(position));
             }));
+    OnListKey(*TreeView1, Qt::Key_Insert, button(QStringLiteral("addentries"))); // an entry of the tank chosen by keys
 }
 
 void frm_Waterlog::makeLists()

@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QScopeGuard>
 
+#include "platform/FocusAtFault.h"
+
 void LeavingChecks::watch(QWidget *box, Check check)
 {
     m_checks.emplace(box, std::move(check));
@@ -75,7 +77,7 @@ bool LeavingChecks::runPending()
         return passed;
     // The focus is put back while this still runs, so that the box it comes from is not asked in its turn.
     if (!passed && box && m_window->isVisible())
-        box->setFocus(Qt::OtherFocusReason);
+        FocusAtFault(*box);
     // A box that passed but keeps the focus may yet be changed, without a new FocusIn. Where the check moved the focus
     // itself, its FocusIn has gone by.
     if (QWidget *now = m_window->focusWidget(); passed && now != box)

@@ -10,6 +10,7 @@
 #include <QShortcut>
 
 #include "platform/Doors.h"
+#include "platform/FocusAtFault.h"
 #include "platform/Icons.h"
 #include "platform/ListView.h"
 #include "reference/Conversions.h"
@@ -142,8 +143,7 @@ void frm_Conversions::refuse(const QString &text)
 {
     Beep();
     MsgBox(text, vbExclamation, QStringLiteral("Oops!"));
-    txt_FromValue->setFocus();
-    txt_FromValue->selectAll();
+    FocusAtFault(*txt_FromValue);
 }
 
 void frm_Conversions::cmd_Convert_Click()

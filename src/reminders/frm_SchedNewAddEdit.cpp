@@ -1,6 +1,7 @@
 #include "reminders/frm_SchedNewAddEdit.h"
 
 #include "common/DateBoxes.h"
+#include "platform/FocusAtFault.h"
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
 #include "reminders/OccurrenceRows.h"
@@ -283,7 +284,7 @@ void frm_SchedNewAddEdit::complain(const EditorComplaint &complaint)
 {
     MsgBox(complaint.text, vbInformation, complaint.title);
     if (auto *control = findChild<QWidget *>(complaint.control))
-        control->setFocus();
+        FocusAtFault(*control);
 }
 
 void frm_SchedNewAddEdit::cmd_OK_Click()
@@ -293,7 +294,7 @@ void frm_SchedNewAddEdit::cmd_OK_Click()
     RecurrenceRule rule = g.reminderEditor.rule; // what its new pattern does not need stays as it was
     StoreRecurrence(fields(), dates(), rule);
     if (!m_store(rule)) {
-        txt_TaskDescription->setFocus();
+        FocusAtFault(*txt_TaskDescription);
         return;
     }
     g.reminderEditor = {rule, false};

@@ -4,6 +4,7 @@
 
 #include "common/DateBoxes.h"
 #include "platform/Doors.h"
+#include "platform/FocusAtFault.h"
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
 #include "platform/PrintJob.h"
@@ -83,7 +84,7 @@ std::optional<DateRange> frm_Schedule::askedRange()
 {
     const auto refuse = [](const QString &text, MaskedBox &box) -> std::optional<DateRange> {
         MsgBox(text, vbInformation, QStringLiteral("Oops!"));
-        box.setFocus();
+        FocusAtFault(box);
         return {};
     };
     const auto from = dateIn(*txt_startdate);

@@ -5,6 +5,7 @@
 #include <QDialog>
 
 #include "platform/Doors.h"
+#include "platform/FocusAtFault.h"
 #include "shell/Forms.h"
 
 class DialogForm : public QDialog
@@ -24,7 +25,7 @@ protected:
     {
         Beep();
         MsgBox(text, vbExclamation, title);
-        box->setFocus();
+        FocusAtFault(*box);
         return false;
     }
     void ShowModal() { Forms::current().showModal(*this); }

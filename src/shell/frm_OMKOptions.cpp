@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 
 #include "platform/Doors.h"
+#include "platform/FocusAtFault.h"
 #include "platform/Guarded.h"
 #include "shell/Options.h"
 #include "text/Dates.h"
@@ -183,7 +184,7 @@ bool frm_OMKOptions::CheckUserFieldNames()
     const auto refuse = [](QLineEdit *box, const char *message) {
         Beep();
         MsgBox(QLatin1String(message), vbExclamation, QStringLiteral("Oops!"));
-        box->setFocus();
+        FocusAtFault(*box);
         return false;
     };
     for (QLineEdit *box : {txt_username1, txt_username2})

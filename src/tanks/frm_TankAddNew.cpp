@@ -1,6 +1,7 @@
 #include "tanks/frm_TankAddNew.h"
 
 #include "platform/Doors.h"
+#include "platform/FocusAtFault.h"
 #include "platform/Guarded.h"
 #include "shell/ErrorHandler.h"
 #include "shell/frm_OMKMDIMain.h"
@@ -156,7 +157,7 @@ void frm_TankAddNew::cmd_OK_Click()
                 "That identical tank name already exists. Make your new tank name unique by changing or adding at "
                 "least one letter."));
         if (failure.number() == Failure::DuplicateKey)
-            txt_tankname->setFocus();
+            FocusAtFault(*txt_tankname);
         return;
     }
     Unload(*this);
