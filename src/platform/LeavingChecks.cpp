@@ -44,7 +44,7 @@ bool LeavingChecks::eventFilter(QObject *object, QEvent *event)
         if (object != m_pending || m_running || leavesUnchecked(object) || runPending())
             return false;
         swallowPress();
-        return QApplication::focusWidget() == object; // it is back: the box need not know that it was gone
+        return m_window->focusWidget() == object; // it is back: the box need not know that it was gone
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
