@@ -3,26 +3,9 @@
 #include <optional>
 
 #include <QLocale>
-#include <QProxyStyle>
 
 #include "platform/Guarded.h"
-#include "platform/Icons.h"
-
-namespace {
-
-/// The arrows of bars that are too narrow are ours: the style's own are small bitmaps, which have every menu bar load
-/// the readers of all image formats before it is first painted.
-class Style : public QProxyStyle
-{
-public:
-    QIcon standardIcon(StandardPixmap which, const QStyleOption *option, const QWidget *widget) const override
-    {
-        const bool more = which == SP_ToolBarHorizontalExtensionButton || which == SP_ToolBarVerticalExtensionButton;
-        return more ? Icon("more") : QProxyStyle::standardIcon(which, option, widget);
-    }
-};
-
-} // namespace
+#include "platform/Style.h"
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {

@@ -16,7 +16,9 @@ void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals)
     album.take(graph, QStringLiteral("graph"));
     globals.options.GraphChecks = QStringLiteral("1111110110100");
     graph.parentWidget()->resize(560, 440);
-    const QComboBox &styles = *Form<frm_OMKOptions>().cbo_GraphType;
+    auto &options = Form<frm_OMKOptions>();
+    options.Get_Initial_Properties(); // fills its lists
+    const QComboBox &styles = *options.cbo_GraphType;
     QWidget sheet;
     auto *grid = new QGridLayout(&sheet);
     for (int i = 0; i < styles.count(); ++i) {
