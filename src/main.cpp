@@ -16,6 +16,10 @@ int main(int argc, char **argv)
         std::fputs(qPrintable(line.text), *line.status == 0 ? stdout : stderr);
         return *line.status;
     }
+    if (!HasDisplay(line)) {
+        std::fputs("ostrelmark: there is no display to show windows on. Start it in a desktop session.\n", stderr);
+        return 1;
+    }
     Application application(argc, argv);
     DesktopDoors doors;
     Doors::install(&doors);

@@ -12,7 +12,10 @@ struct CommandLine
     QString folder;            ///< as given; empty: the keeper's usual one
     std::optional<int> status; ///< there is nothing more to do: the status to end with
     QString text;              ///< to be printed then: on stdout where the status is 0, else on stderr
+    bool namesDisplay = false; ///< an option of the toolkit says where the windows go
 };
 
 /// Of the arguments after the program's name. A wrong one gives status 2 and a line that says so.
 CommandLine ReadCommandLine(std::span<char *const> arguments);
+/// Whether windows have somewhere to go, by the command line and the environment: without, the toolkit would abort.
+bool HasDisplay(const CommandLine &line);
