@@ -104,7 +104,8 @@ void HelpViewer::makeTabs()
     contents->setAccessibleName(QStringLiteral("Contents"));
     connect(contents->selectionModel(), &QItemSelectionModel::currentChanged, this,
             guarded([this](const QModelIndex &entry) {
-                if (const QHelpContentItem *item = m_engine->contentModel()->contentItemAt(entry))
+                const QHelpContentItem *item = m_engine->contentModel()->contentItemAt(entry);
+                if (item && !m_isMarking)
                     showPage(item->url());
             }));
     connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, this, guarded([this, contents] {
@@ -232,7 +233,12 @@ void HelpViewer::showPage(const QUrl &url)
 void HelpViewer::markInContents()
 {
     QHelpContentWidget *contents = m_engine->contentWidget();
+    const QHelpContentItem *present = m_engine->contentModel()->contentItemAt(contents->currentIndex());
+    if (present && present->url().path() == m_page->source().path())
+        return; // of the entries that lead to the page, the one that was chosen
     const QModelIndex entry = contents->indexOf(m_page->source());
+    // Each entry leads to the top of its page, and this page may stand at a place further down.
+    const QScopedValueRollback marking(m_isMarking, true);
     if (entry.isValid())
         contents->setCurrentIndex(entry);
 }

@@ -57,4 +57,5 @@ private:
     QLineEdit *m_searchBox = nullptr;
     QString m_waiting; ///< words looked for before the index was ready
     bool m_isIndexed = false;
+    bool m_isMarking = false; ///< the contents follow the page, and not the page the contents
 };
