@@ -122,7 +122,7 @@ void HelpViewer::makeTabs()
 QWidget *HelpViewer::makeIndexTab()
 {
     auto *box = new QLineEdit;
-    box->setPlaceholderText(QStringLiteral("Begin of a keyword"));
+    box->setPlaceholderText(QStringLiteral("Part of a keyword"));
     box->setAccessibleName(QStringLiteral("Keyword"));
     box->setClearButtonEnabled(true);
     QHelpIndexWidget *index = m_engine->indexWidget();
