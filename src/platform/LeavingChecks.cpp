@@ -8,6 +8,11 @@
 
 #include "platform/FocusAtFault.h"
 
+LeavingChecks::LeavingChecks(QWidget *window) : QObject(window), m_window(window)
+{
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *from, QWidget *to) { makeUpFor(from, to); });
+}
+
 void LeavingChecks::watch(QWidget *box, Check check)
 {
     m_checks.emplace(box, std::move(check));
@@ -59,6 +64,15 @@ bool LeavingChecks::leavesUnchecked(const QObject *box) const
 {
     QWidget *next = QApplication::focusWidget();
     return !next || next == box || !m_window->isVisible() || !m_window->isAncestorOf(next) || m_exempt.contains(next);
+}
+
+/// A check that was put off for a calendar button, when that is left in its turn.
+void LeavingChecks::makeUpFor(QWidget *from, QWidget *to)
+{
+    const bool isDue = m_pending && to && to != m_pending && m_exempt.contains(from) &&
+                       !m_exempt.contains(to) && m_window->isAncestorOf(to);
+    if (isDue && !m_running && !runPending())
+        swallowPress();
 }
 
 bool LeavingChecks::runPending()

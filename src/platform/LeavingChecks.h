@@ -18,9 +18,10 @@ public:
     /// True if the content may stand; else it has shown its message itself, and the focus goes back to the box.
     using Check = std::function<bool()>;
 
-    explicit LeavingChecks(QWidget *window) : QObject(window), m_window(window) {}
+    explicit LeavingChecks(QWidget *window);
     void watch(QWidget *box, Check check);
-    /// Widgets that are reached without a check: Cancel, Close, the calendar button, up-downs.
+    /// Widgets that are reached without a check: Cancel, Close, the calendar button, up-downs. Who leaves them for
+    /// another box is asked then.
     void exempt(QWidget *widget) { m_exempt.insert(widget); }
     /// Asks that box, too, before anything is stored: its text was changed by arrows beside it, without its being
     /// entered.
@@ -36,6 +37,7 @@ protected:
 private:
     bool leavesUnchecked(const QObject *box) const;
     bool runPending();
+    void makeUpFor(QWidget *from, QWidget *to);
     void swallowPress();
 
     QWidget *m_window;
