@@ -29,6 +29,8 @@ class PaintedPages : public PageSink
 public:
     void setLandscape(bool landscape) override
     {
+        if (m_ended)
+            return; // a preview asks the device how its pages lie when all are painted
         device().setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     }
     double width() const override { return device().width(); }
@@ -50,7 +52,11 @@ public:
         if (!device().newPage())
             throw RuntimeFailure(Failure::DeviceError, QStringLiteral("The printer took no further page."));
     }
-    void endDocument() override { m_painter.end(); }
+    void endDocument() override
+    {
+        m_painter.end();
+        m_ended = true;
+    }
     void text(double x, double y, const PageFont &font, const QString &text) override
     {
         m_painter.setFont(fontOf(font));
@@ -75,6 +81,7 @@ protected:
     QPainter m_painter;
 
 private:
+    bool m_ended = false;
     QFontMetricsF metrics(const PageFont &font) const { return QFontMetricsF(fontOf(font), &device()); }
 };
 
