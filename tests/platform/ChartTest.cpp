@@ -11,7 +11,6 @@
 namespace {
 
 constexpr int allTypes[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 14, 16};
-constexpr int pie = 14;
 
 /// A chart on the screen whose rows are "1/1", "1/2" ... and whose columns are "A", "B" ...; "" is blank.
 struct ShownChart : Chart
@@ -91,9 +90,7 @@ TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
 
 TEST(Chart, ABlankCellIsAGap)
 {
-    for (const int type : allTypes) {
-        if (type == pie)
-            continue;
+    for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 16}) { // a pie has none
         SCOPED_TRACE(type);
         ShownChart whole(type, {{"8", "8", "8", "8", "8"}}), gap(type, {{"8", "8", "", "8", "8"}});
         // Where the third row stands: bodies with depth lean over from their neighbours, so that only its front counts.
@@ -105,6 +102,11 @@ TEST(Chart, ABlankCellIsAGap)
         EXPECT_GT(with, 0);
         EXPECT_TRUE(gap.place(3, 1).isNull());
     }
+    ShownChart chart(1, {{"", "abc", "1e300", "7"}});
+    for (int row = 1; row <= 4; ++row)
+        EXPECT_EQ(chart.place(row, 1).isNull(), row < 4) << "no number, row " << row;
+    EXPECT_THROW(chart.setRow(5), RuntimeFailure);
+    EXPECT_THROW(chart.setColumn(0), RuntimeFailure);
 }
 
 TEST(Chart, BarsStandInTheOrderOfTheColumnsAndAreAsHighAsTheirValues)
@@ -154,16 +156,6 @@ TEST(Chart, ColumnsOfLikeSizeShareAnAxisThatHoldsTheirValues)
         }
     }
     EXPECT_EQ(MakeChartBands(ChartData(), ChartShape::Bar).size(), 1u);
-}
-
-TEST(Chart, ACellWithoutANumberIsBlankAndACellThatIsNotThereFails)
-{
-    ShownChart chart(1, {{"", "abc", "1e300", "7"}});
-    for (int row = 1; row <= 3; ++row)
-        EXPECT_TRUE(chart.place(row, 1).isNull()) << row;
-    EXPECT_FALSE(chart.place(4, 1).isNull());
-    EXPECT_THROW(chart.setRow(5), RuntimeFailure);
-    EXPECT_THROW(chart.setColumn(0), RuntimeFailure);
 }
 
 TEST(Chart, CtrlAndTheMouseTurnAChartWithDepthAlone)

@@ -6,8 +6,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <QDir>
-
 #include "Child.h"
 #include "StoreFixture.h"
 
@@ -38,7 +36,7 @@ protected:
     {
         QDir(folder.path()).mkdir("to");
         writeFile(path("to/old.MDB"), "an older file");
-        addWater(1, 8);
+        addingWater(1, 8).Update();
         db->Close();
     }
     void expectUnharmed()
@@ -56,34 +54,30 @@ TEST_F(BackupTest, TargetsThatCanHoldNoCopyAreRefused)
     ASSERT_EQ(::link(qPrintable(path()), qPrintable(path("to/hard"))), 0);
     writeFile(path("to/locked"), "precious");
     ASSERT_EQ(::chmod(qPrintable(path("to/locked")), 0444), 0);
-    const struct
-    {
-        QString target;
-        Failure number;
-        const char *word;
-    } rows[] = {
-        {path(), Failure::PermissionDenied, "database itself"},
-        {path("to/symbolic"), Failure::PermissionDenied, "database itself"},
-        {path("to/hard"), Failure::PermissionDenied, "database itself"},
-        {path("to/../OM.MDB-journal"), Failure::PermissionDenied, "database itself"},
-        {path("to"), Failure::PermissionDenied, "a folder"},
-        {path("to/locked"), Failure::PermissionDenied, "read-only"},
-        {"/dev/full", Failure::PermissionDenied, "a device"},
+    const Failure denied = Failure::PermissionDenied;
+    const std::tuple<QString, Failure, const char *> cases[] = {
+        {path(), denied, "database itself"},
+        {path("to/symbolic"), denied, "database itself"},
+        {path("to/hard"), denied, "database itself"},
+        {path("to/../OM.MDB-journal"), denied, "database itself"},
+        {path("to"), denied, "a folder"},
+        {path("to/locked"), denied, "read-only"},
+        {"/dev/full", denied, "a device"},
         {path("to/old.MDB/copy"), Failure::PathNotFound, "old.MDB"},
     };
     const auto before = contentOf(path("to"));
-    for (const auto &row : rows) {
-        const auto failure = failureOf([&] { BackUpDatabase(path(), row.target); });
-        ASSERT_TRUE(failure) << row.target.toStdString();
-        EXPECT_EQ(failure->number(), row.number) << failure->what();
-        EXPECT_TRUE(failure->description().contains(row.word)) << failure->what();
+    for (const auto &[target, number, word] : cases) {
+        const auto failure = failureOf([&] { BackUpDatabase(path(), target); });
+        ASSERT_TRUE(failure && failure->number() == number) << target.toStdString();
+        EXPECT_TRUE(failure->description().contains(word)) << failure->what();
     }
     EXPECT_EQ(contentOf(path("to")), before);
     expectUnharmed();
+    const auto backUp = [this] { BackUpDatabase(path(), path("to/old.MDB")); };
     writeFile(path(), ""); // what is no database any more takes no backup's place
-    EXPECT_EQ(numberOf([this] { BackUpDatabase(path(), path("to/old.MDB")); }), int(Failure::UnrecognizedFormat));
+    EXPECT_EQ(numberOf(backUp), int(Failure::UnrecognizedFormat));
     QFile::remove(path());
-    EXPECT_EQ(numberOf([this] { BackUpDatabase(path(), path("to/old.MDB")); }), int(Failure::CouldNotFindFile));
+    EXPECT_EQ(numberOf(backUp), int(Failure::CouldNotFindFile));
     EXPECT_EQ(contentOf(path("to"))["old.MDB"], "an older file");
 }
 
@@ -103,24 +97,19 @@ TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
     const auto before = contentOf(path("to"));
     int tries = 0;
     for (qint64 room = 0; room < size; room += size / 9 + 1, ++tries) {
-        const int number = numberOf([&] {
-            const SmallDisk disk(rlim_t(room), false);
+        const auto backUp = [&](bool death) {
+            const SmallDisk disk(rlim_t(room), death);
             BackUpDatabase(path(), path("to/old.MDB"));
-        });
-        EXPECT_EQ(number, int(Failure::DiskFull)) << room;
+        };
+        EXPECT_EQ(numberOf([&] { backUp(false); }), int(Failure::DiskFull)) << room;
         EXPECT_EQ(contentOf(path("to")), before);
-        const int signal = signalThatEnds([&] {
-            const SmallDisk disk(rlim_t(room), true);
-            BackUpDatabase(path(), path("to/old.MDB"));
-        });
-        EXPECT_EQ(signal, SIGXFSZ) << room;
+        EXPECT_EQ(signalThatEnds([&] { backUp(true); }), SIGXFSZ) << room;
         expectUnharmed(); // and what is left of the copy goes with the next one
     }
     BackUpDatabase(path(), path("to/old.MDB"));
     EXPECT_NO_THROW(Database::OpenDatabase(path("to/old.MDB")));
     EXPECT_EQ(contentOf(path("to")).size(), 1u);
-    std::printf("| backup over an older copy, disk full after so many bytes | %d |\n", tries);
-    std::printf("| backup over an older copy, killed after so many bytes | %d |\n", tries);
+    std::printf("| backup over an older copy, disk full, and killed, after so many bytes | %d |\n", 2 * tries);
 }
 
 TEST_F(BackupTest, WaitsForWhatAnotherProgramWrites)
@@ -141,7 +130,7 @@ TEST_F(BackupTest, AnOldDatabaseIsKeptOnceAndNeverOverwritten)
     EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-2.MDB"));
     EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-2.MDB"));
     open();
-    addWater(2, 7);
+    addingWater(2, 7).Update();
     EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-3.MDB"));
     EXPECT_EQ(KeepOldDatabase(path(), "1.1"), path("OM-version-1.1.MDB"));
     EXPECT_EQ(contentOf(folder.path())["OM-version-1.0.MDB"], "from long ago");

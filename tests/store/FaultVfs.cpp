@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include <sqlite3.h>
-
 namespace {
 
 FaultPlan faultPlan;
@@ -15,13 +13,13 @@ bool faultStruck = false;
 sqlite3_vfs faultSystem{};
 sqlite3_vfs *realSystem = nullptr;
 
-struct FaultFile
+/// The engine's methods of an open file, but for those that write, sync and close.
+struct FaultMethods : sqlite3_io_methods
 {
-    sqlite3_file base;
-    sqlite3_file *real;
+    const sqlite3_io_methods *real;
 };
 
-sqlite3_file *realOf(sqlite3_file *file) { return reinterpret_cast<FaultFile *>(file)->real; }
+const sqlite3_io_methods *realOf(sqlite3_file *file) { return static_cast<const FaultMethods *>(file->pMethods)->real; }
 
 /// What a place of a file held before a write that no sync has followed yet; zeros past the end.
 struct Unsynced
@@ -32,31 +30,19 @@ struct Unsynced
 std::map<sqlite3_file *, std::vector<Unsynced>> unsynced;
 std::minstd_rand dice;
 
-void remember(sqlite3_file *f, int count, sqlite3_int64 at)
-{
-    Unsynced former{at, std::string(std::size_t(count), '\0')};
-    realOf(f)->pMethods->xRead(realOf(f), former.content.data(), count, at);
-    unsynced[f].push_back(std::move(former));
-}
-
 void losePieces()
 {
-    for (auto &[f, pieces] : unsynced)
+    for (auto &[file, pieces] : unsynced)
         for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece)
             if (dice() % 2)
-                realOf(f)->pMethods->xWrite(realOf(f), piece->content.data(), int(piece->content.size()), piece->at);
-}
-
-bool isTime()
-{
-    const bool planned = faultPlan.code != 0 || faultPlan.death != Death::None;
-    return planned && faultPlan.after-- <= 0;
+                realOf(file)->xWrite(file, piece->content.data(), int(piece->content.size()), piece->at);
 }
 
 /// The code to fail with now, or 0.
 int strike()
 {
-    if (!isTime())
+    const bool planned = faultPlan.code != 0 || faultPlan.death != Death::None;
+    if (!planned || faultPlan.after-- > 0)
         return SQLITE_OK;
     faultStruck = true;
     if (faultPlan.death == Death::PowerCut)
@@ -69,52 +55,42 @@ int strike()
     return code;
 }
 
-int closeFile(sqlite3_file *f)
+int writeOrFail(sqlite3_file *file, const void *from, int size, sqlite3_int64 at)
 {
-    unsynced.erase(f);
-    return realOf(f)->pMethods->xClose(realOf(f));
-}
-int readFile(sqlite3_file *f, void *to, int size, sqlite3_int64 at)
-{
-    return realOf(f)->pMethods->xRead(realOf(f), to, size, at);
-}
-int writeFile(sqlite3_file *f, const void *from, int size, sqlite3_int64 at)
-{
-    if (faultPlan.death == Death::PowerCut)
-        remember(f, size, at);
+    if (faultPlan.death == Death::PowerCut) {
+        std::string former(std::size_t(size), '\0');
+        realOf(file)->xRead(file, former.data(), size, at);
+        unsynced[file].push_back({at, std::move(former)});
+    }
     const int code = strike();
-    return code ? code : realOf(f)->pMethods->xWrite(realOf(f), from, size, at);
+    return code ? code : realOf(file)->xWrite(file, from, size, at);
 }
-int truncateFile(sqlite3_file *f, sqlite3_int64 size) { return realOf(f)->pMethods->xTruncate(realOf(f), size); }
-int syncFile(sqlite3_file *f, int flags)
+
+int syncOrFail(sqlite3_file *file, int flags)
 {
     const int code = strike();
-    unsynced.erase(f);
-    return code ? SQLITE_IOERR_FSYNC : realOf(f)->pMethods->xSync(realOf(f), flags);
+    unsynced.erase(file);
+    return code ? SQLITE_IOERR_FSYNC : realOf(file)->xSync(file, flags);
 }
-int sizeOfFile(sqlite3_file *f, sqlite3_int64 *size) { return realOf(f)->pMethods->xFileSize(realOf(f), size); }
-int lockFile(sqlite3_file *f, int level) { return realOf(f)->pMethods->xLock(realOf(f), level); }
-int unlockFile(sqlite3_file *f, int level) { return realOf(f)->pMethods->xUnlock(realOf(f), level); }
-int isLocked(sqlite3_file *f, int *answer) { return realOf(f)->pMethods->xCheckReservedLock(realOf(f), answer); }
-int controlFile(sqlite3_file *f, int op, void *argument)
+
+int closeFile(sqlite3_file *file)
 {
-    return realOf(f)->pMethods->xFileControl(realOf(f), op, argument);
+    unsynced.erase(file);
+    return realOf(file)->xClose(file);
 }
-int sectorSize(sqlite3_file *f) { return realOf(f)->pMethods->xSectorSize(realOf(f)); }
-int characteristics(sqlite3_file *f) { return realOf(f)->pMethods->xDeviceCharacteristics(realOf(f)); }
 
-constexpr sqlite3_io_methods faultMethods = {
-    1,        closeFile,  readFile, writeFile,   truncateFile, syncFile,        sizeOfFile,
-    lockFile, unlockFile, isLocked, controlFile, sectorSize,   characteristics, nullptr,
-    nullptr,  nullptr,    nullptr,  nullptr,     nullptr,
-};
-
-int openFile(sqlite3_vfs *, sqlite3_filename name, sqlite3_file *f, int flags, int *outFlags)
+int openFile(sqlite3_vfs *, sqlite3_filename name, sqlite3_file *file, int flags, int *outFlags)
 {
-    auto *file = reinterpret_cast<FaultFile *>(f);
-    file->real = reinterpret_cast<sqlite3_file *>(file + 1);
-    const int code = realSystem->xOpen(realSystem, name, file->real, flags, outFlags);
-    file->base.pMethods = file->real->pMethods ? &faultMethods : nullptr;
+    static std::map<const sqlite3_io_methods *, FaultMethods> methods; // locked and lockless files have their own
+    const int code = realSystem->xOpen(realSystem, name, file, flags, outFlags);
+    if (const sqlite3_io_methods *real = file->pMethods) {
+        FaultMethods &own = methods[real] = {*real, real};
+        own.iVersion = 1; // no memory that is shared, or mapped: all goes through a write
+        own.xWrite = writeOrFail;
+        own.xSync = syncOrFail;
+        own.xClose = closeFile;
+        file->pMethods = &own;
+    }
     return code;
 }
 
@@ -125,7 +101,6 @@ FaultVfs::FaultVfs()
     realSystem = sqlite3_vfs_find(nullptr);
     faultSystem = *realSystem;
     faultSystem.zName = "fault";
-    faultSystem.szOsFile = int(sizeof(FaultFile)) + realSystem->szOsFile;
     faultSystem.xOpen = openFile;
     faultSystem.pNext = nullptr;
     sqlite3_vfs_register(&faultSystem, 1);

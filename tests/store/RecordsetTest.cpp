@@ -11,7 +11,7 @@ protected:
     RecordsetTest()
     {
         for (const int day : {5, 3, 9, 1})
-            addWater(day, day + 0.5);
+            addingWater(day, day + 0.5).Update();
     }
     Recordset water(const QString &tail = " ORDER BY logdate")
     {
@@ -27,142 +27,17 @@ protected:
     }
 };
 
-TEST_F(RecordsetTest, WalksItsRowsInTheirOrder)
+TEST_F(RecordsetTest, WalksItsRowsInTheirOrderAndStepsOverDeletedOnes)
 {
-    EXPECT_EQ(days(water()), "1 3 5 9");
-    Recordset rows =
-        db->OpenRecordset("select * from [waterlog] where logdate > ? ORDER BY [logdate] DESC", {QDate(2003, 1, 1)});
-    EXPECT_EQ(rows.RecordCount(), 3);
+    Recordset rows = water();
+    EXPECT_EQ(days(rows), "1 3 5 9");
     rows.MoveLast();
-    EXPECT_EQ(rows.AbsolutePosition(), 2);
+    EXPECT_EQ(rows.AbsolutePosition(), 3);
     rows.MoveNext();
     EXPECT_TRUE(rows.EOF_() && !rows.BOF());
     EXPECT_EQ(rows.AbsolutePosition(), -1);
     EXPECT_EQ(numberOf([&] { rows.MoveNext(); }), noCurrentRecord);
     rows.MoveFirst();
-    EXPECT_EQ(days(rows), "9 5 3");
-}
-
-TEST_F(RecordsetTest, WhereThereIsNoRowNothingIsReadOrWritten)
-{
-    Recordset rows = water(" WHERE ph > 100");
-    EXPECT_TRUE(rows.isEmpty());
-    const std::pair<const char *, std::function<void()>> uses[] = {{"MoveFirst", [&] { rows.MoveFirst(); }},
-                                                                   {"[]", [&] { rows["ph"]; }},
-                                                                   {"Edit", [&] { rows.Edit(); }},
-                                                                   {"Delete", [&] { rows.Delete(); }},
-                                                                   {"Update", [&] { rows.Update(); }}};
-    for (const auto &[name, use] : uses)
-        EXPECT_EQ(numberOf(use), noCurrentRecord) << name;
-    rows = water();
-    EXPECT_EQ(numberOf([&] { rows["ph"].setValue(7.0); }), noCurrentRecord) << "no buffer";
-}
-
-TEST_F(RecordsetTest, NothingIsUsedThatIsNotOpen)
-{
-    Recordset unset, lapsed = water();
-    const Field field = lapsed["ph"];
-    lapsed.AddNew();
-    db->Close();
-    const std::function<void()> uses[] = {[&] { unset.MoveFirst(); }, [&] { lapsed["ph"]; },
-                                          [&] { lapsed.Update(); },   [&] { (void)field.value(); },
-                                          [&] { water(); },           [&] { db->Execute("DELETE FROM WATERLOG"); }};
-    for (const auto &use : uses)
-        EXPECT_EQ(numberOf(use), int(Failure::ObjectNotSet));
-}
-
-TEST_F(RecordsetTest, ADuplicateIsRefusedAndTheBufferStays)
-{
-    const QString t = "T", a = "Tang";
-    const QDate day(2003, 1, 1);
-    const QTime time(9, 0);
-    const struct
-    {
-        const char *table;
-        std::map<QString, Value> columns;
-        const char *mended; ///< column that makes it unique
-        Value with;
-    } cases[] = {
-        {"MAINTSCHED", {{"SchedTask", t}}, "SchedTask", QString("t")},
-        {"MAINTLOG",
-         {{"mainttankname", t}, {"maintlogdate", day}, {"maintlogtime", time}},
-         "maintlogtime",
-         QTime(9, 0, 1)},
-        {"WATERLOG", {{"tankname", t}, {"logdate", day}, {"logtime", QTime(8, 0)}}, "logdate", QDate(2003, 1, 2)},
-        {"LIVESTOCK",
-         {{"tankname", t}, {"dateadded", day}, {"timeadded", time}, {"animalname", a}},
-         "animalname",
-         QString("tang")},
-    };
-    for (const auto &row : cases) {
-        add(row.table, row.columns);
-        const qsizetype before = count(row.table);
-        Recordset rows = adding(row.table, row.columns);
-        for (int attempt = 0; attempt < 2; ++attempt)
-            EXPECT_EQ(numberOf([&] { rows.Update(); }), int(Failure::DuplicateKey)) << row.table;
-        EXPECT_TRUE(rows.isEditing());
-        EXPECT_EQ(count(row.table), before) << row.table;
-        rows[row.mended].setValue(row.with);
-        rows.Update();
-        EXPECT_EQ(count(row.table), before + 1) << row.table;
-    }
-}
-
-TEST_F(RecordsetTest, TheBufferLapsesWhenTheRecordsetMoves)
-{
-    const std::function<void(Recordset &)> moves[] = {
-        [](Recordset &r) { r.MoveNext(); },
-        [](Recordset &r) { r.FindFirst("ph > ?", {3.0}); },
-        [](Recordset &r) { r.CancelUpdate(); },
-        [&](Recordset &r) { r = water(); },
-        [](Recordset &r) { EXPECT_TRUE(r.FindFirst("ph > ?", {9.0})), r.Delete(); },
-    };
-    for (const auto &move : moves) {
-        for (const bool add : {true, false}) {
-            Recordset rows = water();
-            add ? rows.AddNew() : rows.Edit();
-            rows["ph"].setValue(99.0);
-            move(rows);
-            EXPECT_FALSE(rows.isEditing());
-            EXPECT_EQ(numberOf([&] { rows.Update(); }), noCurrentRecord);
-            if (count("WATERLOG") == 3)
-                addWater(9, 9.5);
-        }
-    }
-    EXPECT_TRUE(water(" WHERE ph = 99 OR ph IS NULL").isEmpty());
-    EXPECT_EQ(days(water()), "1 3 5 9");
-}
-
-TEST_F(RecordsetTest, AChangeWritesItsColumnsAloneAndShowsAtOnce)
-{
-    Recordset rows = water();
-    rows.MoveNext();
-    rows.Edit();
-    rows["ph"].setValue(QString("7.25"));
-    EXPECT_EQ(rows["ph"].value(), Value(7.25));
-    OtherProgram(path()).run("UPDATE WATERLOG SET nitrate = 20");
-    rows.Update();
-    EXPECT_EQ(rows["ph"].value(), Value(7.25));
-    EXPECT_EQ(rows.rows()->number(1, rows.columnIndex("ph")), 3.5);
-    EXPECT_EQ(OtherProgram(path()).run("SELECT ph || ' ' || nitrate FROM WATERLOG WHERE logdate = '2003-01-03'"),
-              "7.25 20.0");
-    EXPECT_EQ(water(" WHERE ph = 7.25").RecordCount(), 1);
-}
-
-TEST_F(RecordsetTest, ARowThatAnotherProgramTookIsMissed)
-{
-    Recordset rows = water();
-    rows.Edit();
-    rows["ph"].setValue(7.0);
-    OtherProgram(path()).run("DELETE FROM WATERLOG WHERE ph = 1.5");
-    EXPECT_EQ(numberOf([&] { rows.Update(); }), noCurrentRecord);
-    EXPECT_EQ(numberOf([&] { rows.Delete(); }), noCurrentRecord);
-    EXPECT_EQ(days(water()), "3 5 9");
-}
-
-TEST_F(RecordsetTest, DeletedRowsAreSteppedOver)
-{
-    Recordset rows = water();
     rows.MoveNext();
     rows.Delete();
     EXPECT_EQ(rows.RecordCount(), 3);
@@ -173,6 +48,82 @@ TEST_F(RecordsetTest, DeletedRowsAreSteppedOver)
         rows.Delete();
     EXPECT_TRUE(rows.isEmpty());
     EXPECT_EQ(count("WATERLOG"), 0);
+}
+
+TEST_F(RecordsetTest, WhereThereIsNoRowOrNoDatabaseNothingIsReadOrWritten)
+{
+    Recordset rows = water(" WHERE ph > 100"), lapsed = water();
+    const auto expectAll = [&](int number) {
+        const std::function<void()> uses[] = {[&] { rows.MoveFirst(); }, [&] { rows["ph"]; }, [&] { rows.Edit(); },
+                                              [&] { rows.Delete(); }, [&] { rows.Update(); }};
+        for (const auto &use : uses)
+            EXPECT_EQ(numberOf(use), number);
+    };
+    expectAll(noCurrentRecord);
+    EXPECT_EQ(numberOf([&] { lapsed["ph"].setValue(7.0); }), noCurrentRecord) << "no buffer";
+    const Field field = lapsed["ph"];
+    db->Close();
+    expectAll(int(Failure::ObjectNotSet));
+    EXPECT_EQ(numberOf([&] { (void)field.value(); }), int(Failure::ObjectNotSet));
+    EXPECT_EQ(numberOf([&] { water(); }), int(Failure::ObjectNotSet));
+}
+
+TEST_F(RecordsetTest, ADuplicateIsRefusedAndTheBufferStays)
+{
+    for (const char *entry :
+         {"MAINTSCHED (SchedTask) VALUES ('T')",
+          "MAINTLOG (mainttankname, maintlogdate, maintlogtime) VALUES ('T', '2003-01-01', '09')",
+          "LIVESTOCK (tankname, dateadded, timeadded, animalname) VALUES ('T', '2003', '09', 'a')"}) {
+        const QString insert = QString("INSERT INTO ") + entry;
+        EXPECT_EQ(asked(insert), "");
+        EXPECT_EQ(asked(QString(insert).replace("'T'", "'t'")), "") << "a name of its own";
+        EXPECT_EQ(asked(insert), "error");
+    }
+    Recordset rows = addingWater(9, 7);
+    for (int attempt = 0; attempt < 2; ++attempt)
+        EXPECT_EQ(numberOf([&] { rows.Update(); }), int(Failure::DuplicateKey));
+    EXPECT_TRUE(rows.isEditing());
+    EXPECT_EQ(count("WATERLOG"), 4);
+    rows["logtime"].setValue(QTime(9, 0, 1));
+    rows.Update();
+    EXPECT_EQ(count("WATERLOG"), 5);
+}
+
+TEST_F(RecordsetTest, TheBufferLapsesWhenTheRecordsetMoves)
+{
+    const std::function<void(Recordset &)> moves[] = {
+        [](Recordset &r) { r.MoveNext(); }, [](Recordset &r) { r.FindFirst("ph > ?", {3.0}); },
+        [](Recordset &r) { r.CancelUpdate(); }, [&](Recordset &r) { r = water(); }};
+    for (const auto &move : moves)
+        for (const bool add : {true, false}) {
+            Recordset rows = water();
+            add ? rows.AddNew() : rows.Edit();
+            rows["ph"].setValue(99.0);
+            move(rows);
+            EXPECT_FALSE(rows.isEditing());
+            EXPECT_EQ(numberOf([&] { rows.Update(); }), noCurrentRecord);
+        }
+    EXPECT_EQ(asked("SELECT group_concat(ph, ' ') FROM WATERLOG"), "5.5 3.5 9.5 1.5");
+}
+
+TEST_F(RecordsetTest, AChangeWritesItsColumnsAloneAndShowsAtOnce)
+{
+    Recordset rows = water();
+    rows.MoveNext();
+    rows.Edit();
+    rows["ph"].setValue(QString("7.25"));
+    EXPECT_EQ(rows["ph"].value(), Value(7.25));
+    asked("UPDATE WATERLOG SET nitrate = 20; DELETE FROM WATERLOG WHERE logdate = '2003-01-01'");
+    rows.Update();
+    EXPECT_EQ(rows["ph"].value(), Value(7.25));
+    EXPECT_EQ(rows.rows()->number(1, rows.columnIndex("ph")), 3.5);
+    EXPECT_EQ(asked("SELECT ph || ' ' || nitrate FROM WATERLOG WHERE logdate = '2003-01-03'"), "7.25 20.0");
+    rows.MoveFirst(); // the row that another program took
+    rows.Edit();
+    rows["ph"].setValue(7.0);
+    EXPECT_EQ(numberOf([&] { rows.Update(); }), noCurrentRecord);
+    EXPECT_EQ(numberOf([&] { rows.Delete(); }), noCurrentRecord);
+    EXPECT_EQ(days(water()), "3 5 9");
 }
 
 TEST_F(RecordsetTest, FindsTheFirstInItsOwnOrderAmongTheRowsItRead)
@@ -188,20 +139,20 @@ TEST_F(RecordsetTest, FindsTheFirstInItsOwnOrderAmongTheRowsItRead)
 
 TEST_F(RecordsetTest, OnlyAQueryOfOneWholeTableIsWritten)
 {
-    const auto refusals = [this](const char *sql) {
+    const auto expectRefused = [this](const char *sql, int number) {
         Recordset rows = db->OpenRecordset(sql);
         EXPECT_EQ(rows.RecordCount(), 4) << sql;
-        return std::pair(numberOf([&] { rows.AddNew(); }), numberOf([&] { rows.Edit(); }));
+        EXPECT_EQ(numberOf([&] { rows.AddNew(); }), number) << sql;
+        EXPECT_EQ(numberOf([&] { rows.Edit(); }), number) << sql;
     };
     for (const char *sql : {" select * from [waterlog] order by [ph] asc ",
                             "SELECT *\nFROM \"waterlog\" WHERE Comment = 'a union, a group' or 1 = 1"})
-        EXPECT_EQ(refusals(sql), std::pair(0, 0)) << sql;
-    const int denied = int(Failure::PermissionDenied);
+        expectRefused(sql, 0);
     for (const char *sql : {"SELECT ph FROM WATERLOG", "SELECT *, ph FROM WATERLOG", "SELECT * FROM WATERLOG, CONFIG",
                             "SELECT * FROM WATERLOG w", "SELECT DISTINCT * FROM WATERLOG",
                             "SELECT * FROM WATERLOG WHERE 1 = 1 UNION SELECT * FROM WATERLOG",
                             "SELECT * FROM WATERLOG WHERE 1 = 1 GROUP BY ph"})
-        EXPECT_EQ(refusals(sql), std::pair(denied, denied)) << sql;
+        expectRefused(sql, int(Failure::PermissionDenied));
     for (const char *sql : {"SELECT kh FROM WATERLOG", "SELECT * FROM WATERLOG WHERE ph = ?",
                             "SELECT * FROM WATERLOG; SELECT * FROM CONFIG", "DELETE FROM WATERLOG"})
         EXPECT_EQ(numberOf([&] { db->OpenRecordset(sql); }), int(Failure::SyntaxError)) << sql;
@@ -210,18 +161,16 @@ TEST_F(RecordsetTest, OnlyAQueryOfOneWholeTableIsWritten)
 
 TEST_F(RecordsetTest, ATransactionIsAllOrNothing)
 {
-    const auto deleteTank = [&](bool faulty) {
+    const auto deleteTank = [&](const char *last) {
         Database::Transaction transaction(*db);
         EXPECT_EQ(db->Execute("DELETE FROM WATERLOG WHERE tankname = ?", {QString("T")}), 4);
-        add("TANKLST", {{"tankname", QString("New")}});
-        if (faulty)
-            db->Execute("DELETE FROM nowhere");
+        adding("TANKLST", {{"tankname", QString("New")}}).Update();
+        db->Execute(last);
         transaction.commit();
     };
-    EXPECT_EQ(numberOf([&] { deleteTank(true); }), int(Failure::SyntaxError));
-    EXPECT_EQ(count("WATERLOG"), 4);
-    EXPECT_EQ(count("TANKLST"), 0);
-    deleteTank(false);
+    EXPECT_EQ(numberOf([&] { deleteTank("DELETE FROM nowhere"); }), int(Failure::SyntaxError));
+    EXPECT_EQ(count("WATERLOG") + count("TANKLST"), 4);
+    deleteTank("DELETE FROM LIVESTOCK");
     EXPECT_EQ(count("WATERLOG"), 0);
     {
         Database::Transaction transaction(*db);

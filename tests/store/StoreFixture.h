@@ -4,56 +4,108 @@
 
 #include <functional>
 #include <map>
-#include <memory>
-#include <optional>
 
 #include <gtest/gtest.h>
-#include <QTemporaryDir>
+#include <QDir>
+#include <QFile>
+#include <sqlite3.h>
 
 #include "platform/RuntimeFailure.h"
 #include "store/Database.h"
+#include "store/NewDatabase.h"
 #include "support/ScriptedDoors.h"
 
-struct sqlite3;
-
-class StoreTest : public ::testing::Test
+/// The failure that the work ends in; nothing if it ends well.
+inline std::optional<RuntimeFailure> failureOf(const std::function<void()> &work)
 {
-protected:
-    StoreTest();
+    try {
+        work();
+    } catch (const RuntimeFailure &failure) {
+        return failure;
+    }
+    return std::nullopt;
+}
 
-    QString path(const QString &name = QStringLiteral("OM.MDB")) const { return folder.filePath(name); }
-    void open() { db = Database::OpenDatabase(path()); }
-    /// Opens the table's recordset for adding and sets columns of the buffer.
-    Recordset adding(const QString &table, const std::map<QString, Value> &columns);
-    void add(const QString &table, const std::map<QString, Value> &columns) { adding(table, columns).Update(); }
-    /// A water test of tank "T" at 9 o'clock of a day of January 2003.
-    void addWater(int day, double ph);
-    qsizetype count(const QString &table) { return db->OpenRecordset("SELECT * FROM " + table).RecordCount(); }
+/// Its number; 0 if it ends well.
+inline int numberOf(const std::function<void()> &work)
+{
+    const auto failure = failureOf(work);
+    return failure ? int(failure->number()) : 0;
+}
 
-    QTemporaryDir folder;
-    ScriptedDoors doors;
-    std::unique_ptr<Database> db;
-};
+inline void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+/// Names and contents of all files of a folder.
+inline std::map<QString, QByteArray> contentOf(const QString &folder)
+{
+    std::map<QString, QByteArray> content;
+    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
+        QFile file(QDir(folder).filePath(name));
+        content[name] = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+    return content;
+}
 
 /// Another program's connection: runs statements at once, and asks for one value as text.
 class OtherProgram
 {
 public:
-    explicit OtherProgram(const QString &path);
-    ~OtherProgram();
+    explicit OtherProgram(const QString &path) { sqlite3_open(QFile::encodeName(path).constData(), &m_handle); }
+    ~OtherProgram() { sqlite3_close(m_handle); }
     OtherProgram(const OtherProgram &) = delete;
     OtherProgram &operator=(const OtherProgram &) = delete;
-    /// The first value of the first row; "error" where the engine refuses.
-    QString run(const char *sql);
+    /// The first value of the last row; "error" where the engine refuses.
+    QString run(const QString &sql)
+    {
+        QString result;
+        const auto take = [](void *out, int, char **values, char **) {
+            *static_cast<QString *>(out) = QString::fromUtf8(values[0]);
+            return 0;
+        };
+        const int code = sqlite3_exec(m_handle, sql.toUtf8().constData(), take, &result, nullptr);
+        return code == SQLITE_OK ? result : QStringLiteral("error");
+    }
 
 private:
     sqlite3 *m_handle = nullptr;
 };
 
-/// The failure that the work ends in; nothing if it ends well.
-std::optional<RuntimeFailure> failureOf(const std::function<void()> &work);
-/// Its number; 0 if it ends well.
-int numberOf(const std::function<void()> &work);
-void writeFile(const QString &path, const QByteArray &bytes);
-/// Names and contents of all files of a folder.
-std::map<QString, QByteArray> contentOf(const QString &folder);
+class StoreTest : public ::testing::Test
+{
+protected:
+    StoreTest()
+    {
+        CreateDatabase(path());
+        open();
+    }
+
+    QString path(const QString &name = QStringLiteral("OM.MDB")) const { return folder.filePath(name); }
+    void open() { db = Database::OpenDatabase(path()); }
+    QString asked(const QString &sql) { return OtherProgram(path()).run(sql); }
+    qsizetype count(const QString &table) { return db->OpenRecordset("SELECT * FROM " + table).RecordCount(); }
+    /// Opens the table's recordset for adding and sets columns of the buffer.
+    Recordset adding(const QString &table, const std::map<QString, Value> &columns)
+    {
+        Recordset rows = db->OpenForAppend(table);
+        rows.AddNew();
+        for (const auto &[name, value] : columns)
+            rows[name].setValue(value);
+        return rows;
+    }
+    /// A water test of tank "T" at 9 o'clock of a day of January 2003.
+    Recordset addingWater(int day, double ph)
+    {
+        return adding(
+            "WATERLOG",
+            {{"tankname", QString("T")}, {"logdate", QDate(2003, 1, day)}, {"logtime", QTime(9, 0)}, {"ph", ph}});
+    }
+
+    QTemporaryDir folder;
+    ScriptedDoors doors;
+    std::unique_ptr<Database> db;
+};

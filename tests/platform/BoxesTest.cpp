@@ -1,0 +1,205 @@
+// The masked box by keys, clipboard, menu and focus, and the up-down beside a box.
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include "platform/MaskedBox.h"
+#include "platform/UpDown.h"
+#include "support/Mouse.h"
+#include "support/ScriptedDoors.h"
+
+namespace {
+
+/// Characters are typed; these stand for other keys.
+void play(QWidget *box, const QString &keys)
+{
+    for (const QChar key : keys) {
+        switch (key.unicode()) {
+        case u'<': QTest::keyClick(box, Qt::Key_Backspace); break;
+        case u'>': QTest::keyClick(box, Qt::Key_Delete); break;
+        case u'[': QTest::keyClick(box, Qt::Key_Home); break;
+        case u'^': QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier); break;
+        case u'~': QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier); break;
+        case u'=': QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); break;
+        case u'@': QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); break;
+        case u'%': QTest::keyClick(box, Qt::Key_X, Qt::ControlModifier); break;
+        case u'&': QTest::keyClick(box, Qt::Key_K, Qt::ControlModifier); break;
+        default: QTest::keyClick(box, key.toLatin1());
+        }
+    }
+}
+
+TEST(MaskedBox, TakesWhatItsMaskTakes)
+{
+    const char *const date = "##/##/##", *const time = "##:##:## ??";
+    const struct
+    {
+        const char *mask, *before, *keys, *text;
+        int refused = 0; ///< how many ValidationErrors
+    } cases[] = {
+        // Typed with and without delimiters; a delimiter jumps, and only where it stands.
+        {date, "", "031426", "03/14/26"},
+        {date, "", "03/14-26", "03/14/26", 1},
+        {date, "", "0/", "0 /  /  ", 1},
+        {date, "", "0 3", "0 /3 /  "},
+        {date, "", "0314267", "03/14/26", 1},
+        // Overtyping, selections, Backspace and Delete leave the delimiters where they are.
+        {date, "03/14/26", "[11", "11/14/26"},
+        {date, "03/14/26", "^7", "7 /  /  "},
+        {date, "03/14/26", "^x", "03/14/26", 1},
+        {date, "", "031<<", "0 /  /  "},
+        {date, "03/14/26", "[<>", " 3/14/26"},
+        {date, "03/14/26", "^%", "  /  /  "},
+        // Undo and redo go by whole steps.
+        {date, "03/14/26", "^7~", "03/14/26"},
+        {date, "03/14/26", "^7~=", "7 /  /  "},
+        // The clipboard holds 12/24/25: all or nothing goes in.
+        {date, "03/14/26", "^@", "12/24/25"},
+        {time, "", "@", "  :  :     ", 1},
+        // Letters at the end, and digits before.
+        {time, "", "09:26:53 PM", "09:26:53 PM"},
+        {time, "", "0926531", "09:26:53   ", 1},
+        {time, "", "0a9", "09:  :     ", 1},
+        // A text that is set fills the places where it fits.
+        {date, "3/14/26", "", "3 /4 /6 "},
+        {date, "03/14/2026", "", "03/14/20"},
+    };
+    for (const auto &[mask, before, keys, text, refused] : cases) {
+        SCOPED_TRACE(std::string(mask) + " with " + before + ": " + keys);
+        QGuiApplication::clipboard()->setText(QStringLiteral(" 12/24/25\n"));
+        MaskedBox box;
+        box.setMask(QLatin1String(mask));
+        box.setText(QLatin1String(before));
+        QSignalSpy errors(&box, &MaskedBox::ValidationError);
+        play(&box, QLatin1String(keys));
+        EXPECT_EQ(box.Text(), QLatin1String(text));
+        EXPECT_EQ(box.ClipText(), QString(box.Text()).remove(QRegularExpression("[^0-9a-zA-Z]")));
+        EXPECT_EQ(errors.count(), refused);
+    }
+}
+
+/// No editing key of the platform, and no code that knows only a line edit, breaks the shape.
+TEST(MaskedBox, KeepsItsShapeWhateverComes)
+{
+    MaskedBox box;
+    box.setMask(QStringLiteral("##/##/## ??"));
+    quint32 random = 20260314;
+    const auto next = [&random](quint32 below) { return (random = random * 1664525u + 1013904223u) / 65536 % below; };
+    const QString keys = QStringLiteral("0123456789/ ab<>[^~~~==@%&");
+    const QRegularExpression shape(QStringLiteral("^[\\d ]{2}/[\\d ]{2}/[\\d ]{2} ..$"));
+    for (int step = 0; step < 4000; ++step) {
+        switch (next(20)) {
+        case 0: static_cast<QLineEdit &>(box).setText(QStringLiteral("4x6")); break;
+        case 1: box.setSelection(int(next(12)), int(next(12))); break;
+        case 2: box.insert(QStringLiteral("9")); break;
+        case 3: box.del(); break;
+        default: play(&box, keys.at(next(quint32(keys.size()))));
+        }
+        ASSERT_TRUE(shape.match(box.Text()).hasMatch()) << box.Text().toStdString() << " at step " << step;
+    }
+}
+
+/// A box with a format beside another one with an up-down, in a window.
+class BoxesTest : public testing::Test
+{
+protected:
+    BoxesTest()
+    {
+        auto *column = new QVBoxLayout(&m_window);
+        for (QWidget *widget : std::initializer_list<QWidget *>{m_box, m_other, m_upDown})
+            column->addWidget(widget);
+        m_box->setFormat(QStringLiteral("##0.000"));
+        m_box->setMaxLength(64);
+        m_window.show();
+        m_window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        m_other->setFocus();
+    }
+    void turnWheel(int eighths)
+    {
+        QWheelEvent event(QPointF(3, 3), QPointF(3, 3), {}, {0, eighths}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(m_other, &event);
+    }
+
+    QWidget m_window;
+    MaskedBox *m_box = new MaskedBox;
+    QLineEdit *m_other = new QLineEdit;
+    UpDown *m_upDown = new UpDown;
+};
+
+TEST_F(BoxesTest, ANumberIsShownInItsPictureWhileTheFocusIsElsewhere)
+{
+    for (const auto &[typed, shown] :
+         {std::pair{"8.12345", "8.123"}, {"1,000", "1000.000"}, {"12ab", "12ab"}, {"", ""}, {"1e200", "1e200"}}) {
+        SCOPED_TRACE(typed);
+        m_box->setFocus(Qt::TabFocusReason);
+        play(m_box, QStringLiteral(">") + QLatin1String(typed));
+        QSignalSpy changed(m_box, &QLineEdit::textChanged);
+        m_other->setFocus();
+        EXPECT_EQ(m_box->FormattedText(), QLatin1String(shown));
+        EXPECT_EQ(m_box->Text(), QLatin1String(typed));
+        m_box->setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(m_box->selectedText(), QLatin1String(typed));
+        EXPECT_EQ(changed.count(), 0) << "a picture is no change";
+    }
+    play(m_box, QStringLiteral("8.12345"));
+    m_other->setFocus();
+    m_box->setFocus();
+    play(m_box, QStringLiteral("6~~~"));
+    EXPECT_EQ(m_box->Text(), QStringLiteral("8.12345")) << "undo gives no picture for content";
+}
+
+TEST_F(BoxesTest, AnUpDownStepsWithinItsBoundsByArrowKeyAndWheelAndTellsEachChangeOnce)
+{
+    m_upDown->setMax(110);
+    m_upDown->setKeyBox(m_other);
+    QSignalSpy changes(m_upDown, &UpDown::Change);
+    const std::pair<std::function<void()>, int> steps[] = {
+        {[this] { m_upDown->setValue(100); }, 100},
+        {[this] { mouse::click(m_upDown->findChild<QWidget *>(QStringLiteral("up"))); }, 101},
+        {[this] { QTest::keyClick(m_other, Qt::Key_Up); }, 102},
+        {[this] { QTest::keyClick(m_other, Qt::Key_PageUp); }, 110},
+        {[this] { turnWheel(60); }, 110},
+        {[this] { turnWheel(-240); }, 109}, // with the half step before
+        {[this] { m_upDown->setMax(20); }, 20},
+        {[this] { m_upDown->setMin(30), m_upDown->setMax(40); }, 30}};
+    for (const auto &[step, value] : steps) {
+        step();
+        EXPECT_EQ(m_upDown->Value(), value);
+    }
+    EXPECT_EQ(changes.count(), 7);
+    EXPECT_EQ(m_other->text(), QString());
+    m_other->clearFocus();
+    turnWheel(120);
+    m_upDown->setEnabled(false);
+    QTest::keyClick(m_other, Qt::Key_Up);
+    EXPECT_EQ(m_upDown->Value(), 30) << "not without the focus, nor disabled";
+}
+
+TEST_F(BoxesTest, ABoundUpDownStepsFromWhatItsBoxHolds)
+{
+    m_upDown->setMin(1);
+    m_upDown->setMax(99);
+    m_upDown->setBoundBox(m_other);
+    for (const auto &[held, steps, written] : {std::tuple{"5", 1, "6"},
+                                               {"99", 1, "99"},
+                                               {"abc", 1, "1"},
+                                               {"7 days", 1, "8"},
+                                               {"2.5", -1, "2"},
+                                               {"-1e300", -1, "1"},
+                                               {"1e300", 1, "99"},
+                                               {"95", 10, "99"}}) {
+        m_other->setText(QLatin1String(held));
+        m_upDown->stepBy(steps);
+        EXPECT_EQ(m_other->text(), QLatin1String(written)) << held;
+        EXPECT_EQ(m_upDown->Value(), m_other->text().toInt()) << held;
+    }
+}
+
+} // namespace

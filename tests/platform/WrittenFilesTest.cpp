@@ -1,0 +1,85 @@
+// The files that the program writes for a keeper beside his database: PDFs and settings. A failure leaves what was
+// there.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/PaintedPages.h"
+#include "platform/RuntimeFailure.h"
+#include "platform/SettingsStore.h"
+
+namespace {
+
+class WrittenFiles : public ::testing::Test
+{
+protected:
+    QByteArray content() const
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+    void write(const QByteArray &bytes)
+    {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    qsizetype files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(); }
+
+    QTemporaryDir folder;
+    QString name = folder.filePath("file");
+};
+
+TEST_F(WrittenFiles, APdfIsThereWhenItsDocumentHasEnded)
+{
+    for (const bool ended : {false, true}) {
+        write("an older log");
+        {
+            const auto pages = PagesInPdf(name);
+            pages->beginDocument("Log");
+            pages->text(0, 0, {"Arial", 14, true, true, false}, "Reef");
+            pages->newPage();
+            EXPECT_EQ(content(), "an older log") << "not before its end";
+            if (ended)
+                pages->endDocument();
+        }
+        EXPECT_EQ(content() == "an older log", !ended);
+        EXPECT_EQ(files(), 1);
+    }
+    EXPECT_TRUE(content().startsWith("%PDF-") && content().trimmed().endsWith("%%EOF"));
+    EXPECT_TRUE(content().contains("/Count 2")) << "two pages";
+}
+
+TEST_F(WrittenFiles, APdfInAFolderThatIsNotThereOrGoesAwayIsAFailure)
+{
+    EXPECT_THROW(PagesInPdf(folder.filePath("none/log.pdf")), RuntimeFailure);
+    QDir(folder.path()).mkdir("usb");
+    const auto pages = PagesInPdf(folder.filePath("usb/log.pdf"));
+    pages->beginDocument("Log");
+    ASSERT_TRUE(QDir(folder.filePath("usb")).removeRecursively());
+    EXPECT_THROW(pages->endDocument(), RuntimeFailure);
+}
+
+TEST_F(WrittenFiles, ALineThatIsNoSettingKeepsNoneFromBeingReadOrStored)
+{
+    write("nothing\n[SETTINGS]\nDate_Order=DDMMYY\nCustom1=@, b\nno setting at all\n[Half a section\nDate_Delim=.\n");
+    SettingsStore settings(name);
+    EXPECT_EQ(settings.value("Date_Order", "MMDDYY"), "DDMMYY");
+    EXPECT_EQ(settings.value("Custom1", ""), "@, b");
+    EXPECT_NO_THROW(settings.setValue("Date_Order", "YYMMDD"));
+    ASSERT_TRUE(QFile::copy(name, name + "2")); // by another name it is read anew
+    EXPECT_EQ(SettingsStore(name + "2").value("Date_Order", "MMDDYY"), "YYMMDD");
+}
+
+TEST_F(WrittenFiles, ASettingThatCannotBeWrittenIsAFailureAndIsNotReadBack)
+{
+    write("no folder");
+    SettingsStore settings(name + "/OMK.ini");
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        EXPECT_THROW(settings.setValue("Date_Order", "YYMMDD"), RuntimeFailure);
+        EXPECT_EQ(settings.value("Date_Order", "MMDDYY"), "MMDDYY");
+    }
+}
+
+} // namespace
