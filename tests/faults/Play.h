@@ -152,22 +152,24 @@ private:
     {
         const QString number = QString::number(move.number);
         if (move.kind() == 'W')
-            m_keeper.inNext<frm_WaterAddEdit>([this, number](frm_WaterAddEdit &window) {
-                control<MaskedBox>(window, "txt_nitrate").setText(number);
-                confirm(*window.cmd_OK);
-            });
+            fillNext<frm_WaterAddEdit>([number](auto &w) { control<MaskedBox>(w, "txt_nitrate").setText(number); });
         else if (move.kind() == 'L')
-            m_keeper.inNext<frm_LivesAddEdit>([this, number](frm_LivesAddEdit &window) {
-                window.lst_AnimalList->setEditText("Tang - Yellow");
-                window.txt_quantity->setText(number);
-                confirm(*window.cmd_OK);
+            fillNext<frm_LivesAddEdit>([number](auto &w) {
+                w.lst_AnimalList->setEditText("Tang - Yellow");
+                w.txt_quantity->setText(number);
             });
         else
-            m_keeper.inNext<frm_MaintAddEdit>([this, number](frm_MaintAddEdit &window) {
-                window.lst_mainttasklist->setEditText("Water Change");
-                window.txt_quantity->setText(number);
-                confirm(*window.cmd_OK);
+            fillNext<frm_MaintAddEdit>([number](auto &w) {
+                w.lst_mainttasklist->setEditText("Water Change");
+                w.txt_quantity->setText(number);
             });
+    }
+    template <class Window> void fillNext(const std::function<void(Window &)> &fill)
+    {
+        m_keeper.inNext<Window>([this, fill](Window &window) {
+            fill(window);
+            confirm(*window.cmd_OK);
+        });
     }
 
     Keeper &m_keeper;

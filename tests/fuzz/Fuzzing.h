@@ -54,13 +54,6 @@ private:
     QByteArrayView m_rest;
 };
 
-/// Installed at the first call, and there until the end.
-inline ScriptedDoors &fuzzDoors()
-{
-    static ScriptedDoors doors;
-    return doors;
-}
-
 /// Path of a file in a folder that goes with the process; in memory where the system has a place for that.
 inline QString scratchPath(const QString &name)
 {
@@ -80,4 +73,15 @@ inline QByteArray readFile(const QString &path)
     QFile file(path);
     FUZZ_REQUIRE(file.open(QIODevice::ReadOnly), path);
     return file.readAll();
+}
+
+/// What a target is: one run with one input. The doors are installed, and the clock of the run before stands.
+void fuzz(Input &input, ScriptedDoors &doors);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    static ScriptedDoors doors;
+    Input input(data, size);
+    fuzz(input, doors);
+    return 0;
 }

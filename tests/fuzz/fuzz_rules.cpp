@@ -5,9 +5,8 @@
 #include "platform/RuntimeFailure.h"
 #include "reminders/Occurrences.h"
 #include "reminders/RuleFields.h"
-#include "store/Connection.h"
-#include "store/Rows.h"
-#include "store/schema.h"
+#include "store/Database.h"
+#include "store/NewDatabase.h"
 #include "text/Dates.h"
 
 namespace {
@@ -29,34 +28,19 @@ Value stored(const QString &text)
 }
 
 /// The row goes through the engine as a keeper's would: its columns decide what becomes of the values.
-std::vector<RecurrenceRule> readBack(const std::vector<Value> &values)
+std::vector<RecurrenceRule> readBack(const Parameters &values)
 {
-    static const auto connection = [] {
-        auto memory = std::make_shared<Connection>(QStringLiteral(":memory:"));
-        for (const schema::Table &table : schema::tables())
-            memory->run(table.create, {});
-        return memory;
+    static const auto database = [] {
+        CreateDatabase(scratchPath(QStringLiteral("OM.MDB")));
+        return Database::OpenDatabase(scratchPath(QStringLiteral("OM.MDB")));
     }();
-    connection->run("DELETE FROM MAINTSCHED", {});
-    Statement insert(connection,
-                     QStringLiteral("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, "
-                                    "SchedRtype, SchedRSubtype, SchedDetailText, SchedEnglishDesc) "
-                                    "VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
-                     {}, Statement::Use::Again);
-    insert.bind(values);
-    insert.run();
-    Statement query(connection, QStringLiteral("SELECT * FROM maintsched"), {});
-    return ReadRules(Rows::read(query));
-}
-
-QString inWords(const RecurrenceRule &rule)
-{
-    return QStringLiteral("%1 to %2, type %3.%4, interval %5, detail \"%6\"")
-        .arg(rule.StartDate.toString(Qt::ISODate), rule.EndDate.toString(Qt::ISODate))
-        .arg(rule.RecurrenceType)
-        .arg(rule.RecurrenceSubtype)
-        .arg(rule.RecurrenceInterval)
-        .arg(rule.RecurrenceDetail);
+    static Database::Transaction unfinished(*database); // so that nothing waits for a disk
+    database->Execute(QStringLiteral("DELETE FROM MAINTSCHED"));
+    database->Execute(QStringLiteral("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, "
+                                     "SchedRtype, SchedRSubtype, SchedDetailText, SchedEnglishDesc) "
+                                     "VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+                      values);
+    return ReadRules(*database->OpenRecordset(QStringLiteral("SELECT * FROM maintsched")).rows());
 }
 
 struct Walked
@@ -70,7 +54,7 @@ Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRang
 {
     Walked walked;
     walked.fault = Walk(rule, run, range, order, [&walked](const QDate &date) { walked.dates.push_back(date); });
-    FUZZ_REQUIRE(!walked.fault || walked.dates.empty(), inWords(rule));
+    FUZZ_REQUIRE(!walked.fault || walked.dates.empty(), rule.RecurrenceDetail);
     return walked;
 }
 
@@ -79,17 +63,19 @@ Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRang
 void checkPreview(const RecurrenceRule &rule, const Dates &dates)
 {
     if (rule.is(Pattern::Once)) {
-        FUZZ_REQUIRE(dates.size() <= 1, inWords(rule));
+        FUZZ_REQUIRE(dates.size() <= 1, rule.RecurrenceDetail);
         return;
     }
     const bool byWeekday = (rule.is(Pattern::Monthly) || rule.is(Pattern::Yearly)) && rule.RecurrenceSubtype == 1;
     for (const QDate &date : dates)
-        FUZZ_REQUIRE(!byWeekday || date.dayOfWeek() % 7 == rule.RecurrenceDetail[1].digitValue(), inWords(rule));
+        FUZZ_REQUIRE(!byWeekday || date.dayOfWeek() % 7 == rule.RecurrenceDetail[1].digitValue(),
+                     rule.RecurrenceDetail);
     const auto beyond = std::count_if(dates.begin(), dates.end(), [&](QDate d) { return d > rule.EndDate; });
     const bool ascending = std::adjacent_find(dates.begin(), dates.end(), std::greater_equal<>()) == dates.end();
-    FUZZ_REQUIRE(std::all_of(dates.begin(), dates.end(), [&](QDate d) { return d >= rule.StartDate; }), inWords(rule));
-    FUZZ_REQUIRE(beyond <= (rule.is(Pattern::Weekly) ? 7 : 1), inWords(rule));
-    FUZZ_REQUIRE(ascending || rule.is(Pattern::Weekly), inWords(rule));
+    FUZZ_REQUIRE(std::all_of(dates.begin(), dates.end(), [&](QDate d) { return d >= rule.StartDate; }),
+                 rule.RecurrenceDetail);
+    FUZZ_REQUIRE(beyond <= (rule.is(Pattern::Weekly) ? 7 : 1), rule.RecurrenceDetail);
+    FUZZ_REQUIRE(ascending || rule.is(Pattern::Weekly), rule.RecurrenceDetail);
 }
 
 void checkWalks(const RecurrenceRule &rule, const DateRange &range, const QString &order)
@@ -98,10 +84,10 @@ void checkWalks(const RecurrenceRule &rule, const DateRange &range, const QStrin
     Walked preview = walk(rule, previewRun, range, order);
     const Walked schedule = walk(rule, scheduleRun, range, order);
     checkPreview(rule, preview.dates);
-    FUZZ_REQUIRE(schedule == walk(rule, upcomingRun, range, order), inWords(rule));
-    FUZZ_REQUIRE(std::none_of(schedule.dates.begin(), schedule.dates.end(), outside), inWords(rule));
+    FUZZ_REQUIRE(schedule == walk(rule, upcomingRun, range, order), rule.RecurrenceDetail);
+    FUZZ_REQUIRE(std::none_of(schedule.dates.begin(), schedule.dates.end(), outside), rule.RecurrenceDetail);
     std::erase_if(preview.dates, outside);
-    FUZZ_REQUIRE(rule.is(Pattern::Yearly) || preview == schedule, inWords(rule));
+    FUZZ_REQUIRE(rule.is(Pattern::Yearly) || preview == schedule, rule.RecurrenceDetail);
 }
 
 /// What the editor shows of a rule and finds no fault with, it stores as a rule of the same dates, and shows again.
@@ -121,9 +107,9 @@ void checkEditor(const RecurrenceRule &rule, const DateConventions &conventions)
     if (EditFault(fields, conventions) || !known)
         return;
     FUZZ_REQUIRE(walk(rule, previewRun, {}, conventions.order) == walk(again, previewRun, {}, conventions.order),
-                 inWords(rule) + u" and then " + inWords(again));
+                 again.RecurrenceDetail);
     FUZZ_REQUIRE(MakePreview(fields, conventions).dates == walk(again, previewRun, {}, conventions.order).dates,
-                 inWords(rule));
+                 rule.RecurrenceDetail);
     EditorFields shown = fields;
     ShowRecurrence(again, conventions, shown);
     FUZZ_REQUIRE(EnglishSentence(shown) == EnglishSentence(fields), EnglishSentence(shown));
@@ -131,17 +117,15 @@ void checkEditor(const RecurrenceRule &rule, const DateConventions &conventions)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void fuzz(Input &input, ScriptedDoors &)
 {
-    fuzzDoors();
-    Input input(data, size);
     const char *const orders[] = {"MMDDYY", "DDMMYY", "YYMMDD"};
     const QString order = QLatin1String(orders[input.choice(3)]);
     const DateConventions conventions{order, MakeDatePicture(order, QStringLiteral("/-.").at(input.choice(3)))};
     const QDate from = QDate(1990, 1, 1).addDays(input.number(2));
     const DateRange range{from, from.addDays(input.choice(256) * 4)};
     input.line();
-    std::vector<Value> values;
+    Parameters values;
     for (int column = 0; column < 8; ++column)
         values.push_back(stored(input.line()));
 
@@ -151,5 +135,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         checkWalks(rule, range, order);
         checkEditor(rule, conventions);
     }
-    return 0;
 }

@@ -9,10 +9,9 @@ const QString keys[] = {QStringLiteral("DateOrder"), QStringLiteral("DATEORDER")
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+void fuzz(Input &input, ScriptedDoors &)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // Qt complains of odd values
-    Input input(data, size);
     const QString key = keys[input.choice(int(std::size(keys)))];
     const QString written = input.line();
     static int files = 0; // a name for each: settings of the same name and age are not read again
@@ -21,14 +20,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     writeFile(path, content);
 
     QStringList before;
-    {
-        const SettingsStore store(path);
-        for (const QString &k : keys) {
-            before << store.value(k, QStringLiteral("default"));
-            FUZZ_REQUIRE(!content.isEmpty() || before.last() == u"default", k);
-        }
-    }
     SettingsStore store(path);
+    for (const QString &k : keys) {
+        before << store.value(k, QStringLiteral("default"));
+        FUZZ_REQUIRE(!content.isEmpty() || before.last() == u"default", k);
+    }
     store.setValue(key, written);
     FUZZ_REQUIRE(store.value(key, QStringLiteral("default")) == written, written);
     QFile::copy(path, path + u'2'); // under another name it comes from the file
@@ -39,5 +35,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     QFile::remove(path);
     QFile::remove(path + u'2');
-    return 0;
 }

@@ -11,65 +11,50 @@ namespace {
 
 QByteArray recordLine(const QByteArray &common, const QByteArray &latin) { return common.leftJustified(49) + latin; }
 
-struct ReadResult
+struct Names
 {
-    QStringList names;
-    QStringList latin;
-    QStringList progress;
-    int count = 0;
+    explicit Names(const QByteArray &bytes)
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath("NAMESSW.TXT"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        file.close();
+        ReadNameFile(
+            folder.filePath("namessw.txt"), [this](NameRecord r) { read << r.common + '|' + r.latin.toString(); },
+            [this](const QString &text) { progress << text; });
+    }
+    QStringList read, progress;
 };
-
-ReadResult readBytes(const QByteArray &bytes)
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("NAMESSW.TXT"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
-    ReadResult read;
-    read.count = ReadNameFile(
-        folder.filePath("namessw.txt"),
-        [&read](NameRecord r) {
-            read.names << r.common;
-            read.latin << r.latin.toString();
-        },
-        [&read](const QString &text) { read.progress << text; });
-    return read;
-}
 
 } // namespace
 
 TEST(NameFile, TakesRecordsAloneWhateverTheLineEnds)
 {
     const QByteArray tang = recordLine("Yellow Tang", "Zebrasoma flavescens");
-    EXPECT_EQ(TurnAbout(u"Betta"), "Betta");
     for (const QByteArray end : {"\n", "\r\n", "\r"}) {
-        const auto read = readBytes("\xEF\xBB\xBF! Title" + QByteArray(60, '-') + end + end + tang + end +
-                                    recordLine("Too short", "X") + end + // 50 characters
-                                    recordLine("Just long enough", "Xy") + end + "!" + tang + end + tang);
-        EXPECT_EQ(read.names, QStringList({"Tang - Yellow ", "enough - Just long ", "Tang - Yellow "}));
-        EXPECT_EQ(read.latin, QStringList({"Zebrasoma flavescens", "Xy", "Zebrasoma flavescens"}));
+        const Names names("\xEF\xBB\xBF! Title" + QByteArray(60, '-') + end + end + tang + end +
+                          recordLine("Too short", "X") + end + // 50 characters
+                          recordLine("Enough", "Xy") + end + "!" + tang + end + tang);
+        EXPECT_EQ(names.read, QStringList({"Tang - Yellow |Zebrasoma flavescens", "Enough|Xy",
+                                           "Tang - Yellow |Zebrasoma flavescens"}));
     }
 }
 
 TEST(NameFile, CountsCharactersNotBytes)
 {
     const QString umlaut = QString::fromUtf8("Grüner Fisch").leftJustified(49) + "Pisces viridis";
-    EXPECT_EQ(readBytes(umlaut.toUtf8()).names, QStringList(QString::fromUtf8("Fisch - Grüner ")));
-    EXPECT_EQ(readBytes(umlaut.toLatin1()).names, QStringList(QString::fromUtf8("Fisch - Grüner ")));
-    EXPECT_EQ(readBytes(recordLine("Fish", "Pisces b\xe9")).latin, QStringList(QString::fromUtf8("Pisces bé")));
-    EXPECT_EQ(readBytes(QString(QString::fromUtf8("ü").repeated(50)).toUtf8()).count, 0); // 100 bytes, 50 characters
+    for (const QByteArray &bytes : {umlaut.toUtf8(), umlaut.toLatin1()})
+        EXPECT_EQ(Names(bytes).read, QStringList(QString::fromUtf8("Fisch - Grüner |Pisces viridis")));
+    EXPECT_EQ(Names(recordLine("Fish", "Pisces b\xe9")).read, QStringList(QString::fromUtf8("Fish|Pisces bé")));
+    EXPECT_TRUE(Names(QString::fromUtf8("ü").repeated(50).toUtf8()).read.isEmpty()); // 100 bytes
 }
 
 TEST(NameFile, TellsADotForEachTwentyNamesAndStartsAgainAtTwoThousand)
 {
-    QByteArray bytes;
-    for (int i = 0; i < 2041; ++i)
-        bytes += recordLine("Fish " + QByteArray::number(i), "Pisces numerus") + "\n";
-    const auto progress = readBytes(bytes).progress;
-    ASSERT_EQ(progress.size(), 103); // the first name, and each twentieth
-    EXPECT_EQ(progress[0], "Loading.");
+    const QStringList progress = Names(QByteArray(recordLine("Fish", "Pisces") + '\n').repeated(2041)).progress;
+    ASSERT_EQ(progress.size(), 103) << "the first name, and each twentieth";
     EXPECT_EQ(progress[99].count('.'), 100);
-    EXPECT_EQ(progress[100], "Loading.."); // set anew, and a dot of its own
+    EXPECT_EQ(progress[100], "Loading..") << "set anew, and a dot of its own";
 }
 
 TEST(NameFile, TheShippedOnesKeepTheFormat)

@@ -18,15 +18,13 @@ public:
     LiteralWalk(const RecurrenceRule &rule, bool monthByName, bool usefilter, const DateRange &range) :
         r(rule), byName(monthByName), filtered(usefilter), wanted(range)
     {
-        switch (r.RecurrenceType * 2 + (r.RecurrenceType == 1 || r.RecurrenceType == 4 ? 0 : r.RecurrenceSubtype)) {
-        case 0: everyXDays(); break;
-        case 1: everyWeekday(); break;
-        case 2: weekly(); break;
-        case 4: monthlyDay(); break;
-        case 5: monthlyWeekday(); break;
-        case 6: yearlyDay(); break;
-        case 7: yearlyWeekday(); break;
-        case 8: emitDate(fromText(r.RecurrenceDetail)); break;
+        const bool second = r.RecurrenceSubtype == 1;
+        switch (Pattern(r.RecurrenceType)) {
+        case Pattern::Daily: second ? everyWeekday() : everyXDays(); break;
+        case Pattern::Weekly: weekly(); break;
+        case Pattern::Monthly: second ? monthlyWeekday() : monthlyDay(); break;
+        case Pattern::Yearly: second ? yearlyWeekday() : yearlyDay(); break;
+        case Pattern::Once: emitDate(fromText(r.RecurrenceDetail)); break;
         }
         if (failed)
             dates.clear();
@@ -37,15 +35,12 @@ public:
 
 private:
     static int weekday(const QDate &date) { return date.dayOfWeek() % 7 + 1; } // 1 is Sunday
-    static QString two(int number) { return QString("%1").arg(number, 2, 10, QChar('0')); }
-
     QDate fromText(const QString &text)
     {
         const auto date = ReadDate(text);
         failed = failed || !date;
         return date.value_or(QDate());
     }
-    QDate firstOf(const QDate &d) { return fromText(two(d.month()) + "/01/" + QString::number(d.year())); }
     void emitDate(const QDate &d)
     {
         if (!filtered || (d >= wanted.from && d <= wanted.to))
@@ -86,15 +81,19 @@ private:
     }
     void monthlyDay()
     {
-        if (!moves())
-            return;
-        QDate d = fromText(two(r.StartDate.month()) + "/" + r.RecurrenceDetail.trimmed() + "/" +
-                           QString::number(r.StartDate.year()));
+        if (moves())
+            sameDay(r.StartDate.month(), r.RecurrenceDetail.trimmed(), 1, r.RecurrenceInterval);
+    }
+    void yearlyDay() { sameDay(number(0, -1) + byName, QString::number(r.RecurrenceInterval), 12, 12); }
+    /// From that day in the year of the start, or so many months later where that is before it.
+    void sameDay(int month, const QString &day, int toFirst, int toNext)
+    {
+        QDate d = fromText(QString("%1/%2/%3").arg(month).arg(day).arg(r.StartDate.year()));
         if (failed)
             return;
         if (d < r.StartDate)
-            d = AddMonths(d, 1);
-        for (; d <= r.EndDate; d = AddMonths(d, r.RecurrenceInterval))
+            d = AddMonths(d, toFirst);
+        for (; d <= r.EndDate; d = AddMonths(d, toNext))
             emitDate(d);
     }
     /// From the first of a month to its weekday of that ordinal.
@@ -112,37 +111,24 @@ private:
     }
     void monthlyWeekday()
     {
-        const int x = number(0, 1), w = number(1, 1);
-        failed = failed || w > 6; // would look for ever
-        if (failed || !moves())
-            return;
-        for (QDate d = r.StartDate; d <= r.EndDate; d = AddMonths(firstOf(d), r.RecurrenceInterval)) {
-            d = place(firstOf(d), x, w);
-            if (d >= r.StartDate)
-                emitDate(d);
-        }
-    }
-    void yearlyDay()
-    {
-        const int month = number(0, -1) + (byName ? 1 : 0);
-        QDate d = fromText(QString("%1/%2/%3").arg(month).arg(r.RecurrenceInterval).arg(r.StartDate.year()));
-        if (failed)
-            return;
-        if (d < r.StartDate)
-            d = AddYears(d, 1);
-        for (; d <= r.EndDate; d = AddYears(d, 1))
-            emitDate(d);
+        if (moves())
+            sameWeekday(0, r.RecurrenceInterval);
     }
     void yearlyWeekday()
     {
-        const int x = number(0, 1), w = number(1, 1), month = number(2, 2) + (byName ? 1 : 0);
-        failed = failed || w > 6 || month < 1 || month > 12;
-        if (failed)
-            return;
-        for (QDate d = r.StartDate; d <= r.EndDate; d = AddYears(firstOf(d), 1)) {
-            d = place(fromText(two(month) + "/01/" + QString::number(d.year())), x, w);
+        const int month = number(2, 2) + byName;
+        failed = failed || month < 1 || month > 12;
+        sameWeekday(month, 12);
+    }
+    void sameWeekday(int month, int toNext) ///< month 0: the one that the walk is in
+    {
+        const int x = number(0, 1), w = number(1, 1);
+        failed = failed || w > 6; // would look for ever
+        for (QDate d = r.StartDate; !failed && d <= r.EndDate;) {
+            d = place(QDate(d.year(), month == 0 ? d.month() : month, 1), x, w);
             if (d >= r.StartDate)
                 emitDate(d);
+            d = AddMonths(QDate(d.year(), d.month(), 1), toNext);
         }
     }
 
