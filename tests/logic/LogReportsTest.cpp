@@ -85,18 +85,3 @@ TEST_F(LogReports, AllTanksComeByNameEachOnAPageOfItsOwn)
     EXPECT_TRUE(pages[0].find("Page number:1") && pages[1].find("Page number:1"));
     EXPECT_TRUE(pages[0].find("Tanksize: 20 gal.      ")) << "a Null prints as nothing";
 }
-
-TEST_F(LogReports, ALandscapeCopyLeavesTheNextDocumentUprightAndTheNextCopyReadsAnew)
-{
-    addWater("r1", QDate(2026, 1, 2), 8);
-    std::vector<PrintedDocument> documents;
-    RecordedPages pages(documents);
-    Printer page(pages, "Both");
-    const Report water = MakeLogReport(WaterTab, *db, "MM/DD/YY", "r1");
-    ASSERT_TRUE(water.open());
-    water.print(page);
-    EXPECT_FALSE(page.Landscape());
-    addWater("r1", QDate(2026, 1, 3), 7);
-    water.print(page); // as a preview does
-    EXPECT_TRUE(documents[1].pages[0].find("8.000") && documents[1].pages[0].find("7.000"));
-}

@@ -65,7 +65,7 @@ TEST(MaskedBox, TakesWhatItsMaskTakes)
         {time, "", "09:26:53 PM", "09:26:53 PM"},
         {time, "", "0926531", "09:26:53   ", 1},
         {time, "", "0a9", "09:  :     ", 1},
-        // A text that is set fills the places where it fits.
+        // A text that is set fills the places that it fits.
         {date, "3/14/26", "", "3 /4 /6 "},
         {date, "03/14/2026", "", "03/14/20"},
     };

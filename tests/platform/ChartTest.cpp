@@ -17,7 +17,6 @@ struct ShownChart : Chart
 {
     ShownChart(int type, const std::vector<QStringList> &columns, const QSize &size = {600, 400})
     {
-        setAttribute(Qt::WA_DontShowOnScreen, false);
         setColumnCount(int(columns.size()));
         setRowCount(int(columns.front().size()));
         for (int row = 1; row <= RowCount(); ++row)

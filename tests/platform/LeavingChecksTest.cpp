@@ -5,13 +5,12 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDialog>
-#include <QFormLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include "platform/LeavingChecks.h"
 #include "support/Mouse.h"
@@ -19,45 +18,42 @@
 
 namespace {
 
-/// Two boxes that take no "bad", a plain button, OK and Cancel.
-class EntryWindow : public QDialog
+/// Two boxes that take no "bad", a plain button, OK and Cancel; shown, with the focus in the first box.
+struct EntryWindow : QDialog
 {
-public:
-    EntryWindow()
+    explicit EntryWindow(bool modal = false)
     {
-        auto *form = new QFormLayout(this);
-        form->addRow(QStringLiteral("&First"), first);
-        form->addRow(QStringLiteral("&Second"), second);
-        for (QPushButton *button : {plain, ok, cancel}) {
-            form->addRow(button);
-            button->setAutoDefault(false);
-        }
+        auto *column = new QVBoxLayout(this);
+        for (QWidget *widget : std::initializer_list<QWidget *>{first, second, plain, ok, cancel})
+            column->addWidget(widget);
         ok->setDefault(true);
-        checks.watch(first, [this] { return check(first); });
-        checks.watch(second, [this] { return check(second); });
+        for (QLineEdit *box : {first, second})
+            checks.watch(box, [box] {
+                const bool good = box->text() != QStringLiteral("bad");
+                if (!good)
+                    MsgBox(QStringLiteral("Not this."));
+                return good;
+            });
         checks.exempt(cancel);
         connect(ok, &QPushButton::clicked, this, [this] { stored += checks.passes() ? 1 : 0; });
         connect(plain, &QPushButton::clicked, this, [this] { ++plainClicks; });
         connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+        setModal(modal);
+        show();
+        activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(this));
+        first->setFocus();
     }
-
-    QLineEdit *first = new QLineEdit;
-    QLineEdit *second = new QLineEdit;
-    QPushButton *plain = new QPushButton(QStringLiteral("Plain"));
-    QPushButton *ok = new QPushButton(QStringLiteral("&OK"));
-    QPushButton *cancel = new QPushButton(QStringLiteral("Cancel"));
-    LeavingChecks checks{this};
-    int stored = 0;
-    int plainClicks = 0;
-
-private:
-    bool check(QLineEdit *box)
+    void enter(const char *text)
     {
-        if (box->text() != QStringLiteral("bad"))
-            return true;
-        MsgBox(QStringLiteral("Not this."), vbExclamation, QStringLiteral("Oops!"));
-        return false;
+        first->selectAll();
+        QTest::keyClicks(first, QLatin1String(text));
     }
+
+    QLineEdit *first = new QLineEdit, *second = new QLineEdit;
+    QPushButton *plain = new QPushButton, *ok = new QPushButton, *cancel = new QPushButton;
+    LeavingChecks checks{this};
+    int stored = 0, plainClicks = 0;
 };
 
 using mouse::click;
@@ -121,34 +117,23 @@ void showRealBox(const MsgBoxRequest &request)
     EXPECT_TRUE(QTest::qWaitForWindowActive(window));
 }
 
-/// The focus is in the bad box, no button is stuck, and a good value goes through.
-void mend(EntryWindow &w)
-{
-    EXPECT_TRUE(w.first->hasFocus());
-    EXPECT_FALSE(w.ok->isDown() || w.plain->isDown());
-    w.first->selectAll();
-    QTest::keyClicks(w.first, QStringLiteral("good"));
-    w.second->clear();
-    click(w.ok);
-    EXPECT_EQ(w.stored, 1);
-}
-
 void play(const WayOut &way, ScriptedDoors &doors, EntryWindow &w)
 {
-    w.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
-    w.first->setFocus();
-    QTest::keyClicks(w.first, QStringLiteral("bad"));
+    w.enter("bad");
     way.go(w);
     QCoreApplication::processEvents();
     EXPECT_EQ(doors.takeBoxes().size(), size_t(way.boxes));
-    EXPECT_EQ(w.stored, 0);
-    EXPECT_EQ(w.plainClicks, 0);
-    EXPECT_EQ(w.isVisible(), way.stays);
-    if (way.stays)
-        mend(w);
+    EXPECT_EQ(w.stored + w.plainClicks, 0);
+    ASSERT_EQ(w.isVisible(), way.stays);
+    if (!way.stays)
+        return;
+    EXPECT_TRUE(w.first->hasFocus());
+    EXPECT_FALSE(w.ok->isDown() || w.plain->isDown());
+    w.enter("good");
+    w.second->clear();
+    click(w.ok);
+    EXPECT_EQ(w.stored, 1) << "mended, it goes through";
     EXPECT_EQ(doors.takeBoxes().size(), 0u);
-    w.hide();
 }
 
 TEST(LeavingChecks, LetNoBadValueThroughByAnyWayOut)
@@ -160,76 +145,40 @@ TEST(LeavingChecks, LetNoBadValueThroughByAnyWayOut)
                 ScriptedDoors doors;
                 if (realBox)
                     doors.whileBoxIsUp = showRealBox;
-                EntryWindow window;
-                window.setModal(modal);
-                window.show();
+                EntryWindow window(modal);
                 play(way, doors, window);
             }
 }
 
-/// The window shown without being modal, with the focus in its first box.
-class LeavingChecksAtWork : public testing::Test
+TEST(LeavingChecks, JudgeABoxAsItIsWhenItIsLeft)
 {
-protected:
-    LeavingChecksAtWork()
-    {
-        window.show();
-        window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        window.first->setFocus();
-    }
-
     ScriptedDoors doors;
-    EntryWindow window;
-};
-
-/// Enter stores but does not leave the box: what is typed into it afterwards is judged again.
-TEST_F(LeavingChecksAtWork, ABoxThatPassedAndKeptTheFocusIsAskedAgain)
-{
-    QTest::keyClicks(window.first, QStringLiteral("good"));
-    QTest::keyClick(window.first, Qt::Key_Return);
-    EXPECT_EQ(window.stored, 1);
-    window.first->selectAll();
-    QTest::keyClicks(window.first, QStringLiteral("bad"));
-    QTest::keyClick(window.first, Qt::Key_Return);
-    EXPECT_EQ(window.stored, 1);
+    EntryWindow w;
+    w.enter("good");
+    QTest::keyClick(w.first, Qt::Key_Return);
+    EXPECT_EQ(w.stored, 1);
+    w.enter("bad");
+    QTest::keyClick(w.first, Qt::Key_Return);
+    EXPECT_EQ(w.stored, 1) << "Enter does not leave the box: it is asked again";
     EXPECT_EQ(doors.takeText(), QStringLiteral("Not this."));
+    w.checks.forget(); // as after a record was loaded by code
+    QTest::keyClick(w.first, Qt::Key_Tab);
+    EXPECT_TRUE(doors.boxes.empty() && w.second->hasFocus());
 }
 
-TEST_F(LeavingChecksAtWork, ARecordThatWasLoadedByCodeIsForgotten)
+TEST(LeavingChecks, GoOnAfterACheckThatFailsOrMovesTheFocus)
 {
-    window.first->setText(QStringLiteral("bad"));
-    window.checks.forget();
-    QTest::keyClick(window.first, Qt::Key_Tab);
-    EXPECT_EQ(doors.takeBoxes().size(), 0u);
-    EXPECT_TRUE(window.second->hasFocus());
-}
-
-TEST_F(LeavingChecksAtWork, ABoxThatACheckMovesTheFocusToIsAskedInItsTurn)
-{
-    int asked = 0;
-    window.checks.watch(window.first, [&] {
-        ++asked;
-        window.second->setFocus();
+    const ScriptedDoors doors;
+    EntryWindow w;
+    w.checks.watch(w.first, []() -> bool { throw RuntimeFailure(Failure::TypeMismatch); });
+    EXPECT_THROW(w.checks.passes(), RuntimeFailure);
+    w.checks.watch(w.first, [&w] {
+        w.second->setFocus();
         return true;
     });
-    EXPECT_TRUE(window.checks.passes());
-    EXPECT_EQ(asked, 1);
-    QTest::keyClicks(window.second, QStringLiteral("bad"));
-    EXPECT_FALSE(window.checks.passes());
-}
-
-TEST_F(LeavingChecksAtWork, AFailureInACheckDoesNotEndTheChecks)
-{
-    bool failing = true;
-    window.checks.watch(window.first, [&failing]() -> bool {
-        if (failing)
-            throw RuntimeFailure(Failure::TypeMismatch);
-        return false;
-    });
-    EXPECT_THROW(window.checks.passes(), RuntimeFailure);
-    failing = false;
-    EXPECT_FALSE(window.checks.passes());
+    EXPECT_TRUE(w.checks.passes());
+    QTest::keyClicks(w.second, QStringLiteral("bad"));
+    EXPECT_FALSE(w.checks.passes()) << "asked in its turn";
 }
 
 } // namespace

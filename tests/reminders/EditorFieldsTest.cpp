@@ -12,7 +12,7 @@ using Fields = EditorFields;
 
 const DateConventions american{"MMDDYY", "MM/DD/YY"};
 
-/// A rule that may be stored, with a choice in each of its boxes.
+/// A rule that may be stored.
 Fields goodFields(Pattern pattern, bool secondVariant = false)
 {
     Fields f;
@@ -21,18 +21,7 @@ Fields goodFields(Pattern pattern, bool secondVariant = false)
     f.txt_endDate.text = "03/14/28";
     f.pattern = pattern;
     f.opt_DailyEveryWeekday = f.Opt_MonthlyXWeekdayofEveryMonth = f.opt_YearlyThe = secondVariant;
-    f.txt_DailyDays = "3";
-    f.txt_WeeklyWeeks = "2";
     f.chk_WeeklyDay = {false, true, false, true};
-    f.txt_MonthlyDay = "15";
-    f.txt_MonthlyNumofMonths2 = "2";
-    f.cbo_MonthlyXth = 3;
-    f.cbo_MonthlyWeekday = 1;
-    f.cbo_YearlyMonth = 2;
-    f.txt_YearlyDay = "5";
-    f.cbo_YearlyXth = 4;
-    f.cbo_YearlyWeekday = 6;
-    f.cbo_YearlyMonth2 = 11;
     f.txt_OnceDate.text = "07/04/26";
     f.txt_EnglishDesc = EnglishSentence(f);
     return f;
@@ -60,9 +49,13 @@ TEST_F(EditorFieldsTest, WhatIsNoNumberYetStandsInTheSentenceAndPlacesMakeTheDet
     Fields typing = goodFields(Pattern::Monthly);
     typing.txt_MonthlyDay = " 7%1";
     EXPECT_EQ(EnglishSentence(typing), "Day  7%1 of every 1 months.");
+    Fields places = goodFields(Pattern::Yearly, true);
+    places.cbo_YearlyXth = 4;
+    places.cbo_YearlyWeekday = 6;
+    places.cbo_YearlyMonth2 = 11;
     RecurrenceRule rule;
     rule.RecurrenceInterval = 7; // left by an earlier pattern, and not this one's
-    StoreRecurrence(goodFields(Pattern::Yearly, true), american, rule);
+    StoreRecurrence(places, american, rule);
     EXPECT_EQ(rule.RecurrenceDetail, "4611");
     EXPECT_EQ(rule.RecurrenceInterval, 7);
 }
@@ -70,19 +63,17 @@ TEST_F(EditorFieldsTest, WhatIsNoNumberYetStandsInTheSentenceAndPlacesMakeTheDet
 TEST_F(EditorFieldsTest, RefusalsComeInTheirOrder)
 {
     Fields f = goodFields(Pattern::Daily);
-    f.txt_endDate.text = "03/15/26";
-    EXPECT_EQ(refused(f), "");
     f.txt_DailyDays = "0";
-    f.txt_endDate.text = f.txt_StartDate.text;
-    const QString notLater = EditFault(f, american)->text;
-    EXPECT_EQ(refused(f), "txt_endDate");
-    f.txt_endDate.text = "__/__/__";
-    EXPECT_NE(EditFault(f, american)->text, notLater);
-    EXPECT_EQ(refused(f), "txt_endDate");
-    f.txt_StartDate.text = "02/29/27";
-    EXPECT_EQ(refused(f), "txt_StartDate");
-    f.txt_TaskDescription = "";
-    EXPECT_EQ(refused(f), "txt_TaskDescription");
+    const std::tuple<QString *, const char *, const char *> steps[] = {
+        {&f.txt_endDate.text, "03/15/26", "txt_DailyDays"},
+        {&f.txt_endDate.text, "03/14/26", "txt_endDate"},
+        {&f.txt_endDate.text, "__/__/__", "txt_endDate"},
+        {&f.txt_StartDate.text, "02/29/27", "txt_StartDate"},
+        {&f.txt_TaskDescription, "", "txt_TaskDescription"}};
+    for (const auto &[box, text, control] : steps) {
+        *box = text;
+        EXPECT_EQ(refused(f), control) << text;
+    }
     f = goodFields(Pattern::Once);
     f.txt_OnceDate.text = "31/12/26";
     EXPECT_EQ(refused(f), "txt_OnceDate");
