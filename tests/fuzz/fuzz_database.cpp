@@ -79,17 +79,14 @@ void readTable(Database &database, const QString &table)
     FUZZ_REQUIRE(count == set.RecordCount(), table);
 }
 
-/// A refused row stays in progress; one that was written is counted.
+/// A row that was refused stays in progress; one that was deleted is no longer counted.
 void writeWater(Database &database)
 {
     Recordset set = database.OpenRecordset(QStringLiteral("SELECT * FROM waterlog"));
     set.AddNew();
-    set[QStringLiteral("tankname")].setValue(QStringLiteral("new"));
     set[QStringLiteral("logdate")].setValue(QDate(2004, 2, 29));
     const bool added = attempt([&set] { set.Update(); });
     FUZZ_REQUIRE(set.isEditing() != added, QStringLiteral("after adding"));
-    if (set.isEmpty())
-        return;
     const qsizetype before = set.RecordCount();
     set.MoveFirst();
     set.Edit();
@@ -98,23 +95,19 @@ void writeWater(Database &database)
     FUZZ_REQUIRE(set.isEditing() != changed, QStringLiteral("after changing"));
     const bool deleted = attempt([&set] { set.Delete(); });
     FUZZ_REQUIRE(set.RecordCount() == before - deleted, QStringLiteral("after deleting"));
-    set.FindFirst(QStringLiteral("tankname = ?"), {QStringLiteral("new")});
 }
 
 void use(Database &database)
 {
-    for (const schema::Table &table : schema::tables()) {
-        const QString name = QLatin1String(table.name);
-        attempt([&] { readTable(database, name); });
-        attempt([&] { database.Fields(name); });
-    }
+    for (const schema::Table &table : schema::tables())
+        attempt([&] { readTable(database, QLatin1String(table.name)); });
     attempt([&] { ReadDatabaseVersion(database); });
     attempt([&] { ReadRules(*database.OpenRecordset(QStringLiteral("SELECT * FROM maintsched")).rows()); });
     attempt([&] { writeWater(database); });
     attempt([&] {
         Database::Transaction transaction(database);
-        database.Execute(QStringLiteral("DELETE FROM WATERLOG WHERE rowid % 2 = 1"));
-        database.Execute(QStringLiteral("DELETE FROM LIVESTOCK WHERE rowid % 2 = 1"));
+        for (const char *table : {"WATERLOG", "LIVESTOCK"})
+            database.Execute(QStringLiteral("DELETE FROM %1 WHERE rowid % 2 = 1").arg(QLatin1String(table)));
         transaction.commit();
     });
 }

@@ -1,51 +1,10 @@
+// The name files that are shipped; what is read of a file stands in tests/fuzz/fuzz_names.cpp.
 #include <gtest/gtest.h>
-#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 
-#include "common/NameFile.h"
 #include "support/ScriptedDoors.h"
-
-namespace {
-
-QByteArray recordLine(const QByteArray &common, const QByteArray &latin) { return common.leftJustified(49) + latin; }
-
-/// The names and Latin names of a file of these bytes, between bars.
-QStringList read(const QByteArray &bytes)
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("NAMESSW.TXT"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
-    QStringList names;
-    ReadNameFile(
-        folder.filePath("namessw.txt"), [&names](const NameRecord &r) { names << r.common + '|' + r.latin.toString(); },
-        [](const QString &) {});
-    return names;
-}
-
-} // namespace
-
-TEST(NameFile, TakesRecordsAloneWhateverTheLineEnds)
-{
-    const QByteArray tang = recordLine("Yellow Tang", "Zebrasoma flavescens");
-    const QString name = "Tang - Yellow |Zebrasoma flavescens";
-    for (const QByteArray end : {"\n", "\r\n", "\r"})
-        EXPECT_EQ(read("\xEF\xBB\xBF! Title" + QByteArray(60, '-') + end + end + tang + end +
-                       recordLine("Too short", "X") + end + // 50 characters
-                       recordLine("Enough", "Xy") + end + "!" + tang + end + tang),
-                  QStringList({name, "Enough|Xy", name}));
-}
-
-TEST(NameFile, CountsCharactersNotBytes)
-{
-    const QString umlaut = QString::fromUtf8("Grüner Fisch").leftJustified(49) + "Pisces viridis";
-    for (const QByteArray &bytes : {umlaut.toUtf8(), umlaut.toLatin1()})
-        EXPECT_EQ(read(bytes), QStringList(QString::fromUtf8("Fisch - Grüner |Pisces viridis")));
-    EXPECT_EQ(read(recordLine("Fish", "Pisces b\xe9")), QStringList(QString::fromUtf8("Fish|Pisces bé")));
-    EXPECT_TRUE(read(QString::fromUtf8("ü").repeated(50).toUtf8()).isEmpty()) << "100 bytes";
-}
 
 TEST(NameFile, TheShippedOnesKeepTheFormat)
 {

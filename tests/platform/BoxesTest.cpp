@@ -18,20 +18,15 @@ namespace {
 /// Characters are typed; these stand for other keys.
 void play(QWidget *box, const QString &keys)
 {
-    for (const QChar key : keys) {
-        switch (key.unicode()) {
-        case u'<': QTest::keyClick(box, Qt::Key_Backspace); break;
-        case u'>': QTest::keyClick(box, Qt::Key_Delete); break;
-        case u'[': QTest::keyClick(box, Qt::Key_Home); break;
-        case u'^': QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier); break;
-        case u'~': QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier); break;
-        case u'=': QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); break;
-        case u'@': QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); break;
-        case u'%': QTest::keyClick(box, Qt::Key_X, Qt::ControlModifier); break;
-        case u'&': QTest::keyClick(box, Qt::Key_K, Qt::ControlModifier); break;
-        default: QTest::keyClick(box, key.toLatin1());
-        }
-    }
+    static const QMap<QChar, QKeyCombination> others = {
+        {'<', Qt::Key_Backspace},    {'>', Qt::Key_Delete},       {'[', Qt::Key_Home},
+        {'^', Qt::CTRL | Qt::Key_A}, {'~', Qt::CTRL | Qt::Key_Z}, {'=', Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+        {'@', Qt::CTRL | Qt::Key_V}, {'%', Qt::CTRL | Qt::Key_X}, {'&', Qt::CTRL | Qt::Key_K}};
+    for (const QChar key : keys)
+        if (const auto other = others.find(key); other != others.end())
+            QTest::keyClick(box, other->key(), other->keyboardModifiers());
+        else
+            QTest::keyClick(box, key.toLatin1());
 }
 
 TEST(MaskedBox, TakesWhatItsMaskTakes)
@@ -47,7 +42,6 @@ TEST(MaskedBox, TakesWhatItsMaskTakes)
         {date, "", "03/14-26", "03/14/26", 1},
         {date, "", "0/", "0 /  /  ", 1},
         {date, "", "0 3", "0 /3 /  "},
-        {date, "", "0314267", "03/14/26", 1},
         // Overtyping, selections, Backspace and Delete leave the delimiters where they are.
         {date, "03/14/26", "[11", "11/14/26"},
         {date, "03/14/26", "^7", "7 /  /  "},
@@ -180,26 +174,6 @@ TEST_F(BoxesTest, AnUpDownStepsWithinItsBoundsByArrowKeyAndWheelAndTellsEachChan
     m_upDown->setEnabled(false);
     QTest::keyClick(m_other, Qt::Key_Up);
     EXPECT_EQ(m_upDown->Value(), 30) << "not without the focus, nor disabled";
-}
-
-TEST_F(BoxesTest, ABoundUpDownStepsFromWhatItsBoxHolds)
-{
-    m_upDown->setMin(1);
-    m_upDown->setMax(99);
-    m_upDown->setBoundBox(m_other);
-    for (const auto &[held, steps, written] : {std::tuple{"5", 1, "6"},
-                                               {"99", 1, "99"},
-                                               {"abc", 1, "1"},
-                                               {"7 days", 1, "8"},
-                                               {"2.5", -1, "2"},
-                                               {"-1e300", -1, "1"},
-                                               {"1e300", 1, "99"},
-                                               {"95", 10, "99"}}) {
-        m_other->setText(QLatin1String(held));
-        m_upDown->stepBy(steps);
-        EXPECT_EQ(m_other->text(), QLatin1String(written)) << held;
-        EXPECT_EQ(m_upDown->Value(), m_other->text().toInt()) << held;
-    }
 }
 
 } // namespace

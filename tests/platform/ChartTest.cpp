@@ -52,16 +52,6 @@ int painted(const QImage &image, double x, double halfWidth, int column)
     return count;
 }
 
-std::vector<QStringList> wave(int rows, int columns)
-{
-    std::vector<QStringList> all(static_cast<size_t>(columns));
-    for (int column = 0; column < columns; ++column)
-        for (int row = 0; row < rows; ++row)
-            all[size_t(column)] << QString::number((2 + std::sin(row + column)) * std::pow(10, column % 5 - 2) *
-                                                   (column == 7 ? -1 : 1));
-    return all;
-}
-
 } // namespace
 
 TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
@@ -70,8 +60,11 @@ TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
         for (const auto &[rows, columns] : {std::pair{1, 1}, {2, 13}, {20, 13}})
             for (const QSize size : {QSize(700, 500), QSize(150, 110)}) {
                 SCOPED_TRACE(QStringLiteral("type %1, %2 x %3").arg(type).arg(rows).arg(columns).toStdString());
-                auto cells = wave(rows, columns);
-                cells.back().back() = rows > 1 ? "" : "5";
+                std::vector<QStringList> cells(static_cast<size_t>(columns), QStringList(rows));
+                for (int row = 0; row < rows; ++row)
+                    for (int column = 0; column < columns && row + column < rows + columns - 2 + (rows == 1); ++column)
+                        cells[size_t(column)][row] = QString::number(
+                            (2 + std::sin(row + column)) * std::pow(10, column % 5 - 2) * (column == 7 ? -1 : 1));
                 ShownChart chart(type, cells, size);
                 chart.setTitleText("Ostrelmark Graph for a tank with quite a long name");
                 chart.setColumnLabel(QString(99, 'W')); // of the last
@@ -79,9 +72,7 @@ TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
                 for (int row = 1; row <= rows; ++row)
                     for (int column = 1; column <= columns; ++column) {
                         const QRectF place = chart.place(row, column);
-                        ASSERT_EQ(place.isEmpty() && place.topLeft().isNull(),
-                                  rows > 1 && row * column == rows * columns)
-                            << row << ' ' << column;
+                        ASSERT_EQ(place.isNull(), cells[size_t(column - 1)][row - 1].isEmpty()) << row << ' ' << column;
                         ASSERT_TRUE(QRectF(chart.rect()).contains(place.center())) << row << ' ' << column;
                     }
             }
@@ -160,17 +151,12 @@ TEST(Chart, ColumnsOfLikeSizeShareAnAxisThatHoldsTheirValues)
 TEST(Chart, CtrlAndTheMouseTurnAChartWithDepthAlone)
 {
     for (const int type : allTypes) {
-        SCOPED_TRACE(type);
         ShownChart chart(type, {{"8", "7", "9"}});
         const QImage before = chart.picture();
-        for (const QPoint to : {QPoint(300, 200), QPoint(60, 240)}) {
-            QMouseEvent event(QEvent::MouseMove, to, chart.mapToGlobal(to), Qt::NoButton, Qt::NoButton,
-                              Qt::ControlModifier);
+        for (const QPointF to : {QPointF(300, 200), QPointF(60, 240)}) {
+            QMouseEvent event(QEvent::MouseMove, to, to, Qt::NoButton, Qt::NoButton, Qt::ControlModifier);
             QApplication::sendEvent(&chart, &event);
         }
-        const QImage turned = chart.picture();
-        EXPECT_EQ(turned != before, type <= 8 && type % 2 == 0);
-        QTest::keyClick(&chart, Qt::Key_Right, Qt::ControlModifier);
-        EXPECT_EQ(chart.picture() != turned, turned != before);
+        EXPECT_EQ(chart.picture() != before, type <= 8 && type % 2 == 0) << type;
     }
 }

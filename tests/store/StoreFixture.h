@@ -5,6 +5,9 @@
 #include <functional>
 #include <map>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
@@ -31,6 +34,18 @@ inline int numberOf(const std::function<void()> &work)
 {
     const auto failure = failureOf(work);
     return failure ? int(failure->number()) : 0;
+}
+
+/// The signal that ended work in a child process; 0 where it came to its end, which it must without a failure.
+inline int signalThatEnds(const std::function<void()> &work)
+{
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(numberOf(work) == 0 ? 0 : 3);
+    int status = 0;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0) << "the child failed";
+    return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
 }
 
 inline void writeFile(const QString &path, const QByteArray &bytes)

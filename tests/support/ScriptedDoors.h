@@ -1,6 +1,6 @@
 // The world as a script: answers in, a record of boxes, beeps and dialogs out. The clock stands where the test set it,
 // the random numbers come from a list, and the settings live in a temporary file. A box that nobody expected gets its
-// default answer and is in the record; expectNoBoxes() and takeBoxes() look at it.
+// default answer and is in the record; takeBoxes() and takeText() look at it.
 #pragma once
 
 #include <deque>
@@ -22,8 +22,13 @@ class ScriptedDoors : public Doors
 {
 public:
     /// Installs itself; the destructor takes itself out again. `settingsFile` keeps settings over a restart.
-    explicit ScriptedDoors(const QString &settingsFile = {});
-    ~ScriptedDoors() override;
+    explicit ScriptedDoors(const QString &settingsFile = {}) :
+        m_settings(std::make_unique<SettingsStore>(settingsFile.isEmpty() ? m_folder.filePath(QStringLiteral("OMK.ini"))
+                                                                          : settingsFile)),
+        m_previous(Doors::install(this))
+    {
+    }
+    ~ScriptedDoors() override { Doors::install(m_previous); }
 
     // In: what the world will answer.
     std::deque<MsgBoxAnswer> answers;         ///< of the next boxes with a choice; else the default button's
@@ -48,21 +53,76 @@ public:
 
     std::vector<MsgBoxRequest> takeBoxes() { return std::exchange(boxes, {}); }
     /// The text of the only box shown since last taken; what else was shown instead, as a sentence.
-    QString takeText();
+    QString takeText()
+    {
+        const auto shown = takeBoxes();
+        QString sentence = QStringLiteral("%1 boxes:").arg(shown.size());
+        for (const auto &box : shown)
+            sentence += u" [" + box.text + u']';
+        return shown.size() == 1 ? shown.front().text : sentence;
+    }
 
-    MsgBoxAnswer msgBox(const MsgBoxRequest &request) override;
-    bool failureBox(const RuntimeFailure &failure, bool mayReturn) override;
+    MsgBoxAnswer msgBox(const MsgBoxRequest &request) override
+    {
+        boxes.push_back(request);
+        if (whileBoxIsUp)
+            whileBoxIsUp(request);
+        return request.buttons() == vbOKOnly ? MsgBoxAnswer::OK : takeNext(answers, defaultAnswer(request));
+    }
+    bool failureBox(const RuntimeFailure &failure, bool mayReturn) override
+    {
+        failures.push_back(failure);
+        return takeNext(endAnswers, !mayReturn);
+    }
     void beep() override { ++beeps; }
-    std::optional<QString> saveDialog(const SaveDialogRequest &request) override;
-    std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override;
-    std::unique_ptr<PageSink> openPages(const PageTarget &target) override;
-    void preview(const PreviewRequest &request) override;
-    bool showHelp(const HelpRequest &request) override;
+    std::optional<QString> saveDialog(const SaveDialogRequest &request) override
+    {
+        saveDialogs.push_back(request);
+        return takeNext(files, std::optional<QString>());
+    }
+    std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override
+    {
+        printDialogs.push_back(request);
+        return takeNext(printers, std::optional<PrintDialogAnswer>());
+    }
+    std::unique_ptr<PageSink> openPages(const PageTarget &target) override
+    {
+        targets.push_back(target);
+        return std::make_unique<RecordedPages>(documents);
+    }
+    void preview(const PreviewRequest &request) override
+    {
+        ++previews;
+        RecordedPages pages(documents);
+        request.print(pages);
+    }
+    bool showHelp(const HelpRequest &request) override
+    {
+        helps.push_back(request);
+        return helpIsThere;
+    }
     QDateTime now() override { return clock; }
-    double random() override;
+    double random() override { return takeNext(randoms, 0.5); }
     SettingsStore &settings() override { return *m_settings; }
 
 private:
+    template <class T> static T takeNext(std::deque<T> &script, T otherwise)
+    {
+        if (script.empty())
+            return otherwise;
+        T next = std::move(script.front());
+        script.pop_front();
+        return next;
+    }
+    static MsgBoxAnswer defaultAnswer(const MsgBoxRequest &request)
+    {
+        if (request.buttons() == omkSkipDelete)
+            return MsgBoxAnswer::Skip;
+        if (request.buttons() == vbYesNo || request.buttons() == vbYesNoCancel)
+            return request.secondIsDefault() ? MsgBoxAnswer::No : MsgBoxAnswer::Yes;
+        return request.secondIsDefault() ? MsgBoxAnswer::Cancel : MsgBoxAnswer::OK;
+    }
+
     QTemporaryDir m_folder;
     std::unique_ptr<SettingsStore> m_settings;
     Doors *m_previous;
