@@ -27,9 +27,8 @@ struct Way
     int cutOff = 0, saved = 0, lost = 0;
 };
 
-class Kill : public ::testing::Test
+struct Kill : testing::Test
 {
-protected:
     static constexpr int mostMoves = 40;
 
     Kill() { keeper.g().gDatabase.reset(); }
@@ -57,7 +56,6 @@ protected:
         m_start = m_start.addDays(1);
     }
 
-private:
     void prepareTanks()
     {
         const auto database = Database::OpenDatabase(keeper.databaseFile());

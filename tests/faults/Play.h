@@ -43,7 +43,7 @@ inline QString keyOf(QChar kind, const QString &tank, const QString &moment)
 
 inline Move nextMove(const Book &book, std::minstd_rand &random, const QDateTime &moment)
 {
-    const auto pick = [&random](std::size_t n) { return int(random() % n); };
+    const auto pick = [&random](qsizetype n) { return int(random() % std::size_t(n)); };
     QStringList tanks, entries;
     for (const auto &[key, number] : book)
         (key.startsWith('T') ? tanks : entries) << key;
@@ -52,15 +52,11 @@ inline Move nextMove(const Book &book, std::minstd_rand &random, const QDateTime
         return {Move::RemoveTank, tanks[pick(2)]};
     if (entries.size() < 5 || (entries.size() < 25 && pick(3) == 0))
         return {Move::Add,
-                keyOf(kinds[pick(3)], tanks[pick(std::size_t(tanks.size()))].section('|', 1, 1),
-                      moment.toString(momentPicture)),
+                keyOf(kinds[pick(3)], tanks[pick(tanks.size())].section('|', 1, 1), moment.toString(momentPicture)),
                 number};
-    const QString key = entries[pick(std::size_t(entries.size()))];
-    const int what = pick(key[0] == 'L' && tanks.size() == 2 ? 3 : 2);
-    return {what == 0   ? Move::Change
-            : what == 1 ? Move::Remove
-                        : Move::MoveTank,
-            key, number, key.section('|', 1, 1) == "A" ? "B" : "A"};
+    const QString key = entries[pick(entries.size())];
+    const int choices = key[0] == 'L' && tanks.size() == 2 ? 3 : 2;
+    return {Move::What(Move::Change + pick(choices)), key, number, key.section('|', 1, 1) == "A" ? "B" : "A"};
 }
 
 inline void note(Book &book, const Move &move)

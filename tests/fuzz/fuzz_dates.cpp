@@ -8,13 +8,6 @@ namespace {
 
 const QStringList orders = {QStringLiteral("MMDDYY"), QStringLiteral("DDMMYY"), QStringLiteral("YYMMDD")};
 
-void checkNormalizer(const QString &text, const QString &order)
-{
-    const QString normal = NormalizeDateText(text, order);
-    FUZZ_REQUIRE(orders.contains(order) || normal.isEmpty(), order);
-    FUZZ_REQUIRE(normal.isEmpty() || text.size() < 8 || NormalizeDateText(normal, orders[0]) == normal, normal);
-}
-
 /// A date shown with the user's picture and read back is the same day, typed or normalised, in each order.
 void checkShownAndReadBack(const QDate &date, const QString &delimiter)
 {
@@ -47,14 +40,13 @@ void checkTime(const QString &text)
     FUZZ_REQUIRE(!time || IsBoxTime(Format(*time, QStringLiteral("hh:mm:ss am/pm"))), text);
 }
 
-/// What is no placeholder stands as it is, and a placeholder shows "Wednesday" at most.
+/// What is no placeholder stands as it is.
 void checkPicture(const QString &picture)
 {
     static const QRegularExpression inDates(QStringLiteral("[mdyMDY]")), inTimes(QStringLiteral("[hmsaHMSA]"));
     const QString date = Format(QDate(2003, 9, 24), picture), time = Format(QTime(20, 5, 7), picture);
-    FUZZ_REQUIRE(picture.contains(inDates) ? date.size() <= picture.size() * 9 : date == picture, picture);
-    FUZZ_REQUIRE(picture.contains(inTimes) ? time.size() <= picture.size() * 2 : time == picture, picture);
-    FUZZ_REQUIRE(Format(QDate(), picture).isEmpty() && Format(QTime(), picture).isEmpty(), picture);
+    FUZZ_REQUIRE(picture.contains(inDates) || date == picture, picture);
+    FUZZ_REQUIRE(picture.contains(inTimes) || time == picture, picture);
 }
 
 } // namespace
@@ -66,8 +58,7 @@ void fuzz(Input &input, ScriptedDoors &doors)
     const QString order = orders[input.choice(3)];
     const QString text = input.line(), picture = input.line();
     checkDate(text, order, delimiter);
-    checkNormalizer(text, order);
-    checkNormalizer(text, picture);
+    FUZZ_REQUIRE(orders.contains(picture) || NormalizeDateText(text, picture).isEmpty(), picture);
     checkTime(text);
     checkPicture(picture);
 }

@@ -26,7 +26,7 @@ void checkPlainText(double number)
     FUZZ_REQUIRE(PlainText(*back) == plain, plain + u" and then " + PlainText(*back));
 }
 
-/// The pictures of the windows, with their places, round and cut nothing; any picture shows no more than it must.
+/// The pictures of the windows, with their places, round and cut nothing; what is no place stands as it is.
 void checkPictures(double number, const QString &picture)
 {
     for (const auto &[ours, places] : {std::pair{"0", 0}, {"##0.0", 1}, {"##0.000", 3}, {"###,##0.00", 2}}) {
@@ -36,10 +36,7 @@ void checkPictures(double number, const QString &picture)
         FUZZ_REQUIRE(std::abs(number) > 1e300 || (back && std::abs(*back - number) <= slack * 1.0000001), shown);
     }
     static const QRegularExpression place(QStringLiteral("[0#.,]"));
-    const QString shown = Format(number, picture);
-    const qsizetype digits = std::max<qsizetype>(picture.size(), 310);
-    FUZZ_REQUIRE(shown.size() <= picture.size() + digits * 4 / 3 + 4, picture);
-    FUZZ_REQUIRE(picture.contains(place) || shown.startsWith(picture), shown);
+    FUZZ_REQUIRE(picture.contains(place) || Format(number, picture).startsWith(picture), picture);
 }
 
 /// A column takes the number within its range, or refuses it.

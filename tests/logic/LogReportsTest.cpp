@@ -8,9 +8,8 @@
 #include "support/ScriptedDoors.h"
 
 /// Two tanks, "angels" before "Reef" in the alphabet, on a printer that is read back.
-class LogReports : public ::testing::Test
+struct LogReports : testing::Test
 {
-protected:
     LogReports()
     {
         CreateDatabase(folder.filePath("OM.MDB"));

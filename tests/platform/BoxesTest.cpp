@@ -99,9 +99,8 @@ TEST(MaskedBox, KeepsItsShapeWhateverComes)
 }
 
 /// A box with a format beside another one with an up-down, in a window.
-class BoxesTest : public testing::Test
+struct BoxesTest : testing::Test
 {
-protected:
     BoxesTest()
     {
         auto *column = new QVBoxLayout(&m_window);

@@ -120,10 +120,14 @@ TEST(Chart, BarsStandInTheOrderOfTheColumnsAndAreAsHighAsTheirValues)
 
 TEST(Chart, ColumnsOfLikeSizeShareAnAxisThatHoldsTheirValues)
 {
-    const std::pair<std::vector<double>, const char *> rows[] = {
-        // the greatest of each column, bands from the top
-        {{8, 9, 10}, "012"}, {{0.05, 350}, "1|0"}, {{0, 350, 0}, "012"},
-        {{0, 0}, "01"},      {{-400, 1}, "0|1"},   {{1.02, 0.8, 78, 410, 350, 8}, "234|015"}};
+    const std::pair<std::vector<double>, const char *> rows[] = {// the greatest of each column, bands from the top
+                                                                 {{8, 9, 10}, "012"},
+                                                                 {{0.05, 350}, "1|0"},
+                                                                 {{2, 40}, "1|0"},
+                                                                 {{0, 350, 0}, "012"},
+                                                                 {{0, 0}, "01"},
+                                                                 {{-400, 1}, "0|1"},
+                                                                 {{1.02, 0.8, 78, 410, 350, 8}, "234|015"}};
     for (const auto &[greatest, expected] : rows) {
         ChartData data;
         data.resize(2, int(greatest.size()));

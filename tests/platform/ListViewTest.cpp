@@ -28,9 +28,8 @@ private:
     std::vector<QStringList> m_rows;
 };
 
-class ListViewTest : public testing::Test
+struct ListViewTest : testing::Test
 {
-protected:
     ListViewTest()
     {
         m_list.setColumns({{"name", "Name", false, 120}, {"size", "Size", true, 60}});

@@ -12,9 +12,8 @@
 
 namespace {
 
-class WrittenFiles : public ::testing::Test
+struct WrittenFiles : testing::Test
 {
-protected:
     QByteArray content() const
     {
         QFile file(name);

@@ -34,9 +34,8 @@ QString complainedOf(const Fields &fields)
     return MakePreview(fields, american).complaint.value_or(EditorComplaint{}).control;
 }
 
-class EditorFieldsTest : public testing::Test
+struct EditorFieldsTest : testing::Test
 {
-protected:
     ScriptedDoors doors;
 };
 

@@ -54,9 +54,8 @@ void expectGoldenDates(const QString &fileName)
     EXPECT_TRUE(!fault || *fault == faults.value(words["fault"])) << int(*fault);
 }
 
-class LiteralWalk
+struct LiteralWalk
 {
-public:
     LiteralWalk(const RecurrenceRule &rule, bool monthByName, bool usefilter, const DateRange &range) :
         r(rule), byName(monthByName), filtered(usefilter), wanted(range)
     {

@@ -30,9 +30,8 @@ private:
     rlimit m_former{};
 };
 
-class BackupTest : public StoreTest
+struct BackupTest : StoreTest
 {
-protected:
     BackupTest()
     {
         QDir(folder.path()).mkdir("to");

@@ -6,9 +6,8 @@
 
 namespace {
 
-class DatabaseFileTest : public StoreTest
+struct DatabaseFileTest : StoreTest
 {
-protected:
     DatabaseFileTest() { db->Close(); }
 
     /// Opening ends in that failure with that word in it, and no byte of the folder differs afterwards.

@@ -5,9 +5,8 @@
 
 namespace {
 
-class FaultsTest : public StoreTest
+struct FaultsTest : StoreTest
 {
-protected:
     FaultsTest() { open(); }
 
     /// Runs the work with the fault at each place in turn until it comes through; `check` looks at the state after each

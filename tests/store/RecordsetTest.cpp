@@ -5,9 +5,8 @@ namespace {
 
 constexpr int noCurrentRecord = int(Failure::NoCurrentRecord);
 
-class RecordsetTest : public StoreTest
+struct RecordsetTest : StoreTest
 {
-protected:
     RecordsetTest()
     {
         for (const int day : {5, 3, 9, 1})
@@ -72,6 +71,7 @@ TEST_F(RecordsetTest, ADuplicateIsRefusedAndTheBufferStays)
         const QString insert = QString("INSERT INTO ") + entry;
         EXPECT_EQ(asked(insert), "");
         EXPECT_EQ(asked(QString(insert).replace("'T'", "'t'")), "") << "a name of its own";
+        EXPECT_EQ(asked(QString(insert).replace(insert.size() - 3, 1, "5")), "") << "differs in the last column";
         EXPECT_EQ(asked(insert), "error");
     }
     Recordset rows = addingWater(9, 7);

@@ -90,9 +90,8 @@ private:
     sqlite3 *m_handle = nullptr;
 };
 
-class StoreTest : public ::testing::Test
+struct StoreTest : testing::Test
 {
-protected:
     StoreTest()
     {
         CreateDatabase(path());

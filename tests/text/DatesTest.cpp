@@ -6,9 +6,8 @@
 
 namespace {
 
-class Dates : public testing::Test
+struct Dates : testing::Test
 {
-protected:
     ScriptedDoors doors;
 };
 
