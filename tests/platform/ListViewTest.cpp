@@ -76,18 +76,6 @@ TEST_F(ListViewTest, SortsCaseBlindWithTiesInTheOrderOfTheSourceAndTheSelectionO
     EXPECT_FALSE(m_list.horizontalHeader()->isSortIndicatorShown());
 }
 
-TEST_F(ListViewTest, KeysAreUniqueAndExactAndAnAddedRowStandsLast)
-{
-    m_list.Add(QStringLiteral("a"), {"one"});
-    m_list.Add(QStringLiteral("A"), {"two"});
-    EXPECT_THROW(m_list.Add(QStringLiteral("a"), {"another"}), RuntimeFailure);
-    m_list.setSort(true, 0, 1);
-    m_list.Add({}, {"zebra"});
-    EXPECT_EQ(names(), "two one zebra");
-    for (const int item : {-1, 0, 4})
-        EXPECT_THROW(m_list.Text(item), RuntimeFailure) << item;
-}
-
 TEST_F(ListViewTest, TheMenuKeyAsksForTheMenuAtItsRowAndAHeadingTellsItsOwnNumberWhereverItWasDragged)
 {
     showFish();

@@ -93,10 +93,9 @@ TEST_F(EditorFieldsTest, NumbersAreRefusedAndLessStrictlyPreviewed)
         {Pattern::Monthly, false, &Fields::txt_MonthlyDay, "txt_MonthlyDay", "29", true},
         {Pattern::Monthly, false, &Fields::txt_MonthlyNumofMonths, "txt_MonthlyNumofMonths", "0"},
         {Pattern::Monthly, true, &Fields::txt_MonthlyNumofMonths2, "txt_MonthlyNumofMonths2", "0"},
-        {Pattern::Monthly, true, &Fields::txt_MonthlyDay, "", "31", true},
         {Pattern::Yearly, false, &Fields::txt_YearlyDay, "txt_YearlyDay", "32"},
         {Pattern::Yearly, false, &Fields::txt_YearlyDay, "txt_YearlyDay", "5x", true},
-        {Pattern::Yearly, true, &Fields::txt_YearlyDay, "", "31", true},
+        {Pattern::Yearly, true, &Fields::txt_YearlyDay, "", "31", true}, // not asked
     };
     for (const auto &row : cases) {
         SCOPED_TRACE(std::string(row.name) + ' ' + row.text);
@@ -106,29 +105,16 @@ TEST_F(EditorFieldsTest, NumbersAreRefusedAndLessStrictlyPreviewed)
         EXPECT_EQ(MakePreview(fields, american).dates.empty(), !row.previewed);
         EXPECT_EQ(complainedOf(fields), row.previewed ? "" : row.name);
     }
+    Fields chosen = goodFields(Pattern::Monthly, true);
+    chosen.cbo_MonthlyWeekday = -1;
+    EXPECT_EQ(refused(chosen), "cbo_MonthlyWeekday");
+    EXPECT_EQ(complainedOf(chosen), "cbo_MonthlyWeekday");
     Fields last = goodFields(Pattern::Yearly);
     for (const auto &[month, day, good] :
          {std::tuple{0, "30", true}, {0, "31", false}, {1, "28", true}, {1, "29", false}}) {
         last.cbo_YearlyMonth = month;
         last.txt_YearlyDay = day;
         EXPECT_EQ(refused(last), good ? "" : "txt_YearlyDay") << month;
-    }
-}
-
-TEST_F(EditorFieldsTest, EachChoiceIsWanted)
-{
-    for (const auto &[box, name] : {std::pair{&Fields::cbo_MonthlyXth, "cbo_MonthlyXth"},
-                                    {&Fields::cbo_MonthlyWeekday, "cbo_MonthlyWeekday"},
-                                    {&Fields::cbo_YearlyMonth, "cbo_YearlyMonth"},
-                                    {&Fields::cbo_YearlyXth, "cbo_YearlyXth"},
-                                    {&Fields::cbo_YearlyWeekday, "cbo_YearlyWeekday"},
-                                    {&Fields::cbo_YearlyMonth2, "cbo_YearlyMonth2"}}) {
-        const bool monthly = QString(name).startsWith("cbo_Monthly");
-        Fields fields = goodFields(monthly ? Pattern::Monthly : Pattern::Yearly, box != &Fields::cbo_YearlyMonth);
-        EXPECT_EQ(refused(fields) + complainedOf(fields), "") << name;
-        fields.*box = -1;
-        EXPECT_EQ(refused(fields), name);
-        EXPECT_EQ(complainedOf(fields), name);
     }
 }
 

@@ -30,31 +30,24 @@ TEST_F(ValuesTest, EveryTypeComesBackAsItWentIn)
 TEST_F(ValuesTest, TextsBecomeWhatTheColumnHoldsOrAreRefused)
 {
     const int conversion = int(Failure::DataTypeConversion), overflow = int(Failure::Overflow);
-    const struct
-    {
-        const char *column;
-        Value given;
-        int failure;
-        const char *stored = ""; ///< as another program reads it
-    } cases[] = {
+    const std::tuple<const char *, Value, int, const char *> cases[] = {
         {"SchedStartDate", QString("2/9/03"), 0, "2003-02-09"},
-        {"SchedStartDate", QString("31/12/03"), conversion},
-        {"SchedStartDate", QString(""), conversion},
-        {"SchedStartDate", QDate(10000, 1, 1), conversion},
-        {"SchedStartDate", 37000.0, conversion},
+        {"SchedStartDate", QString("31/12/03"), conversion, ""},
+        {"SchedStartDate", QString(""), conversion, ""},
+        {"SchedStartDate", QDate(10000, 1, 1), conversion, ""},
+        {"SchedStartDate", 37000.0, conversion, ""},
         {"SchedInterval", QString("1,000"), 0, "1000"},
         {"SchedInterval", QString("2.5"), 0, "3"},
-        {"SchedInterval", QString("2147483648"), overflow},
-        {"SchedInterval", QString("12ab"), conversion},
+        {"SchedInterval", QString("2147483648"), overflow, ""},
+        {"SchedInterval", QString("12ab"), conversion, ""},
         {"SchedTask", QDate(2003, 2, 1), 0, "02/01/2003"},
     };
-    for (const auto &row : cases) {
+    for (const auto &[column, given, failure, stored] : cases) {
         db->Execute("DELETE FROM MAINTSCHED");
         Recordset rows = adding("MAINTSCHED", {{"schedcomment", QString("kept")}});
-        EXPECT_EQ(numberOf([&] { rows[row.column].setValue(row.given); }), row.failure)
-            << row.column << ' ' << row.given.text().toStdString();
+        EXPECT_EQ(numberOf([&] { rows[column].setValue(given); }), failure) << given.text().toStdString();
         rows.Update();
-        EXPECT_EQ(asked(QString("SELECT %1 FROM MAINTSCHED WHERE schedcomment = 'kept'").arg(row.column)), row.stored);
+        EXPECT_EQ(asked(QString("SELECT %1 FROM MAINTSCHED WHERE schedcomment = 'kept'").arg(column)), stored);
     }
     Recordset water = adding("WATERLOG", {{"logtime", QString("01:02:03 pm")}, {"ph", QString(" 8.4 ")}});
     EXPECT_EQ(water["logtime"].value(), Value(QTime(13, 2, 3)));

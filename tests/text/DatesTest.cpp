@@ -14,14 +14,6 @@ struct Dates : testing::Test
 /// The date as ISO text, "none" where there is none.
 QString iso(const std::optional<QDate> &date) { return date ? date->toString(Qt::ISODate) : QStringLiteral("none"); }
 
-TEST_F(Dates, NormalizerReadsByPosition)
-{
-    EXPECT_EQ(NormalizeDateText("31/04/98", "DDMMYY"), "04/31/98");
-    EXPECT_EQ(NormalizeDateText("1_/__/__", "MMDDYY"), "1_/__/__");
-    EXPECT_EQ(NormalizeDateText("", "MMDDYY"), "//");
-    EXPECT_EQ(NormalizeDateText("02/18/97", "mmddyy"), "");
-}
-
 TEST_F(Dates, ShownAndReadBackIsTheSameDayInEveryOrder)
 {
     for (const char *order : {"MMDDYY", "DDMMYY", "YYMMDD"})
@@ -98,12 +90,6 @@ TEST_F(Dates, TimesAreReadShownAndInTheirBoxWantTheirMarkerInOneCase)
     for (const char *text : {"", "13:00:00 pm", "00:00:00 am", "12:60:00 am", "12:00:60 am", "24:00:00", "12:00 am",
                              "1_:00:00 am", "12:00:00 xm", "012:00:00"})
         EXPECT_FALSE(ReadTime(text) || IsBoxTime(text)) << text;
-}
-
-TEST_F(Dates, MonthsAndYearsFallBackToTheLastDay)
-{
-    EXPECT_EQ(AddMonths(QDate(2003, 10, 31), 4), QDate(2004, 2, 29));
-    EXPECT_EQ(AddYears(QDate(2004, 2, 29), 1), QDate(2005, 2, 28));
 }
 
 } // namespace
