@@ -60,6 +60,12 @@ TEST_F(WrittenFiles, APdfInAFolderThatIsNotThereOrGoesAwayIsAFailure)
     EXPECT_THROW(pages->endDocument(), RuntimeFailure);
 }
 
+TEST_F(WrittenFiles, ASettingMayHoldACommaWithoutQuotationMarks)
+{
+    write("[SETTINGS]\nCustom1=@, b\n");
+    EXPECT_EQ(SettingsStore(name).value("Custom1", ""), "@, b");
+}
+
 TEST_F(WrittenFiles, ASettingThatCannotBeWrittenIsAFailureAndIsNotReadBack)
 {
     write("no folder");

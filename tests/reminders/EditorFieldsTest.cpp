@@ -74,7 +74,7 @@ TEST_F(EditorFieldsTest, RefusalsComeInTheirOrder)
     EXPECT_EQ(refused(f), "txt_OnceDate");
 }
 
-TEST_F(EditorFieldsTest, NumbersAreRefusedAndLessStrictlyPreviewed)
+TEST_F(EditorFieldsTest, NumbersAndChoicesAreRefusedAndLessStrictlyPreviewed)
 {
     const struct
     {
@@ -85,7 +85,7 @@ TEST_F(EditorFieldsTest, NumbersAreRefusedAndLessStrictlyPreviewed)
         bool previewed = false;
     } cases[] = {
         {Pattern::Daily, false, &Fields::txt_DailyDays, "txt_DailyDays", "0.4"},
-        {Pattern::Daily, false, &Fields::txt_DailyDays, "txt_DailyDays", "40000"},
+        {Pattern::Daily, false, &Fields::txt_DailyDays, "txt_DailyDays", "65537"},
         {Pattern::Daily, false, &Fields::txt_DailyDays, "", "1,000", true},
         {Pattern::Daily, true, &Fields::txt_DailyDays, "", "0", true},
         {Pattern::Weekly, false, &Fields::txt_WeeklyWeeks, "txt_WeeklyWeeks", "0"},
@@ -105,10 +105,15 @@ TEST_F(EditorFieldsTest, NumbersAreRefusedAndLessStrictlyPreviewed)
         EXPECT_EQ(MakePreview(fields, american).dates.empty(), !row.previewed);
         EXPECT_EQ(complainedOf(fields), row.previewed ? "" : row.name);
     }
-    Fields chosen = goodFields(Pattern::Monthly, true);
-    chosen.cbo_MonthlyWeekday = -1;
-    EXPECT_EQ(refused(chosen), "cbo_MonthlyWeekday");
-    EXPECT_EQ(complainedOf(chosen), "cbo_MonthlyWeekday");
+    for (const auto &[box, name] : {std::pair{&Fields::cbo_MonthlyXth, "cbo_MonthlyXth"},
+                                    {&Fields::cbo_MonthlyWeekday, "cbo_MonthlyWeekday"},
+                                    {&Fields::cbo_YearlyXth, "cbo_YearlyXth"},
+                                    {&Fields::cbo_YearlyWeekday, "cbo_YearlyWeekday"},
+                                    {&Fields::cbo_YearlyMonth2, "cbo_YearlyMonth2"}}) {
+        Fields chosen = goodFields(QString(name).contains("Yearly") ? Pattern::Yearly : Pattern::Monthly, true);
+        chosen.*box = -1;
+        EXPECT_EQ(refused(chosen) + ' ' + complainedOf(chosen), QString("%1 %1").arg(name));
+    }
     Fields last = goodFields(Pattern::Yearly);
     for (const auto &[month, day, good] :
          {std::tuple{0, "30", true}, {0, "31", false}, {1, "28", true}, {1, "29", false}}) {
