@@ -1,6 +1,5 @@
 // What the world does to a running program: no room on the disk, the file locked or gone, settings that cannot be read
-// or written. Each entry is refused with a word about it, whole, and can be saved as typed once the world is
-// mended.
+// or written. Each entry is refused with a word about it, whole, and can be saved as typed once the world is mended.
 #include <QFile>
 
 #include "platform/RuntimeFailure.h"
