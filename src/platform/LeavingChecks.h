@@ -28,8 +28,6 @@ public:
     void suspect(QWidget *box);
     /// First line of every handler that stores: false if the box last entered does not pass.
     bool passes();
-    /// Forgets what is pending: after a record was loaded by code.
-    void forget() { m_pending = nullptr; }
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;

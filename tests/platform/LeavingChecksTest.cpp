@@ -100,6 +100,7 @@ const WayOut waysOut[] = {
     {"Esc", [](EntryWindow &w) { QTest::keyClick(w.first, Qt::Key_Escape); }, 0, false},
     {"Cancel by mouse", [](EntryWindow &w) { click(w.cancel); }, 0, false},
     {"Cancel let go outside, then OK", [](EntryWindow &w) { press(w.cancel), release(w.plain), click(w.ok); }, 1},
+    {"an exempt button, and on", [](EntryWindow &w) { w.cancel->setFocus(), w.second->setFocus(); }, 1},
     {"another window and back", toAnotherWindowAndBack, 0},
     {"another window, and back onto OK", [](EntryWindow &w) { toAnotherWindowAndBack(w), click(w.ok); }, 1},
     {"its own menu", openAndCloseItsMenu, 0},
@@ -128,6 +129,7 @@ void play(const WayOut &way, ScriptedDoors &doors, EntryWindow &w)
     if (!way.stays)
         return;
     EXPECT_TRUE(w.first->hasFocus());
+    EXPECT_EQ(w.first->hasSelectedText(), way.boxes > 0) << "to be typed over";
     EXPECT_FALSE(w.ok->isDown() || w.plain->isDown());
     w.enter("good");
     w.second->clear();
@@ -161,9 +163,6 @@ TEST(LeavingChecks, JudgeABoxAsItIsWhenItIsLeft)
     QTest::keyClick(w.first, Qt::Key_Return);
     EXPECT_EQ(w.stored, 1) << "Enter does not leave the box: it is asked again";
     EXPECT_EQ(doors.takeText(), QStringLiteral("Not this."));
-    w.checks.forget(); // as after a record was loaded by code
-    QTest::keyClick(w.first, Qt::Key_Tab);
-    EXPECT_TRUE(doors.boxes.empty() && w.second->hasFocus());
 }
 
 TEST(LeavingChecks, GoOnAfterACheckThatFailsOrMovesTheFocus)

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPrinter>
 #include <QTemporaryDir>
 
 #include "platform/PaintedPages.h"
@@ -48,6 +49,18 @@ TEST_F(WrittenFiles, APdfIsThereWhenItsDocumentHasEnded)
     }
     EXPECT_TRUE(content().startsWith("%PDF-") && content().trimmed().endsWith("%%EOF"));
     EXPECT_TRUE(content().contains("/Count 2")) << "two pages";
+}
+
+TEST_F(WrittenFiles, PagesKeepTheOrientationTheyWerePaintedIn)
+{
+    QPrinter printer;
+    printer.setOutputFileName(name);
+    const auto pages = PagesOnPrinter(printer);
+    pages->setLandscape(true);
+    pages->beginDocument("Log");
+    pages->endDocument();
+    pages->setLandscape(false); // as a report leaves its printer; a preview asks afterwards
+    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
 }
 
 TEST_F(WrittenFiles, APdfInAFolderThatIsNotThereOrGoesAwayIsAFailure)
