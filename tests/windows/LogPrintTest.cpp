@@ -5,7 +5,7 @@
 #include "logbook/frm_OMKLogPrint.h"
 
 /// "Reef" and "Bowl" have an entry in each log.
-class LogPrint : public Desk<frm_OMKLogPrint>
+class LogPrint : public Desk
 {
 protected:
     LogPrint() : Desk(WaterTab)
@@ -20,8 +20,7 @@ protected:
                 execute(QString(sql).arg(tank));
         open("Reef");
     }
-    void print(const Action &action) { give("printentries", 0, action); }
-    void showTab(int tab) { hand::clickTab(*logbook->tab_logtype, tab); }
+    void print(const std::function<void(frm_OMKLogPrint &)> &action) { give("printentries", 0, action); }
     /// The tanks on the pages of the documents printed since last asked, documents between bars.
     QString printedTanks()
     {
@@ -39,26 +38,19 @@ protected:
     }
 };
 
-namespace {
-
-/// By tab.
-const std::pair<const char *, const char *> logsPrinted[] = {
-    {"Print Water Quality Log", "Ostrelmark Water Quality Log"},
-    {"Print Livestock Log", "Ostrelmark Livestock Log"},
-    {"Print Maintenance Log", "Ostrelmark Maintenance Log"}};
-
-} // namespace
-
 TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
 {
+    const QString logs[] = {"Water Quality Log", "Livestock Log", "Maintenance Log"};
     for (int tab = 0; tab < 3; ++tab) {
         SCOPED_TRACE(tab);
-        showTab(tab);
-        const auto &[title, document] = logsPrinted[tab];
+        hand::clickTab(*logbook->tab_logtype, tab);
+        const QString document = "Ostrelmark " + logs[tab];
         keeper.doors.printers = {PrintDialogAnswer{2, 0, 0, "Laser", {}}};
-        print([](frm_OMKLogPrint &w) { mouse::click(w.cmd_ok); });
-        EXPECT_EQ(printedTanks(), QString("%1:Reef|%1:Reef").arg(document));
-        EXPECT_EQ(keeper.doors.printDialogs.back().title, title);
+        keeper.inNext<frm_OMKLogPrint>([](frm_OMKLogPrint &w) { mouse::click(w.cmd_ok); });
+        hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
+        EXPECT_TRUE(isInFront(*main));
+        EXPECT_EQ(printedTanks(), document + ":Reef|" + document + ":Reef");
+        EXPECT_EQ(keeper.doors.printDialogs.back().title, "Print " + logs[tab]);
         EXPECT_EQ(keeper.doors.printDialogs.back().landscape, tab == 0);
         EXPECT_EQ(keeper.doors.targets.back().printerName, "Laser");
 
@@ -67,7 +59,7 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
             mouse::click(w.chk_PrintForAllTanks, QPoint(8, 8));
             mouse::click(w.cmd_ok);
         });
-        EXPECT_EQ(printedTanks(), QString(document) + ":Bowl,Reef");
+        EXPECT_EQ(printedTanks(), document + ":Bowl,Reef");
         EXPECT_EQ(keeper.doors.previews, tab + 1);
 
         keeper.doors.files = {"/tmp/log.pdf"};
@@ -75,10 +67,10 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
             mouse::click(w.opt_File, QPoint(8, 8));
             mouse::click(w.cmd_ok);
         });
-        EXPECT_EQ(printedTanks(), QString(document) + ":Reef");
+        EXPECT_EQ(printedTanks(), document + ":Reef");
         EXPECT_EQ(keeper.doors.targets.back().pdfFileName, "/tmp/log.pdf");
     }
-    EXPECT_EQ(told(0), "");
+    EXPECT_EQ(keeper.told(), "0");
 }
 
 TEST_F(LogPrint, AnEmptyLogIsToldOnceAndACancelledDialogPrintsNothing)
@@ -86,32 +78,17 @@ TEST_F(LogPrint, AnEmptyLogIsToldOnceAndACancelledDialogPrintsNothing)
     hand::clickTank(*logbook, "Pond");
     keeper.doors.printers = {PrintDialogAnswer{2, 0, 0, "Laser", {}}};
     print([](frm_OMKLogPrint &) { hand::press(Qt::Key_Return); });
-    EXPECT_EQ(told(0), "64 Note!: No water quality entries were found for this tank. No log was printed.");
+    EXPECT_EQ(keeper.told(), "0|Note!/64/No water quality entries were found for this tank. No log was printed.");
+    hand::clickTank(*logbook, "All Tanks");
+    EXPECT_FALSE(main->mnu_FilePrint->isEnabled());
     hand::clickTank(*logbook, "Reef");
     keeper.doors.printers.clear();
-    keeper.doors.files.clear();
     for (QRadioButton *frm_OMKLogPrint::*target : {&frm_OMKLogPrint::opt_Printer, &frm_OMKLogPrint::opt_File})
         print([&](frm_OMKLogPrint &w) {
             mouse::click(w.*target, QPoint(8, 8));
             mouse::click(w.cmd_ok);
         });
     print([](frm_OMKLogPrint &) { hand::press(Qt::Key_Escape); });
-    EXPECT_EQ(told(0), "");
+    EXPECT_EQ(keeper.told(), "0");
     EXPECT_TRUE(keeper.doors.documents.empty() && keeper.doors.targets.empty() && keeper.doors.previews == 0);
-}
-
-TEST_F(LogPrint, TheMenuPrintsALogAndIsDisabledInAllTanks)
-{
-    showTab(LivestockTab);
-    keeper.doors.printers = {PrintDialogAnswer{1, 0, 0, "Laser", {}}};
-    keeper.inNext<frm_OMKLogPrint>([&](frm_OMKLogPrint &w) {
-        mouse::click(w.opt_Maintenance, QPoint(8, 8)); // another log than the one on show
-        mouse::click(w.cmd_ok);
-    });
-    hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
-    EXPECT_TRUE(isInFront(*main));
-    EXPECT_EQ(printedTanks(), "Ostrelmark Maintenance Log:Reef");
-    EXPECT_TRUE(main->mnu_FilePrint->isEnabled());
-    hand::clickTank(*logbook, "All Tanks");
-    EXPECT_FALSE(main->mnu_FilePrint->isEnabled());
 }

@@ -1,175 +1,116 @@
+#include <QCheckBox>
 #include <QFile>
+#include <QPlainTextEdit>
 
-#include "Hands.h"
-#include "Keeper.h"
+#include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"
 #include "shell/frm_OMKOptions.h"
+#include "shell/Tips.h"
 #include "tanks/frm_TankMaint.h"
 
-namespace {
-
-/// Records the windows in the order in which they come up.
-class ShowOrder : public QObject
+/// A child of the main window that is not the logbook.
+class OtherChild : public ChildForm
 {
 public:
-    explicit ShowOrder(QStringList &names) : m_names(names) { qApp->installEventFilter(this); }
-
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        const auto *widget = event->type() == QEvent::Show ? qobject_cast<QWidget *>(object) : nullptr;
-        if (widget && widget->isWindow())
-            m_names << object->objectName();
-        return false;
-    }
-
-private:
-    QStringList &m_names;
+    OtherChild(Globals &globals, QWidget *parent) : ChildForm(globals, parent) { setWindowTitle("Other"); }
 };
 
-/// Toolbar buttons and menu entries that can be used to get at the tools of a tank.
-QString toolsOf(frm_OMKMDIMain &main)
+class MainWindow : public Desk
 {
-    QStringList names;
-    for (const MenuEntry *entry : {&main.button("logbook"), main.mnu_ToolsLogbook, main.mnu_ToolsTanksetup})
-        if (entry->isEnabled())
-            names << entry->objectName();
-    return names.join(u' ');
-}
+protected:
+    bool canAdd() const { return main->mnu_FileNew->isEnabled() && main->mnu_FileOpen->isEnabled(); }
+};
 
-} // namespace
-
-TEST(MainWindow, StartsWithItsWindowsInOrderAndWarnsOfMissingTanksLast)
+TEST(Start, WarnsOfMissingTanksLastAndShowsNoTipToWhomWantsNone)
 {
     Keeper keeper;
-    QStringList shown;
-    ShowOrder order(shown);
-    keeper.doors.whileBoxIsUp = [&](const MsgBoxRequest &box) { shown << box.title; };
+    keeper.doors.whileBoxIsUp = [&](const MsgBoxRequest &) { EXPECT_EQ(keeper.tipsAtStart, 1); };
     auto &main = keeper.startProgram();
-    EXPECT_EQ(shown.join(u'|'), "frm_OMKMDIMain|frm_OMKaboutbox|frm_OMKtod|No Tanks Set Up Yet");
-    EXPECT_TRUE(
-        keeper.told().startsWith("1|No Tanks Set Up Yet/48/You have no tanks set up in Ostrelmark for Windows."));
-    EXPECT_EQ(toolsOf(main), "mnu_ToolsLogbook mnu_ToolsTanksetup");
-    EXPECT_FALSE(main.button("graphing").isEnabled() || main.mnu_FilePrint->isEnabled());
+    EXPECT_TRUE(keeper.told().startsWith("1|No Tanks Set Up Yet/48/You have no tanks set up"));
+    EXPECT_FALSE(main.button("logbook").isEnabled() || main.button("graphing").isEnabled() ||
+                 main.mnu_FilePrint->isEnabled());
     keeper.addTank("Reef", "1");
-    keeper.restart(); // with a tank, and tips that are no longer wanted
+    keeper.restart();
     SaveSetting("Show_Tips", "No");
     keeper.startProgram();
     EXPECT_EQ(keeper.tipsAtStart, 1);
     EXPECT_EQ(keeper.told(), "0");
 }
 
-TEST(MainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestart)
+TEST(Start, EndsAtAFileThatCannotBeUsed)
 {
     Keeper keeper;
-    auto &main = keeper.startProgram();
+    keeper.g().gDatabase.reset();
+    QFile file(keeper.databaseFile());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(QByteArray(5000, 'x')) == 5000);
+    file.close();
+    EXPECT_THROW(Form<frm_OMKMDIMain>().MDIForm_Load(), RuntimeFailure);
+    EXPECT_FALSE(Form<frm_OMKMDIMain>().isVisible());
+}
+
+TEST_F(MainWindow, TheNextTipIsAnotherAndItsBoxIsStoredAtOnce)
+{
+    for (const QString setting : {"No", "Yes"}) { // each window begins with what the one before it stored
+        keeper.doors.randoms = {5.5 / 94};
+        keeper.inNext<frm_OMKtod>([&](frm_OMKtod &window) {
+            EXPECT_EQ(keeper.g().gTipNumber, 6);
+            keeper.doors.randoms = {6.5 / 82, 6.5 / 82, 0};
+            mouse::click(window.cmd_nexttip);
+            EXPECT_EQ(window.txt_tod->toPlainText(), tips()[0]);
+            click(*window.chk_ShowTipsAtStartup);
+            EXPECT_EQ(keeper.setting("Show_Tips"), setting);
+            hand::press(Qt::Key_Return);
+        });
+        hand::choose(*main, *main->mnu_Help, "mnu_HelpTod");
+    }
+}
+
+TEST_F(MainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestart)
+{
     const auto setUpTanks = [&] {
         keeper.inNext<frm_TankMaint>([](frm_TankMaint &) { hand::press(Qt::Key_Escape); });
-        hand::click<QToolButton>(main, "tanksetup");
-        EXPECT_TRUE(isInFront(main));
+        hand::click<QToolButton>(*main, "tanksetup");
+        EXPECT_TRUE(isInFront(*main));
     };
-    keeper.told();
-    keeper.addTank("Reef", "1");
-    setUpTanks();
-    EXPECT_EQ(keeper.told(), "0");
-    EXPECT_EQ(keeper.g().gNoTanks, "N");
-    hand::click<QToolButton>(main, "logbook");
-    auto &logbook = Form<frm_Waterlog>();
-    hand::clickTank(logbook, "Reef");
-    keeper.g().gDatabase->Execute("DELETE FROM TANKLST");
+    execute("DELETE FROM TANKLST");
     setUpTanks();
     EXPECT_TRUE(keeper.told().startsWith("1|No Tanks Set Up Yet/48/"));
-    EXPECT_EQ(toolsOf(main), "mnu_ToolsLogbook mnu_ToolsTanksetup");
-    EXPECT_FALSE(main.mnu_FileNew->isEnabled()) << "the open logbook has let go of the tank";
-    EXPECT_EQ(logbook.TreeView1->topLevelItem(0)->childCount(), 0);
-}
-
-TEST(MainWindow, AFileThatCannotBeUsedStopsTheStartAndStaysAsItIs)
-{
-    for (const QByteArray &content : {QByteArray(5000, 'x'), QByteArray()}) {
-        Keeper keeper;
-        keeper.g().gDatabase.reset();
-        QFile file(keeper.databaseFile());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(content);
-        file.close();
-        QStringList shown;
-        ShowOrder order(shown);
-        try {
-            Form<frm_OMKMDIMain>().MDIForm_Load();
-            ADD_FAILURE() << "It started.";
-        } catch (const RuntimeFailure &failure) {
-            EXPECT_EQ(failure.number(), Failure::UnrecognizedFormat);
-            EXPECT_TRUE(failure.description().contains("OM.MDB")) << failure.what();
-        }
-        EXPECT_EQ(shown.join(u'|') + keeper.told(), "0");
-        keeper.g().gDatabase.reset();
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_EQ(file.readAll(), content);
-    }
-}
-
-TEST(MainWindow, TheEntriesOfTheHelpOpenItOrSayThatItIsMissing)
-{
-    Keeper keeper;
+    EXPECT_FALSE(main->button("logbook").isEnabled());
+    EXPECT_TRUE(main->mnu_ToolsLogbook->isEnabled());
+    EXPECT_FALSE(main->mnu_FileNew->isEnabled()) << "the open logbook has let go of the tank";
+    EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->childCount(), 0);
     keeper.addTank("Reef", "1");
-    auto &main = keeper.startProgram();
-    keeper.doors.helpIsThere = false;
-    for (const char *entry : {"mnu_HelpContents", "mnu_HelpSearch"}) {
-        hand::choose(main, *main.mnu_Help, entry);
-        EXPECT_EQ(keeper.told(),
-                  "0| Ostrelmark 98/64/Unable to display Help Contents. There is no Help associated with "
-                  "this project.");
-    }
-    ASSERT_EQ(keeper.doors.helps.size(), 2U);
-    EXPECT_TRUE(keeper.doors.helps[0].at == HelpRequest::At::Contents);
-    EXPECT_TRUE(keeper.doors.helps[1].at == HelpRequest::At::Search);
+    setUpTanks();
+    EXPECT_TRUE(main->button("logbook").isEnabled());
+    EXPECT_EQ(keeper.told() + keeper.g().gNoTanks, "0N");
 }
 
-TEST(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
+TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
 {
-    Keeper keeper;
-    keeper.addTank("Reef", "1");
-    auto &main = keeper.startProgram();
-    auto &logbook = hand::openLogbook(main);
-    hand::clickTank(logbook, "Reef");
-    const auto canAdd = [&] { return main.mnu_FileNew->isEnabled() && main.mnu_FileOpen->isEnabled(); };
-    keeper.inNext<frm_WaterAddEdit>([&](frm_WaterAddEdit &) {
+    give<frm_WaterAddEdit>("addentries", 0, [&](frm_WaterAddEdit &) {
         EXPECT_TRUE(canAdd());
-        EXPECT_FALSE(main.mnu_FilePrint->isEnabled());
-        EXPECT_EQ(main.mnu_FilePrint->text(), "&Print");
+        EXPECT_FALSE(main->mnu_FilePrint->isEnabled());
+        EXPECT_EQ(main->mnu_FilePrint->text(), "&Print");
         hand::press(Qt::Key_Escape);
     });
-    hand::press(Qt::Key_N, Qt::ControlModifier);
-    EXPECT_TRUE(isInFront(main));
-    EXPECT_TRUE(canAdd() && main.mnu_FilePrint->isEnabled());
-    EXPECT_EQ(main.mnu_FilePrint->text(), "&Print Entries...");
+    EXPECT_TRUE(canAdd() && main->mnu_FilePrint->isEnabled());
+    EXPECT_EQ(main->mnu_FilePrint->text(), "&Print Entries...");
 
-    main.ShowChild(Form<OtherChild>());
-    EXPECT_FALSE(main.mnu_FileNew->isEnabled() || main.mnu_FileOpen->isEnabled() || main.mnu_FileDelete->isEnabled());
-    hand::openLogbook(main);
+    main->ShowChild(Form<OtherChild>());
+    EXPECT_FALSE(main->mnu_FileNew->isEnabled() || main->mnu_FileOpen->isEnabled() ||
+                 main->mnu_FileDelete->isEnabled());
+    hand::openLogbook(*main);
     EXPECT_TRUE(canAdd());
-    EXPECT_EQ(logbook.TreeView1->currentItem()->text(0), "Reef") << "only the first activation builds the tree";
+    EXPECT_EQ(logbook->TreeView1->currentItem()->text(0), "Reef") << "only the first activation builds the tree";
 }
 
-TEST(MainWindow, ClosingItClosesTheChildrenWhichStoreWhatTheyKeep)
+TEST_F(MainWindow, ClosingItClosesTheChildrenWhichStoreWhatTheyKeep)
 {
-    Keeper keeper;
-    keeper.addTank("Reef", "1");
-    for (const bool byMenu : {true, false}) {
-        auto &main = keeper.startProgram();
-        hand::openLogbook(main);
-        main.ShowChild(Form<OtherChild>());
-        SaveSetting("WQ_Sort", "overwritten");
-        if (byMenu)
-            hand::choose(main, *main.mnu_File, "mnu_Exit");
-        else
-            main.close();
-        EXPECT_FALSE(main.isVisible());
-        EXPECT_EQ(keeper.setting("WQ_Sort"), byMenu ? "1" : "overwritten at close");
-        EXPECT_FALSE(Forms::current().loaded<frm_Waterlog>() || Forms::current().loaded<OtherChild>() ||
-                     Forms::current().loaded<frm_OMKOptions>());
-        SaveSetting("WQ_Sort", "overwritten at close");
-        keeper.restart();
-    }
+    main->ShowChild(Form<OtherChild>());
+    SaveSetting("WQ_Sort", "overwritten");
+    hand::choose(*main, *main->mnu_File, "mnu_Exit");
+    EXPECT_FALSE(main->isVisible());
+    EXPECT_EQ(keeper.setting("WQ_Sort"), "1");
+    EXPECT_FALSE(Forms::current().loaded<frm_Waterlog>() || Forms::current().loaded<OtherChild>() ||
+                 Forms::current().loaded<frm_OMKOptions>());
 }

@@ -1,10 +1,8 @@
 // Reminders through their windows: composed, listed, scheduled, printed, changed and deleted by hand, and what the
-// toolbar says meanwhile.
+// toolbar says meanwhile. Today is Saturday, 14 March 2026.
 #include <QCheckBox>
-#include <QComboBox>
 
-#include "Hands.h"
-#include "platform/MaskedBox.h"
+#include "Desk.h"
 #include "reminders/frm_Maintsched.h"
 #include "reminders/frm_SchedNewAddEdit.h"
 #include "reminders/frm_Schedule.h"
@@ -13,133 +11,96 @@ namespace {
 
 using Compose = std::function<void(frm_SchedNewAddEdit &)>;
 
-/// All columns of a reminder that the program writes, in one line.
-const QString wholeRow = "SELECT group_concat(SchedTask || '|' || SchedStartDate || '|' || SchedEndDate || '|' || "
-                         "SchedInterval || '|' || SchedRtype || '|' || SchedRSubtype || '|' || "
-                         "coalesce(SchedDetailText, '') || '|' || SchedEnglishDesc, '  ') AS x FROM MAINTSCHED";
-
 } // namespace
 
-/// Today is Saturday, 14 March 2026.
-class Reminders : public ::testing::Test
+class Reminders : public Desk
 {
 protected:
-    void open()
+    void openList()
     {
-        main = &keeper.startProgram();
-        keeper.told();
         hand::press(Qt::Key_E, Qt::ControlModifier);
         list = Forms::current().loaded<frm_Maintsched>();
         ASSERT_TRUE(list);
     }
-    void startWith(const char *order, const char *delimiter)
+    void insert(const QString &task, const QString &rest)
     {
-        keeper.restart();
-        SaveSetting("Date_Order", order);
-        SaveSetting("Date_Delim", delimiter);
-        open();
-    }
-    void insert(const QString &task, const QString &rest = "'2026-01-01', '2027-12-31', 1, 0, 0, ''")
-    {
-        keeper.g().gDatabase->Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, "
-                                      "SchedRtype, SchedRSubtype, SchedDetailText) VALUES (?, " +
-                                          rest + ")",
-                                      {task});
+        execute("INSERT INTO MAINTSCHED (SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, SchedRSubtype, "
+                "SchedDetailText, SchedTask) VALUES (" +
+                    rest + ", ?)",
+                {task});
     }
     void inEditor(QPushButton *button, const Compose &action)
     {
         keeper.inNext<frm_SchedNewAddEdit>(action);
         mouse::click(button);
     }
-    void add(const QString &task, const Compose &compose)
+    QString upcoming() const { return lines(*main->cbo_Reminders->model()); }
+    /// All columns of the reminder that the program writes, in one line.
+    QString row()
     {
-        inEditor(list->cmd_AddTask, [&](frm_SchedNewAddEdit &w) {
-            hand::type(*w.txt_TaskDescription, task);
-            compose(w);
-            mouse::click(w.cmd_OK);
-        });
+        return stored("SchedTask || '|' || SchedStartDate || '|' || SchedEndDate || '|' || SchedInterval || '|' || "
+                      "SchedRtype || '|' || SchedRSubtype || '|' || coalesce(SchedDetailText, '') || '|' || "
+                      "SchedEnglishDesc AS x FROM MAINTSCHED");
     }
-    frm_Schedule &openSchedule()
-    {
-        mouse::click(list->cmd_ViewSchedule);
-        return Form<frm_Schedule>();
-    }
-    QString upcoming() const
-    {
-        QStringList texts;
-        for (int i = 0; i < main->cbo_Reminders->count(); ++i)
-            texts << main->cbo_Reminders->itemText(i);
-        return texts.join(u'|');
-    }
-    QString stored() { return keeper.stored(wholeRow, "x"); }
 
-    Keeper keeper;
-    frm_OMKMDIMain *main = nullptr;
     frm_Maintsched *list = nullptr;
 };
 
-namespace {
-
-struct PatternCase
-{
-    const char *row; ///< as stored, behind task and range
-    const char *next;
-    Compose compose;
-};
-
-const PatternCase patternCases[] = {
-    {"3|0|0||Every 3 days.", "Sat 14.03.26",
-     [](frm_SchedNewAddEdit &w) {
-         hand::step(w, "ud_Daily", "up");
-         hand::step(w, "ud_Daily", "up");
-     }},
-    {"2|1|0|0101000|Every 2 week(s) on Mon, Wed.", "Mon 16.03.26",
-     [](frm_SchedNewAddEdit &w) {
-         click(*w.opt_Weekly);
-         hand::type(*w.txt_WeeklyWeeks, "2");
-         click(*w.chk_WeeklyDay[1]);
-         click(*w.chk_WeeklyDay[3]);
-     }},
-    {"1|2|1|46|The Last Saturday of every 1 month(s).", "Sat 28.03.26",
-     [](frm_SchedNewAddEdit &w) {
-         click(*w.opt_Monthly);
-         click(*w.Opt_MonthlyXWeekdayofEveryMonth);
-         w.cbo_MonthlyXth->setFocus();
-         hand::press(Qt::Key_End); // "Last"; today's weekday is set already
-     }},
-    {"1|4|0|20.03.26|Only once on 20.03.26.", "Fri 20.03.26",
-     [](frm_SchedNewAddEdit &w) {
-         click(*w.opt_Once);
-         hand::type(*w.txt_OnceDate, "200326");
-     }},
-};
-
-} // namespace
-
 TEST_F(Reminders, OfEachPatternAreStoredShownOnTheToolbarAndUnchangedByASecondSaveInAnotherOrder)
 {
-    for (const PatternCase &c : patternCases) {
-        SCOPED_TRACE(c.row);
+    const std::tuple<const char *, const char *, Compose> patterns[] = {
+        {"3|0|0||Every 3 days.", "Sat 14.03.26",
+         [](frm_SchedNewAddEdit &w) {
+             hand::step(w, "ud_Daily", "up");
+             hand::step(w, "ud_Daily", "up");
+         }},
+        {"2|1|0|0101000|Every 2 week(s) on Mon, Wed.", "Mon 16.03.26",
+         [](frm_SchedNewAddEdit &w) {
+             click(*w.opt_Weekly);
+             hand::type(*w.txt_WeeklyWeeks, "2");
+             click(*w.chk_WeeklyDay[1]);
+             click(*w.chk_WeeklyDay[3]);
+         }},
+        {"1|2|1|46|The Last Saturday of every 1 month(s).", "Sat 28.03.26",
+         [](frm_SchedNewAddEdit &w) {
+             click(*w.opt_Monthly);
+             click(*w.Opt_MonthlyXWeekdayofEveryMonth);
+             w.cbo_MonthlyXth->setFocus();
+             hand::press(Qt::Key_End); // "Last"; today's weekday is set already
+         }},
+        {"1|4|0|20.03.26|Only once on 20.03.26.", "Fri 20.03.26",
+         [](frm_SchedNewAddEdit &w) {
+             click(*w.opt_Once);
+             hand::type(*w.txt_OnceDate, "200326");
+         }},
+    };
+    for (const auto &[pattern, next, compose] : patterns) {
         startWith("DDMMYY", ".");
+        openList();
         EXPECT_EQ(upcoming(), "(No Reminders Available)");
-        add("Feed \"Nemo\"", c.compose);
-        const QString row = QString("Feed \"Nemo\"|2026-03-14|2028-03-14|") + c.row;
-        EXPECT_EQ(stored(), row);
-        EXPECT_EQ(upcoming().section('|', 0, 0), QString(c.next) + " Feed \"Nemo\"");
+        inEditor(list->cmd_AddTask, [&, compose = compose](frm_SchedNewAddEdit &w) {
+            hand::type(*w.txt_TaskDescription, "Feed \"Nemo\"");
+            compose(w);
+            mouse::click(w.cmd_OK);
+        });
+        const QString expected = QString("Feed \"Nemo\"|2026-03-14|2028-03-14|") + pattern;
+        EXPECT_EQ(row(), expected);
+        EXPECT_EQ(upcoming().section('|', 0, 0), QString(next) + " Feed \"Nemo\"");
         startWith("MMDDYY", "/");
+        openList();
         hand::clickRow(*list->lstv_MaintSched, 1);
         inEditor(list->cmd_update_task, [](frm_SchedNewAddEdit &w) { mouse::click(w.cmd_OK); });
-        EXPECT_EQ(stored().section('|', 0, 5), row.section('|', 0, 5));
+        EXPECT_EQ(row().section('|', 0, 5), expected.section('|', 0, 5));
         EXPECT_TRUE(upcoming().endsWith(" Feed \"Nemo\"")) << "and it still has dates";
-        keeper.g().gDatabase->Execute("DELETE FROM MAINTSCHED");
+        execute("DELETE FROM MAINTSCHED");
     }
     EXPECT_EQ(keeper.told(), "0");
 }
 
 TEST_F(Reminders, ThatCannotBeStoredLeaveTheEditorWithAllThatWasSet)
 {
-    insert("Feed");
-    open();
+    insert("Feed", "'2026-01-01', '2027-12-31', 1, 0, 0, ''");
+    openList();
     inEditor(list->cmd_AddTask, [this](frm_SchedNewAddEdit &w) {
         mouse::click(w.cmd_OK);
         EXPECT_EQ(keeper.told(), "0|Oops/64/You must enter a description for this reminder.");
@@ -148,13 +109,12 @@ TEST_F(Reminders, ThatCannotBeStoredLeaveTheEditorWithAllThatWasSet)
         click(*w.opt_Weekly);
         click(*w.chk_WeeklyDay[0]);
         mouse::click(w.cmd_OK);
-        EXPECT_EQ(keeper.told(), "1|/0/That identical task already exists. Make your new task unique by changing at "
-                                 "least one letter.");
+        EXPECT_TRUE(keeper.told().startsWith("1|/0/That identical task already exists."));
         EXPECT_TRUE(keeper.g().reminderEditor.EditCancelled && w.chk_WeeklyDay[0]->isChecked());
         hand::type(*w.txt_TaskDescription, "Feet");
         mouse::click(w.cmd_OK);
     });
-    EXPECT_EQ(keeper.stored("SELECT SchedDetailText AS x FROM MAINTSCHED WHERE SchedTask = 'Feet'", "x"), "1000000");
+    EXPECT_EQ(stored("SchedDetailText AS x FROM MAINTSCHED WHERE SchedTask = 'Feet'"), "1000000");
     inEditor(list->cmd_AddTask, [](frm_SchedNewAddEdit &w) {
         hand::type(*w.txt_TaskDescription, "Nothing");
         hand::press(Qt::Key_Escape);
@@ -167,20 +127,18 @@ TEST_F(Reminders, AreDeletedAfterAQuestionAndTheToolbarFollows)
 {
     insert("Feed", "'2026-01-01', '2027-12-31', 700, 0, 0, ''");
     insert("It's \"late\"", "'2026-03-20', '2026-03-21', 9, 0, 0, ''");
-    open();
+    openList();
     EXPECT_EQ(upcoming(), "Fri 03/20/26 It's \"late\"|Thu 12/02/27 Feed");
     hand::clickRow(*list->lstv_MaintSched, 2);
-    for (const MsgBoxAnswer answer : {MsgBoxAnswer::Cancel, MsgBoxAnswer::OK}) {
-        EXPECT_EQ(keeper.count("MAINTSCHED"), 2);
-        keeper.doors.answers = {answer};
+    keeper.doors.answers = {MsgBoxAnswer::Cancel, MsgBoxAnswer::OK};
+    for (const int left : {2, 1}) {
         mouse::click(list->cmd_DeleteTask);
-        EXPECT_EQ(keeper.told(), "1|Are you sure.../33/Are you sure you want to delete this entry?\nIt's \"late\"\n"
-                                 "scheduled for ?\n(Remember, you CANNOT \"undo\" a delete!)");
+        EXPECT_TRUE(keeper.told().startsWith("1|Are you sure.../33/Are you sure you want to delete this entry?\nIt's"));
+        EXPECT_EQ(keeper.count("MAINTSCHED"), left);
     }
     EXPECT_EQ(upcoming(), "Thu 12/02/27 Feed");
     keeper.doors.clock = keeper.doors.clock.addYears(2); // all is past, and the table is not empty
-    keeper.restart();
-    open();
+    startWith("MMDDYY", "/");
     EXPECT_EQ(upcoming(), "");
 }
 
@@ -190,7 +148,7 @@ TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
     insert("Endless", "'2026-01-01', NULL, 1, 0, 0, ''");
     insert("Stuck", "'2026-01-01', '2027-12-31', 0, 0, 0, ''");
     insert("Feed", "'2026-03-15', '2026-03-16', 2, 0, 0, ''");
-    main = &keeper.startProgram(); // nobody is locked out
+    startWith("MMDDYY", "/"); // nobody is locked out
     EXPECT_EQ(upcoming(), "Sun 03/15/26 Feed");
     const QString told = keeper.told();
     for (const char *line : {"Reminders without dates/55/", "January (its month cannot be read)",
@@ -200,11 +158,10 @@ TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
     auto &schedule = Form<frm_Schedule>();
     mouse::click(schedule.cmd_Generate);
     EXPECT_EQ(hand::column(*schedule.lstv_Reminders, 1), "Feed");
-    EXPECT_TRUE(keeper.told().startsWith("1|Reminders without dates/55/"));
+    EXPECT_EQ(keeper.told().count("Reminders without dates/55/"), 1);
     EXPECT_EQ(keeper.count("MAINTSCHED"), 4);
     keeper.doors.answers = {MsgBoxAnswer::Delete};
-    hand::press(Qt::Key_E, Qt::ControlModifier);
-    list = Forms::current().loaded<frm_Maintsched>();
+    openList();
     EXPECT_EQ(hand::column(*list->lstv_MaintSched, 0), "Feed");
     EXPECT_EQ(keeper.count("MAINTSCHED"), 1);
 }
@@ -213,37 +170,33 @@ TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
 {
     insert("Feed", "'2026-01-01', '2029-12-31', 1, 0, 0, ''");
     insert("Dose", "'2026-03-02', '2026-03-03', 1, 1, 0, '1000000'"); // a week beyond its end
-    open();
-    frm_Schedule &schedule = openSchedule();
+    hand::press(Qt::Key_S, Qt::ControlModifier);
+    auto &schedule = Form<frm_Schedule>();
+    const ListView &dates = *schedule.lstv_Reminders;
     click(*schedule.opt_DateRange);
-    const struct
-    {
-        const char *from, *to, *told;
-    } cases[] = {
+    const auto generate = [&](const char *from, const char *to) {
+        hand::type(*schedule.txt_startdate, from);
+        hand::type(*schedule.txt_enddate, to);
+        mouse::click(schedule.cmd_Generate);
+    };
+    const std::tuple<const char *, const char *, const char *> bad[] = {
         {"", "", "start date must be a valid date"},
         {"030826", "023026", "end date must be a valid date"},
         {"030826", "010130", "end date cannot be more than 30 years in the future or past the year 2029"},
         {"030826", "030726", "start date must be prior to, or equal to, the end date"},
     };
-    for (const auto &c : cases) {
-        hand::type(*schedule.txt_startdate, c.from);
-        hand::type(*schedule.txt_enddate, c.to);
-        mouse::click(schedule.cmd_Generate);
-        EXPECT_TRUE(keeper.told().startsWith(QString("0|Oops!/64/The ") + c.told)) << c.from << c.to;
+    for (const auto &[from, to, told] : bad) {
+        generate(from, to);
+        EXPECT_TRUE(keeper.told().startsWith(QString("0|Oops!/64/The ") + told)) << from << to;
     }
-    const auto generated = [&](const char *from, const char *to) -> QString {
-        hand::type(*schedule.txt_startdate, from);
-        hand::type(*schedule.txt_enddate, to);
-        mouse::click(schedule.cmd_Generate);
-        return hand::column(*schedule.lstv_Reminders, 0) + ": " + hand::column(*schedule.lstv_Reminders, 1);
-    };
-    EXPECT_EQ(generated("030826", "030826"), "Sunday 03/08/26 Sunday 03/08/26: Feed Dose");
-    EXPECT_EQ(generated("123129", "123129"), "Monday 12/31/29: Feed");
+    generate("030826", "030826");
+    EXPECT_EQ(hand::column(dates, 0) + ": " + hand::column(dates, 1), "Sunday 03/08/26 Sunday 03/08/26: Feed Dose");
+    generate("123129", "123129");
+    EXPECT_EQ(hand::column(dates, 1), "Feed");
     click(*schedule.opt_2years);
     mouse::click(schedule.cmd_Generate);
-    EXPECT_EQ(schedule.lstv_Reminders->Text(1), "Saturday 03/14/26");
-    EXPECT_EQ(schedule.lstv_Reminders->Text(schedule.lstv_Reminders->Count()), "Tuesday 03/14/28"); // to the day
-    keeper.g().gDatabase->Execute("DELETE FROM MAINTSCHED");
+    EXPECT_EQ(dates.Text(1) + ' ' + dates.Text(dates.Count()), "Saturday 03/14/26 Tuesday 03/14/28"); // to the day
+    execute("DELETE FROM MAINTSCHED");
     mouse::click(schedule.cmd_Generate);
     EXPECT_EQ(keeper.told(), "0|/0/No Reminder details found for maintenance schedule.");
 }
@@ -251,12 +204,10 @@ TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
 TEST_F(Reminders, OnPaperAreNinetyNineOnTheFirstPageAndThenFifty)
 {
     insert("Feed", "'2026-03-14', '2026-08-10', 1, 0, 0, ''"); // 150 days
-    open();
-    frm_Schedule &schedule = openSchedule();
+    hand::press(Qt::Key_S, Qt::ControlModifier);
+    auto &schedule = Form<frm_Schedule>();
     mouse::click(schedule.cmd_Generate);
-    PrintDialogAnswer twice;
-    twice.copies = 2;
-    keeper.doors.printers = {twice, std::nullopt};
+    keeper.doors.printers = {PrintDialogAnswer{2, 0, 0, "Laser", {}}, std::nullopt};
     hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
     mouse::click(schedule.cmd_Print); // cancelled
     EXPECT_EQ(keeper.doors.printDialogs.at(0).title, "Print Maintenance Schedule");

@@ -15,15 +15,12 @@ struct LineRow
 };
 
 const LineRow lineRows[] = {
-    {{}, {}, "", ""},
     {{"-platform", "offscreen", "a"}, {}, "a", ""}, // the toolkit's, whose value is no folder
     {{"-session", "--version"}, {}, "", ""},
-    {{"--", "--help"}, {}, "--help", ""},
     {{"a", "--version"}, 0, "", "Ostrelmark 2."},
     {{"--help", "--bogus"}, 0, "", "Usage: ostrelmark [FOLDER]"},
     {{"--bogus"}, 2, "", "no option \"--bogus\""},
     {{"a", "b"}, 2, "", "more than one folder"},
-    {{""}, 2, "", "empty"},
 };
 
 void write(const QString &path, const QByteArray &content)
@@ -105,9 +102,6 @@ TEST(Start, TheSecondOnAFolderSaysSoAndMakesNothing)
         EXPECT_FALSE(QFile::exists("OM.MDB"));
         EXPECT_TRUE(place.open(elsewhere, "other"));
     }
-    KeepersFolder third;
-    EXPECT_TRUE(place.open(third));
-    EXPECT_TRUE(place.doors.boxes.empty());
 }
 
 TEST(Start, WhatCannotBeMadeFails)
