@@ -1,6 +1,6 @@
 // A year with two tanks: animals come, move, are sold and die, work is done each month; mistakes are mended, and in the
-// middle the program ends and starts again. At the end the screen, the file and the paper say the same, and it is what
-// was done. Once in each order of dates.
+// middle the program ends and starts again. At the end, after another start, the screen and the paper say the same, and
+// it is what was done. Once in each order of dates.
 #include <algorithm>
 
 #include <QCheckBox>
@@ -63,7 +63,6 @@ protected:
     void liveThrough(int month);
 
     QStringList onScreen();
-    QStringList inFile(const QString &tank, LogTab log);
     QStringList onPaper(const QString &tank);
 
     const QString order = GetParam().order, picture = MakeDatePicture(order, GetParam().delimiter);
@@ -123,11 +122,6 @@ void Year::sell()
         hand::type(*w.txt_quantity, "1");
         mouse::click(w.cmd_OK);
     });
-    select("Reef", MaintenanceTab, "Test 2").text = "Test 2|12|drops";
-    give<frm_MaintAddEdit>("changeentries", 0, [](frm_MaintAddEdit &w) {
-        hand::fill(*w.lst_unit, "drops");
-        mouse::click(w.cmd_OK);
-    });
 }
 
 void Year::lose(const QString &tank, LogTab log, const QString &name, bool goes)
@@ -174,21 +168,6 @@ QStringList Year::onScreen()
     return rows;
 }
 
-QStringList Year::inFile(const QString &tank, LogTab log)
-{
-    const char *const sql =
-        log == LivestockTab
-            ? "SELECT dateadded AS d, timeadded AS t, animalname AS name, quantity AS n, Status AS last FROM LIVESTOCK "
-              "JOIN TANKLST ON tankid = LIVESTOCK.tankname WHERE TANKLST.tankname = ? ORDER BY d, t"
-            : "SELECT maintlogdate AS d, maintlogtime AS t, maintlogtask AS name, maintlogqty AS n, maintlogunit AS "
-              "last FROM MAINTLOG JOIN TANKLST ON tankid = mainttankname WHERE tankname = ? ORDER BY d, t";
-    QStringList found;
-    for (Recordset rows = keeper.g().gDatabase->OpenRecordset(sql, {tank}); !rows.EOF_(); rows.MoveNext())
-        found << moment(rows["d"].value().toDate(), rows["t"].value().toTime()) + rows["name"].text() + '|' +
-                     rows["n"].text() + (rows["last"].text().isEmpty() ? "" : "|") + rows["last"].text();
-    return found;
-}
-
 /// What a report of all tanks, of the log on show, says of one.
 QStringList Year::onPaper(const QString &tank)
 {
@@ -216,11 +195,11 @@ QStringList Year::onPaper(const QString &tank)
     return rows;
 }
 
-TEST_P(Year, ScreenFileAndPaperSayWhatWasDone)
+TEST_P(Year, ScreenAndPaperSayWhatWasDone)
 {
     for (int month = 1; month <= 12; ++month) {
         liveThrough(month);
-        if (month != 6)
+        if (month % 6 != 0)
             continue;
         hand::choose(*main, *main->mnu_File, "mnu_Exit");
         keeper.restart();
@@ -237,7 +216,6 @@ TEST_P(Year, ScreenFileAndPaperSayWhatWasDone)
                     expected << moment(entry.when.date(), entry.when.time()) + entry.text;
             go(tank, log);
             EXPECT_EQ(onScreen(), expected);
-            EXPECT_EQ(inFile(tank, log), expected);
             EXPECT_EQ(onPaper(tank), expected);
         }
     EXPECT_EQ(keeper.count("LIVESTOCK WHERE animalname = 'Fish 2' AND price_sold = 7.5 AND datelost = '2026-08-20'"),

@@ -1,4 +1,6 @@
 // The entry windows of the three logs: what holds for each of them, by a table of what differs.
+#include <ranges>
+
 #include "Desk.h"
 #include "logbook/frm_LivesAddEdit.h"
 #include "logbook/frm_MaintAddEdit.h"
@@ -11,29 +13,33 @@ template <class F> void next(const Action &action)
     Keeper::inNext<F>([action](F &window) { action(window); });
 }
 
+/// A bad text for a box, a part of what OK then tells, and a text that the box takes.
+struct Fault
+{
+    const char *box;
+    QString bad, words, good = {};
+    bool onLeaving = false; ///< it is told as soon as the box is left
+};
+
 struct Log
 {
     LogTab tab;
     void (*inNext)(const Action &);
-    const char *table, *tank, *date, *time; ///< in the file
-    QStringList moment;                     ///< the boxes of date and time
-    const char *boxes;                      ///< the others, each with what is typed into it
-    const char *columns;                    ///< where that comes to stand
-    const char *cleared, *left;             ///< boxes that a change clears, and what then stands in the columns
-    const char *taken;                      ///< the refusal of a second entry
-    const char *toChange;                   ///< what a change without a selected row is told
-    bool asTyped, byName; ///< a change reads the row's date month first; a deletion names the tank by its name
+    const char *file;           ///< the table, and its columns of tank, date and time
+    QStringList moment;         ///< the boxes of date and time
+    const char *boxes;          ///< the others, each with what is typed into it
+    const char *columns;        ///< where that comes to stand
+    const char *cleared, *left; ///< boxes that a change clears, and what then stands in the columns
+    const char *taken;          ///< the refusal of a second entry
+    std::vector<Fault> faults;  ///< in the order of the checks
 };
 
-void PrintTo(const Log &log, std::ostream *out) { *out << log.table; }
+void PrintTo(const Log &log, std::ostream *out) { *out << log.file; }
 
 const Log logs[] = {
     {WaterTab,
      next<frm_WaterAddEdit>,
-     "WATERLOG",
-     "tankname",
-     "logdate",
-     "logtime",
+     "WATERLOG tankname logdate logtime",
      {"txt_date", "txt_time"},
      "txt_ammonia 0.125|txt_nitrite 2.5|txt_nitrate 3.5|txt_ph 4.5|txt_sg 1.025|txt_temp 15.5|txt_oxygen -1.5|"
      "txt_dkh 17.5|txt_calcium 415.5|txt_copper 19.5|txt_orp 333.5|txt_user1 21.5|txt_user2 22.5|txt_Comment a\n\"b\"'",
@@ -41,15 +47,17 @@ const Log logs[] = {
      "txt_Comment",
      "0.125|2.5|3.5|4.5|1.025|15.5|-1.5|17.5|415.5|19.5|333.5|21.5|22.5|",
      "Oops!/48/This tank already has a water test at that date and time.",
-     "delete",
-     false,
-     true},
+     {{"txt_ammonia", "999.001", "Ammonia entries must be less than 1000.", "999", true},
+      {"txt_ph", "99.001", "Ph entries", "99", true},
+      {"txt_sg", "10", "Specific Gravity entries", "9.999", true},
+      {"txt_temp", "999.001", "Temperature entries", "999", true},
+      {"txt_orp", "", "Orp entries must be a number.", {}, true},
+      {"txt_orp", "1.2.3", "Orp", "-1", true},
+      {"txt_date", "02/29/26", "You must enter a valid date", "02/29/24", true},
+      {"txt_time", "13", "You must enter a valid time", "12:30:00 pm", true}}},
     {LivestockTab,
      next<frm_LivesAddEdit>,
-     "LIVESTOCK",
-     "tankname",
-     "dateadded",
-     "timeadded",
+     "LIVESTOCK tankname dateadded timeadded",
      {"txt_DateAdded", "txt_timeadded"},
      "lst_AnimalList Nan's \"Tang\"|txt_quantity 3|lst_where Zoo|txt_pricepaid 12.5|txt_pricesold 7.5|"
      "txt_datelost 26-05-25|lst_Status Sold|txt_Comment shy\nfish",
@@ -57,15 +65,18 @@ const Log logs[] = {
      "lst_where txt_pricepaid txt_pricesold txt_datelost", // an empty price or date leaves what was there
      "Nan's \"Tang\"|3||12.5|7.5|26-05-25|Sold|shy\nfish",
      "Oops!/48/This tank already has an entry for that animal at that date and time.",
-     "change.",
-     false,
-     false},
+     {{"lst_AnimalList", "", "You must enter an animal name"},
+      {"lst_AnimalList", QString(51, 'a'), "Your animal description must", QString(50, 'a')},
+      {"txt_datelost", "02/30/26", "You must enter a valid date in MM/DD/YY", "05/06/26"},
+      {"txt_pricepaid", "abc", "Price Paid must", "1,234.5"},
+      {"lst_Status", QString(31, 's'), "Your status description must", QString(30, 's')},
+      {"txt_quantity", "32,001", "Your quantity must be less than 32,000."},
+      {"txt_quantity", "99999x", "Your quantity must be less than 32,000."},
+      {"txt_quantity", "", "Quantity entries must be a number.", "32,000"},
+      {"txt_timeadded", "13:00:00 PM", "You must enter a valid time", "12:00:01 AM"}}},
     {MaintenanceTab,
      next<frm_MaintAddEdit>,
-     "MAINTLOG",
-     "mainttankname",
-     "maintlogdate",
-     "maintlogtime",
+     "MAINTLOG mainttankname maintlogdate maintlogtime",
      {"txt_logdate", "txt_logtime"},
      "lst_mainttasklist Feeding|txt_description aged|txt_quantity 12.5|lst_unit litres|txt_maintlognotes a\n\"b\"'",
      "maintlogtask maintlogdesc maintlogqty maintlogunit maintlognote",
@@ -73,15 +84,20 @@ const Log logs[] = {
      "Feeding| |0.0|| ",
      "Oops/48/That identical combination of Date and Time already exists for this task. Make your new time unique by "
      "changing at least one number.",
-     "delete",
-     true,
-     true},
+     {{"lst_mainttasklist", "", "You must enter a task"},
+      {"lst_mainttasklist", QString(51, 't'), "Your task description must be", QString(50, 't')},
+      {"txt_quantity", "9,999.5", "Your quantity must be less than 10,000.", "9,999"},
+      {"txt_description", QString(51, 'd'), "Your description must be 50", QString(50, 'd')},
+      {"lst_unit", QString(11, 'u'), "Your \"unit of measure\"", QString(10, 'u')},
+      {"txt_logtime", "13:00:00 pm", "You must enter a valid time", "12:00:00 AM", true}}},
 };
 
 class Entries : public Desk, public ::testing::WithParamInterface<Log>
 {
 protected:
-    Entries() : Desk(GetParam().tab)
+    Entries() : Entries(QString(GetParam().file).split(' ')) {}
+    explicit Entries(const QStringList &file) :
+        Desk(GetParam().tab), table(file[0]), tankColumn(file[1]), dateColumn(file[2]), timeColumn(file[3])
     {
         for (const QString &box : QString(log.boxes).split('|')) {
             names.push_back(box.section(' ', 0, 0));
@@ -89,12 +105,11 @@ protected:
         }
     }
     /// Rows at half past nine.
-    void insert(const char *tank, std::initializer_list<const char *> dates)
+    void insert(const char *id, std::initializer_list<const char *> dates)
     {
-        const QString columns = QStringList{log.tank, log.date, log.time, firstColumn()}.join(',');
-        for (const char *date : dates)
-            execute(
-                QString("INSERT INTO %1 (%2) VALUES ('%3', '%4', '09:30:00', 1)").arg(log.table, columns, tank, date));
+        const QString columns = QStringList{tankColumn, dateColumn, timeColumn, firstColumn()}.join(',');
+        for (const char *day : dates)
+            execute(QString("INSERT INTO %1 (%2) VALUES ('%3', '%4', '09:30:00', 1)").arg(table, columns, id, day));
         hand::clickTank(*logbook, keeper.g().gTankName);
     }
     QString firstColumn() const { return QString(log.columns).section(' ', 0, 0); }
@@ -123,12 +138,12 @@ protected:
     {
         return stored(QString("group_concat(m, ', ') AS x FROM (SELECT %1 || ' ' || %2 || ' ' || %3 AS m FROM %4 "
                               "ORDER BY 1)")
-                          .arg(log.tank, log.date, log.time, log.table));
+                          .arg(tankColumn, dateColumn, timeColumn, table));
     }
-    QString values(const char *date)
+    QString values(const QString &date)
     {
-        return stored(QString(log.columns).replace(' ', "||'|'||") + " AS x FROM " + log.table + " WHERE " + log.date +
-                      " = '" + date + "' AND " + log.tank + " = 'r1'");
+        return stored(QString("%1 AS x FROM %2 WHERE %3 = 'r1' AND %4 = '%5'")
+                          .arg(QString(log.columns).replace(' ', "||'|'||"), table, tankColumn, dateColumn, date));
     }
     QString remove(int row, MsgBoxAnswer answer)
     {
@@ -139,6 +154,9 @@ protected:
     }
 
     const Log &log = GetParam();
+    const bool readsAsTyped = log.tab == MaintenanceTab; ///< a change: the row's date month first
+    const bool findsByName = log.tab != LivestockTab;    ///< a deletion: the tank
+    const QString table, tankColumn, dateColumn, timeColumn;
     QStringList names, typed;
 };
 
@@ -167,6 +185,34 @@ TEST_P(Entries, ValuesLandInTheirColumnsAndAChangeRewritesItsRowAlone)
     EXPECT_EQ(keeper.told(), "0");
 }
 
+TEST_P(Entries, OkTellsTheFirstFaultInTheOrderOfTheChecksAndStoresNothing)
+{
+    give("addentries", 0, [&](QWidget &w) {
+        const auto fill = [&](const Fault &fault, const QString &text) {
+            if (shown(w, {fault.box}) != text)
+                hand::fill(control<QWidget>(w, fault.box), text);
+        };
+        for (const Fault &fault : log.faults | std::views::reverse) // everything is wrong at first
+            if (!fault.onLeaving)
+                fill(fault, fault.bad);
+        for (const Fault &fault : log.faults) {
+            SCOPED_TRACE(fault.box + (' ' + fault.bad.toStdString()));
+            fill(fault, fault.bad);
+            hand::click<QPushButton>(w, "cmd_OK");
+            const QString told = keeper.told();
+            EXPECT_TRUE(told.startsWith("1|") && told.count("!/48/") == 1) << told.toStdString();
+            EXPECT_TRUE(told.contains("!/48/" + fault.words)) << told.toStdString();
+            ASSERT_TRUE(w.isVisible() && control<QWidget>(w, fault.box).hasFocus());
+            if (!fault.good.isNull())
+                fill(fault, fault.good);
+        }
+        EXPECT_EQ(moments(), "");
+        hand::click<QPushButton>(w, "cmd_OK");
+    });
+    EXPECT_EQ(moments().count("r1"), 1);
+    EXPECT_EQ(keeper.told(), "0");
+}
+
 TEST_P(Entries, ASecondOneOfThatMomentIsRefusedAndWhatWasTypedStands)
 {
     startWith("YYMMDD", "-");
@@ -183,7 +229,7 @@ TEST_P(Entries, ASecondOneOfThatMomentIsRefusedAndWhatWasTypedStands)
         };
     };
     insert("r1", {"2026-03-14", "2026-03-15"});
-    execute(QString("UPDATE %1 SET %2 = ?").arg(log.table, firstColumn()), {typed[0]});
+    execute(QString("UPDATE %1 SET %2 = ?").arg(table, firstColumn()), {typed[0]});
     give("addentries", 0, mendTo("26-03-16", "09:30:00 am"));
     give("changeentries", 2, mendTo("26-03-14", "09:30:02 am"));
     give("changeentries", 2, [](QWidget &) { hand::press(Qt::Key_Return); }); // a row is no duplicate of itself
@@ -198,20 +244,18 @@ TEST_P(Entries, DeletingAsksAndFindsARowByTheNameOrTheIdOfItsTank)
     insert("Same", {"2026-12-25"});
     for (const QString tank : {"Reef", "Same"}) {
         hand::clickTank(*logbook, tank);
-        for (const auto &[button, toDo] : {std::pair("changeentries", log.toChange), {"deleteentries", "delete"}}) {
-            push(button);
-            EXPECT_EQ(keeper.told(), QString("0|Note!/64/You must first select a log entry to ") + toDo);
-        }
+        push("deleteentries");
+        EXPECT_EQ(keeper.told(), "0|Note!/64/You must first select a log entry to delete");
         const QString entry = log.tab == LivestockTab ? "1 - 12/25/26, 09:30:00 AM" : "12/25/26, 09:30:00 am";
         const QString question = "1|Are you sure.../33/Are you sure you want to delete the  " + entry +
                                  " entry for the " + tank + " tank?   (Remember, you CANNOT \"undo\" a delete!)";
-        const bool found = !log.byName || tank == u"Same";
+        const bool found = !findsByName || tank == u"Same";
         EXPECT_EQ(remove(1, MsgBoxAnswer::Cancel), question);
         EXPECT_EQ(list().Count(), 1);
         EXPECT_EQ(remove(1, MsgBoxAnswer::OK), question + (found ? "" : "|/0/yo... no match on da key!"));
         EXPECT_EQ(list().Count(), found ? 0 : 1);
     }
-    EXPECT_EQ(moments(), log.byName ? "r1 2026-12-25 09:30:00" : "");
+    EXPECT_EQ(moments(), findsByName ? "r1 2026-12-25 09:30:00" : "");
 }
 
 TEST_P(Entries, DeletingReadsTheRowsDateMonthFirstAsAChangeOfMaintenanceDoes)
@@ -222,7 +266,7 @@ TEST_P(Entries, DeletingReadsTheRowsDateMonthFirstAsAChangeOfMaintenanceDoes)
     const QString opened[] = {"05/04/26", "15/04/26", "04/05/26"};
     for (int row = 1; row <= 3; ++row)
         give("changeentries", row, [&](QWidget &w) {
-            EXPECT_EQ(control<MaskedBox>(w, log.moment[0]).Text(), opened[log.asTyped ? 3 - row : row - 1]);
+            EXPECT_EQ(control<MaskedBox>(w, log.moment[0]).Text(), opened[readsAsTyped ? 3 - row : row - 1]);
             hand::press(Qt::Key_Escape);
         });
     EXPECT_TRUE(remove(1, MsgBoxAnswer::OK).contains("05/04/26"));

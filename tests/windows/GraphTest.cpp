@@ -58,7 +58,6 @@ TEST_F(Graph, PagesAreAsLongAsTheTestsThatAreLeft)
         int tests;
         std::vector<const char *> pages; ///< the first, by "Next" as often, and the last by "Previous"
     } rows[] = {
-        {22, {first, "5/21 No3: 21 - 5/22 No3: 22 <", first}},
         // Thirty are left, which are two pages, and this is the second: the last ten are not reached.
         {50, {first, "5/21 No3: 21 - 6/9 No3: 40 <", first}},
         // Back from the third page are the first entries, and yet it is the second page of the 59 before.
@@ -125,16 +124,15 @@ TEST_F(Graph, TheOptionsSayWhatIsDrawnAndTheRightButtonOpensThem)
         mouse::click(w.cmdOK);
     });
     mouse::click(window.Chart1, QPoint(3, 3), Qt::RightButton);
-    ASSERT_TRUE(main->mnu_GraphPopup->isVisible());
     clickEntry(*main->mnu_GraphPopup, "mnu_GraphOptions");
     QCoreApplication::processEvents();
     EXPECT_EQ(window.Chart1->chartType(), 14);
-    EXPECT_EQ(cell(1, 1) + '|' + cell(1, 2) + '|' + cell(1, 3), "(blank)|5/1 No3: 1|5/1 Iodine: 1.5");
-    EXPECT_EQ(keeper.told(), "0");
+    const QString drawn = "(blank)|5/1 No3: 1|5/1 Iodine: 1.5";
+    EXPECT_EQ(cell(1, 1) + '|' + cell(1, 2) + '|' + cell(1, 3), drawn);
     keeper.g().options.GraphChecks = "0000000000000";
     window.GraphChart();
     EXPECT_TRUE(keeper.told().startsWith("0|Note!/64/Nothing is selected to graph!"));
-    EXPECT_EQ(cell(1, 3), "5/1 Iodine: 1.5") << "the chart stands";
+    EXPECT_EQ(cell(1, 1) + '|' + cell(1, 2) + '|' + cell(1, 3), drawn) << "the chart stands";
 }
 
 TEST_F(Graph, BothWaysIntoItDrawTheTankInHand)

@@ -1,11 +1,8 @@
-#include <QCheckBox>
 #include <QFile>
-#include <QPlainTextEdit>
 
 #include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"
 #include "shell/frm_OMKOptions.h"
-#include "shell/Tips.h"
 #include "tanks/frm_TankMaint.h"
 
 /// A child of the main window that is not the logbook.
@@ -46,23 +43,6 @@ TEST(Start, EndsAtAFileThatCannotBeUsed)
     file.close();
     EXPECT_THROW(Form<frm_OMKMDIMain>().MDIForm_Load(), RuntimeFailure);
     EXPECT_FALSE(Form<frm_OMKMDIMain>().isVisible());
-}
-
-TEST_F(MainWindow, TheNextTipIsAnotherAndItsBoxIsStoredAtOnce)
-{
-    for (const QString setting : {"No", "Yes"}) { // each window begins with what the one before it stored
-        keeper.doors.randoms = {5.5 / 94};
-        keeper.inNext<frm_OMKtod>([&](frm_OMKtod &window) {
-            EXPECT_EQ(keeper.g().gTipNumber, 6);
-            keeper.doors.randoms = {6.5 / 82, 6.5 / 82, 0};
-            mouse::click(window.cmd_nexttip);
-            EXPECT_EQ(window.txt_tod->toPlainText(), tips()[0]);
-            click(*window.chk_ShowTipsAtStartup);
-            EXPECT_EQ(keeper.setting("Show_Tips"), setting);
-            hand::press(Qt::Key_Return);
-        });
-        hand::choose(*main, *main->mnu_Help, "mnu_HelpTod");
-    }
 }
 
 TEST_F(MainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestart)

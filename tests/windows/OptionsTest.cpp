@@ -42,24 +42,17 @@ protected:
         box.selectAll();
         QTest::keyClicks(&box, text);
     }
-    static void choose(QComboBox &combo, const QString &text)
-    {
-        combo.setFocus();
-        QTest::keyClick(&combo, Qt::Key_Home);
-        for (int i = 0; i < combo.count() && combo.currentText() != text; ++i)
-            QTest::keyClick(&combo, Qt::Key_Down);
-    }
     /// Changes everything that the dialog has, as a keeper would: mouse and keys.
     static void changeEverything(frm_OMKOptions &w)
     {
         w.SSTab1->setCurrentIndex(0);
         click(*w.opt_Fresh);
         click(*w.opt_Dateform_ddmmyy);
-        choose(*w.cbo_Delimiter, ".");
+        w.cbo_Delimiter->setCurrentText(".");
         retype(*w.txt_username1, "Fe & \"Mn\"");
         retype(*w.txt_username2, "keeper's");
         w.SSTab1->setCurrentIndex(1);
-        choose(*w.cbo_GraphType, "2D XY");
+        w.cbo_GraphType->setCurrentText("2D XY");
         for (QWidget *button :
              std::initializer_list<QWidget *>{w.chk_SkipZeroValues, w.chk_ph, w.chk_user2, w.opt_ColorPrinting})
             click(*button);
