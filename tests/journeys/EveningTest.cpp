@@ -43,9 +43,7 @@ void compose(QPushButton *button, const QString &task, const QString &days)
 
 } // namespace
 
-class Evening : public Desk
-{
-};
+using Evening = Desk;
 
 TEST_F(Evening, OfPlansAndRemindersIsFoundAgainTheNextDayAndInTheBackup)
 {

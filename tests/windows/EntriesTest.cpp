@@ -104,12 +104,13 @@ protected:
             typed << box.section(' ', 1);
         }
     }
-    /// Rows at half past nine.
-    void insert(const char *id, std::initializer_list<const char *> dates)
+    /// Rows at half past nine, with the day of the month in the first column.
+    void insert(const char *id, const QStringList &dates)
     {
         const QString columns = QStringList{tankColumn, dateColumn, timeColumn, firstColumn()}.join(',');
-        for (const char *day : dates)
-            execute(QString("INSERT INTO %1 (%2) VALUES ('%3', '%4', '09:30:00', 1)").arg(table, columns, id, day));
+        for (const QString &date : dates)
+            execute(QString("INSERT INTO %1 (%2) VALUES ('%3', '%4', '09:30:00', '%5')")
+                        .arg(table, columns, id, date, date.right(2)));
         hand::clickTank(*logbook, keeper.g().gTankName);
     }
     QString firstColumn() const { return QString(log.columns).section(' ', 0, 0); }
@@ -136,14 +137,16 @@ protected:
     /// All rows by tank and moment.
     QString moments()
     {
-        return stored(QString("group_concat(m, ', ') AS x FROM (SELECT %1 || ' ' || %2 || ' ' || %3 AS m FROM %4 "
-                              "ORDER BY 1)")
-                          .arg(tankColumn, dateColumn, timeColumn, table));
+        return keeper.stored(
+            QString("group_concat(m, ', ') AS x FROM (SELECT %1 || ' ' || %2 || ' ' || %3 AS m FROM %4 "
+                    "ORDER BY 1)")
+                .arg(tankColumn, dateColumn, timeColumn, table));
     }
     QString values(const QString &date)
     {
-        return stored(QString("%1 AS x FROM %2 WHERE %3 = 'r1' AND %4 = '%5'")
-                          .arg(QString(log.columns).replace(' ', "||'|'||"), table, tankColumn, dateColumn, date));
+        return keeper.stored(
+            QString("%1 AS x FROM %2 WHERE %3 = 'r1' AND %4 = '%5'")
+                .arg(QString(log.columns).replace(' ', "||'|'||"), table, tankColumn, dateColumn, date));
     }
     QString remove(int row, MsgBoxAnswer answer)
     {
@@ -246,7 +249,7 @@ TEST_P(Entries, DeletingAsksAndFindsARowByTheNameOrTheIdOfItsTank)
         hand::clickTank(*logbook, tank);
         push("deleteentries");
         EXPECT_EQ(keeper.told(), "0|Note!/64/You must first select a log entry to delete");
-        const QString entry = log.tab == LivestockTab ? "1 - 12/25/26, 09:30:00 AM" : "12/25/26, 09:30:00 am";
+        const QString entry = log.tab == LivestockTab ? "25 - 12/25/26, 09:30:00 AM" : "12/25/26, 09:30:00 am";
         const QString question = "1|Are you sure.../33/Are you sure you want to delete the  " + entry +
                                  " entry for the " + tank + " tank?   (Remember, you CANNOT \"undo\" a delete!)";
         const bool found = !findsByName || tank == u"Same";
@@ -263,10 +266,10 @@ TEST_P(Entries, DeletingReadsTheRowsDateMonthFirstAsAChangeOfMaintenanceDoes)
     startWith("DDMMYY", "/", "Same");
     insert("Same", {"2026-04-05", "2026-04-15", "2026-05-04", "2026-06-07"});
     // 05/04/26 is so the fourth of May, and 15/04/26 can be read in the user's order only.
-    const QString opened[] = {"05/04/26", "15/04/26", "04/05/26"};
-    for (int row = 1; row <= 3; ++row)
-        give("changeentries", row, [&](QWidget &w) {
-            EXPECT_EQ(control<MaskedBox>(w, log.moment[0]).Text(), opened[readsAsTyped ? 3 - row : row - 1]);
+    const int opened[] = {5, 15, 4};
+    for (const int i : {0, 1, 2})
+        give("changeentries", i + 1, [&](QWidget &w) {
+            EXPECT_EQ(shown(w, {names[0]}).toDouble(), opened[readsAsTyped ? 2 - i : i]);
             hand::press(Qt::Key_Escape);
         });
     EXPECT_TRUE(remove(1, MsgBoxAnswer::OK).contains("05/04/26"));

@@ -13,9 +13,7 @@ const QString oops = "1|Oops!/48/";
 
 } // namespace
 
-class Water : public Desk
-{
-};
+using Water = Desk;
 
 TEST_F(Water, ABadTextIsToldTwiceWhereItIsWrongTwiceAndAKeyThatTheMaskRefusesAtOnce)
 {
@@ -88,6 +86,17 @@ TEST_F(Livestock, AnimalsFollowTheWaterOfTheTankAndTheOptionsSwitchThem)
             hand::press(Qt::Key_Escape);
         });
     }
+}
+
+TEST_F(Livestock, NamesComeFromTheFileWhereTheOptionsSaySoAndFromTheDatabaseWhereThereIsNone)
+{
+    SaveSetting("UseFile_Salt", "TRUE");
+    startWith("MMDDYY", "/");
+    give<frm_LivesAddEdit>("addentries", 0, [&](frm_LivesAddEdit &w) {
+        EXPECT_TRUE(keeper.told().startsWith("0|Names File Not Found!/48/The file containing the saltwater names"));
+        EXPECT_TRUE(lines(*w.lst_AnimalList->model()).startsWith("Anemone - Bubble Tip"));
+        hand::press(Qt::Key_Escape);
+    });
 }
 
 TEST_F(Livestock, ASecondAnimalMayComeInThatSecondAndIsWhatTheChangeFindsFirst)

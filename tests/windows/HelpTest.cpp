@@ -43,9 +43,7 @@ TEST(HelpBook, HasAPageForEveryWindowAndNoLinkToAPageThatIsNotThere)
         }
 }
 
-class Help : public Desk
-{
-};
+using Help = Desk;
 
 TEST_F(Help, TheMenuAndF1AskForTheirPagesAndAMissingHelpIsTold)
 {

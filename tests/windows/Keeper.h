@@ -80,13 +80,10 @@ public:
     QString databaseFile() const { return folder.filePath(QStringLiteral("OM.MDB")); }
     Globals &g() { return *m_globals; }
 
-    /// A column of the first row of a SELECT, as text; read afresh.
-    QString stored(const QString &sql, const QString &column)
-    {
-        return g().gDatabase->OpenRecordset(sql)[column].text();
-    }
+    /// Column x of the first row of a SELECT, as text; read afresh.
+    QString stored(const QString &select) { return g().gDatabase->OpenRecordset("SELECT " + select)["x"].text(); }
     /// How many rows that is: "WATERLOG WHERE tankname = 'Reef'".
-    int count(const QString &what) { return stored(u"SELECT count(*) AS n FROM " + what, QStringLiteral("n")).toInt(); }
+    int count(const QString &what) { return stored("count(*) AS x FROM " + what).toInt(); }
     QString setting(const QString &key) { return GetSetting(key, QStringLiteral("(none)")); }
 
     /// What the keeper was told since last asked: how many beeps, and each box as title/flags/text.

@@ -1,3 +1,4 @@
+#include <QCheckBox>
 #include <QFile>
 
 #include "Desk.h"
@@ -26,9 +27,13 @@ TEST(Start, WarnsOfMissingTanksLastAndShowsNoTipToWhomWantsNone)
     EXPECT_TRUE(keeper.told().startsWith("1|No Tanks Set Up Yet/48/You have no tanks set up"));
     EXPECT_FALSE(main.button("logbook").isEnabled() || main.button("graphing").isEnabled() ||
                  main.mnu_FilePrint->isEnabled());
+    keeper.inNext<frm_OMKtod>([](frm_OMKtod &tip) {
+        click(*tip.chk_ShowTipsAtStartup);
+        hand::press(Qt::Key_Return);
+    });
+    hand::choose(main, *main.mnu_Help, "mnu_HelpTod");
     keeper.addTank("Reef", "1");
     keeper.restart();
-    SaveSetting("Show_Tips", "No");
     keeper.startProgram();
     EXPECT_EQ(keeper.tipsAtStart, 1);
     EXPECT_EQ(keeper.told(), "0");

@@ -29,7 +29,7 @@ protected:
     /// Every animal with its tank, date and time.
     QString animals()
     {
-        return stored(
+        return keeper.stored(
             "group_concat(a, '|') AS x FROM (SELECT animalname || ' ' || tankname || ' ' || dateadded || ' ' || "
             "timeadded AS a FROM LIVESTOCK WHERE quantity = 2 AND Comment = 'old' ORDER BY a)");
     }
@@ -70,5 +70,6 @@ TEST_F(Move, AnEntryOfTheTargetInThatSecondStandsInTheWayUntilAnotherTankIsChose
         mouse::click(w.cmd_ok);
     });
     EXPECT_EQ(column(1), "Crab");
-    EXPECT_EQ(stored("dateadded || timeadded AS x FROM LIVESTOCK WHERE tankname = 'Same'"), "2026-04-0509:30:00");
+    EXPECT_EQ(keeper.stored("dateadded || timeadded AS x FROM LIVESTOCK WHERE tankname = 'Same'"),
+              "2026-04-0509:30:00");
 }

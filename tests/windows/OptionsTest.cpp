@@ -26,9 +26,9 @@ protected:
         QStringList texts;
         for (const char *key : optionKeys)
             texts << keeper.setting(key);
-        const char *const names = "default_salt || '|' || default_fresh || '|' || user_fieldname1 || '|' || "
-                                  "user_fieldname2";
-        return texts.join('|') + ", " + keeper.stored(QString("SELECT %1 AS x FROM CONFIG").arg(names), "x");
+        return texts.join('|') + ", " +
+               keeper.stored("default_salt || '|' || default_fresh || '|' || user_fieldname1 || '|' || user_fieldname2 "
+                             "AS x FROM CONFIG");
     }
     void inDialog(const std::function<void(frm_OMKOptions &)> &action)
     {
@@ -42,7 +42,7 @@ protected:
         box.selectAll();
         QTest::keyClicks(&box, text);
     }
-    /// Changes everything that the dialog has, as a keeper would: mouse and keys.
+    /// Changes everything that the dialog has.
     static void changeEverything(frm_OMKOptions &w)
     {
         w.SSTab1->setCurrentIndex(0);

@@ -38,9 +38,10 @@ protected:
     /// All columns of the reminder that the program writes, in one line.
     QString row()
     {
-        return stored("SchedTask || '|' || SchedStartDate || '|' || SchedEndDate || '|' || SchedInterval || '|' || "
-                      "SchedRtype || '|' || SchedRSubtype || '|' || coalesce(SchedDetailText, '') || '|' || "
-                      "SchedEnglishDesc AS x FROM MAINTSCHED");
+        return keeper.stored(
+            "SchedTask || '|' || SchedStartDate || '|' || SchedEndDate || '|' || SchedInterval || '|' || "
+            "SchedRtype || '|' || SchedRSubtype || '|' || coalesce(SchedDetailText, '') || '|' || "
+            "SchedEnglishDesc AS x FROM MAINTSCHED");
     }
 
     frm_Maintsched *list = nullptr;
@@ -109,7 +110,7 @@ TEST_F(Reminders, ThatCannotBeStoredLeaveTheEditorWithAllThatWasSet)
         hand::type(*w.txt_TaskDescription, "Feet");
         mouse::click(w.cmd_OK);
     });
-    EXPECT_EQ(stored("SchedDetailText AS x FROM MAINTSCHED WHERE SchedTask = 'Feet'"), "1000000");
+    EXPECT_EQ(keeper.stored("SchedDetailText AS x FROM MAINTSCHED WHERE SchedTask = 'Feet'"), "1000000");
     inEditor(list->cmd_AddTask, [](frm_SchedNewAddEdit &w) {
         hand::type(*w.txt_TaskDescription, "Nothing");
         hand::press(Qt::Key_Escape);

@@ -32,8 +32,7 @@ protected:
     /// Column of TANKLST in the order of the ids, joined.
     QString ofTanks(const QString &column)
     {
-        return keeper.stored(
-            "SELECT group_concat(c) AS t FROM (SELECT " + column + " AS c FROM TANKLST ORDER BY tankid)", "t");
+        return keeper.stored("group_concat(c) AS x FROM (SELECT " + column + " AS c FROM TANKLST ORDER BY tankid)");
     }
 
     Keeper keeper;
@@ -101,7 +100,7 @@ TEST_F(Tanks, NamesTypesAndNotesOfAnyScriptComeBack)
             mouse::click(&control<QRadioButton>(w, tank.section('|', 4)), QPoint(8, 8));
             mouse::click(w.cmd_OK);
         });
-    EXPECT_EQ(keeper.stored("SELECT count(DISTINCT tankid) AS n FROM TANKLST", "n"), "4") << "all in one second";
+    EXPECT_EQ(keeper.stored("count(DISTINCT tankid) AS x FROM TANKLST"), "4") << "all in one second";
     EXPECT_EQ(ofTanks("TankWaterType"), "1,2,3,5");
     keeper.restart();
     for (const QString &tank : tanks)
@@ -146,9 +145,8 @@ TEST_F(Tanks, DeletingTakesTheTankWithAllItsEntriesOrNothing)
     }
     database.Execute("CREATE TRIGGER wet BEFORE DELETE ON WATERLOG BEGIN SELECT RAISE(ABORT, 'wet'); END");
     const auto tanks = [&] { // with a row in each table
-        return keeper.stored("SELECT group_concat(TANKLST.tankname) AS t FROM TANKLST JOIN WATERLOG w ON w.tankname = "
-                             "tankid JOIN LIVESTOCK l ON l.tankname = tankid JOIN MAINTLOG ON mainttankname = tankid",
-                             "t");
+        return keeper.stored("group_concat(TANKLST.tankname) AS x FROM TANKLST JOIN WATERLOG w ON w.tankname = "
+                             "tankid JOIN LIVESTOCK l ON l.tankname = tankid JOIN MAINTLOG ON mainttankname = tankid");
     };
     keeper.inNext<frm_TankMaint>([&](frm_TankMaint &list) {
         const auto expectDelete = [&](const QString &then, const char *left) {
