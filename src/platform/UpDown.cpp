@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -63,8 +64,8 @@ UpDown::UpDown(QWidget *parent) :
     column->addWidget(m_up);
     column->addWidget(m_down);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(m_up, &QToolButton::clicked, this, [this] { stepBy(1); });
-    connect(m_down, &QToolButton::clicked, this, [this] { stepBy(-1); });
+    connect(m_up, &QToolButton::clicked, this, [this] { clickArrow(*m_up, 1); });
+    connect(m_down, &QToolButton::clicked, this, [this] { clickArrow(*m_down, -1); });
     nameButtons();
 }
 
@@ -104,6 +105,17 @@ void UpDown::stepBy(int steps)
     setValue(value);
     if (mended)
         emit Change();
+}
+
+/// An arrow that is held repeats. A box that a step brings up takes the release of the mouse away: the arrow would stay
+/// down and go on stepping, behind the box and after it.
+void UpDown::clickArrow(QToolButton &arrow, int steps)
+{
+    const QWidget *modal = QApplication::activeModalWidget();
+    if (modal && modal != window())
+        arrow.setDown(false);
+    else
+        stepBy(steps);
 }
 
 void UpDown::setKeyBox(QWidget *box)

@@ -49,6 +49,7 @@ protected:
 
 private:
     int clamped(double value) const;
+    void clickArrow(QToolButton &arrow, int steps);
     void nameButtons();
 
     QToolButton *m_up;

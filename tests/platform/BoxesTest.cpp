@@ -1,7 +1,9 @@
 // The masked box by keys, clipboard, menu and focus, and the up-down beside a box.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QClipboard>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -173,6 +175,26 @@ TEST_F(BoxesTest, AnUpDownStepsWithinItsBoundsByArrowKeyAndWheelAndTellsEachChan
     m_upDown->setEnabled(false);
     QTest::keyClick(m_other, Qt::Key_Up);
     EXPECT_EQ(m_upDown->Value(), 30) << "not without the focus, nor disabled";
+}
+
+TEST_F(BoxesTest, AnArrowThatIsHeldLetsGoWhenAStepBringsABoxUp)
+{
+    auto *up = m_upDown->findChild<QAbstractButton *>(QStringLiteral("up"));
+    up->setAutoRepeatDelay(1);
+    up->setAutoRepeatInterval(1);
+    int boxes = 0;
+    QObject::connect(m_upDown, &UpDown::Change, &m_window, [&] {
+        if (m_upDown->Value() < 3)
+            return;
+        ++boxes;
+        QDialog box(&m_window);
+        box.setModal(true);
+        box.show();
+        EXPECT_TRUE(QTest::qWaitFor([up] { return !up->isDown(); }, 500)) << "or a heap of boxes grows";
+    });
+    mouse::press(up);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return boxes > 0; }));
+    EXPECT_EQ(m_upDown->Value(), 3);
 }
 
 } // namespace
