@@ -48,7 +48,7 @@ void printSheet(Printer &page, const DiagnosisLog &log, const SheetStyle &style)
     setFont(page, 14, true, true);
     page.CurrentX = page.ScaleWidth() / 2 - page.TextWidth(title) / 2;
     page.Print(title);
-    setFont(page, 9);
+    setFont(page, 9, false, true);
     if (style.reminder)
         for (const char *line : reminderLines)
             printLine(page, QLatin1String(line));

@@ -147,6 +147,9 @@ TEST(Diagnosis, TheSheetHoldsEveryLineWithinItsWidth)
     for (const PrintedText &text : documents.at(0).pages.at(0).texts) {
         EXPECT_LE(text.right, 800.5) << text.text.toStdString();
         printed += text.text + ' ';
+        if (text.text.startsWith("REMINDER:")) {
+            EXPECT_TRUE(text.font.italic && !text.font.bold) << "set off from the answers";
+        }
     }
     for (size_t slot = 2; slot < log.AnswerLog.size(); ++slot)
         logged += log.AnswerLog[slot] + ' ';
