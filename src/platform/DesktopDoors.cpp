@@ -25,12 +25,19 @@
 namespace {
 
 /// Gives the activity back to the window that had it before a box came up; without a window manager nobody else does.
+/// Takes the hourglass away meanwhile: it is the program that waits.
 class ActivityKeeper
 {
 public:
-    ActivityKeeper() : m_window(QApplication::activeWindow()) {}
+    ActivityKeeper() : m_window(QApplication::activeWindow()), m_waits(QApplication::overrideCursor() != nullptr)
+    {
+        if (m_waits)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
     ~ActivityKeeper()
     {
+        if (m_waits)
+            QApplication::restoreOverrideCursor();
         if (m_window && m_window->isVisible())
             m_window->activateWindow();
     }
@@ -39,6 +46,7 @@ public:
 
 private:
     QPointer<QWidget> m_window;
+    const bool m_waits;
 };
 
 QMessageBox::Icon iconOf(int icon)
