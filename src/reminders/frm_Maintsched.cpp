@@ -107,7 +107,7 @@ void frm_Maintsched::cmd_AddTask_Click()
         FillTaskList();
 }
 
-QString frm_Maintsched::selectedTask(const QString &otherwise)
+std::optional<QString> frm_Maintsched::selectedTask(const QString &otherwise)
 {
     if (const int item = lstv_MaintSched->SelectedItem())
         return lstv_MaintSched->Text(item);
@@ -118,11 +118,11 @@ QString frm_Maintsched::selectedTask(const QString &otherwise)
 
 void frm_Maintsched::cmd_update_task_Click()
 {
-    const QString task =
+    const auto task =
         selectedTask(QStringLiteral("You must first select a maintenance task to change by clicking on it."));
-    if (task.isNull())
+    if (!task)
         return;
-    g.gScheduleRecordset = g.gDatabase->OpenRecordset(reminderByTask, {task});
+    g.gScheduleRecordset = g.gDatabase->OpenRecordset(reminderByTask, {*task});
     if (g.gScheduleRecordset.isEmpty()) {
         MsgBox(QStringLiteral("Unable to retrieve detail for reminder message."));
         return;
@@ -138,18 +138,18 @@ void frm_Maintsched::cmd_update_task_Click()
 
 void frm_Maintsched::cmd_Deletetask_Click()
 {
-    const QString task =
+    const auto task =
         selectedTask(QStringLiteral("You must first select a maintenance task to delete by clicking on it."));
-    if (task.isNull())
+    if (!task)
         return;
-    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {task});
+    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {*task});
     const QString sentence = g.gRecordset.isEmpty() ? QString() : ReadRule(g.gRecordset).EnglishDescription;
-    g.gMessage = u"Are you sure you want to delete this entry?\n" + task + u"\nscheduled for " + sentence +
+    g.gMessage = u"Are you sure you want to delete this entry?\n" + *task + u"\nscheduled for " + sentence +
                  u"?\n(Remember, you CANNOT \"undo\" a delete!)";
     Beep();
     if (MsgBox(g.gMessage, vbOKCancel + vbQuestion, QStringLiteral("Are you sure...")) != MsgBoxAnswer::OK)
         return;
-    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {task});
+    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {*task});
     if (g.gRecordset.isEmpty())
         MsgBox(QStringLiteral("Unable to delete the task!"));
     else

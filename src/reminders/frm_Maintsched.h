@@ -2,6 +2,8 @@
 // of the list brings the upcoming reminders of the toolbar up to date.
 #pragma once
 
+#include <optional>
+
 #include "shell/ChildForm.h"
 #include "ui_frm_Maintsched.h"
 
@@ -21,7 +23,7 @@ private:
     /// Writes the rule into the row that is being added or changed; false, after a box, where its task exists already.
     bool stored(Recordset &row, const RecurrenceRule &rule);
     /// The task of the selected row; nothing, after a box in those words, where none is selected.
-    QString selectedTask(const QString &otherwise);
+    std::optional<QString> selectedTask(const QString &otherwise);
 
     void lstv_MaintSched_Click();
     void lstv_MaintSched_DblClick() { cmd_update_task_Click(); }

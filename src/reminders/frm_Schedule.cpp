@@ -8,7 +8,6 @@
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
 #include "platform/PrintJob.h"
-#include "reminders/frm_Maintsched.h"
 #include "reminders/OccurrenceRows.h"
 #include "reminders/ReminderRun.h"
 #include "reminders/RuleFields.h"
@@ -146,12 +145,8 @@ void frm_Schedule::generate(const std::vector<RecurrenceRule> &rules, const std:
             lstv_Reminders->Select(1);
         cmd_Print->setEnabled(true);
     }
-    if (!undated.tell(g))
-        return;
-    if (auto *list = Forms::current().loaded<frm_Maintsched>()) // it would still show what has just been deleted
-        list->FillTaskList();
-    else
-        Form<frm_OMKMDIMain>().Top20List();
+    if (undated.tell(g))
+        Form<frm_OMKMDIMain>().RefillReminders();
 }
 
 void frm_Schedule::Print_Schedule()

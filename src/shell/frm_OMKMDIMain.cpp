@@ -199,8 +199,15 @@ void frm_OMKMDIMain::Top20List()
     else
         cbo_Reminders->addItems(soonest.texts(g.options.DatePicture));
     if (undated.tell(g))
-        if (auto *list = Forms::current().loaded<frm_Maintsched>())
-            list->FillTaskList();
+        RefillReminders();
+}
+
+void frm_OMKMDIMain::RefillReminders()
+{
+    if (auto *list = Forms::current().loaded<frm_Maintsched>())
+        list->FillTaskList(); // which fills the toolbar as well
+    else
+        Top20List();
 }
 
 void frm_OMKMDIMain::showSplash()

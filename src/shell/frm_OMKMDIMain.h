@@ -45,6 +45,8 @@ public:
     MenuEntry &button(const QString &key) { return *m_buttons.at(key); }
     /// Fills the upcoming reminders with the soonest dates of all reminders, at most twenty.
     void Top20List();
+    /// After a box has deleted reminders: every list of them anew, that of an open window too.
+    void RefillReminders();
     /// Warns where there is no tank, and lets the buttons that need one follow.
     void CheckTanks();
 
