@@ -13,7 +13,10 @@ QString path(const QString &key, SettingsStore::Section section)
 
 } // namespace
 
-SettingsStore::SettingsStore(const QString &fileName) : m_settings(fileName, QSettings::IniFormat) {}
+SettingsStore::SettingsStore(const QString &fileName) : m_settings(fileName, QSettings::IniFormat)
+{
+    m_settings.allKeys(); // or of a section that stands twice in the file only the last would be read, until one writes
+}
 
 QString SettingsStore::value(const QString &key, const QString &defaultValue, Section section) const
 {
