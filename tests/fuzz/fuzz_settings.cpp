@@ -31,7 +31,9 @@ void fuzz(Input &input, ScriptedDoors &)
     const SettingsStore again(path + u'2');
     for (std::size_t i = 0; i < std::size(keys); ++i) {
         const QString now = again.value(keys[i], QStringLiteral("default"));
-        FUZZ_REQUIRE(now == (keys[i] == key ? written : before[qsizetype(i)]), keys[i] + u": " + now);
+        // Below a broken section header a setting may come to light; none may be lost or changed.
+        const bool cameToLight = keys[i] != key && before[qsizetype(i)] == u"default";
+        FUZZ_REQUIRE(cameToLight || now == (keys[i] == key ? written : before[qsizetype(i)]), keys[i] + u": " + now);
     }
     QFile::remove(path);
     QFile::remove(path + u'2');

@@ -3,6 +3,7 @@
 #include "advisers/Diagnoses.h"
 #include "advisers/frm_DiagDiagnosis.h"
 #include "advisers/frm_DiagnosisQA.h"
+#include "advisers/QuestionTree.h"
 #include "Desk.h"
 
 /// The wizard over the open logbook, gone through page by page.
@@ -70,6 +71,7 @@ protected:
 TEST_F(Wizard, ItsAnswersLeadToADiagnosisAndTheOneWithoutAdviceShowsWhateverWasSaidLast)
 {
     keeper.g().gMessage = "ERROR 61 occurred.";
+    const auto &first = QuestionOf(QuestionPage::Question_StartingPoint);
     const QString leaves =
         "0002 Open Sore|4 Popeye|000000 Unable to Diagnose|001202 Failure to Acclimate|01 Possible poisoning or stress|"
         "00101 ICK or other parasite|0002 Open Sore"; // the tree itself is another test's
@@ -85,6 +87,7 @@ TEST_F(Wizard, ItsAnswersLeadToADiagnosisAndTheOneWithoutAdviceShowsWhateverWasS
                      mouse::click(w.cmd_Cancel);
                  }});
         EXPECT_EQ(keeper.told(), advice ? "0" : "0|/0/no diagnosis defined");
+        EXPECT_TRUE(lineOf(4).contains(first.answers[size_t(digits[0].digitValue())].text)) << lineOf(4).toStdString();
         const size_t slot = 3 + 2 * size_t(digits.size()) + 2;
         EXPECT_EQ(lineOf(slot), "DIAGNOSIS: " + name);
         EXPECT_EQ(lineOf(slot + 2).left(18), start);

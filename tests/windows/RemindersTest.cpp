@@ -128,7 +128,7 @@ TEST_F(Reminders, AreDeletedAfterAQuestionAndTheToolbarFollows)
     hand::clickRow(*list->lstv_MaintSched, 2);
     keeper.doors.answers = {MsgBoxAnswer::Cancel, MsgBoxAnswer::OK};
     for (const QString left : {"Feed It's \"late\"", "Feed"}) {
-        mouse::click(list->cmd_DeleteTask);
+        hand::press(Qt::Key_Delete);
         EXPECT_TRUE(keeper.told().startsWith("1|Are you sure.../33/Are you sure you want to delete this entry?\nIt's"));
         EXPECT_EQ(hand::column(*list->lstv_MaintSched, 0), left);
     }

@@ -60,6 +60,18 @@ TEST_F(Stocking, ANewWaterIsAskedForAndStaysWhenItWasNotWanted)
     EXPECT_EQ(keeper.told().count("Are you sure.../33/Changing tank water type will clear"), 2);
 }
 
+TEST_F(Stocking, TheLineInHandIsTakenOut)
+{
+    auto &w = open("SALT");
+    const auto drop = [](frm_FantAddAnimal &dialog) { mouse::click(dialog.cmd_Addit); };
+    add(w, 0, drop);
+    const QString one = plan(w);
+    add(w, 12, drop);
+    w.lst_Fantank->setCurrentRow(1);
+    mouse::click(w.cmd_RemoveAnimal);
+    EXPECT_EQ(plan(w), one);
+}
+
 TEST_F(Stocking, A51stRowIsRefusedAndThePlanStands)
 {
     auto &w = open("FRESH");
