@@ -3,9 +3,9 @@
 
 #include <QLineEdit>
 
-inline void FocusAtFault(QWidget &box, Qt::FocusReason reason = Qt::OtherFocusReason)
+inline void FocusAtFault(QWidget &box)
 {
-    box.setFocus(reason);
+    box.setFocus();
     if (auto *line = qobject_cast<QLineEdit *>(&box))
         line->selectAll();
 }

@@ -69,8 +69,8 @@ bool LeavingChecks::leavesUnchecked(const QObject *box) const
 /// A check that was put off for a calendar button, when that is left in its turn.
 void LeavingChecks::makeUpFor(QWidget *from, QWidget *to)
 {
-    const bool isDue = m_pending && to && to != m_pending && m_exempt.contains(from) &&
-                       !m_exempt.contains(to) && m_window->isAncestorOf(to);
+    const bool isDue = m_pending && to && to != m_pending && m_exempt.contains(from) && !m_exempt.contains(to) &&
+                       m_window->isAncestorOf(to);
     if (isDue && !m_running && !runPending())
         swallowPress();
 }

@@ -26,8 +26,8 @@ class PageSink
 public:
     virtual ~PageSink() = default;
 
-    /// Before a document begins: the pages' orientation, which width() and height() follow. Once it has ended, its pages
-    /// stay as they are.
+    /// Before a document begins: the pages' orientation, which width() and height() follow. Once it has ended, its
+    /// pages stay as they are.
     virtual void setLandscape(bool landscape) = 0;
     virtual double width() const = 0;
     virtual double height() const = 0;

@@ -50,7 +50,7 @@ void takeDelimiter(QString &member, const QString &stored)
 /// Of a text cut short, what is missing is not graphed.
 void takeChecks(QString &member, const QString &stored)
 {
-    for (int i = 0; i < graphMeasurements; ++i)
+    for (qsizetype i = 0; i < member.size(); ++i)
         member[i] = stored.mid(i, 1) == u"1" ? u'1' : u'0';
 }
 

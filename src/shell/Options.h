@@ -9,8 +9,6 @@
 
 /// What may stand between the numbers of a date; the first is the default.
 inline constexpr std::array dateDelimiters = {"/", "-", "."};
-/// The measurements that a graph can show, in the order of OptionsMembers::GraphChecks.
-inline constexpr int graphMeasurements = 13;
 
 /// Brings what is stored into force: options, gDefaultWaterType, gUserFieldName1 and 2. A text of the wrong form gives
 /// its default. Returns the row of CONFIG, for a later change. Throws RuntimeFailure where CONFIG cannot be read.

@@ -56,7 +56,7 @@ private:
     void store();
 
     /// The check boxes of the measurements, in the order of GraphChecks.
-    std::array<QCheckBox *, graphMeasurements> m_checks;
+    std::array<QCheckBox *, 13> m_checks;
     Recordset m_config; ///< the row of CONFIG, kept from the loading until OK changes it
     bool Cancelled = true;
 };

@@ -238,6 +238,8 @@ TEST_F(Memory, PassesOverWhatItCannotUseOrWrite)
         EXPECT_EQ(startOn(key, value), untouched) << key << ' ' << value;
     EXPECT_TRUE(startOn("frm_OMKMDIMain", "700x620+5000+30").startsWith(untouched.section(' ', 0, 0) + " 700x620 "))
         << "off every screen";
+    startOn("frm_OMKMDIMain", "700x620+40+30 maximized");
+    EXPECT_TRUE(main->isMaximized());
 
     QFile::remove(file);
     QDir().mkdir(file);

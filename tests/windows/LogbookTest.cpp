@@ -4,6 +4,7 @@
 #include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"
 #include "tanks/frm_TankAddNew.h"
+#include "tanks/frm_TankMaint.h"
 
 /// "Reef" has three water tests, a fish and a task.
 class Logbook : public Desk
@@ -96,6 +97,20 @@ TEST_F(Logbook, HeadingsSortByTextAndTheDateHeadingByTheDatabase)
     }
     give<frm_WaterAddEdit>("addentries", 0, [](auto &) { hand::press(Qt::Key_Escape); });
     EXPECT_EQ(column(1), up) << "an entry brings the order of the dates back";
+    execute("INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname) "
+            "VALUES ('r1', '2026-12-05', '00:30:00', 'Eel')");
+    execute("INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime, maintlogtask) "
+            "VALUES ('r1', '2026-12-05', '00:30:00', 'Eel')");
+    for (const int tab : {LivestockTab, MaintenanceTab}) { // later by date, earlier by time
+        hand::clickTab(*logbook->tab_logtype, tab);
+        QStringList places;
+        for (int click = 0; click < 2; ++click) {
+            hand::clickHeading(list(), 1);
+            places << QString::number(column(1).indexOf("Eel") > 0);
+        }
+        places.sort();
+        EXPECT_EQ(places.join(""), "01") << "one way, and the other";
+    }
 }
 
 TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowAndTheTankBelowThem)
@@ -126,6 +141,19 @@ TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowAndTheTankBelowThem)
     clickEntry(*main->mnu_tankPopup, "mnu_TankAddNew");
     EXPECT_EQ(keeper.count("TANKLST WHERE tankname IN ('Bay', 'Reef')"), 2);
     EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->childCount(), 5);
+    keeper.inNext<frm_TankMaint>([this](frm_TankMaint &tanks) {
+        keeper.inNext<frm_TankAddNew>([](frm_TankAddNew &w) {
+            hand::type(*w.txt_tankname, "Cove");
+            mouse::click(w.cmd_OK);
+        });
+        QListWidget &names = *tanks.lst_tanklist;
+        mouse::click(names.viewport(), names.visualItemRect(names.item(0)).center()); // "Bay"
+        mouse::click(tanks.cmd_ChangeTank);
+        EXPECT_EQ(names.item(1)->text(), "Cove");
+        tanks.close();
+    });
+    hand::click<QToolButton>(*main, "tanksetup");
+    EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->child(1)->text(0), "Cove") << "an open logbook follows";
 }
 
 TEST_F(Logbook, ClosingKeepsAForeignSortSettingAndLetsGoOfTheTank)

@@ -34,6 +34,7 @@ TEST_F(Reference, EitherNameFileIsListedInTheOrderThatWasChosenAndAMissingOneIsT
         EXPECT_EQ(told(), both ? QString("0") : missing.arg("saltwater"));
         ListView &list = *window.lstv_Names;
         EXPECT_EQ(hand::column(list, 0), both ? "Clam Tang - Yellow  Zoo" : "") << "freshwater is looked for first";
+        EXPECT_EQ(list.SelectedItem(), both ? 1 : 0);
         hand::clickHeading(list, 2);
         hand::clickHeading(list, 2);
         click(*window.opt_Freshwater);

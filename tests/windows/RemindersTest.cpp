@@ -2,6 +2,7 @@
 // toolbar says meanwhile. Today is Saturday, 14 March 2026.
 #include <QCheckBox>
 
+#include "common/frm_Caltool.h"
 #include "Desk.h"
 #include "reminders/frm_Maintsched.h"
 #include "reminders/frm_SchedNewAddEdit.h"
@@ -102,6 +103,11 @@ TEST_F(Reminders, ThatCannotBeStoredLeaveTheEditorWithAllThatWasSet)
         EXPECT_EQ(keeper.told(), "0|Oops/64/You must enter a description for this reminder.");
         EXPECT_TRUE(w.txt_TaskDescription->hasFocus());
         hand::write("Feed");
+        keeper.inNext<frm_Caltool>([](frm_Caltool &calendar) {
+            EXPECT_EQ(calendar.lblReturnDate->text(), "03/14/2028") << "each date has a calendar of its own";
+            hand::press(Qt::Key_Escape);
+        });
+        mouse::click(w.cmd_CalEndDate);
         click(*w.opt_Weekly);
         click(*w.chk_WeeklyDay[0]);
         mouse::click(w.cmd_OK);
