@@ -160,7 +160,7 @@ QWidget *HelpViewer::makeSearchTab()
 void HelpViewer::arrange()
 {
     auto *bar = new QToolBar;
-    const auto add = [this, bar](const char *name, const QString &caption, const QKeySequence &key) {
+    const auto add = [bar](const char *name, const QString &caption, const QKeySequence &key) {
         auto *action = bar->addAction(caption);
         action->setObjectName(QLatin1String(name));
         action->setShortcut(key);

@@ -40,7 +40,7 @@ public:
     double value(int row, int column) const { return m_values[at(row, column)]; }
     bool isBlank(int row, int column) const;
     /// As it was written, for a person to read.
-    const QString &text(int row, int column) const { return m_texts[at(row, column)]; }
+    const QString &text(int row, int column) const { return m_texts[qsizetype(at(row, column))]; }
     /// A text that is no number leaves the cell blank, and so does a number beyond what an axis can show (1e200).
     void write(int row, int column, const QString &text);
 
