@@ -39,22 +39,6 @@ struct EditorFieldsTest : testing::Test
     ScriptedDoors doors;
 };
 
-TEST_F(EditorFieldsTest, WhatIsNoNumberYetStandsInTheSentenceAndPlacesMakeTheDetail)
-{
-    Fields typing = goodFields(Pattern::Monthly);
-    typing.txt_MonthlyDay = " 7%1";
-    EXPECT_EQ(EnglishSentence(typing), "Day  7%1 of every 1 months.");
-    Fields places = goodFields(Pattern::Yearly, true);
-    places.cbo_YearlyXth = 4;
-    places.cbo_YearlyWeekday = 6;
-    places.cbo_YearlyMonth2 = 11;
-    RecurrenceRule rule;
-    rule.RecurrenceInterval = 7; // left by an earlier pattern, and not this one's
-    StoreRecurrence(places, american, rule);
-    EXPECT_EQ(rule.RecurrenceDetail, "4611");
-    EXPECT_EQ(rule.RecurrenceInterval, 7);
-}
-
 TEST_F(EditorFieldsTest, RefusalsComeInTheirOrder)
 {
     Fields f = goodFields(Pattern::Daily);
@@ -121,23 +105,6 @@ TEST_F(EditorFieldsTest, NumbersAndChoicesAreRefusedAndLessStrictlyPreviewed)
         last.txt_YearlyDay = day;
         EXPECT_EQ(refused(last), good ? "" : "txt_YearlyDay") << month;
     }
-}
-
-TEST_F(EditorFieldsTest, AOnceDateIsTheSameDayInEveryOrderAndCentury)
-{
-    for (const DateConventions &dates : {american, {"DDMMYY", "DD.MM.YY"}, {"YYMMDD", "YY-MM-DD"}})
-        for (QDate day(2027, 1, 1); day.year() < 2041; day = day.addDays(day.year() < 2028 ? 1 : 97)) {
-            Fields fields = goodFields(Pattern::Once);
-            fields.txt_OnceDate = PutDate(day, dates); // as the calendar does
-            RecurrenceRule rule;
-            for (int pass = 0; pass < 2; ++pass) {
-                StoreRecurrence(fields, dates, rule);
-                ASSERT_EQ(ReadOnceDetail(rule.RecurrenceDetail, dates.order), day)
-                    << rule.RecurrenceDetail.toStdString();
-                ShowRecurrence(rule, dates, fields);
-                ASSERT_EQ(fields.txt_OnceDate.text, Format(day, dates.picture));
-            }
-        }
 }
 
 TEST_F(EditorFieldsTest, ShowsAnUpgradedRuleAndRefusesStrangeDetails)

@@ -1,0 +1,106 @@
+// A second walk over a rule's dates, slow and literal: it makes dates of their text and looks for weekdays a day at a
+// time. It reads rules of a pattern that there is, but for a single date, with their detail in its plain form.
+#pragma once
+
+#include <vector>
+
+#include <QRegularExpression>
+
+#include "reminders/RecurrenceRule.h"
+#include "text/Dates.h"
+
+struct Walked
+{
+    bool failed = false;
+    std::vector<QDate> dates;
+    bool operator==(const Walked &) const = default;
+};
+
+class LiteralWalk
+{
+public:
+    static bool canRead(const RecurrenceRule &rule)
+    {
+        static const QRegularExpression plain("^(0[01] .*|1[01] [01]{7}|20 \\d{1,2}|21 \\d\\d|30 \\d{1,2}|31 \\d{4})$",
+                                              QRegularExpression::DontCaptureOption);
+        const QString form = QStringLiteral("%1%2 ").arg(rule.RecurrenceType).arg(rule.RecurrenceSubtype);
+        return rule.StartDate.year() > 1000 && rule.EndDate.isValid() &&
+               plain.match(form + rule.RecurrenceDetail).hasMatch();
+    }
+    LiteralWalk(const RecurrenceRule &rule, bool monthByName) : r(rule), byName(monthByName)
+    {
+        const bool second = r.RecurrenceSubtype == 1;
+        if (!r.is(Pattern::Yearly) && !(second && r.is(Pattern::Daily)) && r.RecurrenceInterval < 1)
+            result.failed = true;
+        else if (r.is(Pattern::Daily))
+            second ? everyWeekday() : everyXDays();
+        else if (r.is(Pattern::Weekly))
+            weekly();
+        else if (r.is(Pattern::Monthly))
+            second ? sameWeekday(r.StartDate.month(), false, r.RecurrenceInterval)
+                   : sameDay(r.StartDate.month(), r.RecurrenceDetail, 1, r.RecurrenceInterval);
+        else
+            second ? sameWeekday(number(2, 2) + byName, true, 12)
+                   : sameDay(number(0, 2) + byName, QString::number(r.RecurrenceInterval), 12, 12);
+    }
+
+    Walked result;
+
+private:
+    static int weekday(const QDate &date) { return date.dayOfWeek() % 7; } // 0 is Sunday
+    static QDate seek(QDate d, int day, int step)
+    {
+        while (weekday(d) != day)
+            d = d.addDays(step);
+        return d;
+    }
+    int number(qsizetype at, qsizetype length) const { return r.RecurrenceDetail.mid(at, length).toInt(); }
+
+    void everyXDays()
+    {
+        for (QDate d = r.StartDate; d <= r.EndDate; d = d.addDays(r.RecurrenceInterval))
+            result.dates.push_back(d);
+    }
+    void everyWeekday()
+    {
+        for (QDate d = r.StartDate; d <= r.EndDate; d = d.addDays(1))
+            if (weekday(d) != 0 && weekday(d) != 6)
+                result.dates.push_back(d);
+    }
+    void weekly()
+    {
+        for (int i = 0; i < 7; ++i)
+            if (r.RecurrenceDetail[i] == u'1') {
+                result.dates.push_back(seek(r.StartDate, i, 1));
+                while (result.dates.back() <= r.EndDate)
+                    result.dates.push_back(result.dates.back().addDays(7 * r.RecurrenceInterval));
+            }
+    }
+    /// From that day in the year of the start, or so many months later where that is before it.
+    void sameDay(int month, const QString &day, int toFirst, int toNext)
+    {
+        const auto first = ReadDate(QStringLiteral("%1/%2/%3").arg(month).arg(day).arg(r.StartDate.year()));
+        result.failed = !first;
+        QDate d = first.value_or(r.EndDate.addDays(1));
+        if (d < r.StartDate)
+            d = AddMonths(d, toFirst);
+        for (; d <= r.EndDate; d = AddMonths(d, toNext))
+            result.dates.push_back(d);
+    }
+    /// A weekday by its ordinal, of which 4 and more are the last of the month.
+    void sameWeekday(int month, bool eachYear, int toNext)
+    {
+        const int x = number(0, 1), w = number(1, 1);
+        result.failed = w > 6 || month < 1 || month > 12; // a 7 would be looked for without an end
+        for (QDate d = r.StartDate; !result.failed && d <= r.EndDate;) {
+            const QDate first(d.year(), eachYear ? month : d.month(), 1);
+            d = x < 4 ? seek(first, w, 1).addDays(7 * x) : seek(AddMonths(first, 1).addDays(-1), w, -1);
+            if (d >= r.StartDate)
+                result.dates.push_back(d);
+            d = AddMonths(QDate(d.year(), d.month(), 1), toNext);
+        }
+    }
+
+    const RecurrenceRule &r;
+    const bool byName;
+};
