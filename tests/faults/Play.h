@@ -5,10 +5,6 @@
 #include <map>
 #include <random>
 
-#include <QComboBox>
-#include <QListWidget>
-#include <QPushButton>
-
 #include "logbook/frm_LivesAddEdit.h"
 #include "logbook/frm_LivesMove.h"
 #include "logbook/frm_MaintAddEdit.h"

@@ -1,10 +1,8 @@
 // What the world does to a running program: no room on the disk, the file locked or gone, settings that cannot be read
 // or written. Each entry is refused with a word about it, whole, and can be saved as typed once the world is mended.
-#include <QFile>
-
-#include "platform/RuntimeFailure.h"
 #include "Play.h"
 #include "store/FaultVfs.h"
+#include "support/TestFiles.h"
 
 namespace {
 
@@ -75,7 +73,7 @@ struct World : testing::Test
 TEST_F(World, AFullOrBrokenDisk)
 {
     for (const int code : {SQLITE_FULL, SQLITE_IOERR_WRITE})
-        for (const int place : {0, 3, 5})
+        for (int place = 0; place < 6; ++place) // each write and sync of an entry
             playAll([&] { faults.plan({code, place, true}); }, [this] { faults.plan({}); });
 }
 
@@ -99,21 +97,12 @@ TEST_F(World, TheFileIsGone)
     const QString away = keeper.folder.filePath("away.MDB");
     playAll([&] { EXPECT_TRUE(QFile::rename(keeper.databaseFile(), away)); },
             [&] { EXPECT_TRUE(QFile::rename(away, keeper.databaseFile())); });
-    QFile::remove(keeper.databaseFile());
-    try {
-        keeper.addTank("C", "C");
-        FAIL() << "It went to a file that nobody finds.";
-    } catch (const RuntimeFailure &failure) {
-        EXPECT_EQ(failure.number(), Failure::CouldNotFindFile);
-    }
 }
 
 TEST_F(World, TheSettingsCannotBeReadOrWritten)
 {
     const QString garbage = keeper.folder.filePath("garbage.ini");
-    QFile file(garbage);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("[SETTINGS\n\xff\xfe=\n%%%") > 0);
-    file.close();
+    writeFile(garbage, "[SETTINGS\n\xff\xfe=\n%%%");
     keeper.addTank("A", "A");
     for (const QString &settings : {garbage, keeper.folder.path()}) { // a folder is no file
         player.reset();

@@ -84,15 +84,3 @@ TEST_F(LogReports, AllTanksComeByNameEachOnAPageOfItsOwn)
     EXPECT_TRUE(pages[0].find("Page number:1") && pages[1].find("Page number:1"));
     EXPECT_TRUE(pages[0].find("Tanksize: 20 gal.      ")) << "a Null prints as nothing";
 }
-
-TEST_F(LogReports, LeaveThePrinterUpright)
-{
-    addWater("r1", QDate(2026, 1, 2), 8);
-    std::vector<PrintedDocument> documents;
-    RecordedPages pages(documents);
-    Printer page(pages, "Water");
-    const Report water = MakeLogReport(WaterTab, *db, "MM/DD/YY", "r1");
-    ASSERT_TRUE(water.open());
-    water.print(page);
-    EXPECT_FALSE(page.Landscape());
-}

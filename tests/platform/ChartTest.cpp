@@ -151,16 +151,3 @@ TEST(Chart, ColumnsOfLikeSizeShareAnAxisThatHoldsTheirValues)
     }
     EXPECT_EQ(MakeChartBands(ChartData(), ChartShape::Bar).size(), 1u);
 }
-
-TEST(Chart, CtrlAndTheMouseTurnAChartWithDepthAlone)
-{
-    for (const int type : allTypes) {
-        ShownChart chart(type, {{"8", "7", "9"}});
-        const QImage before = chart.picture();
-        for (const QPointF to : {QPointF(300, 200), QPointF(60, 240)}) {
-            QMouseEvent event(QEvent::MouseMove, to, to, Qt::NoButton, Qt::NoButton, Qt::ControlModifier);
-            QApplication::sendEvent(&chart, &event);
-        }
-        EXPECT_EQ(chart.picture() != before, type <= 8 && type % 2 == 0) << type;
-    }
-}

@@ -152,19 +152,6 @@ TEST(LeavingChecks, LetNoBadValueThroughByAnyWayOut)
             }
 }
 
-TEST(LeavingChecks, JudgeABoxAsItIsWhenItIsLeft)
-{
-    ScriptedDoors doors;
-    EntryWindow w;
-    w.enter("good");
-    QTest::keyClick(w.first, Qt::Key_Return);
-    EXPECT_EQ(w.stored, 1);
-    w.enter("bad");
-    QTest::keyClick(w.first, Qt::Key_Return);
-    EXPECT_EQ(w.stored, 1) << "Enter does not leave the box: it is asked again";
-    EXPECT_EQ(doors.takeText(), QStringLiteral("Not this."));
-}
-
 TEST(LeavingChecks, GoOnAfterACheckThatFailsOrMovesTheFocus)
 {
     const ScriptedDoors doors;

@@ -2,30 +2,19 @@
 // there.
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QPrinter>
 #include <QTemporaryDir>
 
 #include "platform/PaintedPages.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"
+#include "support/TestFiles.h"
 
 namespace {
 
 struct WrittenFiles : testing::Test
 {
-    QByteArray content() const
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-    }
-    void write(const QByteArray &bytes)
-    {
-        QFile file(name);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    qsizetype files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(); }
+    QByteArray content() const { return contentOf(folder.path())["file"]; }
 
     QTemporaryDir folder;
     QString name = folder.filePath("file");
@@ -34,7 +23,7 @@ struct WrittenFiles : testing::Test
 TEST_F(WrittenFiles, APdfIsThereWhenItsDocumentHasEnded)
 {
     for (const bool ended : {false, true}) {
-        write("an older log");
+        writeFile(name, "an older log");
         {
             const auto pages = PagesInPdf(name);
             pages->beginDocument("Log");
@@ -45,7 +34,7 @@ TEST_F(WrittenFiles, APdfIsThereWhenItsDocumentHasEnded)
                 pages->endDocument();
         }
         EXPECT_EQ(content() == "an older log", !ended);
-        EXPECT_EQ(files(), 1);
+        EXPECT_EQ(contentOf(folder.path()).size(), 1u);
     }
     EXPECT_TRUE(content().startsWith("%PDF-") && content().trimmed().endsWith("%%EOF"));
     EXPECT_TRUE(content().contains("/Count 2")) << "two pages";
@@ -75,13 +64,13 @@ TEST_F(WrittenFiles, APdfInAFolderThatIsNotThereOrGoesAwayIsAFailure)
 
 TEST_F(WrittenFiles, ASettingMayHoldACommaWithoutQuotationMarks)
 {
-    write("[SETTINGS]\nCustom1=@, b\n");
+    writeFile(name, "[SETTINGS]\nCustom1=@, b\n");
     EXPECT_EQ(SettingsStore(name).value("Custom1", ""), "@, b");
 }
 
 TEST_F(WrittenFiles, ASettingThatCannotBeWrittenIsAFailureAndIsNotReadBack)
 {
-    write("no folder");
+    writeFile(name, "no folder");
     SettingsStore settings(name + "/OMK.ini");
     for (int attempt = 0; attempt < 2; ++attempt) {
         EXPECT_THROW(settings.setValue("Date_Order", "YYMMDD"), RuntimeFailure);

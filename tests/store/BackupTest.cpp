@@ -112,6 +112,16 @@ TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
     std::printf("| backup over an older copy, disk full, and killed, after so many bytes | %d |\n", 2 * tries);
 }
 
+TEST_F(BackupTest, ANewDatabaseOnAFullDiskIsNotThere)
+{
+    const qint64 size = QFileInfo(path()).size();
+    for (qint64 room = 0; room < size; room += 3000) {
+        const SmallDisk disk(rlim_t(room), false);
+        EXPECT_NE(numberOf([this] { CreateDatabase(path("to/new.MDB")); }), 0) << room;
+        EXPECT_EQ(contentOf(path("to")).size(), 1u) << room;
+    }
+}
+
 TEST_F(BackupTest, WaitsForWhatAnotherProgramWrites)
 {
     OtherProgram other(path());

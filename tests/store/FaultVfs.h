@@ -3,8 +3,6 @@
 // or a power cut does to an entry.
 #pragma once
 
-#include <utility>
-
 #include <sqlite3.h>
 
 /// How the process ends in the middle of a write or a sync: killed, or killed with the disk as a power cut leaves it,
@@ -18,10 +16,6 @@ struct FaultPlan
     bool forEver = false;      ///< fails from then on; else once
     Death death = Death::None; ///< instead of a failure
 };
-
-/// Codes to fail with, and whether for ever: a full disk and a broken one.
-inline constexpr std::pair<int, bool> diskFaults[] = {
-    {SQLITE_FULL, false}, {SQLITE_FULL, true}, {SQLITE_IOERR_WRITE, false}, {SQLITE_IOERR_WRITE, true}};
 
 class FaultVfs
 {

@@ -3,20 +3,18 @@
 #pragma once
 
 #include <functional>
-#include <map>
 
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
-#include <QDir>
-#include <QFile>
 #include <sqlite3.h>
 
 #include "platform/RuntimeFailure.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"
 #include "support/ScriptedDoors.h"
+#include "support/TestFiles.h"
 
 /// The failure that the work ends in; nothing if it ends well.
 inline std::optional<RuntimeFailure> failureOf(const std::function<void()> &work)
@@ -46,24 +44,6 @@ inline int signalThatEnds(const std::function<void()> &work)
     EXPECT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0) << "the child failed";
     return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
-}
-
-inline void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-/// Names and contents of all files of a folder.
-inline std::map<QString, QByteArray> contentOf(const QString &folder)
-{
-    std::map<QString, QByteArray> content;
-    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
-        QFile file(QDir(folder).filePath(name));
-        content[name] = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
-    return content;
 }
 
 /// Another program's connection: runs statements at once, and asks for one value as text.

@@ -1,3 +1,4 @@
+// What a date or a time is read as; that it comes back as it was shown is shown by tests/fuzz/fuzz_dates.cpp.
 #include "text/Dates.h"
 
 #include <gtest/gtest.h>
@@ -13,17 +14,6 @@ struct Dates : testing::Test
 
 /// The date as ISO text, "none" where there is none.
 QString iso(const std::optional<QDate> &date) { return date ? date->toString(Qt::ISODate) : QStringLiteral("none"); }
-
-TEST_F(Dates, ShownAndReadBackIsTheSameDayInEveryOrder)
-{
-    for (const char *order : {"MMDDYY", "DDMMYY", "YYMMDD"})
-        for (const char *delimiter : {"/", "-", "."})
-            for (QDate day(1999, 12, 25); day < QDate(2001, 3, 5); day = day.addDays(1)) {
-                const QString shown = Format(day, MakeDatePicture(order, delimiter));
-                ASSERT_TRUE(shown.size() == 8 && shown.count(delimiter) == 2) << shown.toStdString();
-                ASSERT_EQ(ReadDate(NormalizeDateText(shown, order)), day) << shown.toStdString() << ' ' << order;
-            }
-}
 
 TEST_F(Dates, AreReadMonthFirstWithAWindowOfYearsThatSlidesOnlyWhenItMust)
 {

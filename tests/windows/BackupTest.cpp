@@ -1,6 +1,4 @@
 // The backup as a keeper makes it from the File menu, with the logbook open.
-#include <QFileInfo>
-
 #include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"
 

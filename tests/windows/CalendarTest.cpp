@@ -1,7 +1,3 @@
-#include <QLabel>
-#include <QPushButton>
-#include <QScrollBar>
-
 #include "common/CalendarControls.h"
 #include "common/frm_Caltool.h"
 #include "Keeper.h"

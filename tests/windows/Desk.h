@@ -2,9 +2,6 @@
 // "Reef" is called "r1" in the file, "Same" like its name; each tank has another water.
 #pragma once
 
-#include <QComboBox>
-#include <QPushButton>
-
 #include "Hands.h"
 #include "logbook/LogTab.h"
 #include "platform/MaskedBox.h"
@@ -52,6 +49,15 @@ protected:
     int execute(const QString &sql, const Parameters &values = {})
     {
         return keeper.g().gDatabase->Execute(sql, values);
+    }
+    /// An entry in the file, of a moment like "2026-04-05 09:30:00"; more of its columns, and their values.
+    void addEntry(LogTab log, const char *tankId, QString moment, const char *columns, const QString &values)
+    {
+        const char *const tables[] = {"WATERLOG (tankname, logdate, logtime",
+                                      "LIVESTOCK (tankname, dateadded, timeadded",
+                                      "MAINTLOG (mainttankname, maintlogdate, maintlogtime"};
+        execute(QString("INSERT INTO %1, %2) VALUES ('%3', '%4', %5)")
+                    .arg(tables[log], columns, tankId, moment.replace(' ', "', '"), values));
     }
 
     Keeper keeper;

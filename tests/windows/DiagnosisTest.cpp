@@ -1,5 +1,3 @@
-#include <QRadioButton>
-
 #include "advisers/Diagnoses.h"
 #include "advisers/frm_DiagDiagnosis.h"
 #include "advisers/frm_DiagnosisQA.h"

@@ -130,7 +130,7 @@ protected:
     void fillAll(QWidget &w) const
     {
         for (int i = 0; i < typed.size(); ++i)
-            hand::fill(control<QWidget>(w, names[i]), typed[i]);
+            hand::type(control<QWidget>(w, names[i]), typed[i]);
     }
     /// What the boxes show, of three places those that are not 0.
     QString held(QWidget &w) const { return shown(w, names).replace("00|", "|"); }
@@ -179,7 +179,7 @@ TEST_P(Entries, ValuesLandInTheirColumnsAndAChangeRewritesItsRowAlone)
         EXPECT_EQ(shown(w, log.moment).toLower(), "26-05-16|09:05:07 pm");
         EXPECT_EQ(held(w), typed.join('|'));
         for (const QString &box : QString(log.cleared).split(' '))
-            hand::fill(control<QWidget>(w, box), "");
+            hand::type(control<QWidget>(w, box), "");
         fill(w, "26-05-18", "09:05:07 pm");
         hand::press(Qt::Key_Return);
     });
@@ -193,7 +193,7 @@ TEST_P(Entries, OkTellsTheFirstFaultInTheOrderOfTheChecksAndStoresNothing)
     give("addentries", 0, [&](QWidget &w) {
         const auto fill = [&](const Fault &fault, const QString &text) {
             if (shown(w, {fault.box}) != text)
-                hand::fill(control<QWidget>(w, fault.box), text);
+                hand::type(control<QWidget>(w, fault.box), text);
         };
         for (const Fault &fault : log.faults | std::views::reverse) // everything is wrong at first
             if (!fault.onLeaving)

@@ -1,6 +1,4 @@
 // What each of the entry windows does in its own way.
-#include <QRadioButton>
-
 #include "Desk.h"
 #include "logbook/frm_LivesAddEdit.h"
 #include "logbook/frm_MaintAddEdit.h"
@@ -54,32 +52,26 @@ class Livestock : public Desk
 {
 protected:
     Livestock() : Desk(LivestockTab) {}
-    void insert(const char *tank, const char *date, const QString &animal)
-    {
-        execute(QString("INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname, quantity) "
-                        "VALUES ('%1', '%2', '09:30:00', '%3', 1)")
-                    .arg(tank, date, animal));
-    }
 };
 
 TEST_F(Livestock, AnimalsFollowTheWaterOfTheTankAndTheOptionsSwitchThem)
 {
     for (const char *id : {"r1", "Same", "b1", "k1", "p1"}) {
-        insert(id, "2026-01-01", QString("zz ") + id);
-        insert(id, "2026-01-02", "Betta"); // a word of the list as well: offered once
+        addEntry(LivestockTab, id, "2026-01-01 09:30:00", "animalname", QString("'zz %1'").arg(id));
+        addEntry(LivestockTab, id, "2026-01-02 09:30:00", "animalname", "'Betta'"); // a word of the list as well
     }
     const auto expectList = [&](frm_LivesAddEdit &w, bool sea) {
         const QStringList names = lines(*w.lst_AnimalList->model()).split('|');
         EXPECT_EQ(names.filter("zz ").join(','), sea ? "zz r1,zz Same" : "zz b1");
         EXPECT_EQ(names.count("Anemone - Carpet"), sea);
-        EXPECT_EQ(names.count("Betta"), 1);
+        EXPECT_EQ(names.count("Betta"), 1) << "offered once";
     };
     for (const auto &[tank, sea] : {std::pair("Reef", true), {"Bowl", false}, {"Marsh", false}}) {
         SCOPED_TRACE(tank);
         hand::clickTank(*logbook, tank);
         give<frm_LivesAddEdit>("addentries", 0, [&, sea = sea](frm_LivesAddEdit &w) {
             expectList(w, sea);
-            hand::fill(*w.lst_AnimalList, "my own");
+            hand::type(*w.lst_AnimalList, "my own");
             mouse::click(sea ? w.opt_Fresh : w.opt_Saltwater, QPoint(8, 8));
             expectList(w, !sea);
             EXPECT_EQ(w.lst_AnimalList->currentText(), "my own");
@@ -101,16 +93,16 @@ TEST_F(Livestock, NamesComeFromTheFileWhereTheOptionsSaySoAndFromTheDatabaseWher
 
 TEST_F(Livestock, ASecondAnimalMayComeInThatSecondAndIsWhatTheChangeFindsFirst)
 {
-    insert("r1", "2026-03-14", "Tang");
+    addEntry(LivestockTab, "r1", "2026-03-14 09:30:00", "animalname, quantity", "'Tang', 1");
     open("Reef");
     give<frm_LivesAddEdit>("addentries", 0, [&](frm_LivesAddEdit &w) {
-        hand::fill(*w.lst_AnimalList, "Tang");
+        hand::type(*w.lst_AnimalList, "Tang");
         hand::type(*w.txt_timeadded, "09:30:00 am");
         hand::type(*w.txt_pricepaid, "5");
         mouse::click(w.cmd_OK);
         EXPECT_TRUE(keeper.told().startsWith(oops + "This tank already has"));
         EXPECT_TRUE(w.txt_timeadded->hasFocus());
-        hand::fill(*w.lst_AnimalList, "Crab");
+        hand::type(*w.lst_AnimalList, "Crab");
         hand::type(*w.txt_pricepaid, ""); // what the refused try had is not kept
         w.txt_DateAdded->setText({});     // by typing it would be caught on leaving
         mouse::click(w.cmd_OK);
@@ -128,7 +120,7 @@ TEST_F(Livestock, ASecondAnimalMayComeInThatSecondAndIsWhatTheChangeFindsFirst)
 
 TEST_F(Livestock, IsNotMixedUpByAWindowThatAChangeOfMaintenanceLeavesBehind)
 {
-    execute("INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime) VALUES ('r1', '2026-12-25', '09:30:00')");
+    addEntry(MaintenanceTab, "r1", "2026-12-25 09:30:00", "maintlogtask", "'Feeding'");
     hand::clickTab(*logbook->tab_logtype, MaintenanceTab);
     give<frm_MaintAddEdit>("changeentries", 1, [&](frm_MaintAddEdit &) {
         const auto *left = Forms::current().loaded<frm_LivesAddEdit>();

@@ -1,5 +1,3 @@
-#include <QMdiSubWindow>
-
 #include "Desk.h"
 #include "graph/frm_WaterGraph.h"
 #include "platform/chart/Chart.h"

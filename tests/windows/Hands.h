@@ -2,13 +2,6 @@
 // shown.
 #pragma once
 
-#include <QHeaderView>
-#include <QMenuBar>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QTreeWidget>
-
 #include "logbook/frm_Waterlog.h"
 #include "platform/ListView.h"
 #include "shell/MenuEntry.h"
@@ -36,7 +29,8 @@ inline void write(const QString &text)
     }
 }
 
-/// Clicks into a box and writes over what it holds.
+/// Clicks into a box and writes over what it holds. A list of suggestions that opens under it is put away; without a
+/// window manager the list, once gone, keeps the activity that it took.
 inline void type(QWidget &box, const QString &text)
 {
     mouse::click(&box);
@@ -44,13 +38,6 @@ inline void type(QWidget &box, const QString &text)
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_Delete);
     write(text);
-}
-
-/// The same, and puts away the list of suggestions that opens under a combo box. Without a window manager the list,
-/// once gone, keeps the activity that it took.
-inline void fill(QWidget &box, const QString &text)
-{
-    type(box, text);
     if (QApplication::activePopupWidget())
         press(Qt::Key_Escape);
     QCoreApplication::processEvents();

@@ -1,10 +1,5 @@
-#include <QDialog>
-#include <QDirIterator>
 #include <QHelpEngineCore>
 #include <QHelpLink>
-#include <QRegularExpression>
-#include <QTabWidget>
-#include <QTextBrowser>
 
 #include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"

@@ -9,12 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QDir>
-#include <QMenu>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include "shell/Forms.h"
 #include "shell/frm_OMKMDIMain.h"

@@ -1,6 +1,3 @@
-#include <QCheckBox>
-#include <QRadioButton>
-
 #include "Desk.h"
 #include "logbook/frm_OMKLogPrint.h"
 
@@ -10,17 +7,23 @@ class LogPrint : public Desk
 protected:
     LogPrint() : Desk(WaterTab)
     {
-        for (const char *tank : {"r1", "b1"})
-            for (const char *sql :
-                 {"INSERT INTO WATERLOG (tankname, logdate, logtime, ph) VALUES ('%1', '2026-04-05', '09:30:00', 8.25)",
-                  "INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname) "
-                  "VALUES ('%1', '2026-04-05', '09:30:00', 'Tang')",
-                  "INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime, maintlogtask) "
-                  "VALUES ('%1', '2026-04-05', '09:30:00', 'Water Change')"})
-                execute(QString(sql).arg(tank));
+        const QString moment = "2026-04-05 09:30:00";
+        for (const char *tank : {"r1", "b1"}) {
+            addEntry(WaterTab, tank, moment, "ph", "8.25");
+            addEntry(LivestockTab, tank, moment, "animalname", "'Tang'");
+            addEntry(MaintenanceTab, tank, moment, "maintlogtask", "'Water Change'");
+        }
         open("Reef");
     }
-    void print(const std::function<void(frm_OMKLogPrint &)> &action) { give("printentries", 0, action); }
+    void print(QRadioButton *frm_OMKLogPrint::*target, bool allTanks = false)
+    {
+        give<frm_OMKLogPrint>("printentries", 0, [&](frm_OMKLogPrint &w) {
+            mouse::click(w.*target, QPoint(8, 8));
+            if (allTanks)
+                mouse::click(w.chk_PrintForAllTanks, QPoint(8, 8));
+            mouse::click(w.cmd_ok);
+        });
+    }
     /// The tanks on the pages of the documents printed since last asked, documents between bars.
     QString printedTanks()
     {
@@ -54,19 +57,12 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
         EXPECT_EQ(keeper.doors.printDialogs.back().landscape, tab == 0);
         EXPECT_EQ(keeper.doors.targets.back().printerName, "Laser");
 
-        print([](frm_OMKLogPrint &w) {
-            mouse::click(w.opt_Window, QPoint(8, 8));
-            mouse::click(w.chk_PrintForAllTanks, QPoint(8, 8));
-            mouse::click(w.cmd_ok);
-        });
+        print(&frm_OMKLogPrint::opt_Window, true);
         EXPECT_EQ(printedTanks(), document + ":Bowl,Reef");
         EXPECT_EQ(keeper.doors.previews, tab + 1);
 
         keeper.doors.files = {"/tmp/log.pdf"};
-        print([](frm_OMKLogPrint &w) {
-            mouse::click(w.opt_File, QPoint(8, 8));
-            mouse::click(w.cmd_ok);
-        });
+        print(&frm_OMKLogPrint::opt_File);
         EXPECT_EQ(printedTanks(), document + ":Reef");
         EXPECT_EQ(keeper.doors.targets.back().pdfFileName, "/tmp/log.pdf");
     }
@@ -77,18 +73,15 @@ TEST_F(LogPrint, AnEmptyLogIsToldOnceAndACancelledDialogPrintsNothing)
 {
     hand::clickTank(*logbook, "Pond");
     keeper.doors.printers = {PrintDialogAnswer{2, 0, 0, "Laser", {}}};
-    print([](frm_OMKLogPrint &) { hand::press(Qt::Key_Return); });
+    print(&frm_OMKLogPrint::opt_Printer);
     EXPECT_EQ(keeper.told(), "0|Note!/64/No water quality entries were found for this tank. No log was printed.");
     hand::clickTank(*logbook, "All Tanks");
     EXPECT_FALSE(main->mnu_FilePrint->isEnabled());
     hand::clickTank(*logbook, "Reef");
     keeper.doors.printers.clear();
-    for (QRadioButton *frm_OMKLogPrint::*target : {&frm_OMKLogPrint::opt_Printer, &frm_OMKLogPrint::opt_File})
-        print([&](frm_OMKLogPrint &w) {
-            mouse::click(w.*target, QPoint(8, 8));
-            mouse::click(w.cmd_ok);
-        });
-    print([](frm_OMKLogPrint &) { hand::press(Qt::Key_Escape); });
+    for (const auto target : {&frm_OMKLogPrint::opt_Printer, &frm_OMKLogPrint::opt_File})
+        print(target);
+    give<frm_OMKLogPrint>("printentries", 0, [](auto &) { hand::press(Qt::Key_Escape); });
     EXPECT_EQ(keeper.told(), "0");
     EXPECT_TRUE(keeper.doors.documents.empty() && keeper.doors.targets.empty() && keeper.doors.previews == 0);
 }

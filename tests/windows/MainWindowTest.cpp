@@ -1,9 +1,6 @@
-#include <QCheckBox>
-#include <QFile>
-
 #include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"
-#include "shell/frm_OMKOptions.h"
+#include "support/TestFiles.h"
 #include "tanks/frm_TankMaint.h"
 
 /// A child of the main window that is not the logbook.
@@ -43,9 +40,7 @@ TEST(Start, EndsAtAFileThatCannotBeUsed)
 {
     Keeper keeper;
     keeper.g().gDatabase.reset();
-    QFile file(keeper.databaseFile());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(QByteArray(5000, 'x')) == 5000);
-    file.close();
+    writeFile(keeper.databaseFile(), QByteArray(5000, 'x'));
     EXPECT_THROW(Form<frm_OMKMDIMain>().MDIForm_Load(), RuntimeFailure);
     EXPECT_FALSE(Form<frm_OMKMDIMain>().isVisible());
 }
@@ -66,6 +61,9 @@ TEST_F(MainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestar
     EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->childCount(), 0);
     keeper.addTank("Reef", "1");
     setUpTanks();
+    execute("UPDATE TANKLST SET tankname = 'Cove'");
+    setUpTanks();
+    EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->child(0)->text(0), "Cove");
     EXPECT_TRUE(main->button("logbook").isEnabled());
     EXPECT_EQ(keeper.told() + keeper.g().gNoTanks, "0N");
 }
@@ -87,15 +85,4 @@ TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
     hand::openLogbook(*main);
     EXPECT_TRUE(canAdd());
     EXPECT_EQ(logbook->TreeView1->currentItem()->text(0), "Reef") << "only the first activation builds the tree";
-}
-
-TEST_F(MainWindow, ClosingItClosesTheChildrenWhichStoreWhatTheyKeep)
-{
-    main->ShowChild(Form<OtherChild>());
-    SaveSetting("WQ_Sort", "overwritten");
-    hand::choose(*main, *main->mnu_File, "mnu_Exit");
-    EXPECT_FALSE(main->isVisible());
-    EXPECT_EQ(keeper.setting("WQ_Sort"), "1");
-    EXPECT_FALSE(Forms::current().loaded<frm_Waterlog>() || Forms::current().loaded<OtherChild>() ||
-                 Forms::current().loaded<frm_OMKOptions>());
 }

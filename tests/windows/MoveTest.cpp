@@ -1,6 +1,3 @@
-#include <QCheckBox>
-#include <QListWidget>
-
 #include "Desk.h"
 #include "logbook/frm_LivesMove.h"
 
@@ -10,15 +7,13 @@ class Move : public Desk
 protected:
     Move() : Desk(LivestockTab)
     {
-        insert("r1", "2026-04-05", "09:30:00", "Tang");
-        insert("r1", "2026-05-25", "21:05:07", "Crab");
+        add("r1", "2026-04-05 09:30:00", "'Tang', 2, 'old'");
+        add("r1", "2026-05-25 21:05:07", "'Crab', 2, 'old'");
         open("Reef");
     }
-    void insert(const char *tank, const char *date, const char *time, const char *animal)
+    void add(const char *tankId, const char *moment, const char *values)
     {
-        execute(QString("INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname, quantity, Comment) "
-                        "VALUES ('%1', '%2', '%3', '%4', 2, 'old')")
-                    .arg(tank, date, time, animal));
+        addEntry(LivestockTab, tankId, moment, "animalname, quantity, Comment", values);
     }
     void move(int row, const std::function<void(frm_LivesMove &)> &action) { give("moveentries", row, action); }
     void clickTank(frm_LivesMove &w, const QString &tank)
@@ -26,18 +21,10 @@ protected:
         QListWidget &tanks = *w.lst_tanklist;
         mouse::click(tanks.viewport(), tanks.visualItemRect(tanks.findItems(tank, Qt::MatchExactly).at(0)).center());
     }
-    /// Every animal with its tank, date and time.
-    QString animals()
-    {
-        return keeper.stored(
-            "group_concat(a, '|') AS x FROM (SELECT animalname || ' ' || tankname || ' ' || dateadded || ' ' || "
-            "timeadded AS a FROM LIVESTOCK WHERE quantity = 2 AND Comment = 'old' ORDER BY a)");
-    }
 };
 
 TEST_F(Move, GoesNowhereWithoutATankOrAfterCancelOrWhenTheEntryIsGone)
 {
-    const QString before = animals();
     move(1, [&](frm_LivesMove &w) {
         mouse::click(w.cmd_ok);
         EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a tank entry to move your animal to.");
@@ -45,7 +32,7 @@ TEST_F(Move, GoesNowhereWithoutATankOrAfterCancelOrWhenTheEntryIsGone)
         mouse::click(w.cmd_Cancel);
     });
     EXPECT_TRUE(keeper.g().livesMove.MoveCancelled);
-    EXPECT_EQ(animals(), before);
+    EXPECT_EQ(keeper.count("LIVESTOCK WHERE tankname = 'r1'"), 2);
     execute("DELETE FROM LIVESTOCK WHERE animalname = 'Tang'");
     hand::clickRow(list(), 1);
     push("moveentries");
@@ -54,8 +41,8 @@ TEST_F(Move, GoesNowhereWithoutATankOrAfterCancelOrWhenTheEntryIsGone)
 
 TEST_F(Move, AnEntryOfTheTargetInThatSecondStandsInTheWayUntilAnotherTankIsChosen)
 {
-    insert("b1", "2026-04-05", "09:30:00", "Tang");
-    insert("p1", "2026-03-14", "09:26:53", "Tang"); // of now
+    add("b1", "2026-04-05 09:30:00", "'Tang', 2, 'old'");
+    add("p1", "2026-03-14 09:26:53", "'Tang', 2, 'old'"); // of now
     move(1, [&](frm_LivesMove &w) {
         const auto tryTank = [&](const char *tank) {
             clickTank(w, tank);
@@ -70,6 +57,7 @@ TEST_F(Move, AnEntryOfTheTargetInThatSecondStandsInTheWayUntilAnotherTankIsChose
         mouse::click(w.cmd_ok);
     });
     EXPECT_EQ(column(1), "Crab");
-    EXPECT_EQ(keeper.stored("dateadded || timeadded AS x FROM LIVESTOCK WHERE tankname = 'Same'"),
-              "2026-04-0509:30:00");
+    EXPECT_EQ(
+        keeper.stored("dateadded || timeadded || quantity || Comment AS x FROM LIVESTOCK WHERE tankname = 'Same'"),
+        "2026-04-0509:30:002.0old");
 }

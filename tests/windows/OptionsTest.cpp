@@ -130,19 +130,3 @@ TEST_F(Options, OkStoresEverythingForGoodAndAFailureLeavesTheDialogWithWhatWasEn
     });
     EXPECT_EQ(stored() + inForce(), after + "Silicate" + changed);
 }
-
-TEST_F(Options, UserFieldNamesAreNotBlankAndDiffer)
-{
-    const std::tuple<const char *, const char *, const char *> rows[] = {
-        {"Iron", "iron", "0"},
-        {" Iron", "Silicate", "1|Oops!/48/User defined field names cannot be blank."},
-        {"Iron", " ", "1|Oops!/48/User defined field names cannot be blank."},
-        {"Iron", "Iron", "1|Oops!/48/Both User defined field names cannot be the same."}};
-    auto &window = Form<frm_OMKOptions>();
-    for (const auto &[name1, name2, told] : rows) {
-        window.txt_username1->setText(name1);
-        window.txt_username2->setText(name2);
-        EXPECT_EQ(window.CheckUserFieldNames(), *told == '0');
-        EXPECT_TRUE(keeper.told().startsWith(told)) << name1 << ", " << name2;
-    }
-}

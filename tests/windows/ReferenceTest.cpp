@@ -1,11 +1,9 @@
 // The reference tools: names of animals and the conversion calculator.
-#include <QLineEdit>
-#include <QRadioButton>
-
 #include "Desk.h"
 #include "reference/Conversions.h"
 #include "reference/frm_Conversions.h"
 #include "reference/frm_LatintoCommon.h"
+#include "support/TestFiles.h"
 
 class Reference : public Desk
 {
@@ -17,10 +15,10 @@ protected:
     }
     static void write(const char *fileName, std::initializer_list<std::pair<QByteArray, QByteArray>> names)
     {
-        QFile file(fileName);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        QByteArray records;
         for (const auto &[common, latin] : names)
-            file.write(common.leftJustified(49) + latin + '\n');
+            records += common.leftJustified(49) + latin + '\n';
+        writeFile(fileName, records);
     }
 };
 

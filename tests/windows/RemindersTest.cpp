@@ -1,7 +1,5 @@
 // Reminders through their windows: composed, listed, scheduled, printed, changed and deleted by hand, and what the
 // toolbar says meanwhile. Today is Saturday, 14 March 2026.
-#include <QCheckBox>
-
 #include "common/frm_Caltool.h"
 #include "Desk.h"
 #include "reminders/frm_Maintsched.h"

@@ -3,6 +3,7 @@
 #include "Keeper.h"
 #include "shell/CommandLine.h"
 #include "shell/KeepersFolder.h"
+#include "support/TestFiles.h"
 
 namespace {
 
@@ -23,12 +24,6 @@ const LineRow lineRows[] = {
     {{"a", "b"}, 2, "", "more than one folder"},
 };
 
-void write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
-
 /// Where the program is started, with the data of its installation; puts the current directory back.
 struct Place
 {
@@ -36,7 +31,7 @@ struct Place
     {
         QDir(top.path()).mkdir("data");
         for (const char *name : {"data/NAMESSW.TXT", "data/NAMESFW.TXT"})
-            write(path(name), "ours");
+            writeFile(path(name), "ours");
     }
     ~Place() { QDir::setCurrent(former); }
     QString path(const QString &name) const { return top.filePath(name); }
@@ -79,7 +74,7 @@ TEST(Start, FirstStartMakesTheFolderAndTheNextOverwritesNothing)
     }
     QFile::rename("OM.MDB", "Om.Mdb");
     QFile::rename("NAMESSW.TXT", "namessw.txt");
-    write("namessw.txt", "the keeper's");
+    writeFile("namessw.txt", "the keeper's");
     QFile::remove("NAMESFW.TXT");
     KeepersFolder folder;
     ASSERT_TRUE(place.open(folder));
@@ -107,12 +102,12 @@ TEST(Start, TheSecondOnAFolderSaysSoAndMakesNothing)
 TEST(Start, WhatCannotBeMadeFails)
 {
     Place place;
-    write(place.path("letter"), "Dear ...");
+    writeFile(place.path("letter"), "Dear ...");
     KeepersFolder folder;
     EXPECT_THROW(place.open(folder, "letter/logbook"), RuntimeFailure);
     // The database was lost, and its journal is not to be played into an empty one.
     QDir(place.top.path()).mkdir("lost");
-    write(place.path("lost/om.mdb-journal"), "pages");
+    writeFile(place.path("lost/om.mdb-journal"), "pages");
     EXPECT_TRUE(place.open(folder, "lost"));
     EXPECT_FALSE(QFile::exists("OM.MDB"));
 }

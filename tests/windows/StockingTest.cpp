@@ -1,6 +1,4 @@
-#include <QListWidget>
-#include <QRadioButton>
-
+#include "advisers/frm_Compat.h"
 #include "advisers/frm_FantAddAnimal.h"
 #include "advisers/frm_Fantasy.h"
 #include "advisers/StockingBar.h"
@@ -70,6 +68,25 @@ TEST_F(Stocking, TheLineInHandIsTakenOut)
     w.lst_Fantank->setCurrentRow(1);
     mouse::click(w.cmd_RemoveAnimal);
     EXPECT_EQ(plan(w), one);
+}
+
+TEST_F(Stocking, WhoLivesTogetherIsListedForEitherWaterAndALonerIsWarnedOf)
+{
+    keeper.g().gDefaultWaterType = "SALT";
+    hand::press(Qt::Key_M, Qt::ControlModifier);
+    auto &w = Form<frm_Compat>();
+    keeper.told();
+    const auto choose = [&](int animal) -> QString {
+        w.lst_Select->setCurrentIndex(animal - 1);
+        QStringList counts;
+        for (const QListWidget *list : {w.lst_compatable, w.lst_maybe, w.lst_incompatable})
+            counts << QString::number(list->count());
+        return counts.join(' ') + ", " + keeper.told().left(27);
+    };
+    EXPECT_EQ(choose(12), "26 2 11, 0");
+    mouse::click(w.but_fresh, QPoint(8, 8));
+    EXPECT_EQ(choose(0), "0 0 0, 0") << "nothing of the animal before";
+    EXPECT_EQ(choose(40), "0 28 11, 1|Agressive Animal Reminder");
 }
 
 TEST_F(Stocking, A51stRowIsRefusedAndThePlanStands)

@@ -1,6 +1,3 @@
-#include <QListWidget>
-#include <QPlainTextEdit>
-
 #include "Desk.h"
 #include "tanks/frm_TankAddNew.h"
 #include "tanks/frm_TankMaint.h"

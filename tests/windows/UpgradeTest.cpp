@@ -1,8 +1,4 @@
 // The start on a database of an earlier version: the window of the upgrade before every other, its bar, its boxes.
-#include <QFileInfo>
-#include <QLabel>
-#include <QProgressBar>
-
 #include "Keeper.h"
 #include "OldDatabase.h"
 #include "platform/RuntimeFailure.h"
