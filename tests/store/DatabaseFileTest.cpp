@@ -99,13 +99,4 @@ TEST_F(DatabaseFileTest, AnotherWayOfJournallingIsPutBack)
     EXPECT_EQ(contentOf(folder.path()).size(), 1u);
 }
 
-TEST_F(DatabaseFileTest, ANewDatabaseOverwritesNothing)
-{
-    writeFile(path("letter.txt"), "Dear");
-    const auto before = contentOf(folder.path());
-    for (const char *name : {"om.mdb", "letter.txt"})
-        EXPECT_EQ(numberOf([&] { CreateDatabase(path(name)); }), int(Failure::PermissionDenied)) << name;
-    EXPECT_EQ(contentOf(folder.path()), before);
-}
-
 } // namespace

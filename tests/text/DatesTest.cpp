@@ -49,19 +49,6 @@ TEST_F(Dates, TypedOnesAreMonthFirstAndElseInTheUsersOrder)
         EXPECT_EQ(iso(ReadTypedDate(text, order)), QString(date)) << text << ' ' << order;
 }
 
-TEST_F(Dates, FillTheirPictures)
-{
-    for (const auto &[picture, shown] : {std::pair{"dddd mm/dd/yyyy", "Sunday 02/09/2003"},
-                                         {"yyyymmdd", "20030209"},
-                                         {"m/d", "2/9"},
-                                         {"mmmm", "February"},
-                                         {"ddd Mmm d", "Sun Feb 9"},
-                                         {"MMYY", "0203"},
-                                         {"(dd)", "(09)"}})
-        EXPECT_EQ(Format(QDate(2003, 2, 9), picture), shown);
-    EXPECT_EQ(Format(QDate(), "mm/dd/yy"), "");
-}
-
 TEST_F(Dates, TimesAreReadShownAndInTheirBoxWantTheirMarkerInOneCase)
 {
     for (const auto &[text, upper, inBox] : {std::tuple{"12:00:00 am", "12:00:00 AM", true},

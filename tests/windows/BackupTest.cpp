@@ -27,7 +27,7 @@ protected:
     }
 };
 
-TEST_F(Backup, CopiesAsksAndRemembersTheName)
+TEST_F(Backup, CopiesAsksRemembersTheNameAndTellsWhatFailed)
 {
     const QString file = path("to/copy.MDB"), question = "Note!/33/The file already exists, overwrite?";
     const QString success = "Database Backup/64/OM.MDB was backed up to " + file + " with these attributes:copy.MDB ";
@@ -43,17 +43,9 @@ TEST_F(Backup, CopiesAsksAndRemembersTheName)
     EXPECT_EQ(testsInIt(), 3);
     EXPECT_EQ(keeper.doors.saveDialogs[3].fileName, file);
     EXPECT_FALSE(keeper.doors.saveDialogs[3].askOverwrite);
-}
-
-TEST_F(Backup, ATargetThatTakesNoneIsToldAndTheProgramGoesOn)
-{
-    for (const QString &target : {path("to"), path("OM.MDB"), path("none/copy")}) {
-        const QString told = backUp(target);
-        EXPECT_TRUE(told.startsWith("1|Database Backup/48/The database was not backed up.\n\n")) << told.toStdString();
-        EXPECT_TRUE(told.contains(target.endsWith("copy") ? "Path not found." : "Permission denied.") &&
-                    told.contains(target));
-    }
-    EXPECT_EQ(QDir(path("to")).entryList(QDir::Files).size(), 0);
+    const QString refused = backUp(path("OM.MDB"));
+    EXPECT_TRUE(refused.startsWith("1|Database Backup/48/The database was not backed up.\n\nPermission denied."));
+    EXPECT_TRUE(refused.contains(path("OM.MDB"))) << refused.toStdString();
 }
 
 } // namespace

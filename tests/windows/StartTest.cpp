@@ -1,28 +1,10 @@
 #include <gmock/gmock.h>
 
 #include "Keeper.h"
-#include "shell/CommandLine.h"
 #include "shell/KeepersFolder.h"
 #include "support/TestFiles.h"
 
 namespace {
-
-struct LineRow
-{
-    std::vector<std::string> arguments;
-    std::optional<int> status;
-    const char *folder;
-    const char *printed; ///< a part of it
-};
-
-const LineRow lineRows[] = {
-    {{"-platform", "offscreen", "a"}, {}, "a", ""}, // the toolkit's, whose value is no folder
-    {{"-session", "--version"}, {}, "", ""},
-    {{"a", "--version"}, 0, "", "Ostrelmark 2."},
-    {{"--help", "--bogus"}, 0, "", "Usage: ostrelmark [FOLDER]"},
-    {{"--bogus"}, 2, "", "no option \"--bogus\""},
-    {{"a", "b"}, 2, "", "more than one folder"},
-};
 
 /// Where the program is started, with the data of its installation; puts the current directory back.
 struct Place
@@ -46,21 +28,6 @@ struct Place
 };
 
 } // namespace
-
-TEST(Start, CommandLine)
-{
-    for (const LineRow &row : lineRows) {
-        SCOPED_TRACE(::testing::PrintToString(row.arguments));
-        std::vector<std::string> arguments = row.arguments;
-        std::vector<char *> raw;
-        for (std::string &argument : arguments)
-            raw.push_back(argument.data());
-        const CommandLine line = ReadCommandLine(raw);
-        EXPECT_EQ(line.status, row.status);
-        EXPECT_EQ(line.folder.toStdString(), row.folder);
-        EXPECT_THAT(line.text.toStdString(), ::testing::HasSubstr(row.printed));
-    }
-}
 
 TEST(Start, FirstStartMakesTheFolderAndTheNextOverwritesNothing)
 {
