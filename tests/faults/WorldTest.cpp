@@ -4,8 +4,6 @@
 #include "store/FaultVfs.h"
 #include "support/TestFiles.h"
 
-namespace {
-
 struct World : testing::Test
 {
     World()
@@ -110,8 +108,6 @@ TEST_F(World, TheSettingsCannotBeReadOrWritten)
         keeper.restart();
         player = std::make_unique<Player>(keeper);
         EXPECT_TRUE(doors.failures.empty());
-        EXPECT_EQ(doors.takeText().contains("settings could not be written"), settings != garbage);
+        EXPECT_EQ(doors.told().contains("settings could not be written"), settings != garbage);
     }
 }
-
-} // namespace

@@ -1,4 +1,4 @@
-// Numbers as somebody might type or store them, and any picture.
+// Numbers as somebody might type or store them.
 #include <cmath>
 #include <limits>
 
@@ -26,8 +26,8 @@ void checkPlainText(double number)
     FUZZ_REQUIRE(PlainText(*back) == plain, plain + u" and then " + PlainText(*back));
 }
 
-/// The pictures of the windows, with their places, round and cut nothing; what is no place stands as it is.
-void checkPictures(double number, const QString &picture)
+/// The pictures of the windows, with their places, round and cut nothing.
+void checkPictures(double number)
 {
     for (const auto &[ours, places] : {std::pair{"0", 0}, {"##0.0", 1}, {"##0.000", 3}, {"###,##0.00", 2}}) {
         const QString shown = Format(number, QLatin1String(ours));
@@ -35,8 +35,6 @@ void checkPictures(double number, const QString &picture)
         const double slack = 0.5 * std::pow(10, -places) + std::abs(number) * 1e-14;
         FUZZ_REQUIRE(std::abs(number) > 1e300 || (back && std::abs(*back - number) <= slack * 1.0000001), shown);
     }
-    static const QRegularExpression place(QStringLiteral("[0#.,]"));
-    FUZZ_REQUIRE(picture.contains(place) || Format(number, picture).startsWith(picture), picture);
 }
 
 /// A column takes the number within its range, or refuses it.
@@ -56,7 +54,7 @@ void checkColumn(const QString &text, ColumnKind kind, double lowest, double hig
 
 void fuzz(Input &input, ScriptedDoors &)
 {
-    const QString text = input.line(), picture = input.line();
+    const QString text = input.line();
     const auto number = ReadNumber(text);
     const double start = Val(text);
     FUZZ_REQUIRE(IsNumeric(text) || !number, text);
@@ -65,9 +63,9 @@ void fuzz(Input &input, ScriptedDoors &)
     checkColumn(text, ColumnKind::Integer, -2147483648.0, 2147483647.0);
     checkColumn(text, ColumnKind::Double, -largest, largest);
     const double bits = std::bit_cast<double>(std::uint64_t(input.number(4)) << 32 | input.number(4));
-    FUZZ_REQUIRE(std::isfinite(bits) || Format(bits, picture) == PlainText(bits), picture);
+    FUZZ_REQUIRE(std::isfinite(bits) || Format(bits, "0.00") == PlainText(bits), text);
     for (const double value : {start, std::isfinite(bits) ? bits : 0}) {
         checkPlainText(value);
-        checkPictures(value, picture);
+        checkPictures(value);
     }
 }

@@ -107,7 +107,7 @@ void Year::buy(const QString &tank, const QString &name)
         hand::type(*w.lst_AnimalList, name);
         hand::type(*w.txt_quantity, "a few");
         mouse::click(w.cmd_OK);
-        EXPECT_EQ(keeper.doors.takeText(), "Quantity entries must be a number.");
+        EXPECT_TRUE(keeper.told().endsWith("Quantity entries must be a number."));
         hand::type(*w.txt_quantity, "3");
         mouse::click(w.cmd_OK);
     });

@@ -1,19 +1,13 @@
 // The printed logs: what stands where on which page.
-#include <gtest/gtest.h>
-
 #include "logbook/LogReports.h"
 #include "platform/Printer.h"
-#include "store/Database.h"
-#include "store/NewDatabase.h"
-#include "support/ScriptedDoors.h"
+#include "store/StoreFixture.h"
 
 /// Two tanks, "angels" before "Reef" in the alphabet, on a printer that is read back.
-struct LogReports : testing::Test
+struct LogReports : StoreTest
 {
     LogReports()
     {
-        CreateDatabase(folder.filePath("OM.MDB"));
-        db = Database::OpenDatabase(folder.filePath("OM.MDB"));
         db->Execute(
             "INSERT INTO TANKLST (tankname, Tankdesc, tanksize, tankid) VALUES ('Reef', 'In the hall', 55, 'r1'), "
             "('angels', NULL, 20, 'a1'), ('Empty', 'No rows', 5, 'e1')");
@@ -31,10 +25,6 @@ struct LogReports : testing::Test
         RunReport(MakeLogReport(log, *db, "DD.MM.YY", tank), PrintTo::Printer);
         return doors.documents;
     }
-
-    QTemporaryDir folder;
-    ScriptedDoors doors;
-    std::unique_ptr<Database> db;
 };
 
 TEST_F(LogReports, WaterLogHasEachValueInItsColumn)
@@ -70,17 +60,4 @@ TEST_F(LogReports, FootStandsBelowEveryRowAndALongTankRunsOnWithoutHeadings)
         EXPECT_EQ(page.find("Ammonia") != nullptr, first);
     }
     EXPECT_EQ(rows, 300);
-}
-
-TEST_F(LogReports, AllTanksComeByNameEachOnAPageOfItsOwn)
-{
-    addWater("r1", QDate(2026, 1, 2), 8);
-    addWater("a1", QDate(2026, 1, 3), 7);
-    addWater("a1", QDate(2026, 1, 2), 6);
-    const auto &pages = print(WaterTab, {}).at(0).pages;
-    ASSERT_EQ(pages.size(), 2u) << "a tank without entries leaves no page";
-    EXPECT_TRUE(pages[0].find("angels") && pages[1].find("Reef"));
-    EXPECT_LT(pages[0].find("6.000")->y, pages[0].find("7.000")->y);
-    EXPECT_TRUE(pages[0].find("Page number:1") && pages[1].find("Page number:1"));
-    EXPECT_TRUE(pages[0].find("Tanksize: 20 gal.      ")) << "a Null prints as nothing";
 }

@@ -8,8 +8,6 @@
 #include "support/Mouse.h"
 #include "support/ScriptedDoors.h"
 
-namespace {
-
 /// Rows of name and size; the key is the name. Counts what it is asked for.
 class FishRows : public ListSource
 {
@@ -115,5 +113,3 @@ TEST_F(ListViewTest, ReadsOnlyTheRowsThatItShows)
     m_list.grab();
     EXPECT_LT(rows->asked, 102000) << "one text a row makes the sort's keys";
 }
-
-} // namespace

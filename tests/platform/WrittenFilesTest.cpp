@@ -10,8 +10,6 @@
 #include "platform/SettingsStore.h"
 #include "support/TestFiles.h"
 
-namespace {
-
 struct WrittenFiles : testing::Test
 {
     QByteArray content() const { return contentOf(folder.path())["file"]; }
@@ -77,5 +75,3 @@ TEST_F(WrittenFiles, ASettingThatCannotBeWrittenIsAFailureAndIsNotReadBack)
         EXPECT_EQ(settings.value("Date_Order", "MMDDYY"), "MMDDYY");
     }
 }
-
-} // namespace

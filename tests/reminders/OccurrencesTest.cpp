@@ -2,16 +2,11 @@
 // Rows of older files, and the twenty soonest of many dates.
 #include <algorithm>
 
-#include <gtest/gtest.h>
-#include <QDir>
-#include <QFile>
 #include <QMap>
 
 #include "reminders/Occurrences.h"
 #include "reminders/RecurrenceRule.h"
-#include "store/Database.h"
-#include "store/NewDatabase.h"
-#include "support/ScriptedDoors.h"
+#include "store/StoreFixture.h"
 #include "text/Dates.h"
 
 namespace {
@@ -85,12 +80,10 @@ TEST(Upcoming, KeepsTheSoonestTwentyInOrderOfDateAndTask)
     EXPECT_EQ(OccurrenceKey(monday), "19980608");
 }
 
-TEST(StoredRules, OldRowsAndStrangeCellsReadWithoutAFailure)
+using StoredRules = StoreTest;
+
+TEST_F(StoredRules, OldRowsAndStrangeCellsReadWithoutAFailure)
 {
-    const ScriptedDoors doors;
-    const QTemporaryDir folder;
-    CreateDatabase(folder.filePath("OM.MDB"));
-    const auto db = Database::OpenDatabase(folder.filePath("OM.MDB"));
     db->Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype) VALUES "
                 "('upgraded', '1997-03-01', '1999-03-01', 3, 0), ('empty', NULL, NULL, NULL, NULL), "
                 "('strange', 'soon', '1999-03-01', 65539, 'often')");

@@ -10,8 +10,6 @@
 
 #include "StoreFixture.h"
 
-namespace {
-
 /// No file of this process grows beyond so many bytes, as if the disk were full there. What writes on is told so, or,
 /// with a death, killed in the middle of it.
 class SmallDisk
@@ -145,5 +143,3 @@ TEST_F(BackupTest, AnOldDatabaseIsKeptOnceAndNeverOverwritten)
     EXPECT_EQ(KeepOldDatabase(path(), "1.1"), path("OM-version-1.1.MDB"));
     EXPECT_EQ(contentOf(folder.path())["OM-version-1.0.MDB"], "from long ago");
 }
-
-} // namespace

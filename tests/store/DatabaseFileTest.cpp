@@ -4,8 +4,6 @@
 #include "platform/Files.h"
 #include "StoreFixture.h"
 
-namespace {
-
 struct DatabaseFileTest : StoreTest
 {
     DatabaseFileTest() { db->Close(); }
@@ -89,14 +87,3 @@ TEST_F(DatabaseFileTest, NamesAreFoundInAnyCaseAndTheExactNameWins)
     for (const char *name : {"OM.MDB", "om.Mdb"})
         EXPECT_EQ(FindFile(path(name)), path(name));
 }
-
-TEST_F(DatabaseFileTest, AnotherWayOfJournallingIsPutBack)
-{
-    asked("PRAGMA journal_mode = WAL; UPDATE CONFIG SET default_salt = 0");
-    open();
-    EXPECT_FALSE(db->OpenRecordset("SELECT * FROM CONFIG")["default_salt"].value().toBool());
-    EXPECT_EQ(asked("PRAGMA journal_mode"), "delete");
-    EXPECT_EQ(contentOf(folder.path()).size(), 1u);
-}
-
-} // namespace

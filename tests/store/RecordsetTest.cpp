@@ -1,8 +1,6 @@
 // Walking, adding, changing, deleting and finding rows, transactions, and what ends with the database.
 #include "StoreFixture.h"
 
-namespace {
-
 constexpr int noCurrentRecord = int(Failure::NoCurrentRecord);
 
 struct RecordsetTest : StoreTest
@@ -169,5 +167,3 @@ TEST_F(RecordsetTest, ATransactionIsAllOrNothing)
     open();
     EXPECT_EQ(count("CONFIG"), 1);
 }
-
-} // namespace

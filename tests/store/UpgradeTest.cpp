@@ -10,8 +10,6 @@
 #include "store/Version.h"
 #include "StoreFixture.h"
 
-namespace {
-
 const char *const layout = "SELECT group_concat(m.name || ' ' || c.name || ' ' || c.type) FROM sqlite_master m, "
                            "pragma_table_info(m.name) c WHERE m.type = 'table'";
 
@@ -161,5 +159,3 @@ TEST_F(UpgradeTest, AFaultAKillOrAPowerCutLeavesTheVersionAndTheNextTryComesThro
         std::printf("| upgrade from 1.0, %d entries in each log, %s | %d |\n", rows, name, plan.after / stride - 1);
     }
 }
-
-} // namespace

@@ -4,8 +4,6 @@
 
 #include "StoreFixture.h"
 
-namespace {
-
 using ValuesTest = StoreTest;
 
 TEST_F(ValuesTest, EveryTypeComesBackAsItWentIn)
@@ -97,5 +95,3 @@ TEST_F(ValuesTest, TheOrderThatAPersonSeesIsCaseBlindAndTotal)
     EXPECT_EQ(read.join('|'), order);
     EXPECT_EQ(db->OpenRecordset("SELECT * FROM TANKLST WHERE tankname = ?", {QString("reef")}).RecordCount(), 1);
 }
-
-} // namespace

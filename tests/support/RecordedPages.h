@@ -21,7 +21,6 @@ struct PrintedText
 struct PrintedPage
 {
     std::vector<PrintedText> texts;
-    std::vector<double> lines; ///< heights of the lines drawn
     std::vector<QRectF> pictures;
 
     /// The texts of one height, from left to right, between bars.
@@ -73,7 +72,7 @@ public:
     {
         page().texts.push_back({x, y, x + textWidth(font, text), y + pixels(font), font, text});
     }
-    void line(double, double y1, double, double) override { page().lines.push_back(y1); }
+    void line(double, double, double, double) override {}
     void picture(double x, double y, const QSizeF &size, const PagePicture &) override
     {
         page().pictures.push_back(QRectF(QPointF(x, y), size));

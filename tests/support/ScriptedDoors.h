@@ -1,6 +1,6 @@
 // The world as a script: answers in, a record of boxes, beeps and dialogs out. The clock stands where the test set it,
-// the random numbers come from a list, and the settings live in a temporary file. A box that nobody expected gets its
-// default answer and is in the record; takeBoxes() and takeText() look at it.
+// chance is a half, and the settings live in a temporary file. A box that nobody expected gets its default answer and
+// is in the record, which told() tells.
 #pragma once
 
 #include <deque>
@@ -34,10 +34,8 @@ public:
     std::deque<MsgBoxAnswer> answers;         ///< of the next boxes with a choice; else the default button's
     std::deque<std::optional<QString>> files; ///< of the next save dialogs; else cancelled
     std::deque<std::optional<PrintDialogAnswer>> printers;
-    std::deque<bool> endAnswers; ///< of the next failure boxes: true for End; else Return
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
     bool helpIsThere = true;
-    std::deque<double> randoms;                              ///< else 0.5
     std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< what happens while a box is on the screen
 
     // Out: what was shown since last taken.
@@ -51,15 +49,15 @@ public:
     int previews = 0;
     int beeps = 0;
 
-    std::vector<MsgBoxRequest> takeBoxes() { return std::exchange(boxes, {}); }
-    /// The text of the only box shown since last taken; what else was shown instead, as a sentence.
-    QString takeText()
+    /// What was told since last asked: how many beeps, and each box as title/flags/text.
+    QString told()
     {
-        const auto shown = takeBoxes();
-        QString sentence = QStringLiteral("%1 boxes:").arg(shown.size());
-        for (const auto &box : shown)
-            sentence += u" [" + box.text + u']';
-        return shown.size() == 1 ? shown.front().text : sentence;
+        QStringList all{QString::number(std::exchange(beeps, 0))};
+        for (const MsgBoxRequest &box : std::exchange(boxes, {}))
+            all << box.title + u'/' + QString::number(box.flags) + u'/' + box.text;
+        for (const RuntimeFailure &failure : std::exchange(failures, {}))
+            all << QStringLiteral("failure %1").arg(static_cast<int>(failure.number()));
+        return all.join(u'|');
     }
 
     MsgBoxAnswer msgBox(const MsgBoxRequest &request) override
@@ -72,7 +70,7 @@ public:
     bool failureBox(const RuntimeFailure &failure, bool mayReturn) override
     {
         failures.push_back(failure);
-        return takeNext(endAnswers, !mayReturn);
+        return !mayReturn;
     }
     void beep() override { ++beeps; }
     std::optional<QString> saveDialog(const SaveDialogRequest &request) override
@@ -102,7 +100,7 @@ public:
         return helpIsThere;
     }
     QDateTime now() override { return clock; }
-    double random() override { return takeNext(randoms, 0.5); }
+    double random() override { return 0.5; }
     SettingsStore &settings() override { return *m_settings; }
 
 private:

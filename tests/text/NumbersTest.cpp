@@ -7,8 +7,6 @@
 
 #include "support/ScriptedDoors.h"
 
-namespace {
-
 constexpr double largest = std::numeric_limits<double>::max();
 
 TEST(Numbers, WholeTextsAndTheirStarts)
@@ -75,5 +73,3 @@ TEST(Numbers, PlainTexts)
                                       {1.0 / 3, "0.333333333333333"}})
         EXPECT_EQ(PlainText(value), text);
 }
-
-} // namespace

@@ -2,8 +2,6 @@
 #include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"
 
-namespace {
-
 class Backup : public Desk
 {
 protected:
@@ -47,5 +45,3 @@ TEST_F(Backup, CopiesAsksRemembersTheNameAndTellsWhatFailed)
     EXPECT_TRUE(refused.startsWith("1|Database Backup/48/The database was not backed up.\n\nPermission denied."));
     EXPECT_TRUE(refused.contains(path("OM.MDB"))) << refused.toStdString();
 }
-
-} // namespace

@@ -168,7 +168,7 @@ TEST_F(Keys, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
         hand::press(Qt::Key_Escape);
     });
     hand::press(Qt::Key_T, Qt::ControlModifier);
-    EXPECT_EQ(keeper.doors.takeBoxes().size(), 3U) << "two questions, and that the tank is gone";
+    EXPECT_EQ(keeper.doors.boxes.size(), 3U) << "two questions, and that the tank is gone";
 }
 
 class Memory : public Desk

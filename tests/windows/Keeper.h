@@ -82,16 +82,7 @@ public:
     int count(const QString &what) { return stored("count(*) AS x FROM " + what).toInt(); }
     QString setting(const QString &key) { return GetSetting(key, QStringLiteral("(none)")); }
 
-    /// What the keeper was told since last asked: how many beeps, and each box as title/flags/text.
-    QString told()
-    {
-        QStringList all{QString::number(std::exchange(doors.beeps, 0))};
-        for (const MsgBoxRequest &box : doors.takeBoxes())
-            all << box.title + u'/' + QString::number(box.flags) + u'/' + box.text;
-        for (const RuntimeFailure &failure : std::exchange(doors.failures, {}))
-            all << QStringLiteral("failure %1").arg(static_cast<int>(failure.number()));
-        return all.join(u'|');
-    }
+    QString told() { return doors.told(); }
 
     /// What the keeper does once the modal window F, which comes next, is in front.
     template <class F> static void inNext(std::function<void(F &)> action)

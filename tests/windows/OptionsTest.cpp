@@ -1,4 +1,4 @@
-#include "Keeper.h"
+#include "Hands.h"
 #include "shell/frm_OMKOptions.h"
 
 constexpr const char *optionKeys[] = {"Graph_Checks", "Graph_Style", "Graph_SkipZeroes", "GraphPrintColor",
@@ -36,12 +36,6 @@ protected:
         keeper.inNext(action);
         Form<frm_OMKOptions>().ShowOptions(2);
     }
-    static void retype(QLineEdit &box, const QString &text)
-    {
-        box.setFocus();
-        box.selectAll();
-        QTest::keyClicks(&box, text);
-    }
     /// Changes everything that the dialog has.
     static void changeEverything(frm_OMKOptions &w)
     {
@@ -49,8 +43,8 @@ protected:
         click(*w.opt_Fresh);
         click(*w.opt_Dateform_ddmmyy);
         w.cbo_Delimiter->setCurrentText(".");
-        retype(*w.txt_username1, "Fe & \"Mn\"");
-        retype(*w.txt_username2, "keeper's");
+        hand::type(*w.txt_username1, "Fe & \"Mn\"");
+        hand::type(*w.txt_username2, "keeper's");
         w.SSTab1->setCurrentIndex(1);
         w.cbo_GraphType->setCurrentText("2D XY");
         for (QWidget *button :
@@ -125,7 +119,7 @@ TEST_F(Options, OkStoresEverythingForGoodAndAFailureLeavesTheDialogWithWhatWasEn
     keeper.restart(); // Enter in a name stores too, and all the others again as they were
     inDialog([](frm_OMKOptions &w) {
         w.SSTab1->setCurrentIndex(0);
-        retype(*w.txt_username2, "Silicate");
+        hand::type(*w.txt_username2, "Silicate");
         QTest::keyClick(w.txt_username2, Qt::Key_Return);
     });
     EXPECT_EQ(stored() + inForce(), after + "Silicate" + changed);
