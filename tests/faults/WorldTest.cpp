@@ -2,7 +2,7 @@
 // or written. Each entry is refused with a word about it, whole, and can be saved as typed once the world is mended.
 #include "Play.h"
 #include "store/FaultVfs.h"
-#include "support/TestFiles.h"
+#include "store/StoreFixture.h"
 
 struct World : testing::Test
 {
@@ -77,17 +77,8 @@ TEST_F(World, AFullOrBrokenDisk)
 
 TEST_F(World, AnotherProgramHoldsTheFile)
 {
-    std::unique_ptr<Database> other;
-    std::unique_ptr<Database::Transaction> holding;
-    playAll(
-        [&] {
-            other = Database::OpenDatabase(keeper.databaseFile());
-            holding = std::make_unique<Database::Transaction>(*other);
-        },
-        [&] {
-            holding.reset();
-            other.reset();
-        });
+    OtherProgram other(keeper.databaseFile());
+    playAll([&] { EXPECT_EQ(other.run("BEGIN IMMEDIATE"), ""); }, [&] { other.run("ROLLBACK"); });
 }
 
 TEST_F(World, TheFileIsGone)

@@ -105,9 +105,6 @@ void Year::buy(const QString &tank, const QString &name)
     go(tank, LivestockTab);
     give<frm_LivesAddEdit>("addentries", 0, [&](frm_LivesAddEdit &w) {
         hand::type(*w.lst_AnimalList, name);
-        hand::type(*w.txt_quantity, "a few");
-        mouse::click(w.cmd_OK);
-        EXPECT_TRUE(keeper.told().endsWith("Quantity entries must be a number."));
         hand::type(*w.txt_quantity, "3");
         mouse::click(w.cmd_OK);
     });

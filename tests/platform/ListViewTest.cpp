@@ -94,14 +94,6 @@ TEST_F(ListViewTest, TheMenuKeyAsksForTheMenuAtItsRowAndAHeadingTellsItsOwnNumbe
     EXPECT_EQ(header->sortIndicatorSection(), 0) << "the window decides what is sorted";
 }
 
-TEST_F(ListViewTest, KeysAreUniqueAndExact)
-{
-    for (const char *key : {"a", "A", "", ""})
-        m_list.Add(QLatin1String(key), {"row"});
-    EXPECT_THROW(m_list.Add(QStringLiteral("a"), {"row"}), RuntimeFailure);
-    EXPECT_EQ(m_list.Count(), 4);
-}
-
 TEST_F(ListViewTest, ReadsOnlyTheRowsThatItShows)
 {
     const auto rows = std::make_shared<FishRows>(std::vector<QStringList>(100000, QStringList{"a name", "1"}));

@@ -13,26 +13,16 @@ protected:
     /// Opens the wizard and takes the steps, each when the window is in front again; then it must be closed.
     void play(const std::vector<Step> &steps, const std::function<void()> &open)
     {
-        size_t next = 0;
-        QTimer watch;
-        QObject::connect(&watch, &QTimer::timeout, [&] {
-            auto *window = Forms::current().loaded<frm_DiagnosisQA>();
-            if (!window || !window->isVisible())
-                return;
-            watch.stop();
-            EXPECT_TRUE(isInFront(*window));
-            EXPECT_FALSE(window->cmd_Back->isEnabled() || main->mnu_FilePrint->isEnabled());
-            if (next < steps.size()) {
-                steps[next++](*window);
-            } else {
-                ADD_FAILURE() << "the wizard is still open";
-                Unload(*window);
-            }
-            watch.start(0);
-        });
-        watch.start(0);
+        const std::function<void(size_t)> expect = [&](size_t next) {
+            keeper.inNext<frm_DiagnosisQA>([&, next](frm_DiagnosisQA &w) {
+                EXPECT_FALSE(w.cmd_Back->isEnabled() || main->mnu_FilePrint->isEnabled());
+                steps[next](w);
+                if (next + 1 < steps.size())
+                    expect(next + 1);
+            });
+        };
+        expect(0);
         open();
-        EXPECT_EQ(next, steps.size()) << "the wizard went too early";
         EXPECT_TRUE(main->WizardCancelled && !Forms::current().loaded<frm_DiagnosisQA>());
     }
     /// Opened by its shortcut: the disclaimer, an answer a page (digits), and then these steps.

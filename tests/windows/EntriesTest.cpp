@@ -107,10 +107,8 @@ protected:
     /// Rows at half past nine, with the day of the month in the first column.
     void insert(const char *id, const QStringList &dates)
     {
-        const QString columns = QStringList{tankColumn, dateColumn, timeColumn, firstColumn()}.join(',');
         for (const QString &date : dates)
-            execute(QString("INSERT INTO %1 (%2) VALUES ('%3', '%4', '09:30:00', '%5')")
-                        .arg(table, columns, id, date, date.right(2)));
+            addEntry(log.tab, id, date + " 09:30:00", qPrintable(firstColumn()), date.right(2));
         hand::clickTank(*logbook, keeper.g().gTankName);
     }
     QString firstColumn() const { return QString(log.columns).section(' ', 0, 0); }

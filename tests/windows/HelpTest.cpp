@@ -1,6 +1,3 @@
-#include <QHelpEngineCore>
-#include <QHelpLink>
-
 #include "Desk.h"
 #include "logbook/frm_WaterAddEdit.h"
 #include "platform/HelpViewer.h"
@@ -8,35 +5,7 @@
 namespace {
 
 const QString helpFile = OMK_HELP_FILE;
-const QString sources = OMK_SOURCE_DIR;
 using At = HelpRequest::At;
-
-QStringList filesOf(const QString &folder, const QString &pattern)
-{
-    QStringList found;
-    for (QDirIterator it(folder, {pattern}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
-        found << it.next();
-    return found;
-}
-
-TEST(HelpBook, HasAPageForEveryWindowAndNoLinkToAPageThatIsNotThere)
-{
-    const QTemporaryDir folder;
-    QHelpEngineCore book(folder.filePath("test.qhc"));
-    book.setReadOnly(false);
-    ASSERT_TRUE(book.setupData() && book.registerDocumentation(helpFile));
-    const QStringList headers = filesOf(sources + "/src", "frm_*.h");
-    ASSERT_GE(headers.size(), 26);
-    for (const QString &header : headers)
-        EXPECT_EQ(book.documentsForIdentifier(QFileInfo(header).baseName()).size(), 1) << header.toStdString();
-    const QRegularExpression link("(href|src)=\"([^\"#]+)[\"#]");
-    for (const QUrl &page : book.files("ostrelmark.help", QString(), "html"))
-        for (auto it = link.globalMatch(book.fileData(page)); it.hasNext();) {
-            const QString target = it.next().captured(2);
-            EXPECT_FALSE(book.fileData(page.resolved(target)).isEmpty())
-                << page.fileName().toStdString() << " -> " << target.toStdString();
-        }
-}
 
 using Help = Desk;
 
@@ -76,7 +45,7 @@ QString sourceOf(HelpViewer &viewer)
 TEST(HelpViewer, CanBeUsedOverADialogAndFindsWords)
 {
     const QString folder = QFileInfo(helpFile).path();
-    const QStringList before = filesOf(folder, "*");
+    const QStringList before = QDir(folder).entryList();
     HelpViewer viewer(helpFile);
     QDialog first;
     first.setModal(true);
@@ -106,8 +75,8 @@ TEST(HelpViewer, CanBeUsedOverADialogAndFindsWords)
     EXPECT_TRUE(QTest::qWaitFor([&viewer] { return viewer.hits() >= 2; })) << viewer.hits();
     hand::press(Qt::Key_Escape);
     EXPECT_FALSE(viewer.isVisible());
-    EXPECT_EQ(filesOf(folder, "*"), before); // where it is installed it cannot write
-    EXPECT_THROW(HelpViewer(sources + "/data/tips.txt"), RuntimeFailure);
+    EXPECT_EQ(QDir(folder).entryList(), before); // where it is installed it cannot write
+    EXPECT_THROW(HelpViewer(folder + "/NAMESSW.TXT"), RuntimeFailure);
 }
 
 } // namespace

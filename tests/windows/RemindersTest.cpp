@@ -6,15 +6,11 @@
 #include "reminders/frm_SchedNewAddEdit.h"
 #include "reminders/frm_Schedule.h"
 
-namespace {
-
-using Compose = std::function<void(frm_SchedNewAddEdit &)>;
-
-} // namespace
-
 class Reminders : public Desk
 {
 protected:
+    using Compose = std::function<void(frm_SchedNewAddEdit &)>;
+
     void openList()
     {
         hand::press(Qt::Key_E, Qt::ControlModifier);
