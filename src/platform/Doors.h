@@ -1,6 +1,7 @@
 // The doors through which the program meets the world: boxes, beeps, file and print dialogs, the help, the clock,
-// random numbers and the settings. Everything outside goes through here and nowhere else, so that a test can put a script in the place
-// of the world. The desktop's own doors are in DesktopDoors.h; those of the tests in tests/support/ScriptedDoors.h.
+// random numbers and the settings. Everything outside goes through here and nowhere else, so that a test can put a
+// script in the place of the world. The desktop's own doors are in DesktopDoors.h; those of the tests in
+// tests/support/ScriptedDoors.h.
 #pragma once
 
 #include <functional>

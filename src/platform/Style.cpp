@@ -1,5 +1,6 @@
 #include "platform/Style.h"
 
+#include <QMainWindow>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -23,7 +24,30 @@ void outline(QPainter &painter, const QRect &place, bool round, const QColor &co
     painter.restore();
 }
 
+/// As Fusion has it: lighter above, and two lines below.
+void fillToolBar(QPainter &painter, const QRect &place, const QColor &window)
+{
+    QLinearGradient light(place.topLeft(), place.bottomLeft());
+    light.setColorAt(0, window.lighter(104));
+    light.setColorAt(1, window);
+    painter.fillRect(place, light);
+    painter.fillRect(place.left(), place.bottom() - 1, place.width(), 1, QColor(255, 255, 255, 90));
+    painter.fillRect(place.left(), place.bottom(), place.width(), 1, QColor(0, 0, 0, 60));
+}
+
 } // namespace
+
+void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                        const QWidget *widget) const
+{
+    const auto *bar = qstyleoption_cast<const QStyleOptionToolBar *>(option);
+    const bool isTop = element == CE_ToolBar && bar && bar->toolBarArea == Qt::TopToolBarArea && widget &&
+                       qobject_cast<const QMainWindow *>(widget->parentWidget());
+    if (isTop && baseStyle()->name() == u"fusion")
+        fillToolBar(*painter, option->rect, option->palette.window().color());
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                           const QWidget *widget) const

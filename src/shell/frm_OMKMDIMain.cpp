@@ -15,6 +15,7 @@
 #include <QToolBar>
 
 #include "platform/Doors.h"
+#include "platform/Fonts.h"
 #include "platform/Guarded.h"
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
@@ -82,7 +83,6 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
     setWindowIcon(Icon("ostrelmark"));
     makeMenus(*this, *menuBar());
     makeToolbar();
-    makeStatusBar();
 
     m_area->setObjectName(QStringLiteral("mdiArea"));
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -123,6 +123,7 @@ void frm_OMKMDIMain::makeToolbar()
         auto *button =
             AddToolButton(*Toolbar1, QLatin1String(row.key), QLatin1String(row.toolTip), row.image, std::move(action));
         m_buttons.emplace(QLatin1String(row.key), button);
+        button->icon().pixmap(Toolbar1->iconSize(), devicePixelRatio()); // drawn while the fonts are still being read
     }
 
     auto *space = new QWidget;
@@ -159,6 +160,8 @@ void frm_OMKMDIMain::MDIForm_Load()
     CheckDatabaseVersion();
     ReadOptions(g);
     g.gGraphPageSize = 20;
+    AwaitFonts();
+    makeStatusBar();
     QApplication::processEvents();
     Top20List();
     show();

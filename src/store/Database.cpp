@@ -1,11 +1,12 @@
 #include "store/Database.h"
-#include "platform/Files.h"
+
+#include <algorithm>
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <sqlite3.h>
 
+#include "platform/Files.h"
 #include "platform/RuntimeFailure.h"
 #include "store/Connection.h"
 #include "store/DatabaseFile.h"
@@ -43,8 +44,7 @@ QString declarationOf(const FieldDef &field)
 
 FieldDef fieldOf(const QString &name, const QString &declaration)
 {
-    static const QRegularExpression sizePattern(QStringLiteral("\\(\\s*(\\d+)"));
-    const int size = sizePattern.match(declaration).captured(1).toInt();
+    const int size = declaration.section(u'(', 1).section(u')', 0, 0).trimmed().toInt();
     switch (kindOfDeclaration(declaration.toStdString())) {
     case ColumnKind::Boolean: return {name, FieldType::Boolean, 0};
     case ColumnKind::Integer: return {name, FieldType::Integer, 0};
@@ -62,23 +62,42 @@ struct WritableQuery
     QString sql;
 };
 
+/// Words, quoted parts as they stand, and single characters.
+std::vector<QStringView> partsOf(const QString &sql)
+{
+    std::vector<QStringView> parts;
+    for (qsizetype at = 0, end = 0; at < sql.size(); at = end) {
+        const QChar first = sql[at], close = first == u'[' ? u']' : first;
+        end = at + 1;
+        if (first == u'\'' || first == u'"' || first == u'[')
+            end = sql.indexOf(close, end) < 0 ? sql.size() : sql.indexOf(close, end) + 1;
+        else if (first.isLetterOrNumber() || first == u'_')
+            while (end < sql.size() && (sql[end].isLetterOrNumber() || sql[end] == u'_'))
+                ++end;
+        if (!first.isSpace())
+            parts.push_back(QStringView(sql).mid(at, end - at));
+    }
+    return parts;
+}
+
 /// Nothing where the statement is not "SELECT * FROM table" with a condition or an order at most.
 std::optional<WritableQuery> writableQuery(const QString &sql)
 {
-    constexpr auto ignoreCase = QRegularExpression::CaseInsensitiveOption;
-    static const QRegularExpression whole(
-        QStringLiteral(
-            "^\\s*SELECT\\s+(\\*)\\s+FROM\\s+(?:\\[(\\w+)\\]|\"(\\w+)\"|(\\w+))\\s*(?:$|;|(?:WHERE|ORDER|LIMIT)\\b)"),
-        ignoreCase);
-    static const QRegularExpression quotedParts(QStringLiteral("'[^']*'|\"[^\"]*\"|\\[[^\\]]*\\]"));
-    static const QRegularExpression compound(QStringLiteral("\\b(?:UNION|INTERSECT|EXCEPT|GROUP)\\b"), ignoreCase);
-    const auto match = whole.match(sql);
-    if (!match.hasMatch() || QString(sql).remove(quotedParts).contains(compound))
+    const auto isOneOf = [](QStringView part, std::initializer_list<const char *> words) {
+        return std::ranges::any_of(
+            words, [&](const char *w) { return part.compare(QLatin1String(w), Qt::CaseInsensitive) == 0; });
+    };
+    const auto parts = partsOf(sql);
+    if (parts.size() < 4 || !isOneOf(parts[0], {"SELECT"}) || parts[1] != u"*" || !isOneOf(parts[2], {"FROM"}) ||
+        (parts.size() > 4 && !isOneOf(parts[4], {";", "WHERE", "ORDER", "LIMIT"})) ||
+        std::ranges::any_of(parts, [&](QStringView p) {
+            return isOneOf(p, {"UNION", "INTERSECT", "EXCEPT", "GROUP"});
+        }))
         return std::nullopt;
-    const QString table = match.captured(2) + match.captured(3) + match.captured(4);
+    const bool quoted = parts[3][0] == u'[' || parts[3][0] == u'"';
     QString withRowid = sql;
-    withRowid.insert(match.capturedEnd(1), QStringLiteral(", rowid"));
-    return WritableQuery{table, withRowid};
+    withRowid.insert(parts[1].end() - sql.cbegin(), QStringLiteral(", rowid"));
+    return WritableQuery{(quoted ? parts[3].mid(1, parts[3].size() - 2) : parts[3]).toString(), withRowid};
 }
 
 void requireQuery(const Statement &statement, const QString &sql)
