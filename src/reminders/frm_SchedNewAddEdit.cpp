@@ -81,6 +81,7 @@ void frm_SchedNewAddEdit::connectControls()
                                       {ud_month3, txt_MonthlyNumofMonths2},
                                       {ud_Yearly, txt_YearlyDay}}) {
         upDown->setBoundBox(box);
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance(u'0') * 6); // of 16 bits, in any font
         on(box, &QLineEdit::textChanged, this, &Editor::UpdateEnglishDescription);
     }
     on(txt_OnceDate, &QLineEdit::textChanged, this, &Editor::UpdateEnglishDescription);

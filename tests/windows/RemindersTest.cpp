@@ -51,10 +51,10 @@ protected:
 TEST_F(Reminders, OfEachPatternAreStoredShownOnTheToolbarAndUnchangedByASecondSaveInAnotherOrder)
 {
     const std::tuple<const char *, const char *, Compose> patterns[] = {
-        {"2|1|0|0101000|Every 2 week(s) on Mon, Wed.", "Mon 16.03.26",
+        {"200|1|0|0101000|Every 200 week(s) on Mon, Wed.", "Mon 16.03.26",
          [](frm_SchedNewAddEdit &w) {
              click(*w.opt_Weekly);
-             hand::type(*w.txt_WeeklyWeeks, "2");
+             hand::type(*w.txt_WeeklyWeeks, "200");
              click(*w.chk_WeeklyDay[1]);
              click(*w.chk_WeeklyDay[3]);
          }},
