@@ -197,6 +197,8 @@ TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
     EXPECT_EQ(hand::column(dates, 0) + ": " + hand::column(dates, 1), "Sunday 03/08/26 Sunday 03/08/26: Feed Dose");
     generate("123129", "123129");
     EXPECT_EQ(hand::column(dates, 1), "Feed");
+    generate("123125", "123125");
+    EXPECT_EQ(keeper.told(), "0|/0/No reminder has a date within this range.");
     click(*schedule.opt_2years);
     mouse::click(schedule.cmd_Generate);
     EXPECT_EQ(dates.Text(1) + ' ' + dates.Text(dates.Count()), "Saturday 03/14/26 Tuesday 03/14/28"); // to the day
