@@ -110,6 +110,8 @@ void frm_SchedNewAddEdit::Form_Load()
     FilltheStupidListBoxes();
     for (QRadioButton *first : {opt_DailyEveryXDays, opt_MonthlyXdayofEveryMonth, opt_YearlyEvery, opt_Daily})
         first->setChecked(true);
+    for (const VariantRow &row : variantRows)
+        opt_Variant_Click(row); // also of those that have been off from the start
     for (MaskedBox *box : {txt_StartDate, txt_endDate, txt_OnceDate})
         UseDateOrder(*box, g.options);
 }

@@ -60,8 +60,11 @@ TEST_F(Reminders, OfEachPatternAreStoredShownOnTheToolbarAndUnchangedByASecondSa
          }},
         {"1|2|1|46|The Last Saturday of every 1 month(s).", "Sat 28.03.26",
          [](frm_SchedNewAddEdit &w) {
-             click(*w.opt_Monthly);
-             click(*w.Opt_MonthlyXWeekdayofEveryMonth);
+             mouse::click(w.opt_Weekly);
+             hand::press(Qt::Key_Down); // from here on by keys alone
+             EXPECT_TRUE(w.txt_MonthlyDay->isEnabled() && !w.cbo_MonthlyXth->isEnabled());
+             hand::press(Qt::Key_Tab);
+             hand::press(Qt::Key_Down);
              w.cbo_MonthlyXth->setFocus();
              hand::press(Qt::Key_End); // "Last"; today's weekday is set already
          }},
