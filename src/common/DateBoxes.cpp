@@ -8,6 +8,7 @@ void UseDateOrder(MaskedBox &box, const OptionsMembers &options)
 {
     const QString &delimiter = options.DateDelimiter;
     box.setMask(u"##" + delimiter + u"##" + delimiter + u"##");
+    box.setFixedWidth(box.fontMetrics().horizontalAdvance(u'0') * 12);
 }
 
 QDate AskCalendar(Globals &globals, const QString &monthFirst)

@@ -7,7 +7,7 @@ class MaskedBox;
 struct Globals;
 struct OptionsMembers;
 
-/// Empties the box and gives it the user's delimiter between the digits.
+/// Empties the box, gives it the user's delimiter between the digits, and makes it as wide as a date is in its font.
 void UseDateOrder(MaskedBox &box, const OptionsMembers &options);
 
 /// Shows the calendar on that month-first text, on today where it is no date. Gives the day that was chosen; where none

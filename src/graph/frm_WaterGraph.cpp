@@ -118,18 +118,26 @@ void frm_WaterGraph::Form_Load()
 {
     const QScopedValueRollback<bool> loading(m_loading, true);
     Form<frm_OMKMDIMain>().mnu_FilePrint->Enabled(true);
-    fillTankList();
+    Follow_Tanks();
     Chart1->setChartType(g.options.GraphStyle);
     cmd_Previous->setEnabled(false);
     m_paging.restart();
 }
 
-void frm_WaterGraph::fillTankList()
+/// As it is wherever the tanks are as they were: a pick in the list that is open is not lost.
+void frm_WaterGraph::Follow_Tanks()
 {
-    tanklistbox->clear();
+    QStringList shown, present;
+    for (int line = 0; line < tanklistbox->count(); ++line)
+        shown << tanklistbox->itemText(line);
     for (Recordset tanks = g.gDatabase->OpenRecordset(tanksByName); !tanks.EOF_(); tanks.MoveNext())
-        tanklistbox->addItem(tanks[QStringLiteral("tankname")].text());
-    tanklistbox->setCurrentIndex(-1);
+        present << tanks[QStringLiteral("tankname")].text();
+    if (shown == present)
+        return;
+    const QString selected = tanklistbox->currentText();
+    tanklistbox->clear();
+    tanklistbox->addItems(present);
+    tanklistbox->setCurrentIndex(int(present.indexOf(selected)));
 }
 
 void frm_WaterGraph::Form_Activate()
@@ -144,6 +152,7 @@ void frm_WaterGraph::GraphChart()
     if (m_loading)
         return;
     const Forms::Pin whileBoxesAreUp(*this);
+    Follow_Tanks();
     if (tanklistbox->count() == 0) {
         MsgBox(noTanksText, vbExclamation, noTanksTitle);
         return;
@@ -187,8 +196,6 @@ bool frm_WaterGraph::tankIsThere()
 
 bool frm_WaterGraph::selectTankInHand()
 {
-    if (tanklistbox->findText(m_currentTank, Qt::MatchFixedString | Qt::MatchCaseSensitive) < 0)
-        fillTankList(); // it was set up since
     const int line = tanklistbox->findText(m_currentTank, Qt::MatchFixedString | Qt::MatchCaseSensitive);
     if (line >= 0)
         selectLine(line);

@@ -23,6 +23,8 @@ public:
     /// Draws the tank in hand, its page and the options as they are now. Where that makes no graph, a box says why and
     /// the chart stays as it stands.
     void GraphChart();
+    /// Offers the tanks that there are now; the one selected stays so.
+    void Follow_Tanks();
     /// Prints the chart on a landscape page, once for each copy; each time the clipboard gets its picture too.
     void PrintGraph();
 
@@ -40,7 +42,6 @@ protected:
 
 private:
     void arrange();
-    void fillTankList();
     bool tankIsThere();
     bool selectTankInHand();
     void selectLine(int index);

@@ -25,7 +25,6 @@ MaskedBox *EntryForm::makeDateBox(const char *name, const char *toolTip)
     box->setObjectName(QLatin1String(name));
     box->setMask(QStringLiteral("##/##/##"));
     box->setToolTip(QLatin1String(toolTip));
-    box->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * 12);
     return box;
 }
 

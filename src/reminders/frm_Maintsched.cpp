@@ -64,14 +64,12 @@ void frm_Maintsched::FillTaskList()
     lstv_MaintSched->Clear();
     const auto rules = LoadReminders(g);
     cmd_ViewSchedule->setEnabled(!rules.empty());
-    if (!rules.empty()) { // in an empty table the other two stand as they were
-        for (const RecurrenceRule &rule : rules)
-            lstv_MaintSched->Add({}, {rule.TaskDescription, rule.EnglishDescription,
-                                      Format(rule.StartDate, g.options.DatePicture),
-                                      Format(rule.EndDate, g.options.DatePicture)});
-        cmd_update_task->setEnabled(false);
-        cmd_DeleteTask->setEnabled(false);
-    }
+    for (const RecurrenceRule &rule : rules)
+        lstv_MaintSched->Add({}, {rule.TaskDescription, rule.EnglishDescription,
+                                  Format(rule.StartDate, g.options.DatePicture),
+                                  Format(rule.EndDate, g.options.DatePicture)});
+    cmd_update_task->setEnabled(false);
+    cmd_DeleteTask->setEnabled(false);
     Form<frm_OMKMDIMain>().Top20List();
 }
 

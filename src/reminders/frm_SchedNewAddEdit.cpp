@@ -81,6 +81,7 @@ void frm_SchedNewAddEdit::connectControls()
                                       {ud_month3, txt_MonthlyNumofMonths2},
                                       {ud_Yearly, txt_YearlyDay}}) {
         upDown->setBoundBox(box);
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance(u'0') * 6); // of 16 bits, in any font
         on(box, &QLineEdit::textChanged, this, &Editor::UpdateEnglishDescription);
     }
     on(txt_OnceDate, &QLineEdit::textChanged, this, &Editor::UpdateEnglishDescription);
@@ -109,6 +110,8 @@ void frm_SchedNewAddEdit::Form_Load()
     FilltheStupidListBoxes();
     for (QRadioButton *first : {opt_DailyEveryXDays, opt_MonthlyXdayofEveryMonth, opt_YearlyEvery, opt_Daily})
         first->setChecked(true);
+    for (const VariantRow &row : variantRows)
+        opt_Variant_Click(row); // also of those that have been off from the start
     for (MaskedBox *box : {txt_StartDate, txt_endDate, txt_OnceDate})
         UseDateOrder(*box, g.options);
 }

@@ -143,10 +143,12 @@ void frm_Schedule::generate(const std::vector<RecurrenceRule> &rules, const std:
         lstv_Reminders->setSource(rows);
         if (rows->count() > 0)
             lstv_Reminders->Select(1);
-        cmd_Print->setEnabled(true);
+        cmd_Print->setEnabled(rows->count() > 0);
     }
     if (undated.tell(g))
         Form<frm_OMKMDIMain>().RefillReminders();
+    if (rows->count() == 0)
+        MsgBox(QStringLiteral("No reminder has a date within this range."));
 }
 
 void frm_Schedule::Print_Schedule()

@@ -164,6 +164,8 @@ void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
     CheckTanks();
     if (auto *logbook = visibleLogbook())
         logbook->Follow_Tanks(); // an entry for a tank that is gone would be lost to sight
+    if (auto *graph = Forms::current().loaded<frm_WaterGraph>())
+        graph->Follow_Tanks();
 }
 
 void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>()); }

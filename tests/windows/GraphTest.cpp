@@ -145,6 +145,10 @@ TEST_F(Graph, BothWaysIntoItDrawTheTankInHand)
     keeper.told();
     hand::press(Qt::Key_G, Qt::ControlModifier);
     EXPECT_TRUE(keeper.told().contains("/You have no tanks"));
+    keeper.addTank("Nano", "n1");
+    hand::openLogbook(*main);
+    hand::press(Qt::Key_G, Qt::ControlModifier);
+    EXPECT_EQ(graph().tanklistbox->currentText(), "Nano") << "set up since";
 }
 
 TEST_F(Graph, PrintsALandscapePageForEachCopy)

@@ -45,17 +45,20 @@ protected:
 TEST_F(Reminders, OfEachPatternAreStoredShownOnTheToolbarAndUnchangedByASecondSaveInAnotherOrder)
 {
     const std::tuple<const char *, const char *, Compose> patterns[] = {
-        {"2|1|0|0101000|Every 2 week(s) on Mon, Wed.", "Mon 16.03.26",
+        {"200|1|0|0101000|Every 200 week(s) on Mon, Wed.", "Mon 16.03.26",
          [](frm_SchedNewAddEdit &w) {
              click(*w.opt_Weekly);
-             hand::type(*w.txt_WeeklyWeeks, "2");
+             hand::type(*w.txt_WeeklyWeeks, "200");
              click(*w.chk_WeeklyDay[1]);
              click(*w.chk_WeeklyDay[3]);
          }},
         {"1|2|1|46|The Last Saturday of every 1 month(s).", "Sat 28.03.26",
          [](frm_SchedNewAddEdit &w) {
-             click(*w.opt_Monthly);
-             click(*w.Opt_MonthlyXWeekdayofEveryMonth);
+             mouse::click(w.opt_Weekly);
+             hand::press(Qt::Key_Down); // from here on by keys alone
+             EXPECT_TRUE(w.txt_MonthlyDay->isEnabled() && !w.cbo_MonthlyXth->isEnabled());
+             hand::press(Qt::Key_Tab);
+             hand::press(Qt::Key_Down);
              w.cbo_MonthlyXth->setFocus();
              hand::press(Qt::Key_End); // "Last"; today's weekday is set already
          }},
@@ -191,6 +194,8 @@ TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
     EXPECT_EQ(hand::column(dates, 0) + ": " + hand::column(dates, 1), "Sunday 03/08/26 Sunday 03/08/26: Feed Dose");
     generate("123129", "123129");
     EXPECT_EQ(hand::column(dates, 1), "Feed");
+    generate("123125", "123125");
+    EXPECT_EQ(keeper.told(), "0|/0/No reminder has a date within this range.");
     click(*schedule.opt_2years);
     mouse::click(schedule.cmd_Generate);
     EXPECT_EQ(dates.Text(1) + ' ' + dates.Text(dates.Count()), "Saturday 03/14/26 Tuesday 03/14/28"); // to the day

@@ -199,7 +199,7 @@ void Chart::keyPressEvent(QKeyEvent *event)
 {
     const bool across = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
     const bool along = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
-    if (!ChartKindOf(m_type).depth || !event->modifiers().testFlag(Qt::ControlModifier) || (!across && !along)) {
+    if (!ChartKindOf(m_type).depth || (!across && !along)) {
         QWidget::keyPressEvent(event);
         return;
     }
