@@ -8,16 +8,13 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPointer>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QPrintPreviewDialog>
 #include <QPushButton>
 #include <QRandomGenerator>
 
 #include "platform/Files.h"
 #include "platform/Guarded.h"
 #include "platform/HelpViewer.h"
+#include "platform/late/LateParts.h"
 #include "platform/PaintedPages.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"
@@ -164,44 +161,21 @@ std::optional<QString> DesktopDoors::saveDialog(const SaveDialogRequest &request
 std::optional<PrintDialogAnswer> DesktopDoors::printDialog(const PrintDialogRequest &request)
 {
     const ActivityKeeper keeper;
-    PrintDialogAnswer answer;
-    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-        const auto name = askPdfName(keeper.window(), request);
-        if (!name)
-            return {};
-        answer.pdfFileName = *name;
-        return answer;
-    }
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(request.documentName);
-    printer.setPageOrientation(request.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    QPrintDialog dialog(&printer, keeper.window());
-    dialog.setWindowTitle(request.title);
-    dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    answer.copies = qMax(1, printer.copyCount());
-    answer.fromPage = printer.fromPage();
-    answer.toPage = printer.toPage();
-    answer.printerName = printer.printerName();
-    return answer;
+    if (Late().hasPrinters())
+        return Late().askPrinter(keeper.window(), request);
+    const auto name = askPdfName(keeper.window(), request);
+    return name ? std::optional(PrintDialogAnswer{1, 0, 0, {}, *name}) : std::nullopt;
 }
 
 std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
 {
-    return target.pdfFileName.isEmpty() ? PagesOnPrinter(target.printerName) : PagesInPdf(target.pdfFileName);
+    return target.pdfFileName.isEmpty() ? Late().pagesOnPrinter(target.printerName) : PagesInPdf(target.pdfFileName);
 }
 
 void DesktopDoors::preview(const PreviewRequest &request)
 {
     const ActivityKeeper keeper;
-    QPrinter printer(QPrinter::HighResolution);
-    QPrintPreviewDialog dialog(&printer, keeper.window());
-    dialog.setWindowTitle(request.title);
-    dialog.resize(900, 700);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     guarded([&request](QPrinter *pages) { request.print(*PagesOnPrinter(*pages)); }));
-    dialog.exec();
+    Late().preview(keeper.window(), {request.title, guarded([&request](PageSink &pages) { request.print(pages); })});
 }
 
 bool DesktopDoors::showHelp(const HelpRequest &request)

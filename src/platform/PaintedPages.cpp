@@ -1,10 +1,7 @@
 #include "platform/PaintedPages.h"
 
-#include <QFontMetricsF>
 #include <QLocale>
-#include <QPainter>
 #include <QPdfWriter>
-#include <QPrinter>
 #include <QSaveFile>
 
 #include "platform/RuntimeFailure.h"
@@ -22,90 +19,6 @@ QFont fontOf(const PageFont &font)
     made.setUnderline(font.underline);
     return made;
 }
-
-/// What a printer and a PDF have in common.
-class PaintedPages : public PageSink
-{
-public:
-    void setLandscape(bool landscape) override
-    {
-        if (m_ended)
-            return; // a preview asks the device how its pages lie when all are painted
-        device().setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    }
-    double width() const override { return device().width(); }
-    double height() const override { return device().height(); }
-    double textWidth(const PageFont &font, const QString &text) const override
-    {
-        return metrics(font).horizontalAdvance(text);
-    }
-    double lineHeight(const PageFont &font) const override { return metrics(font).lineSpacing(); }
-
-    void beginDocument(const QString &title) override
-    {
-        setTitle(title);
-        if (!m_painter.begin(&device()))
-            throw RuntimeFailure(Failure::DeviceError, QStringLiteral("\"%1\" could not be printed.").arg(title));
-    }
-    void newPage() override
-    {
-        if (!device().newPage())
-            throw RuntimeFailure(Failure::DeviceError, QStringLiteral("The printer took no further page."));
-    }
-    void endDocument() override
-    {
-        m_painter.end();
-        m_ended = true;
-    }
-    void text(double x, double y, const PageFont &font, const QString &text) override
-    {
-        m_painter.setFont(fontOf(font));
-        m_painter.drawText(QPointF(x, y + metrics(font).ascent()), text);
-    }
-    void line(double x1, double y1, double x2, double y2) override
-    {
-        m_painter.setPen(QPen(Qt::black, device().logicalDpiX() / 96.0));
-        m_painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
-    }
-    void picture(double x, double y, const QSizeF &size, const PagePicture &paint) override
-    {
-        m_painter.save();
-        m_painter.translate(x, y);
-        paint(m_painter, size);
-        m_painter.restore();
-    }
-
-protected:
-    virtual QPagedPaintDevice &device() const = 0;
-    virtual void setTitle(const QString &title) = 0;
-    QPainter m_painter;
-
-private:
-    bool m_ended = false;
-    QFontMetricsF metrics(const PageFont &font) const { return QFontMetricsF(fontOf(font), &device()); }
-};
-
-class PrinterPages : public PaintedPages
-{
-public:
-    explicit PrinterPages(QPrinter &printer) : m_printer(printer) {}
-    explicit PrinterPages(std::unique_ptr<QPrinter> printer) : m_owned(std::move(printer)), m_printer(*m_owned) {}
-    ~PrinterPages() override
-    {
-        if (!m_painter.isActive())
-            return;
-        m_printer.abort(); // given up half-way
-        m_painter.end();
-    }
-
-protected:
-    QPagedPaintDevice &device() const override { return m_printer; }
-    void setTitle(const QString &title) override { m_printer.setDocName(title); }
-
-private:
-    std::unique_ptr<QPrinter> m_owned;
-    QPrinter &m_printer;
-};
 
 class PdfPages : public PaintedPages
 {
@@ -149,13 +62,59 @@ private:
 
 } // namespace
 
-std::unique_ptr<PageSink> PagesOnPrinter(QPrinter &printer) { return std::make_unique<PrinterPages>(printer); }
-
-std::unique_ptr<PageSink> PagesOnPrinter(const QString &printerName)
+void PaintedPages::setLandscape(bool landscape)
 {
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setPrinterName(printerName);
-    return std::make_unique<PrinterPages>(std::move(printer));
+    if (m_ended)
+        return; // a preview asks the device how its pages lie when all are painted
+    device().setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+}
+
+QFontMetricsF PaintedPages::metrics(const PageFont &font) const { return QFontMetricsF(fontOf(font), &device()); }
+
+double PaintedPages::textWidth(const PageFont &font, const QString &text) const
+{
+    return metrics(font).horizontalAdvance(text);
+}
+
+double PaintedPages::lineHeight(const PageFont &font) const { return metrics(font).lineSpacing(); }
+
+void PaintedPages::beginDocument(const QString &title)
+{
+    setTitle(title);
+    if (!m_painter.begin(&device()))
+        throw RuntimeFailure(Failure::DeviceError, QStringLiteral("\"%1\" could not be printed.").arg(title));
+}
+
+void PaintedPages::newPage()
+{
+    if (!device().newPage())
+        throw RuntimeFailure(Failure::DeviceError, QStringLiteral("The printer took no further page."));
+}
+
+void PaintedPages::endDocument()
+{
+    m_painter.end();
+    m_ended = true;
+}
+
+void PaintedPages::text(double x, double y, const PageFont &font, const QString &text)
+{
+    m_painter.setFont(fontOf(font));
+    m_painter.drawText(QPointF(x, y + metrics(font).ascent()), text);
+}
+
+void PaintedPages::line(double x1, double y1, double x2, double y2)
+{
+    m_painter.setPen(QPen(Qt::black, device().logicalDpiX() / 96.0));
+    m_painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+}
+
+void PaintedPages::picture(double x, double y, const QSizeF &size, const PagePicture &paint)
+{
+    m_painter.save();
+    m_painter.translate(x, y);
+    paint(m_painter, size);
+    m_painter.restore();
 }
 
 std::unique_ptr<PageSink> PagesInPdf(const QString &fileName) { return std::make_unique<PdfPages>(fileName); }

@@ -1,16 +1,39 @@
-// Pages that are painted: on a printer (also the one that a preview hands out), or into a PDF. The one place where a
-// report meets QPainter.
+// Pages that are painted, on a printer or into a PDF. The one place where a report meets QPainter.
 #pragma once
 
 #include <memory>
 
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPainter>
+
 #include "platform/Pages.h"
 
-class QPrinter;
+/// What a printer and a PDF have in common.
+class PaintedPages : public PageSink
+{
+public:
+    void setLandscape(bool landscape) override;
+    double width() const override { return device().width(); }
+    double height() const override { return device().height(); }
+    double textWidth(const PageFont &font, const QString &text) const override;
+    double lineHeight(const PageFont &font) const override;
+    void beginDocument(const QString &title) override;
+    void newPage() override;
+    void endDocument() override;
+    void text(double x, double y, const PageFont &font, const QString &text) override;
+    void line(double x1, double y1, double x2, double y2) override;
+    void picture(double x, double y, const QSizeF &size, const PagePicture &paint) override;
 
-/// Pages on a printer that the caller keeps; its document ends with the pages.
-std::unique_ptr<PageSink> PagesOnPrinter(QPrinter &printer);
-/// Pages on the printer of that name, which they own.
-std::unique_ptr<PageSink> PagesOnPrinter(const QString &printerName);
+protected:
+    virtual QPagedPaintDevice &device() const = 0;
+    virtual void setTitle(const QString &title) = 0;
+    QPainter m_painter;
+
+private:
+    QFontMetricsF metrics(const PageFont &font) const;
+    bool m_ended = false;
+};
+
 /// Pages in a PDF file, there when its document has ended.
 std::unique_ptr<PageSink> PagesInPdf(const QString &fileName);

@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include "platform/late/Paper.h"
 #include "platform/PaintedPages.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"

@@ -7,7 +7,8 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "platform/chart/ChartPlot.h"
+#include "platform/chart/ChartCanvas.h"
+#include "platform/late/LateParts.h"
 #include "platform/RuntimeFailure.h"
 
 namespace {
@@ -25,12 +26,12 @@ ChartTurn turnedBy(const ChartTurn &turn, const QPointF &moved)
 
 } // namespace
 
-Chart::Chart(QWidget *parent) : QWidget(parent), m_plot(new ChartPlot(this))
+Chart::Chart(QWidget *parent) : QWidget(parent), m_plot(Late().makeChartCanvas(this))
 {
     setMouseTracking(true); // the chart is turned, and the tips are told, without a button pressed
     setFocusPolicy(Qt::StrongFocus);
-    m_plot->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_plot->setFocusPolicy(Qt::NoFocus);
+    m_plot->widget().setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_plot->widget().setFocusPolicy(Qt::NoFocus);
     changed();
 }
 
@@ -47,7 +48,7 @@ void Chart::drawNow() const
     if (!std::exchange(m_stale, false))
         return;
     m_plot->build(m_data, m_type, m_title, ChartColours::onScreen(palette()));
-    m_plot->replot(QCustomPlot::rpQueuedRefresh);
+    m_plot->redraw();
 }
 
 void Chart::setColumnCount(int count)
@@ -106,29 +107,24 @@ void Chart::setTitleText(const QString &title)
     changed();
 }
 
-void Chart::dressForPaper(ChartPlot &plot) const
+std::unique_ptr<ChartCanvas> Chart::onPaper() const
 {
     drawNow(); // it may just have been turned
-    plot.setFont(font());
-    plot.setTurn(m_plot->turn());
-    plot.build(m_data, m_type, m_title, ChartColours::onPaper());
+    std::unique_ptr<ChartCanvas> paper(Late().makeChartCanvas(nullptr));
+    paper->widget().setFont(font());
+    paper->setTurn(m_plot->turn());
+    paper->build(m_data, m_type, m_title, ChartColours::onPaper());
+    return paper;
 }
 
-void Chart::EditCopy() const
-{
-    ChartPlot paper;
-    dressForPaper(paper);
-    QGuiApplication::clipboard()->setImage(paper.toPixmap(width(), height(), 2).toImage());
-}
+void Chart::EditCopy() const { QGuiApplication::clipboard()->setImage(onPaper()->image(size(), 2)); }
 
 void Chart::paintOn(QPainter &painter, const QSizeF &size) const
 {
-    ChartPlot paper;
-    dressForPaper(paper);
     const double scale = size.width() / paperWidth;
     painter.save();
     painter.scale(scale, scale);
-    paper.paintVectors(painter, size / scale);
+    onPaper()->paintVectors(painter, size / scale);
     painter.restore();
 }
 
@@ -136,13 +132,13 @@ QRectF Chart::place(int row, int column) const
 {
     drawNow();
     const QRectF onPlot = m_plot->place(row - 1, column - 1);
-    return onPlot.isNull() ? onPlot : onPlot.translated(m_plot->pos());
+    return onPlot.isNull() ? onPlot : onPlot.translated(m_plot->widget().pos());
 }
 
 QString Chart::tip(const QPointF &place) const
 {
     drawNow();
-    const ChartCell cell = m_plot->cellAt(place - m_plot->pos());
+    const ChartCell cell = m_plot->cellAt(place - m_plot->widget().pos());
     if (!cell)
         return {};
     return m_data.rowLabels.at(cell.row) + u'\n' + m_data.columnLabels.at(cell.column) + QStringLiteral(": ") +
@@ -159,7 +155,7 @@ bool Chart::event(QEvent *event)
     }
     case QEvent::PaletteChange:
     case QEvent::FontChange:
-        m_plot->setFont(font());
+        m_plot->widget().setFont(font());
         changed();
         break;
     default: break;
@@ -167,7 +163,7 @@ bool Chart::event(QEvent *event)
     return QWidget::event(event);
 }
 
-void Chart::resizeEvent(QResizeEvent *) { m_plot->setGeometry(rect().adjusted(frame, frame, -frame, -frame)); }
+void Chart::resizeEvent(QResizeEvent *) { m_plot->widget().setGeometry(rect().adjusted(frame, frame, -frame, -frame)); }
 
 void Chart::paintEvent(QPaintEvent *)
 {
@@ -179,7 +175,7 @@ void Chart::paintEvent(QPaintEvent *)
 void Chart::turnBy(const QPointF &moved)
 {
     m_plot->setTurn(turnedBy(m_plot->turn(), moved));
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
+    m_plot->redrawSoon();
 }
 
 void Chart::mouseMoveEvent(QMouseEvent *event)

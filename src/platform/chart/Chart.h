@@ -4,13 +4,14 @@
 // written.
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include <QWidget>
 
 #include "platform/chart/ChartData.h"
 
-class ChartPlot;
+class ChartCanvas;
 
 class Chart : public QWidget
 {
@@ -66,7 +67,7 @@ protected:
 private:
     void changed();
     void drawNow() const;
-    void dressForPaper(ChartPlot &plot) const;
+    std::unique_ptr<ChartCanvas> onPaper() const;
     void turnBy(const QPointF &moved);
 
     ChartData m_data;
@@ -74,7 +75,7 @@ private:
     int m_row = 0; ///< selected; from 1
     int m_column = 0;
     QString m_title;
-    ChartPlot *m_plot;
+    ChartCanvas *m_plot;
     mutable bool m_stale = false;    ///< the plot is not yet what the cells say
     std::optional<QPointF> m_turned; ///< where the pointer was when it turned the chart last
 };
