@@ -23,7 +23,27 @@ void outline(QPainter &painter, const QRect &place, bool round, const QColor &co
     painter.restore();
 }
 
+/// A text that has not the room ends with dots.
+QStyleOptionComboBox fitted(QStyleOptionComboBox list, const QRect &room)
+{
+    const int icon = list.currentIcon.isNull() ? 0 : list.iconSize.width() + 4;
+    list.currentText = list.fontMetrics.elidedText(list.currentText, Qt::ElideRight, room.width() - icon - 2);
+    return list;
+}
+
 } // namespace
+
+void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                        const QWidget *widget) const
+{
+    if (const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+        list && element == CE_ComboBoxLabel) {
+        const QStyleOptionComboBox fitting =
+            fitted(*list, subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget));
+        QProxyStyle::drawControl(element, &fitting, painter, widget);
+    } else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                           const QWidget *widget) const
