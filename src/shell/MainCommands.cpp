@@ -48,11 +48,11 @@ constexpr PrintRow printRows[] = {
     {"FRM_WATERGRAPH", [] { Form<frm_WaterGraph>().PrintGraph(); }},
 };
 
-/// The logbook, if it is on the screen.
+/// The logbook, if it is on the screen, though it may be an icon there.
 frm_Waterlog *visibleLogbook()
 {
     auto *logbook = Forms::current().loaded<frm_Waterlog>();
-    return logbook && logbook->isVisible() ? logbook : nullptr;
+    return logbook && logbook->isShown() ? logbook : nullptr;
 }
 
 void tellNoBackup(const RuntimeFailure &failure)

@@ -295,7 +295,7 @@ void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
 
 void frm_OMKMDIMain::MDIForm_Activate()
 {
-    if (m_activeChild && m_activeChild->isVisible())
+    if (m_activeChild && m_activeChild->isShown())
         m_activeChild->Form_Activate();
 }
 
