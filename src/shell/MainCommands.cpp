@@ -146,7 +146,7 @@ void frm_OMKMDIMain::mnu_FilePageSetup_Click()
 
 void frm_OMKMDIMain::mnu_Exit_Click() { close(); }
 
-void frm_OMKMDIMain::mnu_ViewToolbar_Click() { Toolbar1->setVisible(mnu_ViewToolbar->isChecked()); }
+void frm_OMKMDIMain::mnu_ViewToolbar_Click() { m_toolbarPlace->setVisible(mnu_ViewToolbar->isChecked()); }
 
 void frm_OMKMDIMain::mnu_ViewStatusbar_Click() { statusBar()->setVisible(mnu_ViewStatusbar->isChecked()); }
 
