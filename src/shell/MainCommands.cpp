@@ -196,7 +196,7 @@ void frm_OMKMDIMain::mnu_ToolsGraphing_Click()
     graph.GraphChart();
 }
 
-void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
+void frm_OMKMDIMain::mnu_WindowCascade_Click() { CascadeWindows(*m_area); }
 
 void frm_OMKMDIMain::mnu_WindowTileHorizontal_Click() { TileWindows(*m_area, Qt::Horizontal); }
 
@@ -220,7 +220,11 @@ void frm_OMKMDIMain::fillWindowList()
         action->setProperty("windowListEntry", true);
         action->setCheckable(true);
         action->setChecked(frame == m_area->activeSubWindow());
-        connect(action, &QAction::triggered, frame, [this, frame] { m_area->setActiveSubWindow(frame); });
+        connect(action, &QAction::triggered, frame, [this, frame] {
+            if (frame->isMinimized())
+                frame->showNormal();
+            m_area->setActiveSubWindow(frame);
+        });
     }
 }
 
