@@ -60,13 +60,13 @@ QString frm_Waterlog::selectedKey(const QString &ifNone)
 
 QDate frm_Waterlog::dateOfRow(const QString &key) const
 {
-    const QString text = NormalizeDateText(DateOfKey(key), g.options.DateOrder);
+    const QString text = NormalizeDateText(DateOfKey(key), m_shownOrder);
     return sure(ReadDate(text), text);
 }
 
 QDate frm_Waterlog::dateAsTyped(const QString &key) const
 {
-    return sure(ReadTypedDate(DateOfKey(key), g.options.DateOrder), DateOfKey(key));
+    return sure(ReadTypedDate(DateOfKey(key), m_shownOrder), DateOfKey(key));
 }
 
 QTime frm_Waterlog::timeOfRow(const QString &key) const { return sure(ReadTime(TimeOfKey(key)), TimeOfKey(key)); }
@@ -93,7 +93,7 @@ void frm_Waterlog::Change_EntriesWater()
     g.gRecordset.Edit();
     auto &window = Form<frm_WaterAddEdit>();
     window.setDateOrder();
-    window.txt_date->setText(DateOfKey(key));
+    window.txt_date->setText(Format(dateOfRow(key), g.options.DatePicture));
     window.txt_time->setText(TimeOfKey(key));
     window.setWindowTitle(u"Change Log Entry for " + g.gTankName + u" Tank");
     window.load(g.gRecordset);
@@ -132,7 +132,7 @@ void frm_Waterlog::Change_EntriesLives()
     g.gLivestockRecordset.MoveFirst();
     g.gLivestockRecordset.Edit();
     auto &window = freshLivestockWindow();
-    window.txt_DateAdded->setText(DateOfKey(key));
+    window.txt_DateAdded->setText(Format(dateOfRow(key), g.options.DatePicture));
     window.txt_timeadded->setText(Format(timeOfRow(key), QStringLiteral("hh:mm:ss AM/PM")));
     window.load(g.gLivestockRecordset);
     window.ShowWindow();

@@ -107,6 +107,7 @@ void frm_Waterlog::loadList(int tab, const QString &order, Recordset &recordset)
     const QString sql =
         QLatin1String(kind.select) + QLatin1String(order == u"descending" ? kind.descending : kind.ascending);
     recordset = g.gDatabase->OpenRecordset(sql, {g.gTankId});
+    m_shownOrder = g.options.DateOrder;
     list(tab).setSource(std::make_shared<LogRows>(kind, recordset.rows(), g.options.DatePicture));
 }
 

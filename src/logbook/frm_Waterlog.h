@@ -110,7 +110,7 @@ private:
     void deleteEntry(const DeletePath &path);
     /// Key of the row selected in the list on show; empty, after a box with that text, where none is.
     QString selectedKey(const QString &ifNone);
-    /// The date of a row in the user's order; the second as it stands, month first if it is a date so.
+    /// The date of a row in the order that it was shown in; the second as it stands, month first if it is a date so.
     QDate dateOfRow(const QString &key) const;
     QDate dateAsTyped(const QString &key) const;
     QTime timeOfRow(const QString &key) const;
@@ -122,6 +122,7 @@ private:
     std::array<ListView *, 3> m_lists{};
     std::map<QString, MenuEntry *> m_buttons;
     QString ListSortOrder;
+    QString m_shownOrder; ///< DateOrder when the list on show was loaded: its rows stay so until they are loaded again
     bool FirstActivation = true;
     bool m_nodeJustChanged = false;
 };

@@ -50,7 +50,8 @@ private:
         painter.end();
         QStyleOption option;
         option.palette = QApplication::palette();
-        return mode == QIcon::Normal ? pixmap : QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
+        // In a selected row a picture keeps its colours: the style would wash it out.
+        return mode == QIcon::Disabled ? QApplication::style()->generatedIconPixmap(mode, pixmap, &option) : pixmap;
     }
 
     QString m_file;

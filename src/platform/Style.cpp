@@ -35,18 +35,31 @@ void fillToolBar(QPainter &painter, const QRect &place, const QColor &window)
     painter.fillRect(place.left(), place.bottom(), place.width(), 1, QColor(0, 0, 0, 60));
 }
 
+/// A text that has not the room ends with dots.
+QStyleOptionComboBox fitted(QStyleOptionComboBox list, const QRect &room)
+{
+    const int icon = list.currentIcon.isNull() ? 0 : list.iconSize.width() + 4;
+    list.currentText = list.fontMetrics.elidedText(list.currentText, Qt::ElideRight, room.width() - icon - 2);
+    return list;
+}
+
 } // namespace
 
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                         const QWidget *widget) const
 {
     const auto *bar = qstyleoption_cast<const QStyleOptionToolBar *>(option);
+    const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     const bool isTop = element == CE_ToolBar && bar && bar->toolBarArea == Qt::TopToolBarArea && widget &&
                        qobject_cast<const QMainWindow *>(widget->parentWidget());
-    if (isTop && baseStyle()->name() == u"fusion")
+    if (isTop && baseStyle()->name() == u"fusion") {
         fillToolBar(*painter, option->rect, option->palette.window().color());
-    else
+    } else if (list && element == CE_ComboBoxLabel) {
+        const auto fitting = fitted(*list, subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget));
+        QProxyStyle::drawControl(element, &fitting, painter, widget);
+    } else {
         QProxyStyle::drawControl(element, option, painter, widget);
+    }
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

@@ -1,7 +1,8 @@
-// The desktop's style, but for three things. The arrows of bars that are too narrow are ours: the style's own are small
+// The desktop's style, but for four things. The arrows of bars that are too narrow are ours: the style's own are small
 // bitmaps, which have every menu bar load the readers of all image formats before it is first painted. The lines below
-// a tool bar are filled: Fusion draws them pixel by pixel, which starts threads in the first paint. And boxes to tick
-// have an outline that is seen on a dark window; Fusion's is darker still.
+// a tool bar are filled: Fusion draws them pixel by pixel, which starts threads in the first paint. Boxes to tick have
+// an outline that is seen on a dark window; Fusion's is darker still. And a drop-down list too narrow for its text ends
+// it with dots instead of in the middle of a letter.
 #pragma once
 
 #include <QProxyStyle>

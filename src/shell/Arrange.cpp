@@ -2,19 +2,33 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QStyle>
 
 namespace {
 
-QList<QMdiSubWindow *> childrenOf(QMdiArea &area, bool minimised)
+QList<QMdiSubWindow *> childrenOf(QMdiArea &area, bool minimised, QMdiArea::WindowOrder order = QMdiArea::CreationOrder)
 {
     QList<QMdiSubWindow *> found;
-    for (QMdiSubWindow *frame : area.subWindowList())
+    for (QMdiSubWindow *frame : area.subWindowList(order))
         if (frame->isVisible() && frame->isMinimized() == minimised)
             found << frame;
     return found;
 }
 
 } // namespace
+
+void CascadeWindows(QMdiArea &area)
+{
+    const QSize room = area.viewport()->size();
+    const int step = area.style()->pixelMetric(QStyle::PM_TitleBarHeight) + 2;
+    int place = 0;
+    for (QMdiSubWindow *frame : childrenOf(area, false, QMdiArea::StackingOrder)) {
+        frame->showNormal();
+        frame->setGeometry(QRect(QPoint(place, place), frame->size().boundedTo(room - QSize(place, place))));
+        frame->raise();
+        place = place < room.height() / 2 ? place + step : 0;
+    }
+}
 
 void TileWindows(QMdiArea &area, Qt::Orientation bars)
 {

@@ -1,10 +1,13 @@
-// Arrangements of the children that the MDI area does not know of itself.
+// Arrangements of the children that the MDI area has not, or not as a keeper would have them.
 #pragma once
 
 #include <Qt>
 
 class QMdiArea;
 
+/// Lays the children that are not minimised one behind the other, each seen by its title. They keep their sizes, which
+/// the MDI area's own cascade does not.
+void CascadeWindows(QMdiArea &area);
 /// Fills the area with the children that are not minimised: one above the other (horizontal), or side by side
 /// (vertical).
 void TileWindows(QMdiArea &area, Qt::Orientation bars);

@@ -20,6 +20,8 @@ public:
     virtual void Form_LostFocus() {}
     virtual void Form_Unload() {}
 
+    /// On the screen, if only as an icon.
+    bool isShown() const { return parentWidget() && parentWidget()->isVisible(); }
     /// Gives the focus to the control that the window begins with.
     void takeFocus() { (m_first ? m_first : this)->setFocus(); }
 

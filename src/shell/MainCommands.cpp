@@ -48,11 +48,11 @@ constexpr PrintRow printRows[] = {
     {"FRM_WATERGRAPH", [] { Form<frm_WaterGraph>().PrintGraph(); }},
 };
 
-/// The logbook, if it is on the screen.
+/// The logbook, if it is on the screen, though it may be an icon there.
 frm_Waterlog *visibleLogbook()
 {
     auto *logbook = Forms::current().loaded<frm_Waterlog>();
-    return logbook && logbook->isVisible() ? logbook : nullptr;
+    return logbook && logbook->isShown() ? logbook : nullptr;
 }
 
 void tellNoBackup(const RuntimeFailure &failure)
@@ -146,7 +146,7 @@ void frm_OMKMDIMain::mnu_FilePageSetup_Click()
 
 void frm_OMKMDIMain::mnu_Exit_Click() { close(); }
 
-void frm_OMKMDIMain::mnu_ViewToolbar_Click() { Toolbar1->setVisible(mnu_ViewToolbar->isChecked()); }
+void frm_OMKMDIMain::mnu_ViewToolbar_Click() { m_toolbarPlace->setVisible(mnu_ViewToolbar->isChecked()); }
 
 void frm_OMKMDIMain::mnu_ViewStatusbar_Click() { statusBar()->setVisible(mnu_ViewStatusbar->isChecked()); }
 
@@ -198,7 +198,7 @@ void frm_OMKMDIMain::mnu_ToolsGraphing_Click()
     graph.GraphChart();
 }
 
-void frm_OMKMDIMain::mnu_WindowCascade_Click() { m_area->cascadeSubWindows(); }
+void frm_OMKMDIMain::mnu_WindowCascade_Click() { CascadeWindows(*m_area); }
 
 void frm_OMKMDIMain::mnu_WindowTileHorizontal_Click() { TileWindows(*m_area, Qt::Horizontal); }
 
@@ -222,7 +222,11 @@ void frm_OMKMDIMain::fillWindowList()
         action->setProperty("windowListEntry", true);
         action->setCheckable(true);
         action->setChecked(frame == m_area->activeSubWindow());
-        connect(action, &QAction::triggered, frame, [this, frame] { m_area->setActiveSubWindow(frame); });
+        connect(action, &QAction::triggered, frame, [this, frame] {
+            if (frame->isMinimized())
+                frame->showNormal();
+            m_area->setActiveSubWindow(frame);
+        });
     }
 }
 

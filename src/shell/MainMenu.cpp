@@ -57,10 +57,10 @@ constexpr EntryRow entryRows[] = {
     {&MainMenu::mnu_File, ENTRY(mnu_FilePrint), "&Print", 0, Disabled | SeparatorBefore, &Main::mnu_FilePrint_Click},
     {&MainMenu::mnu_File, ENTRY(mnu_Exit), "&Exit", 0, SeparatorBefore, &Main::mnu_Exit_Click},
 
-    {&MainMenu::mnu_Edit, ENTRY(mnu_EditUndo), "&Undo", 0, Plain, nullptr},
-    {&MainMenu::mnu_Edit, ENTRY(mnu_EditCut), "Cu&t", 0, Plain, nullptr},
-    {&MainMenu::mnu_Edit, ENTRY(mnu_EditCopy), "&Copy ", 0, Plain, nullptr},
-    {&MainMenu::mnu_Edit, ENTRY(mnu_EditPaste), "&Paste", 0, Plain, nullptr},
+    {&MainMenu::mnu_Edit, ENTRY(mnu_EditUndo), "&Undo", 'Z', Plain, nullptr},
+    {&MainMenu::mnu_Edit, ENTRY(mnu_EditCut), "Cu&t", 'X', Plain, nullptr},
+    {&MainMenu::mnu_Edit, ENTRY(mnu_EditCopy), "&Copy ", 'C', Plain, nullptr},
+    {&MainMenu::mnu_Edit, ENTRY(mnu_EditPaste), "&Paste", 'V', Plain, nullptr},
 
     {&MainMenu::mnu_View, ENTRY(mnu_ViewToolbar), "&Toolbar", 0, Checked, &Main::mnu_ViewToolbar_Click},
     {&MainMenu::mnu_View, ENTRY(mnu_ViewStatusbar), "Status &Bar", 0, Checked, &Main::mnu_ViewStatusbar_Click},

@@ -81,6 +81,7 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
 {
     setWindowTitle(QStringLiteral(" Ostrelmark 98"));
     setWindowIcon(Icon("ostrelmark"));
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's would hide the strip with the reminders
     makeMenus(*this, *menuBar());
     makeToolbar();
 
@@ -108,7 +109,6 @@ void frm_OMKMDIMain::makeToolbar()
         new QToolBar(this); // the strip at the top, that keeps the reminders in sight when the buttons are hidden
     strip->setObjectName(QStringLiteral("Picture1"));
     strip->setMovable(false);
-    strip->setContextMenuPolicy(Qt::PreventContextMenu);
     Picture1 = strip;
     Toolbar1 = new QToolBar;
     Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
@@ -135,7 +135,7 @@ void frm_OMKMDIMain::makeToolbar()
     cbo_Reminders->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cbo_Reminders->setMinimumContentsLength(34);
     on(cbo_Reminders, &QComboBox::currentIndexChanged, this, &frm_OMKMDIMain::cbo_Reminders_Click);
-    strip->addWidget(Toolbar1);
+    m_toolbarPlace = strip->addWidget(Toolbar1);
     strip->addWidget(space);
     strip->addWidget(cbo_Reminders);
     addToolBar(Qt::TopToolBarArea, strip);
@@ -298,7 +298,7 @@ void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
 
 void frm_OMKMDIMain::MDIForm_Activate()
 {
-    if (m_activeChild && m_activeChild->isVisible())
+    if (m_activeChild && m_activeChild->isShown())
         m_activeChild->Form_Activate();
 }
 

@@ -13,6 +13,7 @@
 
 class ChildForm;
 struct HelpRequest;
+class QAction;
 class QComboBox;
 class QLabel;
 class QMdiArea;
@@ -118,6 +119,7 @@ private:
     Globals &g;
     QMdiArea *m_area;
     QLabel *m_panel;
+    QAction *m_toolbarPlace; ///< shows and hides Toolbar1: the strip would bring a hidden one back
     std::map<QString, MenuEntry *> m_buttons;
     QPointer<ChildForm> m_activeChild;
     QString m_backupFile; ///< the name last chosen for a backup

@@ -25,7 +25,7 @@ frm_TankMaint::frm_TankMaint(Globals &globals, QWidget *parent) : DialogForm(glo
 {
     setupUi(this);
     on(lst_tanklist, &QListWidget::itemSelectionChanged, this, &frm_TankMaint::lst_tanklist_Click);
-    on(lst_tanklist, &QListWidget::itemActivated, this, &frm_TankMaint::cmd_ChangeTank_Click);
+    on(lst_tanklist, &QListWidget::itemDoubleClicked, this, &frm_TankMaint::cmd_ChangeTank_Click);
     for (const Qt::Key key : enterKeys)
         OnListKey(*lst_tanklist, key, *cmd_ChangeTank);
     OnListKey(*lst_tanklist, Qt::Key_Delete, *cmd_DeleteTank);

@@ -68,6 +68,16 @@ TEST_F(MainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestar
     EXPECT_EQ(keeper.told() + keeper.g().gNoTanks, "0N");
 }
 
+TEST_F(MainWindow, ViewTakesTheToolbarAwayButNotTheReminders)
+{
+    for (const bool shown : {false, true}) {
+        hand::choose(*main, *main->mnu_View, "mnu_ViewToolbar");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(control<QToolButton>(*main, "logbook").isVisible(), shown);
+        EXPECT_TRUE(main->cbo_Reminders->isVisible());
+    }
+}
+
 TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
 {
     give<frm_WaterAddEdit>("addentries", 0, [&](frm_WaterAddEdit &) {
