@@ -1,6 +1,7 @@
 // What each of the entry windows does in its own way.
 #include "Desk.h"
 #include "logbook/frm_LivesAddEdit.h"
+#include "logbook/frm_MaintAddEdit.h"
 #include "logbook/frm_WaterAddEdit.h"
 #include "platform/UpDown.h"
 
@@ -109,6 +110,24 @@ TEST_F(Livestock, ASecondAnimalMayComeInThatSecondAndIsWhatTheChangeFindsFirst)
     EXPECT_EQ(column(1), "Crab Tang");
     give<frm_LivesAddEdit>("changeentries", 2, [&](frm_LivesAddEdit &w) { // whichever was selected
         EXPECT_EQ(w.lst_AnimalList->currentText(), "Crab");
+        hand::press(Qt::Key_Escape);
+    });
+}
+
+TEST_F(Livestock, IsNotMixedUpByAWindowThatAChangeOfMaintenanceLeavesBehind)
+{
+    addEntry(MaintenanceTab, "r1", "2026-12-25 09:30:00", "maintlogtask", "'Feeding'");
+    hand::clickTab(*logbook->tab_logtype, MaintenanceTab);
+    give<frm_MaintAddEdit>("changeentries", 1, [&](frm_MaintAddEdit &) {
+        const auto *left = Forms::current().loaded<frm_LivesAddEdit>();
+        EXPECT_TRUE(left && !left->isVisible());
+        hand::press(Qt::Key_Escape);
+    });
+    hand::clickTank(*logbook, "Bowl");
+    hand::clickTab(*logbook->tab_logtype, LivestockTab);
+    give<frm_LivesAddEdit>("addentries", 0, [&](frm_LivesAddEdit &w) {
+        EXPECT_FALSE(lines(*w.lst_AnimalList->model()).contains("Anemone"));
+        EXPECT_EQ(w.txt_timeadded->Text(), "09:26:53 am");
         hand::press(Qt::Key_Escape);
     });
 }
