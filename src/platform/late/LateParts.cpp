@@ -20,8 +20,8 @@ QString findModule()
         if (const QString file = bin.filePath(QLatin1String(place) + u"/" OMK_LATE_NAME); QFile::exists(file))
             return file;
     throw RuntimeFailure(Failure::CouldNotFindFile,
-                         QStringLiteral(OMK_LATE_NAME " is looked for in " OMK_LATE_FROM_BIN ", seen from ") +
-                             bin.path());
+                         QStringLiteral("Charts and printouts are made by " OMK_LATE_NAME ", which belongs into %1.")
+                             .arg(QDir::cleanPath(bin.filePath(QStringLiteral(OMK_LATE_FROM_BIN)))));
 }
 
 const LateParts &load()
