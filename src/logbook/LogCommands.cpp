@@ -6,6 +6,7 @@
 #include <QTreeWidget>
 
 #include "logbook/frm_Waterlog.h"
+#include "platform/Caption.h"
 #include "platform/Doors.h"
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
@@ -194,7 +195,7 @@ void frm_Waterlog::TreeView1_NodeClick() { Refresh_Listview(ascending); }
 void frm_Waterlog::TreeView1_MouseUp(const QPoint &position)
 {
     auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_TankProperties->setText(CurrentTankText + u" Properties...");
+    main.mnu_TankProperties->setText(Caption(CurrentTankText) + u" Properties...");
     main.mnu_tankPopup->popup(position);
 }
 

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "platform/Caption.h"
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
@@ -83,6 +84,7 @@ void frm_WaterAddEdit::makeMeasurement(size_t index, QGridLayout &grid)
     line.measurement = &measurement;
     line.label = new QLabel(QLatin1String(measurement.label));
     line.label->setObjectName(QLatin1String(measurement.labelName));
+    line.label->setTextFormat(Qt::PlainText);
     line.label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     line.box = new MaskedBox;
     line.box->setObjectName(QLatin1String(measurement.box));
@@ -130,7 +132,7 @@ void frm_WaterAddEdit::Form_Load()
 {
     for (const Line &line : m_lines)
         if (line.measurement->userField)
-            line.label->setText(nameOf(*line.measurement));
+            line.label->setText(Caption(nameOf(*line.measurement)));
 }
 
 QString frm_WaterAddEdit::nameOf(const Measurement &measurement) const
