@@ -233,4 +233,5 @@ void frm_Waterlog::Form_Unload()
     main.mnu_FileNew->Enabled(false);
     main.mnu_FileOpen->Enabled(false);
     main.mnu_FileDelete->Enabled(false);
+    main.mnu_FileMoveEntry->Enabled(false); // the one command that asks for no logbook on the screen
 }
