@@ -78,6 +78,8 @@ QComboBox *EntryForm::makeCombo(const char *name)
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(24);
     qobject_cast<QListView *>(combo->view())->setUniformItemSizes(true); // names by the ten thousand, each a line high
+    // The combo box would put an item in place of the text that is like it but for the case of its letters.
+    QObject::disconnect(combo->lineEdit(), SIGNAL(editingFinished()), combo, nullptr);
     combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
     combo->completer()->setFilterMode(Qt::MatchContains);
     return combo;
