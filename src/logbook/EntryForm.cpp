@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -48,6 +49,16 @@ QPushButton *EntryForm::makeCalendarButton(const char *name, const QString &what
     button->setAutoDefault(false);
     m_checks.exempt(button);
     return button;
+}
+
+QBoxLayout *EntryForm::withCalendar(MaskedBox *date, QPushButton *calendar)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing)); // in a grid it would be none
+    row->addWidget(date);
+    row->addWidget(calendar);
+    row->addStretch(1);
+    return row;
 }
 
 QPushButton *EntryForm::makeButton(const char *name, const char *caption, bool isDefault)
