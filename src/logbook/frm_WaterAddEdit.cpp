@@ -21,6 +21,7 @@ namespace {
 
 constexpr int columnsOfGrid = 3;
 constexpr int longestNumber = 64;
+constexpr int digitsInSight = 10; ///< however long the names of the keeper's own two are
 constexpr int highestPosition = 10000;
 
 const QString badTime =
@@ -90,6 +91,7 @@ void frm_WaterAddEdit::makeMeasurement(size_t index, QGridLayout &grid)
     line.box->setObjectName(QLatin1String(measurement.box));
     line.box->setFormat(QLatin1String(measurement.boxPicture));
     line.box->setMaxLength(longestNumber);
+    line.box->setMinimumWidth(line.box->fontMetrics().horizontalAdvance(u'0') * digitsInSight);
     line.box->setToolTip(QLatin1String(measurement.toolTip));
     line.box->setAccessibleDescription(QLatin1String(measurement.toolTip));
     line.box->setAlignment(Qt::AlignRight);
