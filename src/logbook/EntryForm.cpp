@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -49,6 +50,16 @@ QPushButton *EntryForm::makeCalendarButton(const char *name, const QString &what
     return button;
 }
 
+QBoxLayout *EntryForm::withCalendar(MaskedBox *date, QPushButton *calendar)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing)); // in a grid it would be none
+    row->addWidget(date);
+    row->addWidget(calendar);
+    row->addStretch(1);
+    return row;
+}
+
 QPushButton *EntryForm::makeButton(const char *name, const char *caption, bool isDefault)
 {
     auto *button = new QPushButton(QLatin1String(caption));
@@ -77,6 +88,8 @@ QComboBox *EntryForm::makeCombo(const char *name)
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(24);
     qobject_cast<QListView *>(combo->view())->setUniformItemSizes(true); // names by the ten thousand, each a line high
+    // The combo box would put an item in place of the text that is like it but for the case of its letters.
+    QObject::disconnect(combo->lineEdit(), SIGNAL(editingFinished()), combo, nullptr);
     combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
     combo->completer()->setFilterMode(Qt::MatchContains);
     return combo;

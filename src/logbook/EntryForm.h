@@ -24,6 +24,7 @@ protected:
     MaskedBox *makeDateBox(const char *name, const char *toolTip);
     MaskedBox *makeTimeBox(const char *name, const char *toolTip);
     QPushButton *makeCalendarButton(const char *name, const QString &whatFor);
+    QBoxLayout *withCalendar(MaskedBox *date, QPushButton *calendar);
     QPushButton *makeButton(const char *name, const char *caption, bool isDefault);
     QPlainTextEdit *makeNotes(const char *name, const char *toolTip);
     /// A box of free text with a list of what was used before; typing never changes what was typed.

@@ -8,6 +8,7 @@
 #include "logbook/frm_WaterAddEdit.h"
 #include "logbook/frm_Waterlog.h"
 #include "logbook/RowKey.h"
+#include "platform/Caption.h"
 #include "platform/Doors.h"
 #include "platform/MaskedBox.h"
 #include "platform/RuntimeFailure.h"
@@ -219,7 +220,7 @@ void frm_Waterlog::Move_Entries()
     g.gMoveRecordset.MoveFirst();
     g.gMoveRecordset.Edit();
     auto &window = Form<frm_LivesMove>();
-    window.lbl_Move->setText(u"Moving " + g.gMoveRecordset[QStringLiteral("animalname")].text() + u" to...");
+    window.lbl_Move->setText(u"Moving " + Caption(g.gMoveRecordset[QStringLiteral("animalname")].text()) + u" to...");
     window.ShowWindow();
     if (g.livesMove.MoveCancelled)
         g.gMoveRecordset.Close();

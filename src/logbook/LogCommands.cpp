@@ -6,6 +6,7 @@
 #include <QTreeWidget>
 
 #include "logbook/frm_Waterlog.h"
+#include "platform/Caption.h"
 #include "platform/Doors.h"
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
@@ -195,7 +196,7 @@ void frm_Waterlog::TreeView1_NodeClick() { Refresh_Listview(ascending); }
 void frm_Waterlog::TreeView1_MouseUp(const QPoint &position)
 {
     auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_TankProperties->setText(CurrentTankText + u" Properties...");
+    main.mnu_TankProperties->setText(Caption(CurrentTankText) + u" Properties...");
     main.mnu_tankPopup->popup(position);
 }
 
@@ -233,4 +234,5 @@ void frm_Waterlog::Form_Unload()
     main.mnu_FileNew->Enabled(false);
     main.mnu_FileOpen->Enabled(false);
     main.mnu_FileDelete->Enabled(false);
+    main.mnu_FileMoveEntry->Enabled(false); // the one command that asks for no logbook on the screen
 }

@@ -226,12 +226,14 @@ void PrintPageHeadings(Printer &page, const QString &title, const QString &tankN
     const double x = page.CurrentX;
     const double y = page.CurrentY;
     const double foot = page.ScaleHeight() - page.ScaleHeight() / 12;
+    page.Font.italic = true;
     page.CurrentX = 0;
     page.CurrentY = foot;
     page.Line(0, foot, page.ScaleWidth(), foot);
     page.Print({});
     page.Print(u"Report Created: " + Format(Now().date(), datePicture));
     page.Print(u"Page number:" + QString::number(pageNumber));
+    page.Font.italic = false;
     page.CurrentX = x;
     page.CurrentY = y;
     page.setFoot(foot);

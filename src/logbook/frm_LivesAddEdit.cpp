@@ -117,15 +117,10 @@ QWidget *frm_LivesAddEdit::makePage()
         grid->addWidget(makeLabel(caption, box), row, column);
         grid->addWidget(box, row, column + 1);
     };
-    auto *dateRow = new QHBoxLayout;
-    dateRow->addWidget(txt_DateAdded);
-    dateRow->addWidget(cmd_Caldate);
-    dateRow->addStretch(1);
-
     field(0, 0, "Animal Name", lst_AnimalList);
     grid->addWidget(makeListType(), 0, 2, 2, 2);
     grid->addWidget(makeLabel("Date Acquired", txt_DateAdded), 1, 0);
-    grid->addLayout(dateRow, 1, 1);
+    grid->addLayout(withCalendar(txt_DateAdded, cmd_Caldate), 1, 1);
     field(2, 0, "Time Acquired", txt_timeadded);
     field(2, 2, "Status", lst_Status);
     field(3, 0, "Quantity", txt_quantity);

@@ -74,17 +74,13 @@ QWidget *frm_MaintAddEdit::makePage()
     auto *page = new QWidget;
     auto *grid = new QGridLayout(page);
     grid->setHorizontalSpacing(10);
-    auto *dateRow = new QHBoxLayout;
-    dateRow->addWidget(txt_logdate);
-    dateRow->addWidget(cmd_Caldate);
-    dateRow->addStretch(1);
     auto *quantityRow = new QHBoxLayout;
     quantityRow->setSpacing(0);
     quantityRow->addWidget(txt_quantity, 1);
     quantityRow->addWidget(ud_quantity);
 
     grid->addWidget(makeLabel("Date Performed", txt_logdate), 0, 0);
-    grid->addLayout(dateRow, 0, 1);
+    grid->addLayout(withCalendar(txt_logdate, cmd_Caldate), 0, 1);
     grid->addWidget(makeLabel("Time Performed", txt_logtime), 0, 2);
     grid->addWidget(txt_logtime, 0, 3);
     grid->addWidget(makeLabel("Task Performed", lst_mainttasklist), 1, 0);

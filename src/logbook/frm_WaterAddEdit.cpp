@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "platform/Caption.h"
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
@@ -20,6 +21,7 @@ namespace {
 
 constexpr int columnsOfGrid = 3;
 constexpr int longestNumber = 64;
+constexpr int digitsInSight = 10; ///< however long the names of the keeper's own two are
 constexpr int highestPosition = 10000;
 
 const QString badTime =
@@ -83,11 +85,13 @@ void frm_WaterAddEdit::makeMeasurement(size_t index, QGridLayout &grid)
     line.measurement = &measurement;
     line.label = new QLabel(QLatin1String(measurement.label));
     line.label->setObjectName(QLatin1String(measurement.labelName));
+    line.label->setTextFormat(Qt::PlainText);
     line.label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     line.box = new MaskedBox;
     line.box->setObjectName(QLatin1String(measurement.box));
     line.box->setFormat(QLatin1String(measurement.boxPicture));
     line.box->setMaxLength(longestNumber);
+    line.box->setMinimumWidth(line.box->fontMetrics().horizontalAdvance(u'0') * digitsInSight);
     line.box->setToolTip(QLatin1String(measurement.toolTip));
     line.box->setAccessibleDescription(QLatin1String(measurement.toolTip));
     line.box->setAlignment(Qt::AlignRight);
@@ -130,7 +134,7 @@ void frm_WaterAddEdit::Form_Load()
 {
     for (const Line &line : m_lines)
         if (line.measurement->userField)
-            line.label->setText(nameOf(*line.measurement));
+            line.label->setText(Caption(nameOf(*line.measurement)));
 }
 
 QString frm_WaterAddEdit::nameOf(const Measurement &measurement) const

@@ -13,6 +13,7 @@
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
 #include "platform/ListView.h"
+#include "platform/Progress.h"
 #include "platform/RuntimeFailure.h"
 #include "shell/frm_OMKMDIMain.h"
 
@@ -110,13 +111,7 @@ void frm_LatintoCommon::Form_Activate()
     SetListViewStyle(*lstv_Names);
 }
 
-void frm_LatintoCommon::tell(const QString &progress)
-{
-    constexpr qsizetype dotsOfARepaint = 10; // each costs as much as a hundred names
-    m_panel->setText(progress);
-    if (progress.size() % dotsOfARepaint == 0)
-        m_panel->repaint(); // no other event runs while the list fills
-}
+void frm_LatintoCommon::tell(const QString &progress) { ShowProgress(*m_panel, progress); }
 
 void frm_LatintoCommon::LoadSalt() { load(QStringLiteral("namessw.txt"), saltMissing); }
 

@@ -19,6 +19,7 @@
 #include "platform/Guarded.h"
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
+#include "platform/Progress.h"
 #include "reminders/frm_Maintsched.h"
 #include "reminders/ReminderRun.h"
 #include "shell/ChildForm.h"
@@ -283,7 +284,7 @@ void frm_OMKMDIMain::disablePrint()
     mnu_FilePrint->setText(QStringLiteral("&Print"));
 }
 
-void frm_OMKMDIMain::setPanel(const QString &text) { m_panel->setText(text); }
+void frm_OMKMDIMain::setPanel(const QString &text) { ShowProgress(*m_panel, text); }
 
 void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
 {

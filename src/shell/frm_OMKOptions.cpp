@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 
+#include "platform/Caption.h"
 #include "platform/Doors.h"
 #include "platform/FocusAtFault.h"
 #include "platform/Guarded.h"
@@ -20,9 +21,6 @@ constexpr GraphType graphTypes[] = {
     {"3D Bar", 0},  {"2D Bar", 1},  {"3D Line", 2}, {"2D Line", 3},        {"3D Step", 6},        {"2D Pie", 14},
     {"2D Step", 7}, {"3D Area", 4}, {"2D Area", 5}, {"3D Combination", 8}, {"2D Combination", 9}, {"2D XY", 16},
 };
-
-/// A caption that shows an ampersand of the keeper's own as it is.
-QString caption(QString name) { return name.replace(u'&', QStringLiteral("&&")); }
 
 bool isBlank(const QString &name) { return name.isEmpty() || name.startsWith(u' '); }
 
@@ -114,8 +112,8 @@ void frm_OMKOptions::showDateCaptions()
 
 void frm_OMKOptions::showGraphSettings(const OptionsMembers &options)
 {
-    chk_User1->setText(caption(g.gUserFieldName1));
-    chk_user2->setText(caption(g.gUserFieldName2));
+    chk_User1->setText(Caption(g.gUserFieldName1));
+    chk_user2->setText(Caption(g.gUserFieldName2));
     for (size_t i = 0; i < m_checks.size(); ++i)
         m_checks[i]->setChecked(options.GraphChecks[qsizetype(i)] == u'1');
     cbo_GraphType->setCurrentIndex(cbo_GraphType->findData(options.GraphStyle)); // none for an unknown code

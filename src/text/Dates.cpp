@@ -36,10 +36,9 @@ bool takeNumber(QStringView &text, int most, NumberField &field)
     return field.digits > 0;
 }
 
-/// Three numbers of up to four digits with one of the delimiters between them, and nothing else but blanks at the ends.
+/// Three numbers of up to four digits with one of the delimiters between them, and nothing else.
 std::optional<Fields> threeNumbers(QStringView text, QStringView delimiters)
 {
-    text = text.trimmed();
     Fields fields;
     for (std::size_t i = 0; i < fields.size(); ++i) {
         if (i > 0) {
@@ -186,7 +185,7 @@ std::optional<QTime> ReadTime(const QString &text)
     const bool twelve = afternoon || marker.compare(u"am", Qt::CaseInsensitive) == 0;
     if (twelve)
         rest.chop(2);
-    const auto fields = threeNumbers(rest, u":");
+    const auto fields = threeNumbers(rest.trimmed(), u":");
     if (!fields || std::any_of(fields->begin(), fields->end(), [](const NumberField &f) { return f.digits > 2; }))
         return std::nullopt;
     int hour = (*fields)[0].value;

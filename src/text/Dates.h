@@ -19,7 +19,7 @@ QString NormalizeDateText(const QString &text, const QString &dateOrder);
 
 /// Reads a month-first date: month, day and year, each 1 or 2 digits (year 1 to 4), between "/", "-" or ".". A year of
 /// one or two digits falls into the hundred years that end with lastTypedYear(); longer years stand as they are (100 to
-/// 9999). Nothing where the text is no date.
+/// 9999). Nothing where the text is no date, as that of a box in which a place is still blank.
 std::optional<QDate> ReadDate(const QString &text);
 bool IsDate(const QString &text);
 

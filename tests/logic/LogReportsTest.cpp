@@ -50,6 +50,7 @@ TEST_F(LogReports, FootStandsBelowEveryRowAndALongTankRunsOnWithoutHeadings)
     ASSERT_GT(pages.size(), 3u);
     const double foot = 800 - 800 / 12.;
     EXPECT_GT(pages[0].find("Report Created: 14.03.26")->y, foot);
+    EXPECT_TRUE(pages[0].find("Page number:1")->font.italic && !pages[0].find("8.000")->font.italic);
     int rows = 0;
     for (const PrintedPage &page : pages) {
         const bool first = &page == &pages.front();

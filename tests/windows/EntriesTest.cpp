@@ -60,10 +60,10 @@ const Log logs[] = {
      "LIVESTOCK tankname dateadded timeadded",
      {"txt_DateAdded", "txt_timeadded"},
      "lst_AnimalList Nan's \"Tang\"|txt_quantity 3|lst_where Zoo|txt_pricepaid 12.5|txt_pricesold 7.5|"
-     "txt_datelost 26-05-25|lst_Status Sold|txt_Comment shy\nfish",
+     "txt_datelost 26-05-25|lst_Status sold|txt_Comment shy\nfish",
      "animalname printf('%d',quantity) where_purch price_paid price_sold substr(datelost,3) Status Comment",
      "lst_where txt_pricepaid txt_pricesold txt_datelost", // an empty price or date leaves what was there
-     "Nan's \"Tang\"|3||12.5|7.5|26-05-25|Sold|shy\nfish",
+     "Nan's \"Tang\"|3||12.5|7.5|26-05-25|sold|shy\nfish",
      "Oops!/48/This tank already has an entry for that animal at that date and time.",
      {{"lst_AnimalList", "", "You must enter an animal name"},
       {"lst_AnimalList", QString(51, 'a'), "Your animal description must", QString(50, 'a')},
