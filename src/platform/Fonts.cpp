@@ -1,5 +1,6 @@
 #include "platform/Fonts.h"
 
+#include <clocale>
 #include <thread>
 
 #include <fontconfig/fontconfig.h>
@@ -12,6 +13,7 @@ std::jthread reader;
 
 void ReadFontsAhead()
 {
+    std::setlocale(LC_ALL, ""); // now, and not by the application while numbers are read on the thread
     reader = std::jthread([] { FcInit(); });
 }
 

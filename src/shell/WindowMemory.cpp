@@ -54,7 +54,7 @@ std::optional<Geometry> geometryIn(const QString &text)
     for (const QString &part : size + parts.mid(1)) {
         bool isNumber = false;
         numbers << part.toInt(&isNumber);
-        if (!isNumber || std::abs(numbers.back()) > 99'999)
+        if (!isNumber || numbers.back() < -99'999 || numbers.back() > 99'999)
             return {};
     }
     if (numbers[0] < 1 || numbers[1] < 1)

@@ -67,13 +67,16 @@ std::vector<QStringView> partsOf(const QString &sql)
 {
     std::vector<QStringView> parts;
     for (qsizetype at = 0, end = 0; at < sql.size(); at = end) {
-        const QChar first = sql[at], close = first == u'[' ? u']' : first;
+        const auto isWord = [](QChar c) { return c.isLetterOrNumber() || c == u'_'; };
+        const QChar first = sql[at];
         end = at + 1;
-        if (first == u'\'' || first == u'"' || first == u'[')
-            end = sql.indexOf(close, end) < 0 ? sql.size() : sql.indexOf(close, end) + 1;
-        else if (first.isLetterOrNumber() || first == u'_')
-            while (end < sql.size() && (sql[end].isLetterOrNumber() || sql[end] == u'_'))
+        if (first == u'\'' || first == u'"' || first == u'[') {
+            const qsizetype close = sql.indexOf(first == u'[' ? u']' : first, end);
+            end = close < 0 ? sql.size() : close + 1;
+        } else {
+            while (isWord(first) && end < sql.size() && isWord(sql[end]))
                 ++end;
+        }
         if (!first.isSpace())
             parts.push_back(QStringView(sql).mid(at, end - at));
     }

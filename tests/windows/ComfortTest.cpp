@@ -229,6 +229,7 @@ TEST_F(Memory, PassesOverWhatItCannotUse)
     };
     for (const auto &[key, value] : {std::pair("frm_OMKMDIMain", "0x620+40+30"),
                                      {"frm_OMKMDIMain", "700000x620"},
+                                     {"frm_OMKMDIMain", "700x620+-2147483648+30"},
                                      {"frm_Waterlog", "-5x400"},
                                      {"frm_Waterlog.lstv_Livestock", "2:66 1:96"}})
         EXPECT_EQ(startOn(key, value), untouched) << key << ' ' << value;

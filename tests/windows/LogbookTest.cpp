@@ -135,11 +135,23 @@ TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowAndTheTankBelowThem)
     EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->childCount(), 5);
 }
 
+TEST_F(Logbook, ARowIsOpenedInTheOrderThatItIsShownInWhateverWasChosenSince)
+{
+    keeper.g().options.DateOrder = "DDMMYY"; // the list is not told
+    keeper.g().options.DatePicture = "DD/MM/YY";
+    give<frm_WaterAddEdit>("changeentries", 1, [&](frm_WaterAddEdit &w) {
+        EXPECT_EQ(w.txt_date->FormattedText(), "05/04/26");
+        hand::press(Qt::Key_Escape);
+    });
+}
+
 TEST_F(Logbook, ClosingKeepsAForeignSortSettingAndLetsGoOfTheTank)
 {
+    hand::clickTab(*logbook->tab_logtype, LivestockTab);
     for (const QString sort : {"1", "7"}) {
         logbook->parentWidget()->close();
         EXPECT_EQ(keeper.setting("WQ_Sort"), sort);
+        EXPECT_FALSE(main->mnu_FileMoveEntry->isEnabled()) << "it asks for no logbook on the screen";
         SaveSetting("WQ_Sort", "7");
         logbook = &hand::openLogbook(*main);
         EXPECT_EQ(commands(), 0) << "a new one, on All Tanks";

@@ -78,6 +78,25 @@ TEST_F(MainWindow, ViewTakesTheToolbarAwayButNotTheReminders)
     }
 }
 
+TEST_F(MainWindow, ALogbookThatIsAnIconTakesCommandsAndComesUpFromTheWindowMenuAndCascadeKeepsSizes)
+{
+    QWidget &frame = *logbook->parentWidget();
+    const QSize size = frame.size();
+    frame.showMinimized();
+    QCoreApplication::processEvents();
+    keeper.inNext<frm_WaterAddEdit>([](frm_WaterAddEdit &w) { mouse::click(w.cmd_OK); });
+    hand::press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(keeper.count("WATERLOG"), 1);
+    emit main->mnu_Window->aboutToShow();
+    for (QAction *action : main->mnu_Window->actions())
+        if (action->text().contains("Logbook"))
+            action->trigger();
+    EXPECT_TRUE(logbook->isVisible() && !frame.isMinimized());
+    main->ShowChild(Form<OtherChild>());
+    hand::choose(*main, *main->mnu_Window, "mnu_WindowCascade");
+    EXPECT_EQ(frame.size(), size);
+}
+
 TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
 {
     give<frm_WaterAddEdit>("addentries", 0, [&](frm_WaterAddEdit &) {

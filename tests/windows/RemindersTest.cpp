@@ -136,6 +136,12 @@ TEST_F(Reminders, AreDeletedAfterAQuestionAndTheToolbarFollows)
         EXPECT_EQ(hand::column(*list->lstv_MaintSched, 0), left);
     }
     EXPECT_EQ(upcoming(), "Thu 12/02/27 Feed");
+    hand::clickRow(*list->lstv_MaintSched, 1);
+    keeper.doors.answers = {MsgBoxAnswer::OK};
+    mouse::click(list->cmd_DeleteTask);
+    EXPECT_FALSE(list->cmd_DeleteTask->isEnabled() || list->cmd_update_task->isEnabled()) << "nothing is left";
+    insert("Feed", "'2026-01-01', '2027-12-31', 700, 0, 0, ''");
+    keeper.told();
     keeper.doors.clock = keeper.doors.clock.addYears(2); // all is past, and the table is not empty
     startWith("MMDDYY", "/");
     EXPECT_EQ(upcoming(), "");
