@@ -1,9 +1,9 @@
 #include "platform/Fonts.h"
 
-#include <clocale>
 #include <thread>
 
 #include <fontconfig/fontconfig.h>
+#include <locale.h>
 
 namespace {
 
@@ -13,8 +13,14 @@ std::jthread reader;
 
 void ReadFontsAhead()
 {
-    std::setlocale(LC_ALL, ""); // now, and not by the application while numbers are read on the thread
-    reader = std::jthread([] { FcInit(); });
+    reader = std::jthread([] {
+        // The application sets the keeper's locale meanwhile, in which a number may have another decimal sign.
+        const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+        uselocale(plain);
+        FcInit();
+        uselocale(LC_GLOBAL_LOCALE);
+        freelocale(plain);
+    });
 }
 
 void AwaitFonts()
