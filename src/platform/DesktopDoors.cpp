@@ -13,7 +13,6 @@
 
 #include "platform/Files.h"
 #include "platform/Guarded.h"
-#include "platform/HelpViewer.h"
 #include "platform/late/LateParts.h"
 #include "platform/PaintedPages.h"
 #include "platform/RuntimeFailure.h"
@@ -184,8 +183,8 @@ bool DesktopDoors::showHelp(const HelpRequest &request)
     if (!QFileInfo(file).isFile())
         return false;
     if (!m_help)
-        m_help = std::make_unique<HelpViewer>(file);
-    m_help->open(request);
+        m_help = Late().makeHelp(file);
+    m_help(request);
     return true;
 }
 

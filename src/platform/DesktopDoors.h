@@ -1,11 +1,10 @@
 // The doors of a real desktop: message boxes, dialogs, the system's clock and the user's settings file.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "platform/Doors.h"
-
-class HelpViewer;
 
 class DesktopDoors : public Doors
 {
@@ -27,5 +26,5 @@ public:
 
 private:
     std::unique_ptr<SettingsStore> m_settings;
-    std::unique_ptr<HelpViewer> m_help; ///< once it was asked for
+    std::function<void(const HelpRequest &)> m_help; ///< once it was asked for
 };

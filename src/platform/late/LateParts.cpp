@@ -6,7 +6,7 @@
 
 #include <dlfcn.h>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/Guarded.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ QString findModule()
         if (const QString file = bin.filePath(QLatin1String(place) + u"/" OMK_LATE_NAME); QFile::exists(file))
             return file;
     throw RuntimeFailure(Failure::CouldNotFindFile,
-                         QStringLiteral("Charts and printouts are made by " OMK_LATE_NAME ", which belongs into %1.")
+                         QStringLiteral("Charts, printouts and the help need " OMK_LATE_NAME ", which belongs into %1.")
                              .arg(QDir::cleanPath(bin.filePath(QStringLiteral(OMK_LATE_FROM_BIN)))));
 }
 
@@ -30,7 +30,9 @@ const LateParts &load()
     const void *parts = module ? ::dlsym(module, "ostrelmarkLateParts") : nullptr;
     if (!parts)
         throw RuntimeFailure(Failure::CouldNotFindFile, QString::fromLocal8Bit(::dlerror()));
-    return *static_cast<const LateParts *>(parts);
+    const auto &late = *static_cast<const LateParts *>(parts);
+    late.begin(showFailure);
+    return late;
 }
 
 } // namespace
