@@ -88,7 +88,7 @@ int main(int argc, char **argv)
     playFantasyTank(album, main);
     playReference(album, main);
     playGraph(album, main, globals);
-    playHelp(album, main);
+    playHelp(album);
     playOptions(album, main);
     playTip(album, main);
     playAbout(album, main);

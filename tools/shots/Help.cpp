@@ -1,20 +1,15 @@
-#include <algorithm>
-
+#include <QDir>
 #include <QEventLoop>
 
+#include "platform/Files.h"
 #include "platform/HelpViewer.h"
-#include "shell/frm_OMKMDIMain.h"
 #include "shots/Album.h"
 #include "shots/Plays.h"
 
-void playHelp(Album &album, frm_OMKMDIMain &main)
+void playHelp(Album &album)
 {
-    main.mnu_HelpContents_Click();
-    const auto windows = QApplication::topLevelWidgets();
-    const auto found = std::ranges::find_if(windows, [](auto *window) { return qobject_cast<HelpViewer *>(window); });
-    if (found == windows.end())
-        return;
-    auto &viewer = static_cast<HelpViewer &>(**found);
+    HelpViewer viewer(QDir(DataFolder()).absoluteFilePath(QStringLiteral("ostrelmark.qch")));
+    viewer.open({});
     album.take(viewer, QStringLiteral("help"));
     viewer.open({HelpRequest::At::Window, QStringLiteral("frm_Waterlog")});
     album.take(viewer, QStringLiteral("help-page"));

@@ -25,7 +25,7 @@ void playReference(Album &album, frm_OMKMDIMain &main);
 /// The graph as a keeper sees it first, a sheet of all its styles, and its printout.
 void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals);
 /// The help on its first page, on the page of a window, and with what a search found.
-void playHelp(Album &album, frm_OMKMDIMain &main);
+void playHelp(Album &album);
 void playOptions(Album &album, frm_OMKMDIMain &main);
 void playAbout(Album &album, frm_OMKMDIMain &main);
 void playTip(Album &album, frm_OMKMDIMain &main);
