@@ -1,268 +1,184 @@
 #include "BareReminders.h"
 
-#include <algorithm>
 #include <array>
-#include <chrono>
-#include <cstdio>
 
 #include <libical/ical.h>
-#include <QStringList>
 
+#include "fuzz/LiteralWalk.h"
 #include "store/Database.h"
 
 namespace bare {
 
 namespace {
 
-using namespace std::chrono;
-
-Day dayNumber(const year_month_day &date) { return Day(sys_days(date).time_since_epoch().count()); }
-year_month_day dateOf(Day day) { return sys_days(days(day)); }
-int weekdayOf(Day day) { return int(weekday(sys_days(days(day))).c_encoding()); }
-
-year_month_day monthsLater(const year_month_day &date, int count)
+void keepTwenty(Dates &dates, const QDate &date, int rule)
 {
-    const year_month_day moved = date + months(count);
-    return moved.ok() ? moved : moved.year() / moved.month() / last;
+    dates.emplace(date, rule);
+    if (dates.size() > UpcomingReminders::most)
+        dates.erase(std::prev(dates.end()));
 }
 
-Day weekdayOfMonth(year_month month, int ordinal, int wanted)
+/// Hands over the dates of a rule in the range, in no particular order.
+template <class Send> void walkAll(const RecurrenceRule &rule, const DateRange &range, Send send)
 {
-    if (ordinal < 4) {
-        const Day first = dayNumber(month / day(1));
-        return first + (wanted - weekdayOf(first) + 7) % 7 + 7 * ordinal;
-    }
-    const Day end = dayNumber(month / last);
-    return end - (weekdayOf(end) - wanted + 7) % 7;
+    std::vector<QDate> dates;
+    if (rule.is(Pattern::Once))
+        dates = {*ReadOnceDetail(rule.RecurrenceDetail, QStringLiteral("MMDDYY"))};
+    else
+        dates = LiteralWalk(rule, false).result.dates;
+    for (const QDate &date : dates)
+        if (date >= range.from && date <= range.to)
+            send(date);
 }
 
-/// A day and the number of its rule, the soonest twenty of them in order.
-class Twenty
+QString detailOf(const RecurrenceRule &rule, int i)
 {
-public:
-    void add(Day day, int rule)
-    {
-        if (m_entries.size() == 20) {
-            if (day >= m_entries.back().first)
-                return;
-            m_entries.pop_back();
-        }
-        const std::pair entry(day, rule);
-        m_entries.insert(std::upper_bound(m_entries.begin(), m_entries.end(), entry), entry);
-    }
-    std::vector<std::pair<Day, int>> entries() const { return m_entries; }
-
-private:
-    std::vector<std::pair<Day, int>> m_entries;
-};
-
-std::string iso(Day day)
-{
-    const auto date = dateOf(day);
-    char text[16];
-    std::snprintf(text, sizeof text, "%04d-%02u-%02u", int(date.year()), unsigned(date.month()), unsigned(date.day()));
-    return text;
-}
-
-template <class Send> void walkMonthly(const Rule &rule, int step, Send send)
-{
-    if (rule.subtype == 0) {
-        const auto begin = dateOf(rule.start);
-        const auto first = rule.pattern == 3 ? begin.year() / rule.month / rule.interval
-                                             : begin.year() / begin.month() / rule.monthDay;
-        auto date = dayNumber(first) < rule.start ? monthsLater(first, rule.pattern == 3 ? 12 : 1) : first;
-        for (; dayNumber(date) <= rule.end; date = monthsLater(date, step))
-            send(dayNumber(date));
-        return;
-    }
-    for (Day d = rule.start; d <= rule.end;) {
-        const auto at = dateOf(d);
-        const year_month month = rule.pattern == 3 ? at.year() / rule.month : at.year() / at.month();
-        if (const Day found = weekdayOfMonth(month, rule.ordinal, rule.weekday); found >= rule.start)
-            send(found);
-        d = dayNumber((month + months(step)) / day(1));
+    constexpr const char *weekly[] = {"0100000", "0101000", "1000001"};
+    const int ordinal = i % 5, weekday = i % 7, month = 1 + i % 11;
+    switch (Pattern(rule.RecurrenceType)) {
+    case Pattern::Weekly: return QLatin1String(weekly[i % 3]);
+    case Pattern::Monthly:
+        return rule.RecurrenceSubtype == 0 ? QString::number(1 + i % 28) : MonthlyDetail(ordinal, weekday);
+    case Pattern::Yearly:
+        return rule.RecurrenceSubtype == 0 ? QString::number(month) : YearlyDetail(ordinal, weekday, month);
+    case Pattern::Once: return QDate(2026, 12, 1).addDays(i).toString(QStringLiteral("MM/dd/yyyy"));
+    default: return {};
     }
 }
 
-template <class Send> void walkAll(const Rule &rule, Send send)
+QString weekdayCode(int weekday) { return WeekdayNames()[weekday].left(2).toUpper(); }
+
+/// The part of a recurrence that names the day of a month.
+QString dayOfMonth(const RecurrenceRule &rule, int day)
 {
-    if (rule.pattern == 0 && rule.subtype == 0) {
-        for (Day d = rule.start; d <= rule.end; d += rule.interval)
-            send(d);
-    } else if (rule.pattern == 0) {
-        for (Day d = rule.start; d <= rule.end; ++d)
-            if (const int weekday = weekdayOf(d); weekday != 0 && weekday != 6)
-                send(d);
-    } else if (rule.pattern == 1) {
+    if (rule.RecurrenceSubtype == 0)
+        return QStringLiteral(";BYMONTHDAY=%1").arg(day);
+    const MonthWeekday on = ReadMonthWeekday(rule.RecurrenceDetail);
+    return QStringLiteral(";BYDAY=%1%2")
+        .arg(on.ordinal < lastOrdinal ? on.ordinal + 1 : -1)
+        .arg(weekdayCode(on.weekday));
+}
+
+QString recurrence(const RecurrenceRule &rule)
+{
+    const QString interval = QStringLiteral(";INTERVAL=%1").arg(rule.RecurrenceInterval);
+    switch (Pattern(rule.RecurrenceType)) {
+    case Pattern::Weekly: {
+        QStringList days;
+        const WeekDays chosen = ReadWeeklyDetail(rule.RecurrenceDetail);
         for (int i = 0; i < 7; ++i)
-            if (rule.days[std::size_t(i)] == '1')
-                for (Day d = rule.start + (i - weekdayOf(rule.start) + 7) % 7; d <= rule.end + 7 * rule.interval - 1;
-                     d += 7 * rule.interval)
-                    send(d);
-    } else if (rule.pattern == 4) {
-        send(rule.once);
-    } else {
-        walkMonthly(rule, rule.pattern == 3 ? 12 : rule.interval, send);
+            if (chosen[std::size_t(i)])
+                days << weekdayCode(i);
+        return u"FREQ=WEEKLY;WKST=SU" + interval + u";BYDAY=" + days.join(u',');
+    }
+    case Pattern::Monthly: return u"FREQ=MONTHLY" + interval + dayOfMonth(rule, rule.RecurrenceDetail.toInt());
+    case Pattern::Yearly: {
+        const int month =
+            rule.RecurrenceSubtype == 0 ? rule.RecurrenceDetail.toInt() : ReadMonthWeekday(rule.RecurrenceDetail).month;
+        return QStringLiteral("FREQ=YEARLY;BYMONTH=%1").arg(month) + dayOfMonth(rule, rule.RecurrenceInterval);
+    }
+    default:
+        return rule.RecurrenceSubtype == 0 ? QString(u"FREQ=DAILY" + interval)
+                                           : QStringLiteral("FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR");
     }
 }
 
-icalrecurrencetype recurrence(const Rule &rule)
+/// Midnight of the day: with plain dates the library never returns from skipping ahead.
+icaltimetype icalMidnight(const QDate &date)
 {
-    constexpr const char *names[] = {"SU", "MO", "TU", "WE", "TH", "FR", "SA"};
-    std::string every = ";INTERVAL=";
-    every += std::to_string(rule.interval);
-    std::string which = ";BYDAY=";
-    which += rule.ordinal < 4 ? std::to_string(rule.ordinal + 1) : "-1";
-    which += names[rule.weekday];
-    std::string text;
-    if (rule.pattern == 0) {
-        text = rule.subtype == 0 ? "FREQ=DAILY" + every : std::string("FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR");
-    } else if (rule.pattern == 1) {
-        text = "FREQ=WEEKLY;WKST=SU" + every + ";BYDAY=";
-        for (std::size_t i = 0; i < 7; ++i)
-            if (rule.days[i] == '1') {
-                if (text.back() != '=')
-                    text += ',';
-                text += names[i];
-            }
-    } else if (rule.pattern == 2) {
-        text = "FREQ=MONTHLY" + every + (rule.subtype == 0 ? ";BYMONTHDAY=" + std::to_string(rule.monthDay) : which);
-    } else {
-        text = "FREQ=YEARLY;BYMONTH=" + std::to_string(rule.month) +
-               (rule.subtype == 0 ? ";BYMONTHDAY=" + std::to_string(rule.interval) : which);
-    }
-    return icalrecurrencetype_from_string(text.c_str());
-}
-
-/// Midnight of the day: with plain dates the library's skip ahead does not come back.
-icaltimetype icalMidnight(Day day)
-{
-    const auto date = dateOf(day);
     icaltimetype time = icaltime_null_time();
-    time.year = int(date.year());
-    time.month = int(unsigned(date.month()));
-    time.day = int(unsigned(date.day()));
+    time.year = date.year();
+    time.month = date.month();
+    time.day = date.day();
     return time;
 }
 
 } // namespace
 
-std::vector<Rule> sampleRules()
+std::vector<RecurrenceRule> sampleRules()
 {
-    std::vector<Rule> rules;
+    struct Kind
+    {
+        Pattern pattern;
+        qint16 subtype;
+    };
+    constexpr std::array<Kind, 8> kinds{{{Pattern::Daily, 0},
+                                         {Pattern::Daily, 1},
+                                         {Pattern::Weekly, 0},
+                                         {Pattern::Monthly, 0},
+                                         {Pattern::Monthly, 1},
+                                         {Pattern::Yearly, 0},
+                                         {Pattern::Yearly, 1},
+                                         {Pattern::Once, 0}}};
+    std::vector<RecurrenceRule> rules;
     for (int i = 0; i < 1000; ++i) {
-        const int kind = i % 8;
-        Rule rule{};
-        rule.pattern = std::array{0, 0, 1, 2, 2, 3, 3, 4}[std::size_t(kind)];
-        rule.subtype = std::array{0, 1, 0, 0, 1, 0, 1, 0}[std::size_t(kind)];
-        rule.interval = rule.pattern == 3 ? 1 + i % 28 : 1 + i / 8 % 9;
-        rule.start = dayNumber(year(1990) / month(unsigned(1 + i % 12)) / day(unsigned(1 + i % 28)));
-        rule.end = dayNumber(year(2050) / 1 / 1);
-        rule.days = i % 3 == 0 ? "0100000" : i % 3 == 1 ? "0101000" : "1000001";
-        rule.ordinal = i % 5;
-        rule.weekday = i % 7;
-        rule.monthDay = 1 + i % 28;
-        rule.month = 1 + i % 11;
-        rule.once = dayNumber(year(2026) / 12 / 1) + i;
-        rule.task = "Reminder number " + std::to_string(i) + " of the bench";
+        const Kind kind = kinds[std::size_t(i) % kinds.size()];
+        RecurrenceRule rule;
+        rule.TaskDescription = QStringLiteral("Reminder number %1 of the bench").arg(i);
+        rule.RecurrenceType = qint16(kind.pattern);
+        rule.RecurrenceSubtype = kind.subtype;
+        rule.RecurrenceInterval = qint16(kind.pattern == Pattern::Yearly ? 1 + i % 28 : 1 + i / 8 % 9);
+        rule.StartDate = QDate(1990, 1 + i % 12, 1 + i % 28);
+        rule.EndDate = QDate(2050, 1, 1);
+        rule.RecurrenceDetail = detailOf(rule, i);
         rules.push_back(rule);
     }
     return rules;
 }
 
-void writeRules(Database &database, const std::vector<Rule> &rules)
+void writeRules(Database &database, const std::vector<RecurrenceRule> &rules)
 {
     Database::Transaction whole(database);
-    for (const Rule &rule : rules) {
-        QString detail;
-        switch (rule.pattern) {
-        case 1: detail = QString::fromStdString(rule.days); break;
-        case 2:
-            detail = rule.subtype == 0 ? QString::number(rule.monthDay)
-                                       : QString::number(rule.ordinal) + QString::number(rule.weekday);
-            break;
-        case 3:
-            detail = rule.subtype == 0 ? QString::number(rule.month)
-                                       : QStringLiteral("%1%2%3")
-                                             .arg(rule.ordinal)
-                                             .arg(rule.weekday)
-                                             .arg(rule.month, 2, 10, QLatin1Char('0'));
-            break;
-        case 4: {
-            const std::string date = iso(rule.once);
-            detail = QString::fromStdString(date.substr(5, 2) + '/' + date.substr(8, 2) + '/' + date.substr(0, 4));
-            break;
-        }
-        default: break;
-        }
-        database.Execute(
-            QStringLiteral(
-                "INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "
-                "SchedRSubtype, SchedDetailText) VALUES (?, ?, ?, ?, ?, ?, ?)"),
-            {QString::fromStdString(rule.task), QString::fromStdString(iso(rule.start)),
-             QString::fromStdString(iso(rule.end)), rule.interval, rule.pattern, rule.subtype, detail});
+    Recordset rows = database.OpenForAppend(QStringLiteral("maintsched"));
+    for (const RecurrenceRule &rule : rules) {
+        rows.AddNew();
+        WriteRule(rows, rule);
+        rows.Update();
     }
     whole.commit();
 }
 
-void walk(const Rule &rule, Day from, Day to, const std::function<void(Day)> &send)
+Dates soonestTwenty(const std::vector<RecurrenceRule> &rules, const DateRange &range)
 {
-    walkAll(rule, [&](Day day) {
-        if (day >= from && day <= to)
-            send(day);
-    });
-}
-
-std::vector<std::pair<Day, int>> soonestTwenty(const std::vector<Rule> &rules, Day from, Day to)
-{
-    Twenty twenty;
+    Dates twenty;
     for (int i = 0; i < int(rules.size()); ++i)
-        walkAll(rules[std::size_t(i)], [&](Day day) {
-            if (day >= from && day <= to)
-                twenty.add(day, i);
-        });
-    return twenty.entries();
+        walkAll(rules[std::size_t(i)], range, [&](const QDate &date) { keepTwenty(twenty, date, i); });
+    return twenty;
 }
 
-std::vector<Texts> scheduleTexts(const std::vector<Rule> &rules, Day from, Day to)
+Dates soonestTwentyByLibical(const std::vector<RecurrenceRule> &rules, const DateRange &range)
 {
-    constexpr const char *names[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
-    std::vector<Texts> rows;
-    for (const Rule &rule : rules)
-        walkAll(rule, [&](Day day) {
-            if (day < from || day > to)
-                return;
-            const auto date = dateOf(day);
-            const int y = int(date.year());
-            const unsigned m = unsigned(date.month()), d = unsigned(date.day());
-            char shown[40], key[16];
-            std::snprintf(shown, sizeof shown, "%s %02u/%02u/%02d", names[weekdayOf(day)], m, d, y % 100);
-            std::snprintf(key, sizeof key, "%04d%02u%02u", y, m, d);
-            rows.push_back({shown, rule.task, key});
-        });
-    return rows;
-}
-
-std::vector<std::pair<Day, int>> soonestTwentyByLibical(const std::vector<Rule> &rules, Day from, Day to)
-{
-    Twenty twenty;
-    const icaltimetype begin = icalMidnight(from), end = icalMidnight(to);
+    Dates twenty;
     for (int i = 0; i < int(rules.size()); ++i) {
-        const Rule &rule = rules[std::size_t(i)];
-        if (rule.pattern == 4) {
-            if (rule.once >= from && rule.once <= to)
-                twenty.add(rule.once, i);
+        const RecurrenceRule &rule = rules[std::size_t(i)];
+        if (rule.is(Pattern::Once)) {
+            walkAll(rule, range, [&](const QDate &date) { keepTwenty(twenty, date, i); });
             continue;
         }
-        icalrecur_iterator *iterator = icalrecur_iterator_new(recurrence(rule), icalMidnight(rule.start));
-        icalrecur_iterator_set_start(iterator, begin);
-        for (icaltimetype at = icalrecur_iterator_next(iterator);
-             !icaltime_is_null_time(at) && icaltime_compare_date_only(at, end) <= 0;
-             at = icalrecur_iterator_next(iterator))
-            twenty.add(dayNumber(year(at.year) / at.month / at.day), i);
+        icalrecur_iterator *iterator = icalrecur_iterator_new(
+            icalrecurrencetype_from_string(recurrence(rule).toLatin1()), icalMidnight(rule.StartDate));
+        icalrecur_iterator_set_start(iterator, icalMidnight(range.from));
+        for (icaltimetype at = icalrecur_iterator_next(iterator); !icaltime_is_null_time(at);
+             at = icalrecur_iterator_next(iterator)) {
+            const QDate date(at.year, at.month, at.day);
+            if (date > range.to)
+                break;
+            keepTwenty(twenty, date, i);
+        }
         icalrecur_iterator_free(iterator);
     }
-    return twenty.entries();
+    return twenty;
+}
+
+std::vector<Texts> scheduleTexts(const std::vector<RecurrenceRule> &rules, const DateRange &range)
+{
+    std::vector<Texts> rows;
+    for (const RecurrenceRule &rule : rules)
+        walkAll(rule, range, [&](const QDate &date) {
+            rows.push_back({date.toString(QStringLiteral("dddd MM/dd/yy")), rule.TaskDescription,
+                            date.toString(QStringLiteral("yyyyMMdd"))});
+        });
+    return rows;
 }
 
 } // namespace bare

@@ -30,8 +30,6 @@ struct Figure
 /// Of programs in processes of their own, which lie beside omk_bench.
 Figure openTankFigure(const QString &folder, const QString &tankId);
 Figure startFigure(const QString &folder);
-/// The same beside a floor that shows text: what of the start is the system's fonts.
-Figure startWithTextFigure(const QString &folder);
 /// On a desk where a tank is open.
 Figure sortFigure(Desk &desk);
 Figure scrollFigure(Desk &desk);

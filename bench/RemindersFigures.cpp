@@ -21,9 +21,7 @@ class ReminderDesk
 {
 public:
     ReminderDesk(Desk &desk, const QString &folder) :
-        m_globals(desk.globals()), m_rules(bare::sampleRules()),
-        m_from(bare::Day(QDate(1970, 1, 1).daysTo(Now().date()))),
-        m_to(bare::Day(QDate(1970, 1, 1).daysTo(Now().date().addYears(2))))
+        m_globals(desk.globals()), m_rules(bare::sampleRules()), m_range(TwoYearsFrom(Now().date()))
     {
         const QString file = folder + u"/REMINDERS.MDB";
         CreateDatabase(file);
@@ -62,7 +60,7 @@ public:
     template <class Work> Sample barely(Work work)
     {
         const std::int64_t start = nowNanoseconds();
-        const auto found = work(m_rules, m_from, m_to);
+        const auto found = work(m_rules, m_range);
         return {millisecondsSince(start), double(found.size())};
     }
 
@@ -76,8 +74,8 @@ private:
     }
 
     Globals &m_globals;
-    std::vector<bare::Rule> m_rules;
-    bare::Day m_from, m_to;
+    std::vector<RecurrenceRule> m_rules;
+    DateRange m_range;
     std::unique_ptr<Database> m_database;
 };
 

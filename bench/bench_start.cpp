@@ -7,7 +7,6 @@
 #include "FirstPaint.h"
 #include "platform/Application.h"
 #include "platform/DesktopDoors.h"
-#include "platform/Fonts.h"
 #include "platform/Guarded.h"
 #include "shell/Forms.h"
 #include "shell/frm_OMKMDIMain.h"
@@ -16,7 +15,6 @@ int main(int argc, char **argv)
 {
     if (argc != 3 || !QDir::setCurrent(QString::fromLocal8Bit(argv[1])))
         return 2;
-    ReadFontsAhead();
     FirstPaint<Application> application(argc, argv, std::atoll(argv[2]));
     DesktopDoors doors;
     Doors::install(&doors);

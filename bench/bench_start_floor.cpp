@@ -1,5 +1,5 @@
-// bench_start_floor DATABASE NANOSECONDS: the floor of the start: a main window with an MDI area and nothing in it, and
-// the database opened by SQLite's own interface.
+// bench_start_floor DATABASE NANOSECONDS: the floor of the start: a main window with one menu, an empty MDI area and a
+// line in the status bar, and the database opened through SQLite's own interface.
 #include <cstdlib>
 
 #include <QMainWindow>
@@ -12,7 +12,7 @@
 
 int main(int argc, char **argv)
 {
-    if (argc < 3)
+    if (argc != 3)
         return 2;
     FirstPaint<QApplication> application(argc, argv, std::atoll(argv[2]));
     sqlite3 *database = nullptr;
@@ -22,10 +22,8 @@ int main(int argc, char **argv)
     QMainWindow window;
     window.setCentralWidget(new QMdiArea);
     window.resize(1100, 740);
-    if (argc > 3) {
-        window.menuBar()->addMenu(QStringLiteral("File"));
-        window.statusBar()->showMessage(QStringLiteral("Ready"));
-    }
+    window.menuBar()->addMenu(QStringLiteral("File"));
+    window.statusBar()->showMessage(QStringLiteral("Ready"));
     application.watch(&window);
     window.show();
     return QApplication::exec();

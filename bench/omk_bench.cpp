@@ -40,7 +40,6 @@ bool measureIn(const QString &folder, int argc, char **argv)
                                 scrollFigure(desk),
                                 saveFigure(file, tank),
                                 startFigure(folder),
-                                startWithTextFigure(folder),
                                 namesFigure(),
                                 namesWindowFigure(),
                                 namesAgainFigure(),

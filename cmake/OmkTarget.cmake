@@ -28,14 +28,6 @@ function(omk_program name)
     target_link_libraries(${name} PRIVATE ${ARG_LINK} omk_options)
 endfunction()
 
-# omk_toolkit_first(NAME): a start binds some thirty thousand symbols, most of the toolkit's, and looks for each in one library
-# after the other. CMake alone would put those that all others need at the end.
-function(omk_toolkit_first name)
-    target_link_options(${name} BEFORE PRIVATE
-        "LINKER:--push-state,--no-as-needed" $<TARGET_FILE:Qt6::Core> $<TARGET_FILE:Qt6::Widgets> $<TARGET_FILE:Qt6::Gui>
-        "LINKER:--pop-state")
-endfunction()
-
 # omk_rows(VARIABLE FILE): the lines of a text file as the rows of a C++ array of texts, but for comments, which begin with #. A
 # row may hold no semicolon, bracket or backslash.
 function(omk_rows variable file)

@@ -1,7 +1,7 @@
 # What Ostrelmark is built with, from the distribution's packages, and the way to have it. Sourced by run, test and packaging/deb.
 # Nothing is asked or fetched when everything is there.
 
-build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libsqlite3-dev libfontconfig-dev libqcustomplot-dev fonts-liberation fonts-dejavu-core"
+build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libsqlite3-dev libqcustomplot-dev fonts-liberation fonts-dejavu-core"
 test_packages="libgtest-dev clang libclang-rt-14-dev"
 package_packages="dpkg-dev file lintian desktop-file-utils appstream"
 

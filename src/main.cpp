@@ -3,7 +3,6 @@
 #include "platform/Application.h"
 #include "platform/DesktopDoors.h"
 #include "platform/Files.h"
-#include "platform/Fonts.h"
 #include "platform/Guarded.h"
 #include "shell/CommandLine.h"
 #include "shell/Forms.h"
@@ -21,7 +20,6 @@ int main(int argc, char **argv)
         std::fputs("ostrelmark: there is no display to show windows on. Start it in a desktop session.\n", stderr);
         return 1;
     }
-    ReadFontsAhead();
     Application application(argc, argv);
     DesktopDoors doors;
     Doors::install(&doors);

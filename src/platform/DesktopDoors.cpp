@@ -13,8 +13,9 @@
 
 #include "platform/Files.h"
 #include "platform/Guarded.h"
-#include "platform/late/LateParts.h"
+#include "platform/HelpViewer.h"
 #include "platform/PaintedPages.h"
+#include "platform/Paper.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"
 
@@ -160,21 +161,21 @@ std::optional<QString> DesktopDoors::saveDialog(const SaveDialogRequest &request
 std::optional<PrintDialogAnswer> DesktopDoors::printDialog(const PrintDialogRequest &request)
 {
     const ActivityKeeper keeper;
-    if (Late().hasPrinters())
-        return Late().askPrinter(keeper.window(), request);
+    if (HasPrinters())
+        return AskPrinter(keeper.window(), request);
     const auto name = askPdfName(keeper.window(), request);
     return name ? std::optional(PrintDialogAnswer{1, 0, 0, {}, *name}) : std::nullopt;
 }
 
 std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
 {
-    return target.pdfFileName.isEmpty() ? Late().pagesOnPrinter(target.printerName) : PagesInPdf(target.pdfFileName);
+    return target.pdfFileName.isEmpty() ? PagesOnPrinter(target.printerName) : PagesInPdf(target.pdfFileName);
 }
 
 void DesktopDoors::preview(const PreviewRequest &request)
 {
     const ActivityKeeper keeper;
-    Late().preview(keeper.window(), {request.title, guarded([&request](PageSink &pages) { request.print(pages); })});
+    ShowPreview(keeper.window(), {request.title, guarded([&request](PageSink &pages) { request.print(pages); })});
 }
 
 bool DesktopDoors::showHelp(const HelpRequest &request)
@@ -183,8 +184,8 @@ bool DesktopDoors::showHelp(const HelpRequest &request)
     if (!QFileInfo(file).isFile())
         return false;
     if (!m_help)
-        m_help = Late().makeHelp(file);
-    m_help(request);
+        m_help = std::make_unique<HelpViewer>(file);
+    m_help->open(request);
     return true;
 }
 

@@ -1,10 +1,11 @@
 // The doors of a real desktop: message boxes, dialogs, the system's clock and the user's settings file.
 #pragma once
 
-#include <functional>
 #include <memory>
 
 #include "platform/Doors.h"
+
+class HelpViewer;
 
 class DesktopDoors : public Doors
 {
@@ -26,5 +27,5 @@ public:
 
 private:
     std::unique_ptr<SettingsStore> m_settings;
-    std::function<void(const HelpRequest &)> m_help; ///< once it was asked for
+    std::unique_ptr<HelpViewer> m_help; ///< made when help is asked for the first time
 };

@@ -1,6 +1,5 @@
 #include "platform/Style.h"
 
-#include <QMainWindow>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -24,17 +23,6 @@ void outline(QPainter &painter, const QRect &place, bool round, const QColor &co
     painter.restore();
 }
 
-/// As Fusion has it: lighter above, and two lines below.
-void fillToolBar(QPainter &painter, const QRect &place, const QColor &window)
-{
-    QLinearGradient light(place.topLeft(), place.bottomLeft());
-    light.setColorAt(0, window.lighter(104));
-    light.setColorAt(1, window);
-    painter.fillRect(place, light);
-    painter.fillRect(place.left(), place.bottom() - 1, place.width(), 1, QColor(255, 255, 255, 90));
-    painter.fillRect(place.left(), place.bottom(), place.width(), 1, QColor(0, 0, 0, 60));
-}
-
 /// A text that has not the room ends with dots.
 QStyleOptionComboBox fitted(QStyleOptionComboBox list, const QRect &room)
 {
@@ -48,13 +36,8 @@ QStyleOptionComboBox fitted(QStyleOptionComboBox list, const QRect &room)
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                         const QWidget *widget) const
 {
-    const auto *bar = qstyleoption_cast<const QStyleOptionToolBar *>(option);
     const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    const bool isTop = element == CE_ToolBar && bar && bar->toolBarArea == Qt::TopToolBarArea && widget &&
-                       qobject_cast<const QMainWindow *>(widget->parentWidget());
-    if (isTop && baseStyle()->name() == u"fusion") {
-        fillToolBar(*painter, option->rect, option->palette.window().color());
-    } else if (list && element == CE_ComboBoxLabel) {
+    if (list && element == CE_ComboBoxLabel) {
         const auto fitting = fitted(*list, subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget));
         QProxyStyle::drawControl(element, &fitting, painter, widget);
     } else {

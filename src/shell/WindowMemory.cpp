@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QMdiSubWindow>
+#include <QRegularExpression>
 #include <QScreen>
 
 #include "platform/Doors.h"
@@ -46,22 +47,14 @@ QString textOf(const Geometry &geometry)
 
 std::optional<Geometry> geometryIn(const QString &text)
 {
-    const QStringList words = text.split(u' '), parts = words[0].split(u'+'), size = parts[0].split(u'x');
-    const bool maximized = words.size() == 2 && words[1] == u"maximized";
-    if ((words.size() > 1 && !maximized) || (parts.size() != 1 && parts.size() != 3) || size.size() != 2)
+    static const QRegularExpression form(
+        QStringLiteral("^([1-9][0-9]{0,4})x([1-9][0-9]{0,4})(?:\\+(-?[0-9]{1,5})\\+(-?[0-9]{1,5}))?( maximized)?$"));
+    const auto match = form.match(text);
+    if (!match.hasMatch())
         return {};
-    QList<int> numbers;
-    for (const QString &part : size + parts.mid(1)) {
-        bool isNumber = false;
-        numbers << part.toInt(&isNumber);
-        if (!isNumber || numbers.back() < -99'999 || numbers.back() > 99'999)
-            return {};
-    }
-    if (numbers[0] < 1 || numbers[1] < 1)
-        return {};
-    Geometry geometry{{numbers[0], numbers[1]}, {}, maximized};
-    if (parts.size() == 3)
-        geometry.place = QPoint(numbers[2], numbers[3]);
+    Geometry geometry{{match.captured(1).toInt(), match.captured(2).toInt()}, {}, match.hasCaptured(5)};
+    if (match.hasCaptured(3))
+        geometry.place = QPoint(match.captured(3).toInt(), match.captured(4).toInt());
     return geometry;
 }
 

@@ -15,7 +15,6 @@
 #include <QToolBar>
 
 #include "platform/Doors.h"
-#include "platform/Fonts.h"
 #include "platform/Guarded.h"
 #include "platform/HourGlass.h"
 #include "platform/Icons.h"
@@ -85,6 +84,7 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
     setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's would hide the strip with the reminders
     makeMenus(*this, *menuBar());
     makeToolbar();
+    makeStatusBar();
 
     m_area->setObjectName(QStringLiteral("mdiArea"));
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -124,7 +124,6 @@ void frm_OMKMDIMain::makeToolbar()
         auto *button =
             AddToolButton(*Toolbar1, QLatin1String(row.key), QLatin1String(row.toolTip), row.image, std::move(action));
         m_buttons.emplace(QLatin1String(row.key), button);
-        button->icon().pixmap(Toolbar1->iconSize(), devicePixelRatio()); // drawn while the fonts are still being read
     }
 
     auto *space = new QWidget;
@@ -161,8 +160,6 @@ void frm_OMKMDIMain::MDIForm_Load()
     CheckDatabaseVersion();
     ReadOptions(g);
     g.gGraphPageSize = 20;
-    AwaitFonts();
-    makeStatusBar();
     QApplication::processEvents();
     Top20List();
     show();

@@ -118,7 +118,7 @@ private:
 
     Globals &g;
     QMdiArea *m_area;
-    QLabel *m_panel = nullptr; ///< made when the fonts are there
+    QLabel *m_panel;
     QAction *m_toolbarPlace; ///< shows and hides Toolbar1: the strip would bring a hidden one back
     std::map<QString, MenuEntry *> m_buttons;
     QPointer<ChildForm> m_activeChild;

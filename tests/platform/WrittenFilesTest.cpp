@@ -5,8 +5,8 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
-#include "platform/late/Paper.h"
 #include "platform/PaintedPages.h"
+#include "platform/Paper.h"
 #include "platform/RuntimeFailure.h"
 #include "platform/SettingsStore.h"
 #include "support/TestFiles.h"

@@ -7,8 +7,7 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "platform/chart/ChartCanvas.h"
-#include "platform/late/LateParts.h"
+#include "platform/chart/ChartPlot.h"
 #include "platform/RuntimeFailure.h"
 
 namespace {
@@ -26,12 +25,12 @@ ChartTurn turnedBy(const ChartTurn &turn, const QPointF &moved)
 
 } // namespace
 
-Chart::Chart(QWidget *parent) : QWidget(parent), m_plot(Late().makeChartCanvas(this))
+Chart::Chart(QWidget *parent) : QWidget(parent), m_plot(new ChartPlot(this))
 {
     setMouseTracking(true); // the chart is turned, and the tips are told, without a button pressed
     setFocusPolicy(Qt::StrongFocus);
-    m_plot->widget().setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_plot->widget().setFocusPolicy(Qt::NoFocus);
+    m_plot->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_plot->setFocusPolicy(Qt::NoFocus);
     changed();
 }
 
@@ -48,7 +47,7 @@ void Chart::drawNow() const
     if (!std::exchange(m_stale, false))
         return;
     m_plot->build(m_data, m_type, m_title, ChartColours::onScreen(palette()));
-    m_plot->redraw();
+    m_plot->replot(QCustomPlot::rpQueuedRefresh);
 }
 
 void Chart::setColumnCount(int count)
@@ -107,17 +106,20 @@ void Chart::setTitleText(const QString &title)
     changed();
 }
 
-std::unique_ptr<ChartCanvas> Chart::onPaper() const
+std::unique_ptr<ChartPlot> Chart::onPaper() const
 {
     drawNow(); // it may just have been turned
-    std::unique_ptr<ChartCanvas> paper(Late().makeChartCanvas(nullptr));
-    paper->widget().setFont(font());
+    auto paper = std::make_unique<ChartPlot>();
+    paper->setFont(font());
     paper->setTurn(m_plot->turn());
     paper->build(m_data, m_type, m_title, ChartColours::onPaper());
     return paper;
 }
 
-void Chart::EditCopy() const { QGuiApplication::clipboard()->setImage(onPaper()->image(size(), 2)); }
+void Chart::EditCopy() const
+{
+    QGuiApplication::clipboard()->setImage(onPaper()->toPixmap(width(), height(), 2).toImage());
+}
 
 void Chart::paintOn(QPainter &painter, const QSizeF &size) const
 {
@@ -132,13 +134,13 @@ QRectF Chart::place(int row, int column) const
 {
     drawNow();
     const QRectF onPlot = m_plot->place(row - 1, column - 1);
-    return onPlot.isNull() ? onPlot : onPlot.translated(m_plot->widget().pos());
+    return onPlot.isNull() ? onPlot : onPlot.translated(m_plot->pos());
 }
 
 QString Chart::tip(const QPointF &place) const
 {
     drawNow();
-    const ChartCell cell = m_plot->cellAt(place - m_plot->widget().pos());
+    const ChartCell cell = m_plot->cellAt(place - m_plot->pos());
     if (!cell)
         return {};
     return m_data.rowLabels.at(cell.row) + u'\n' + m_data.columnLabels.at(cell.column) + QStringLiteral(": ") +
@@ -155,7 +157,7 @@ bool Chart::event(QEvent *event)
     }
     case QEvent::PaletteChange:
     case QEvent::FontChange:
-        m_plot->widget().setFont(font());
+        m_plot->setFont(font());
         changed();
         break;
     default: break;
@@ -163,7 +165,7 @@ bool Chart::event(QEvent *event)
     return QWidget::event(event);
 }
 
-void Chart::resizeEvent(QResizeEvent *) { m_plot->widget().setGeometry(rect().adjusted(frame, frame, -frame, -frame)); }
+void Chart::resizeEvent(QResizeEvent *) { m_plot->setGeometry(rect().adjusted(frame, frame, -frame, -frame)); }
 
 void Chart::paintEvent(QPaintEvent *)
 {
@@ -175,7 +177,7 @@ void Chart::paintEvent(QPaintEvent *)
 void Chart::turnBy(const QPointF &moved)
 {
     m_plot->setTurn(turnedBy(m_plot->turn(), moved));
-    m_plot->redrawSoon();
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Chart::mouseMoveEvent(QMouseEvent *event)

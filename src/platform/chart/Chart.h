@@ -11,7 +11,7 @@
 
 #include "platform/chart/ChartData.h"
 
-class ChartCanvas;
+class ChartPlot;
 
 class Chart : public QWidget
 {
@@ -67,7 +67,7 @@ protected:
 private:
     void changed();
     void drawNow() const;
-    std::unique_ptr<ChartCanvas> onPaper() const;
+    std::unique_ptr<ChartPlot> onPaper() const;
     void turnBy(const QPointF &moved);
 
     ChartData m_data;
@@ -75,7 +75,7 @@ private:
     int m_row = 0; ///< selected; from 1
     int m_column = 0;
     QString m_title;
-    ChartCanvas *m_plot;
+    ChartPlot *m_plot;
     mutable bool m_stale = false;    ///< the plot is not yet what the cells say
     std::optional<QPointF> m_turned; ///< where the pointer was when it turned the chart last
 };

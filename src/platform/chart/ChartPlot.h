@@ -9,31 +9,35 @@
 #include <qcustomplot.h>
 
 #include "platform/chart/ChartBandView.h"
-#include "platform/chart/ChartCanvas.h"
 #include "platform/chart/ChartData.h"
 #include "platform/chart/ChartLook.h"
 
 class ChartPie;
 class ChartRowTicker;
 
-class ChartPlot : public QCustomPlot, public ChartCanvas
+/// Where the depth goes: to the right (1) or to the left (-1), and up (0 to 1).
+struct ChartTurn
+{
+    double right = 0.7;
+    double up = 0.55;
+};
+
+class ChartPlot : public QCustomPlot
 {
 public:
     explicit ChartPlot(QWidget *parent = nullptr);
 
-    QWidget &widget() override { return *this; }
-    void build(const ChartData &data, int chartType, const QString &title, const ChartColours &colours) override;
-    void setTurn(const ChartTurn &turn) override { m_turn = turn; }
-    const ChartTurn &turn() const override { return m_turn; }
-    void redraw() override { replot(rpQueuedRefresh); }
-    void redrawSoon() override { replot(rpQueuedReplot); }
-    ChartCell cellAt(const QPointF &place) const override;
-    QRectF place(int row, int column) const override;
-    QImage image(const QSize &size, double scale) override
-    {
-        return toPixmap(size.width(), size.height(), scale).toImage();
-    }
-    void paintVectors(QPainter &painter, const QSizeF &size) override;
+    /// Replaces whatever was drawn before. The change is visible after the next replot().
+    void build(const ChartData &data, int chartType, const QString &title, const ChartColours &colours);
+    /// Visible after the next replot(), too.
+    void setTurn(const ChartTurn &turn) { m_turn = turn; }
+    const ChartTurn &turn() const { return m_turn; }
+    /// The cell whose value is drawn at a place of the widget, or within a few pixels of it.
+    ChartCell cellAt(const QPointF &place) const;
+    /// Where a cell's value is drawn; empty for a blank one.
+    QRectF place(int row, int column) const;
+    /// Paints the chart as vectors into a rectangle that starts at 0, 0.
+    void paintVectors(QPainter &painter, const QSizeF &size);
 
 private:
     void clear();

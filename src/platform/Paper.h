@@ -1,4 +1,4 @@
-// Printers: the system's dialog, pages on one, and the preview. Part of the module that is loaded late.
+// Printers: the system's dialog, pages on one, and the preview.
 #pragma once
 
 #include <memory>

@@ -1,4 +1,4 @@
-#include "platform/late/Paper.h"
+#include "platform/Paper.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
