@@ -1,11 +1,11 @@
-# What Ostrelmark is built with, from the distribution's packages, and the way to have it. Sourced by run, test and packaging/deb.
-# Nothing is asked or fetched when everything is there.
+# The distribution's packages that Ostrelmark is built with, and functions that install them and build. run, test and packaging/deb
+# source this file. If all packages are installed, nothing is asked or downloaded.
 
 build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libsqlite3-dev libqcustomplot-dev fonts-liberation fonts-dejavu-core"
 test_packages="libgtest-dev clang libclang-rt-14-dev"
 package_packages="dpkg-dev file lintian desktop-file-utils appstream"
 
-# install_missing PACKAGE ...: as root, or through sudo.
+# install_missing PACKAGE ...: installs the packages that are missing, as root or with sudo.
 install_missing() {
     missing=""
     for package in "$@"; do
@@ -19,24 +19,24 @@ install_missing() {
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null 2>&1; then
             echo "These packages are missing:$missing" >&2
-            echo "Install them as root (apt-get install$missing) and start again." >&2
+            echo "Install them as root (apt-get install$missing) and run this command again." >&2
             return 1
         fi
         as_root="sudo"
     fi
-    echo "Installing what is missing:$missing"
+    echo "Installing missing packages:$missing"
     $as_root apt-get update -qq &&
         $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
 }
 
-# build PRESET: configures and builds, quietly unless it fails.
+# build PRESET: configures and builds; prints the output only if this fails.
 build() {
     cmake --preset "$1" >"$here/build-$1.log" 2>&1 && cmake --build --preset "$1" >>"$here/build-$1.log" 2>&1 && rm -f "$here/build-$1.log" && return 0
     cat "$here/build-$1.log" >&2
     return 1
 }
 
-# A UTF-8 locale and a run-time folder of mode 0700: without them Qt warns at every start.
+# Sets a UTF-8 locale and a run-time folder of mode 0700; without them, Qt prints a warning at every start.
 prepare_environment() {
     export LC_ALL="${LC_ALL:-C.UTF-8}"
     if [ -z "${XDG_RUNTIME_DIR:-}" ] || [ ! -d "${XDG_RUNTIME_DIR:-}" ]; then
