@@ -1,5 +1,5 @@
-# The help has a page for every window, by its name, and no link, picture or keyword to a page or a place in one that is
-# not there. The arguments are the folder of the help and src/; what is missing is printed.
+# Checks that the help has one keyword with the name of each window, and that each link, picture and keyword leads to a page, and to
+# a place in the page, that exists. The arguments are the folder of the help and the full path of src/. Prints what is missing.
 cd "$1" || exit 2
 broken=0
 missing() {

@@ -1,8 +1,8 @@
-# The house keeps its own rules: arrows point down, no header includes a window, and the world is reached through the
-# doors alone. The argument is src/; what breaks a rule is printed.
+# Checks the rules of the source code: a layer includes only lower layers, no header includes a window, and only the doors reach the
+# clock, boxes, dialogs and settings. The argument is src/. Prints the lines that break a rule.
 cd "$1" || exit 2
 broken=0
-forbid() { # options and places of grep, after the text that no source there may hold
+forbid() { # the forbidden pattern, then the options and places of grep
     grep -rnP --include='*.h' "$@" && broken=1
 }
 forbid '#include "(?!(platform|text)/)[a-z]+/' --include='*.cpp' platform text

@@ -1,6 +1,6 @@
-# The name files that are shipped keep their format: a common name up to column 48, a blank, the Latin name; sorted, no
-# name twice, as many as promised. The arguments are the files; what breaks a rule is printed. What the program makes of a
-# name file stands in tests/fuzz/fuzz_names.cpp.
+# Checks the format of the installed name files: a common name up to column 48, a blank, the Latin name. The names are sorted, no
+# name occurs twice, and there are enough of them. The arguments are the files. Prints the lines that break a rule.
+# tests/fuzz/fuzz_names.cpp tests how the program reads a name file.
 broken=0
 for file in "$@"; do
     names=$(LC_ALL=C grep -v '^!' "$file" | tr 'A-Z' 'a-z')
