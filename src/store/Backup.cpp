@@ -20,8 +20,8 @@
 
 namespace {
 
-/// The database while it is copied: others may read it meanwhile and not write, and what a crash of another program
-/// left half done has been undone.
+/// The database while it is being copied. Other programs may read it meanwhile, but not write to it. Changes that a
+/// crashed program left unfinished have been rolled back.
 class Source
 {
 public:
@@ -32,7 +32,8 @@ public:
         m_size = fileSize(m_connection);
     }
 
-    /// Calls `take(bytes, count)` with one piece after the other, until it returns false; true if it never did.
+    /// Calls `take(bytes, count)` with one piece after the other until it returns false. Returns whether all pieces
+    /// were taken.
     template <class Take> bool read(Take take)
     {
         for (qint64 at = 0; at < m_size;) {
@@ -62,7 +63,7 @@ private:
     std::vector<char> m_piece = std::vector<char>(1 << 20);
 };
 
-/// A file that is being written, without a buffer: what is full or broken is told by the call that meets it.
+/// A file that is being written, without a buffer, so that a full or broken disk fails the very call that meets it.
 class Output
 {
 public:
@@ -86,7 +87,7 @@ public:
             count -= std::size_t(written);
         }
     }
-    /// Who may read the database may read its copy, and nobody else. Not every file system knows of that.
+    /// Gives the copy the permissions of the database. Not every file system supports them.
     void setModeOf(const QString &path)
     {
         struct stat status = {};
@@ -126,7 +127,7 @@ bool isSame(Source &source, const QString &path)
     });
 }
 
-/// The target itself, where its path leads to it by a link.
+/// The target itself if the path is a link to it.
 QString realPath(const QString &target)
 {
     const QFileInfo file(target);
@@ -134,7 +135,8 @@ QString realPath(const QString &target)
     return real.isEmpty() ? file.absoluteFilePath() : real;
 }
 
-/// Is it the database by another path, a link, or one of the files that the engine keeps beside it?
+/// Whether the target is the database through another path or link, or one of the files that the engine keeps beside
+/// it.
 bool belongsTo(const QString &database, const QString &target)
 {
     struct stat one = {}, other = {};

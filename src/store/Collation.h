@@ -1,13 +1,13 @@
-// Inside of the store: the order of every list that a person sees. Registered on each connection under the name
-// CASEBLIND, for ORDER BY only: an index in the file must not depend on it, as other programs do not have it.
+// Internal to the store: the sort order of every list that a person sees. It is registered on each connection as
+// CASEBLIND, for ORDER BY only: an index in the file must not depend on it, because other programs do not know it.
 #pragma once
 
 #include <string_view>
 
 struct sqlite3;
 
-/// Compares two UTF-8 texts by their case-folded letters; texts that differ in case alone follow their bytes, so that
-/// the order is total and the same each time.
+/// Compares two UTF-8 texts by their case-folded letters. Texts that differ only in case are compared byte by byte, so
+/// that the order is always the same.
 int compareCaseBlind(std::string_view a, std::string_view b);
 
 /// Returns the engine's result code.

@@ -11,12 +11,12 @@ namespace {
 
 struct FailureOfCode
 {
-    int code; ///< an extended result code, or a primary one for all of its kind
+    int code; ///< an extended result code, or a primary one that covers all its extended codes
     Failure failure;
     const char *hint;
 };
 
-// Extended codes stand before their primary code.
+// Extended codes come before their primary code, because the first match counts.
 constexpr FailureOfCode failures[] = {
     {SQLITE_CONSTRAINT_UNIQUE, Failure::DuplicateKey, ""},
     {SQLITE_CONSTRAINT_PRIMARYKEY, Failure::DuplicateKey, ""},

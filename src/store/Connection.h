@@ -1,6 +1,6 @@
-// Inside of the store: the SQLite handle and a statement on it, each freed by its owner, each error of the engine
-// turned into a RuntimeFailure here and nowhere else. Recordsets and transactions share the connection; after close()
-// every use of it throws ObjectNotSet. sqlite3.h itself is for .cpp files.
+// Internal to the store: the SQLite handle and its statements, each freed by its owner. This is the only place where
+// errors of the engine become RuntimeFailures. Recordsets and transactions share the connection; after close() every
+// use of it throws ObjectNotSet. Only .cpp files include sqlite3.h.
 #pragma once
 
 #include <memory>
@@ -17,27 +17,27 @@ struct sqlite3_stmt;
 class Connection
 {
 public:
-    /// Opens that very file; creates none. Nothing is read yet.
+    /// Opens an existing file with exactly this name. Nothing is read yet.
     explicit Connection(const QString &path);
     ~Connection();
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
 
     bool isOpen() const { return m_handle != nullptr; }
-    /// Rolls back what is open, and lets the file go.
+    /// Rolls back an open transaction and closes the file.
     void close() noexcept;
     /// Throws ObjectNotSet when closed.
     sqlite3 *handle() const;
 
-    /// Runs statements without values. `doing` is what a failure says was being done.
+    /// Runs statements without parameters. `doing` describes the operation in the text of a failure.
     void run(const char *sql, const QString &doing);
     void rollBack() noexcept;
     bool inTransaction() const;
 
-    /// Throws what stands for a result code of the engine, with its message and what was being done.
+    /// Throws the RuntimeFailure for a result code of the engine, with the engine's message and `doing`.
     [[noreturn]] void fail(int code, const QString &doing) const;
 
-    /// Milliseconds to wait for another program's lock before it counts as held; for connections opened from now on.
+    /// How many milliseconds connections opened from now on wait for another program's lock.
     static int busyTimeout;
 
 private:
@@ -50,14 +50,14 @@ private:
     sqlite3_stmt *m_kept = nullptr;
 };
 
-/// One statement, its values bound by copy.
+/// One statement. Bound values are copied.
 class Statement
 {
 public:
     enum class Use { Once, Again };
 
-    /// Throws SyntaxError where the text is not exactly one statement. Again: kept for the next time the same text is
-    /// run.
+    /// Throws SyntaxError if the text is not exactly one statement. `Again` keeps the prepared statement for the next
+    /// run of the same text.
     Statement(std::shared_ptr<Connection> connection, const QString &sql, const QString &doing, Use use = Use::Once);
     ~Statement();
     Statement(const Statement &) = delete;
@@ -67,7 +67,7 @@ public:
     void bind(const std::vector<Value> &values);
     /// True while there is a row.
     bool step();
-    /// Runs to the end; returns how many rows it changed.
+    /// Runs the statement to its end and returns how many rows it changed.
     int run();
 
     sqlite3_stmt *handle() const { return m_statement; }
@@ -83,5 +83,5 @@ private:
     sqlite3_stmt *m_statement = nullptr;
 };
 
-/// An identifier in double quotes, whatever it holds.
+/// An identifier in double quotes, with quotation marks inside it escaped.
 QString quoted(const QString &identifier);

@@ -1,6 +1,5 @@
-// The one database file and its connection. Refuses what is no database of ours, what is locked, read-only, missing or
-// damaged, each with its own RuntimeFailure and without changing the file. The store shows nothing: windows turn
-// failures into boxes.
+// The database file and its connection. A file that is foreign, locked, read-only, missing or damaged is refused with a
+// RuntimeFailure of its own and is not changed. The store shows nothing: windows turn failures into boxes.
 #pragma once
 
 #include <memory>
@@ -22,25 +21,24 @@ struct FieldDef
 {
     QString Name;
     FieldType Type = FieldType::Text;
-    int Size = 0; ///< characters of a text; 0 where not limited
+    int Size = 0; ///< characters of a text; 0 means unlimited
 };
 
-class Connection; // inside of the store: the SQLite handle
+class Connection; // internal to the store: the SQLite handle
 
 class Database
 {
 public:
     enum class Access { Shared, Exclusive };
 
-    /// Opens an existing database file, found whatever the case of its name. Throws RuntimeFailure: CouldNotFindFile,
+    /// Opens an existing database file; the case of its name does not matter. Throws RuntimeFailure: CouldNotFindFile,
     /// UnrecognizedFormat (foreign or damaged), PermissionDenied (read-only, or locked by another program).
     static std::unique_ptr<Database> OpenDatabase(const QString &fileName, Access access = Access::Shared);
     ~Database();
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
-    /// How long to wait for another program's lock before it counts as held, in milliseconds; 5000 where not set. For
-    /// databases opened from now on.
+    /// How many milliseconds databases opened from now on wait for another program's lock. The default is 5000.
     static void setBusyTimeout(int milliseconds);
 
     /// Runs a SELECT with its values bound to its "?", in order. The recordset stands on its first row. "SELECT * FROM
@@ -48,28 +46,29 @@ public:
     /// ...] [ORDER BY ...]" of one table can be written, all else only read. For the order that a person sees there is
     /// the collation CASEBLIND: "ORDER BY tankname COLLATE CASEBLIND". Throws SyntaxError where the statement is wrong.
     Recordset OpenRecordset(const QString &sql, const Parameters &parameters = {});
-    /// The same, one row after the other and none kept.
+    /// Runs a SELECT whose rows are read one at a time and not kept.
     RowStream OpenForwardOnly(const QString &sql, const Parameters &parameters = {});
-    /// A recordset of a table for AddNew alone; reads no rows.
+    /// A recordset of a table that serves only AddNew; it reads no rows.
     Recordset OpenForAppend(const QString &table);
-    /// Runs a statement that changes rows; returns how many.
+    /// Runs a statement that changes rows and returns how many it changed.
     int Execute(const QString &sql, const Parameters &parameters = {});
 
     /// Names of the tables.
     QStringList TableDefs() const;
-    /// Columns of a table, whose name is given in any case of letters. Throws NoSuchColumn if there is no such table,
-    /// as Append().
+    /// Columns of a table; the case of its name does not matter. Throws NoSuchColumn if there is no such table, as does
+    /// Append().
     std::vector<FieldDef> Fields(const QString &table) const;
-    /// Adds a column to a table, Null in every row. A text of size 0 gets the default size of 255.
+    /// Adds a column to a table; it is Null in every row. A text of size 0 gets the default size of 255.
     void Append(const QString &table, const FieldDef &field);
 
-    /// Rolls back what is open and closes; every later use throws ObjectNotSet. The destructor does the same.
+    /// Rolls back an open transaction and closes the file. Every later use throws ObjectNotSet. The destructor closes
+    /// as well.
     void Close();
     bool isOpen() const { return m_connection != nullptr; }
-    /// Absolute path of the file that was found; stays after Close().
+    /// Absolute path of the file; still valid after Close().
     QString fileName() const { return m_fileName; }
 
-    /// One transaction: rolls back when it goes out of scope without commit(). They do not nest.
+    /// A transaction that rolls back when it goes out of scope without commit(). Transactions do not nest.
     class Transaction
     {
     public:

@@ -36,7 +36,7 @@ sqlite3_file *fileOf(Connection &connection)
     return file;
 }
 
-/// The one number that a statement without values gives; 0 if it gives none.
+/// The single number that a statement without parameters returns; 0 if it returns no row.
 qint64 oneNumber(const std::shared_ptr<Connection> &connection, const QString &sql, const QString &doing)
 {
     Statement query(connection, sql, doing);
@@ -72,7 +72,8 @@ void readFile(Connection &connection, char *to, int size, qint64 at, const QStri
 
 void requireWritable(const QString &path)
 {
-    const QFileInfo file(QFileInfo(path).canonicalFilePath()); // a link's journal is made beside what it leads to
+    const QFileInfo file(
+        QFileInfo(path).canonicalFilePath()); // the journal is created beside the file that a link points to
     if (!isWritable(file.filePath(), R_OK | W_OK))
         throw RuntimeFailure(
             Failure::PermissionDenied,

@@ -16,7 +16,8 @@ namespace {
 
 QByteArray encoded(const QString &path) { return QFile::encodeName(path); }
 
-/// A name is on the disk only when its folder is. Some file systems cannot be asked for it, and do it by themselves.
+/// A file's name is on the disk only once its folder has been synced. Some file systems do not support syncing a folder
+/// and do it themselves.
 void syncFolderOf(const QString &path)
 {
     const int folder = ::open(encoded(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -26,7 +27,7 @@ void syncFolderOf(const QString &path)
     ::close(folder);
 }
 
-const QString mark = QStringLiteral(".new-"); // and the number of the process follows
+const QString mark = QStringLiteral(".new-"); // followed by the number of the process
 
 void removeWithJournal(const QString &path)
 {
@@ -34,7 +35,7 @@ void removeWithJournal(const QString &path)
     ::unlink(encoded(path + QStringLiteral("-journal")).constData());
 }
 
-/// Drafts of that file whose process is gone: a kill or a power cut left them.
+/// Drafts of that file whose process no longer runs; a kill or a power cut left them.
 void removeStrayDrafts(const QString &fileName)
 {
     const QFileInfo file(fileName);
@@ -80,7 +81,7 @@ Draft::~Draft() { removeWithJournal(m_path); }
 void Draft::giveName()
 {
     const QByteArray from = encoded(m_path), to = encoded(m_name);
-    // Not every file system knows the first way; the second one the old ones know.
+    // Not every file system supports the first call; older ones support the second.
     if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) != 0 &&
         (errno == EEXIST || ::link(from.constData(), to.constData()) != 0)) {
         if (errno == EEXIST)

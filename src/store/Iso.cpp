@@ -2,7 +2,7 @@
 
 namespace {
 
-/// The number that digits [at, at + length) are, or -1.
+/// The number formed by the digits [at, at + length), or -1.
 int digitsAt(std::string_view text, std::size_t at, std::size_t length)
 {
     int number = 0;

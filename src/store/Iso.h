@@ -14,6 +14,6 @@ std::optional<QDate> readIsoDate(std::string_view text);
 /// Exactly "HH:MM:SS" of a time that exists.
 std::optional<QTime> readIsoTime(std::string_view text);
 
-/// Empty for an invalid date or one beyond the year 9999; so for an invalid time.
+/// Empty for an invalid date or time, and for a date after the year 9999.
 QByteArray isoText(const QDate &date);
 QByteArray isoText(const QTime &time);

@@ -4,7 +4,6 @@
 
 #include <QString>
 
-/// Throws RuntimeFailure: PermissionDenied where a file of that name is there, in any case of letters, or the folder
-/// cannot be written, PathNotFound where there is no such folder, DiskFull. The file comes to be complete or not at
-/// all.
+/// Throws RuntimeFailure: PermissionDenied if a file of that name exists (in any case of letters) or the folder cannot
+/// be written, PathNotFound if there is no such folder, DiskFull. Either the complete file is created or none.
 void CreateDatabase(const QString &fileName);

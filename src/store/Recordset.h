@@ -13,16 +13,16 @@
 #include "store/Value.h"
 
 class Recordset;
-struct RecordsetState; // inside of the store
+struct RecordsetState; // internal to the store
 
 /// A column of the current row, or of the buffer while a row is added or changed.
 class Field
 {
 public:
     Value value() const;
-    /// Writes into the buffer: the value becomes what the column holds. A text becomes a date (read month first), a
-    /// time or a number where the column is one; throws DataTypeConversion if it is none, Overflow where a number is
-    /// beyond the column (32 bits in a whole number). Null may go anywhere. Throws NoCurrentRecord without AddNew or
+    /// Writes into the buffer, converted to the column's type. A text becomes a date (read month first), a time or a
+    /// number where the column is one; throws DataTypeConversion if it is not one, Overflow if a number does not fit
+    /// into the column (32 bits in a whole number). Null is always accepted. Throws NoCurrentRecord without AddNew or
     /// Edit.
     void setValue(const Value &value);
     QString text() const { return value().text(); }
@@ -37,41 +37,41 @@ private:
 class Recordset
 {
 public:
-    /// Without rows and not set: every use throws ObjectNotSet.
+    /// Not set: every use throws ObjectNotSet.
     Recordset();
     bool isSet() const;
 
     bool BOF() const;  ///< there is no row
     bool EOF_() const; ///< past the last row; "EOF" is a macro of the C library
     bool isEmpty() const { return BOF() && EOF_(); }
-    /// How many of the rows read are still there; a row added is not among them.
+    /// How many of the rows that were read still exist. Added rows do not count.
     qsizetype RecordCount() const;
-    /// Number of the current row from 0; -1 where there is none.
+    /// Number of the current row, from 0; -1 if there is none.
     qsizetype AbsolutePosition() const;
-    void MoveFirst(); ///< throws NoCurrentRecord when empty, as the next one
+    void MoveFirst(); ///< throws NoCurrentRecord if there are no rows, as does MoveLast
     void MoveLast();
-    void MoveNext(); ///< past the last row there is no current one; throws NoCurrentRecord when called there
+    void MoveNext(); ///< after the last row there is no current row; another call then throws NoCurrentRecord
 
-    /// By name, in any case of letters. Throws NoSuchColumn, or NoCurrentRecord where there is neither a row nor a
-    /// buffer.
+    /// The column of that name; its case does not matter. Throws NoSuchColumn, or NoCurrentRecord if there is neither a
+    /// row nor a buffer.
     Field operator[](const QString &name);
     int columnIndex(const QString &name) const;
-    /// The rows as they were read, to be kept by a list that shows them.
+    /// The rows as they were read; a list that shows them may keep them.
     std::shared_ptr<const Rows> rows() const;
 
     /// Starts a row of Nulls. Throws PermissionDenied where the query is none that can be written, as do the next
     /// three.
     void AddNew();
     void Edit(); ///< starts from the current row
-    /// Writes the buffer. Throws DuplicateKey where a unique index refuses it, and keeps the buffer; the row written
-    /// becomes the current one after Edit, the current row stays after AddNew. Throws NoCurrentRecord where the row of
-    /// an Edit is gone.
+    /// Writes the buffer. Throws DuplicateKey if a unique index refuses it, and keeps the buffer. After Edit the
+    /// written row is current; after AddNew the current row has not changed. Throws NoCurrentRecord if the edited row
+    /// no longer exists.
     void Update();
     void Delete(); ///< deletes the current row; afterwards there is no current row until a move
     void CancelUpdate();
     bool isEditing() const;
 
-    /// Makes the first row that meets the condition current, of those that were read; true if there is one, else there
+    /// Moves to the first of the rows read that meets the condition, and returns whether there is one; otherwise there
     /// is no current row. The values are bound to the "?" of the condition.
     bool FindFirst(const QString &condition, const std::vector<Value> &parameters);
     void Close();

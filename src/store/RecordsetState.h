@@ -1,5 +1,5 @@
-// Inside of the store: what the copies of a recordset share. Database fills it, Recordset and Field work on it. A row
-// that was changed or deleted is marked here; the rows themselves stay as they were read.
+// Internal to the store: the state that the copies of a recordset share. Database fills it; Recordset and Field work on
+// it. Changed and deleted rows are recorded here; the rows themselves stay as they were read.
 #pragma once
 
 #include <map>
@@ -19,9 +19,9 @@ struct RecordsetState
 
     std::shared_ptr<Connection> connection; ///< null after Close
     std::shared_ptr<const Rows> rows;
-    QString table;              ///< empty where the query cannot be written
-    std::vector<qint64> rowids; ///< of each row, where it can
-    qsizetype current = 0;      ///< rows->count() is the end
+    QString table;              ///< empty if the query cannot be written
+    std::vector<qint64> rowids; ///< of each row, if the query can be written
+    qsizetype current = 0;      ///< rows->count() means after the last row
 
     std::map<qsizetype, std::vector<Value>> changed; ///< rows as an Update left them
     std::set<qsizetype> deleted;
@@ -34,7 +34,7 @@ struct RecordsetState
     bool hasCurrent() const { return current < rows->count() && !deleted.contains(current); }
     std::vector<Value> currentRow() const;
     Value currentValue(int column) const;
-    /// Moves to that row, or past it to the next that is not deleted; the buffer lapses.
+    /// Moves to that row, or to the next one that is not deleted, and discards the buffer.
     void moveTo(qsizetype row);
     void lapse();
 

@@ -18,7 +18,7 @@ void RowStream::MoveNext()
         throw RuntimeFailure(Failure::NoCurrentRecord);
     m_hasRow = m_row.readNext(*m_statement);
     if (!m_hasRow)
-        m_statement.reset(); // lets the file go
+        m_statement.reset(); // releases the lock on the file
 }
 
 Value RowStream::value(const QString &name) const

@@ -1,5 +1,5 @@
-// The rows of a SELECT one after the other, forward only, of which none is kept: for reports as long as they like. The
-// database cannot be written by other programs until the last row was read or the stream is gone.
+// The rows of a SELECT, read one at a time and not kept, so that a report of any length needs little memory. Other
+// programs cannot write to the database until the last row has been read or the stream is destroyed.
 #pragma once
 
 #include <memory>
@@ -18,7 +18,8 @@ public:
     bool EOF_() const { return !m_hasRow; }
     /// Throws NoCurrentRecord past the end.
     void MoveNext();
-    /// Of the current row, by name in any case of letters. Throws NoSuchColumn, and NoCurrentRecord past the end.
+    /// A value of the current row; the case of the name does not matter. Throws NoSuchColumn, and NoCurrentRecord after
+    /// the last row.
     Value value(const QString &name) const;
     QString text(const QString &name) const { return value(name).text(); }
 
@@ -27,6 +28,6 @@ private:
     RowStream(std::shared_ptr<Connection> connection, const QString &sql, const std::vector<Value> &parameters);
 
     std::unique_ptr<Statement> m_statement;
-    Rows m_row; ///< the current one alone
+    Rows m_row; ///< only the current row
     bool m_hasRow = false;
 };

@@ -17,7 +17,7 @@ struct KindOfWord
     ColumnKind kind;
 };
 
-// The first row whose word stands in the declared type; so "DATE TEXT" is a date and "SMALLINT" a whole number.
+// The first word found in the declared type decides, so "DATE TEXT" is a date and "SMALLINT" a whole number.
 constexpr KindOfWord kindsOfWords[] = {
     {"DATE", ColumnKind::Date},   {"TIME", ColumnKind::Time},      {"BOOL", ColumnKind::Boolean},
     {"INT", ColumnKind::Integer}, {"REAL", ColumnKind::Double},    {"DOUB", ColumnKind::Double},
@@ -30,7 +30,8 @@ constexpr std::uint64_t pack(std::size_t offset, std::size_t length)
     return std::uint64_t(offset) << 32 | std::uint64_t(length);
 }
 
-/// The bytes of a cell. For a text sqlite3_column_blob gives them without a copy; a number is made a text first.
+/// The bytes of a cell. For a text sqlite3_column_blob returns them without a copy; a number is converted to text
+/// first.
 std::string_view bytesOf(sqlite3_stmt *statement, int column, int type)
 {
     const void *bytes = type == SQLITE_TEXT || type == SQLITE_BLOB ? sqlite3_column_blob(statement, column)
@@ -62,7 +63,8 @@ Rows Rows::describe(Statement &statement)
 Rows Rows::read(Statement &statement, std::vector<qint64> *rowids)
 {
     Rows rows;
-    bool more = statement.step(); // before the columns are taken: the first step may find that the schema has changed
+    bool more =
+        statement.step(); // before the columns are read, because the first step may find that the schema has changed
     const int count = statement.columnCount() - (rowids ? 1 : 0);
     rows.takeColumns(statement, count);
     for (; more; more = statement.step()) {

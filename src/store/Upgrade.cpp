@@ -8,14 +8,14 @@
 
 namespace {
 
-/// One line of a step: a column that is added, or a statement that is run; and where the bar stands after it.
+/// One line of a step: a column to add or a statement to run, and the position of the progress bar afterwards.
 struct Line
 {
     const char *table; ///< null: a statement
     const char *text;  ///< the column's name, or the statement
     FieldType type;
     int size; ///< of a text; 0 for the default size
-    int bar;  ///< 0: it does not move
+    int bar;  ///< 0 leaves the bar where it is
 };
 
 constexpr Line add(const char *table, const char *column, FieldType type, int size, int bar)
@@ -25,7 +25,7 @@ constexpr Line add(const char *table, const char *column, FieldType type, int si
 
 constexpr Line run(const char *statement, int bar) { return {nullptr, statement, FieldType::Text, 0, bar}; }
 
-// Every old tank counts as saltwater, fish only, and the old list of animals was all saltwater.
+// Every old tank becomes a saltwater tank with fish only, because the old list of animals was all saltwater.
 constexpr Line toVersion11[] = {
     add("Config", "db_version", FieldType::Text, 4, 0),
     run("UPDATE CONFIG SET db_version = '1.1 '", 10),
@@ -36,8 +36,8 @@ constexpr Line toVersion11[] = {
     run("PRAGMA user_version = 11", 0),
 };
 
-// Every old reminder becomes a daily rule, and ends its years after its start: on the same day, or on the last of the
-// month where that year has no February 29. No years, no end.
+// Every old reminder becomes a daily rule that ends `schedyears` years after its start, on the same day, or on February
+// 28 where that year has no 29th. Without years it has no end.
 constexpr Line toVersion20[] = {
     add("Maintsched", "SchedRtype", FieldType::Integer, 0, 20),
     add("Maintsched", "SchedRSubtype", FieldType::Integer, 0, 30),
@@ -65,7 +65,8 @@ bool hasColumn(Database &database, const char *table, const char *column)
 void runLines(Database &database, std::span<const Line> lines, const BarMoves &bar)
 {
     for (const Line &line : lines) {
-        // An earlier release upgraded without a transaction: a file on which it was cut off has some columns already.
+        // An earlier release upgraded without a transaction, so a file on which it was interrupted already has some of
+        // the columns.
         if (line.table && !hasColumn(database, line.table, line.text))
             database.Append(QLatin1String(line.table), {QLatin1String(line.text), line.type, line.size});
         else if (!line.table)
@@ -114,7 +115,7 @@ std::span<const UpgradeStep> UpgradeSteps(const QString &version)
     const std::span<const UpgradeStep> all = steps;
     if (version.trimmed() == u"1.1")
         return all.subspan(1);
-    return version == u"0.0 " ? all : all.first(0); // "0.0" without its blank is no version of ours
+    return version == u"0.0 " ? all : all.first(0); // "0.0" without the blank is not one of our versions
 }
 
 void AddFreshAnimal(Database &database, const QString &name) { addWord(database, name, "1"); }

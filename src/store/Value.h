@@ -1,5 +1,5 @@
-// One value of a column: nothing (Null), a whole number, a number, a text, a date or a time of day. Comes out of a
-// Field, goes into a parameter of a statement. Reading a value as what it is not throws RuntimeFailure.
+// One value of a column: nothing (Null), a whole number, a number, a text, a date or a time of day. It is read from a
+// Field or bound to a parameter of a statement. Reading it as a type that it does not have throws a RuntimeFailure.
 #pragma once
 
 #include <variant>
@@ -22,11 +22,10 @@ public:
     Value(const QTime &time) : m_value(time) {}
 
     bool isNull() const { return std::holds_alternative<std::monostate>(m_value); }
-    /// The value joined to an empty text: "" for Null; a number in its plain form, a date as "mm/dd/yyyy", a time as
-    /// "hh:mm:ss AM/PM".
+    /// The value as text: "" for Null, a number in its plain form, a date as "mm/dd/yyyy", a time as "hh:mm:ss AM/PM".
     QString text() const;
-    /// 0 or InvalidUseOfNull for Null is the caller's choice: toDouble() throws InvalidUseOfNull, TypeMismatch for a
-    /// text that is no number.
+    /// For Null, toDouble() throws InvalidUseOfNull and toDoubleOr() returns the given number. Both throw TypeMismatch
+    /// for a text that is not a number.
     double toDouble() const;
     double toDoubleOr(double ifNull) const { return isNull() ? ifNull : toDouble(); }
     /// Rounds to the nearest whole number.

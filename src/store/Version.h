@@ -1,4 +1,4 @@
-// The version of a database: four characters in CONFIG, blank-padded. A database without that column is of version 1.0.
+// The version of a database: four characters in CONFIG, blank-padded. A database without that column has version 1.0.
 #pragma once
 
 #include <QString>
@@ -7,5 +7,5 @@ class Database;
 
 inline const QString presentDatabaseVersion = QStringLiteral("2.0 ");
 
-/// "0.0 " where CONFIG has no column db_version, else what stands there.
+/// The content of CONFIG.db_version, or "0.0 " if there is no such column.
 QString ReadDatabaseVersion(Database &database);

@@ -2,9 +2,8 @@
 
 namespace {
 
-// Spelled as keepers have had them in their files since version 1.1; a mended word would stand beside the old one in
-// every list.
-// clang-format off
+// The spelling is that of keepers' files since version 1.1: a corrected word would appear beside the old one in every
+// list. clang-format off
 constexpr Word words[] = {
     {"Algaeeater", "1", 0},
     {"Angel", "1", 0},

@@ -1,5 +1,5 @@
-// The words of ANIMALLIST: freshwater animals and maintenance tasks that version 1.1 brought, and the marine animals of
-// a new database. The upgrade writes the first, in their order; CreateDatabase writes both.
+// The words of ANIMALLIST: the freshwater animals and maintenance tasks that came with version 1.1, and the marine
+// animals of a new database. The upgrade adds the former, in this order; CreateDatabase writes both.
 #pragma once
 
 #include <span>
@@ -8,7 +8,7 @@ struct Word
 {
     const char *name; ///< UTF-8, spelled as stored
     const char *type; ///< "1" freshwater animal, "M" maintenance task
-    int bar;          ///< where the upgrade's progress bar stands after this word; 0: it does not move
+    int bar;          ///< position of the upgrade's progress bar after this word; 0 leaves it where it is
 };
 
 /// The 67 words, in the order in which the upgrade adds them.

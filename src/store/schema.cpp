@@ -2,8 +2,8 @@
 
 namespace {
 
-// A date is declared DATE TEXT and a time TIME TEXT: the first word tells Rows what it is, the second keeps it a text
-// in SQLite. No column refuses Null: rows of old files have them.
+// A date is declared DATE TEXT and a time TIME TEXT: the first word tells Rows the type, the second makes SQLite store
+// a text. Every column accepts Null, because rows of old files contain it.
 constexpr schema::Table allTables[] = {
     {"TANKLST",
      "CREATE TABLE TANKLST (tankname VARCHAR(50), Tankdesc VARCHAR(50), tanksize REAL, tanknotes TEXT, tankid "

@@ -1,5 +1,5 @@
-// The seven tables of the database file at the present version, as docs/SCHEMA.md tells them: whoever changes one
-// changes the other. Used by the program that writes new files and by the checks of OpenDatabase.
+// The seven tables of the database file at the current version. docs/SCHEMA.md describes them; change both together.
+// Used to create new files and by the checks of OpenDatabase.
 #pragma once
 
 #include <span>
@@ -8,9 +8,9 @@
 
 namespace schema {
 
-/// Marks an SQLite file as one of ours ("OMKA"); in its header since the file was made.
+/// Identifies an SQLite file as one of ours ("OMKA"); part of the file's header from its creation.
 inline constexpr qint32 applicationId = 0x4F4D4B41;
-/// Number of the schema in the file's header: version 2.0. What decides about an upgrade is CONFIG.db_version
+/// Schema number in the file's header: version 2.0. Whether a file is upgraded depends on CONFIG.db_version
 /// (Version.h).
 inline constexpr int userVersion = 20;
 
@@ -21,7 +21,7 @@ struct Table
     const char *indexes; ///< CREATE UNIQUE INDEX statements; may be empty
 };
 
-/// In the order in which they are made.
+/// In the order of their creation.
 std::span<const Table> tables();
 
 } // namespace schema

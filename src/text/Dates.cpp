@@ -24,7 +24,7 @@ struct NumberField
 
 using Fields = std::array<NumberField, 3>;
 
-/// Takes up to `most` digits off the front of the text; false if there is none.
+/// Removes up to `most` digits from the front of the text. Returns false if it does not start with a digit.
 bool takeNumber(QStringView &text, int most, NumberField &field)
 {
     field = {};
@@ -36,7 +36,7 @@ bool takeNumber(QStringView &text, int most, NumberField &field)
     return field.digits > 0;
 }
 
-/// Three numbers of up to four digits with one of the delimiters between them, and nothing else.
+/// Reads three numbers of up to four digits, separated by one of the delimiters. The text must contain nothing else.
 std::optional<Fields> threeNumbers(QStringView text, QStringView delimiters)
 {
     Fields fields;
@@ -73,8 +73,8 @@ std::optional<QDate> dateOf(const NumberField &month, const NumberField &day, co
 
 constexpr QStringView dateDelimiters = u"/-.";
 
-/// Takes a picture apart into runs of one letter, at most four long: `show(text, letter, length)` appends what stands
-/// for the run (letter in lower case) and returns true; where it returns false the run stands as it is.
+/// Splits a picture into runs of one letter, at most four long. `show(text, letter, length)` gets the letter in lower
+/// case, appends what the run stands for and returns true; if it returns false, the run itself is appended.
 template <class Show> QString showPicture(QStringView picture, Show show)
 {
     QString text;
@@ -99,7 +99,7 @@ void appendNumber(QString &text, int number, int digits)
     text += QStringView(c, std::end(buffer));
 }
 
-/// A name in full, or its first three letters.
+/// Appends a name in full, or its first three letters.
 void appendName(QString &text, const char *name, bool shortened)
 {
     const QLatin1String whole(name);

@@ -1,6 +1,6 @@
 // Dates and times as text: what counts as a date, how a date typed in the user's order becomes month-first text, and
-// the pictures that show one. The user sees two-digit years; the store keeps real dates. Pure functions on Qt Core
-// types.
+// the pictures that format one. The user sees two-digit years; the store keeps real dates. Only lastTypedYear(), and
+// with it the meaning of two-digit years, depends on the clock.
 #pragma once
 
 #include <optional>
@@ -12,30 +12,30 @@
 /// The picture that shows a date in the user's order: "MMDDYY" with "/" gives "MM/DD/YY".
 QString MakeDatePicture(const QString &dateOrder, const QString &delimiter);
 
-/// The date normaliser: an eight-character text in the user's order ("MMDDYY", "DDMMYY", "YYMMDD") to month-first text
-/// "mm/dd/yy". Reads by position (characters 1-2, 4-5, the last two), ignores the delimiters and checks nothing. Any
-/// other order gives an empty text.
+/// Converts an eight-character text in the user's order ("MMDDYY", "DDMMYY" or "YYMMDD") to month-first text
+/// "mm/dd/yy". It reads by position (characters 1-2, 4-5, the last two), ignores the delimiters and checks nothing. For
+/// any other order the result is empty.
 QString NormalizeDateText(const QString &text, const QString &dateOrder);
 
 /// Reads a month-first date: month, day and year, each 1 or 2 digits (year 1 to 4), between "/", "-" or ".". A year of
-/// one or two digits falls into the hundred years that end with lastTypedYear(); longer years stand as they are (100 to
-/// 9999). Nothing where the text is no date, as that of a box in which a place is still blank.
+/// one or two digits falls into the hundred years that end with lastTypedYear(); longer years are taken literally (100
+/// to 9999). Returns nothing if the text is not a date, for example because the box is not filled in completely.
 std::optional<QDate> ReadDate(const QString &text);
 bool IsDate(const QString &text);
 
-/// Reads a date that goes in as it was typed: month first, and where that is no date, in the user's order.
+/// Reads a date as it was typed: month first or, if that gives no valid date, in the user's order.
 std::optional<QDate> ReadTypedDate(const QString &text, const QString &dateOrder);
 
 /// The last year that two digits can mean: 2029, and from 2028 on two years ahead of the clock, so that a date two
 /// years ahead can always be typed.
 int lastTypedYear();
 
-/// Reads a time "hh:mm:ss am" of twelve hours (marker in either case), or "hh:mm:ss" of twenty-four. Nothing where it
-/// is none.
+/// Reads a time "hh:mm:ss am" of twelve hours (marker in either case), or "hh:mm:ss" of twenty-four. Returns nothing if
+/// the text is not a time.
 std::optional<QTime> ReadTime(const QString &text);
 
 /// Shows a date with a picture: mm/m month, dd/d day, yy/yyyy year, ddd/dddd weekday, mmm/mmmm month name in English,
-/// in either case; all else stands as it is.
+/// in either case. All other characters are copied.
 QString Format(const QDate &date, const QString &picture);
 
 /// Shows a time with a picture: hh:mm:ss and "am/pm" or "AM/PM" (the case of the marker follows the picture).
@@ -45,5 +45,6 @@ QString Format(const QTime &time, const QString &picture);
 QDate AddMonths(const QDate &date, int months);
 QDate AddYears(const QDate &date, int years);
 
-/// Is the text good for a time box, "HH:MM:SS am": hour 1 to 12, minutes and seconds to 59, marker AM, PM, am or pm?
+/// Whether the text is a complete time of a time box, "HH:MM:SS am": hour 1 to 12, minutes and seconds up to 59, marker
+/// AM, PM, am or pm.
 bool IsBoxTime(const QString &text);

@@ -14,16 +14,16 @@ constexpr int significantDigits = 15;
 
 constexpr bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
 
-/// What a scan of a text found: the number as plain characters for std::from_chars, and where it ended.
+/// The result of scanning a text: the number as plain characters for std::from_chars, and where it ended.
 struct Scanned
 {
     std::string plain;
     qsizetype end = 0;
-    qsizetype leading = 0; ///< power of ten of the first digit that is not 0, exponent left out
+    qsizetype leading = 0; ///< power of ten of the first digit that is not 0, without the exponent
     bool found = false;
 };
 
-/// The exponent at `at`, if there is a whole one: "e5", "E-05".
+/// Scans the exponent at `at`, if there is a complete one such as "e5" or "E-05".
 void scanExponent(QStringView text, qsizetype at, Scanned &number)
 {
     if (at >= text.size() || (text[at] != u'e' && text[at] != u'E'))
@@ -40,8 +40,8 @@ void scanExponent(QStringView text, qsizetype at, Scanned &number)
     number.end = i;
 }
 
-/// Reads the longest number at the start; commas count only between two digits before the point, and only where
-/// allowed.
+/// Scans the longest number at the start. Commas are accepted only between two digits before the decimal point, and
+/// only if `commas` is set.
 Scanned scan(QStringView text, bool commas)
 {
     Scanned number;
@@ -76,7 +76,7 @@ Scanned scan(QStringView text, bool commas)
     return number;
 }
 
-/// The value of a scanned number: too small a one is 0, nothing if it is beyond a double.
+/// The value of a scanned number. A number too small for a double is 0; one too large gives nothing.
 std::optional<double> valueOf(const Scanned &number)
 {
     const char *begin = number.plain.data();
@@ -128,7 +128,7 @@ struct Decimal
         ++point;
     }
 
-    /// Keeps that many places behind the decimal point, halves away from zero.
+    /// Rounds to that many decimal places, halves away from zero.
     void round(int places)
     {
         const int keep = point + places;
@@ -162,7 +162,7 @@ struct Decimal
     int integerDigits() const { return isZero() ? 0 : std::max(point, 0); }
 };
 
-/// A picture taken apart. What stands before the first and behind the last place is shown as it is.
+/// A picture split into its parts. The text before the first digit and after the last one is copied.
 struct Picture
 {
     int minIntegers = 0, minPlaces = 0, maxPlaces = 0;

@@ -6,20 +6,20 @@
 
 #include <QString>
 
-/// Is the whole text, but for blanks at its ends, a number: an optional sign, digits with at most one decimal point,
-/// thousands commas allowed, an optional exponent? An empty text is none.
+/// Whether the whole text is a number, apart from blanks at its ends: an optional sign, digits with at most one decimal
+/// point, thousands commas allowed, an optional exponent. An empty text is not a number.
 bool IsNumeric(const QString &text);
 
-/// The number at the start of the text, the rest is ignored: "12ab" is 12, "abc" and "" are 0. Where the whole text is
-/// a number, that number: "1,000" is a thousand.
+/// The number at the start of the text; the rest is ignored: "12ab" is 12, "abc" and "" are 0. If the whole text is a
+/// number, the result is that number: "1,000" is a thousand.
 double Val(const QString &text);
 
-/// The number that the whole text is; nothing if IsNumeric() is false or it is beyond a double.
+/// The value of the whole text. Returns nothing if IsNumeric() is false or the value does not fit into a double.
 std::optional<double> ReadNumber(const QString &text);
 
 /// Shows a number with a picture of 0, #, "." and ",", such as "##0.000" or "###,##0.00": rounded to the picture's
-/// places, halves away from zero, judged on the number's decimal form (2.675 with "0.00" is "2.68"). A picture never
-/// cuts a number.
+/// decimal places, halves away from zero, based on the number's decimal form (2.675 with "0.00" is "2.68"). A picture
+/// never cuts off digits before the decimal point.
 QString Format(double value, const QString &picture);
 
 /// The plain text of a number, at most 15 digits: 8.4 is "8.4", 80 is "80".
