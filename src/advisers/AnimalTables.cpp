@@ -1,6 +1,6 @@
 #include "advisers/AnimalTables.h"
 
-// One animal a line, its letters in groups of ten: number, name, keeps its own kind, inches, letters.
+// One animal per line: number, name, whether it tolerates its own kind, inches, and its letters in groups of ten.
 // clang-format off
 
 constexpr std::array<AnimalRow, animalRows> SaltAnimals{{
@@ -51,8 +51,8 @@ namespace {
 
 constexpr char notTold = '\0';
 
-// A freshwater animal belongs to one of three temperaments, which alone decide: an A may live with A and B and not with
-// C, a B may live with B and C and not with A, a C lives with C, may live with B, and not with A.
+// For fresh water only three temperaments count: an A may live with A and B but not with C, a B may live with B and C
+// but not with A, a C lives with C, may live with B, but not with A.
 constexpr std::string_view classA = "MMMNNMMNNN" "MNNMMNMMNN" "NNNNNMMNMN" "MMMNMNNMNM" "MMNMMMNNNN";
 constexpr std::string_view classB = "NMNMMMMMMM" "MMMMNMNNMM" "MMMMMNMMNM" "NNMMNMMNMM" "MMMNMMMMMM";
 constexpr std::string_view classC = "NMNYYMMYYY" "MYYMNYNNYY" "YYYYYNMYNY" "NNMYNYYNYM" "MMYNMMYYYY";
@@ -116,7 +116,7 @@ constexpr std::array<AnimalRow, animalRows> FreshAnimals{{
 // clang-format on
 namespace {
 
-/// Are the first animals numbered in their order, each with a letter for each of them, and `blanks` blanks behind?
+/// Whether the first animals are numbered in order, each with a letter for each of them and `blanks` blanks behind.
 constexpr bool isWhole(const std::array<AnimalRow, animalRows> &table, int count, int blanks, std::string_view ownKind)
 {
     for (int number = 1; number <= count; ++number) {

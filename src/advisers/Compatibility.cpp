@@ -2,7 +2,7 @@
 
 namespace {
 
-// Kept for fresh water too: its animals 40 to 50 can be asked about, but no list ever names them.
+// Also used for fresh water: its animals 40 to 50 can be asked about, but no list names them.
 constexpr int lastSorted = 39;
 
 constexpr int longestShortName = 25;
@@ -20,7 +20,7 @@ QStringList SelectionLines(WaterKind water)
     QStringList lines;
     for (int number = 1; number <= (salt ? saltAnimalCount : freshAnimalCount); ++number) {
         const AnimalRow &row = AnimalOf(water, number);
-        // A salt name shows a size of its own.
+        // A saltwater name already contains a size.
         lines << text(row.AnimalName) + (salt ? QString() : QStringLiteral("        %1 in.").arg(row.TypicalSize));
     }
     return lines;

@@ -1,21 +1,21 @@
-// What the tables of animals say to a keeper: which animals a list offers, which of the others an animal can live with,
-// and what an animal is called in a sentence. Plain functions; the windows turn the answers into lists and boxes.
+// Answers questions from the animal tables: which animals a list offers, which others an animal can live with, and an
+// animal's name in a sentence. The windows turn the answers into lists and boxes.
 #pragma once
 
 #include <QStringList>
 
 #include "advisers/AnimalTables.h"
 
-/// The lines of a list to select from: animal number n is line n - 1. Each shows a size.
+/// The lines of a selection list: animal number n is line n - 1. Each line shows a size.
 QStringList SelectionLines(WaterKind water);
 
-/// The letter of an animal's row for another animal, '\0' where the row holds none. Numbers are 0 to 50.
+/// The letter in one animal's row for another animal; '\0' if there is none. Numbers are 0 to 50.
 char CompatLetter(WaterKind water, int animal, int other);
 
-/// The name alone, without the blanks and the size of a salt animal.
+/// The name without the blanks and the size that follow a saltwater animal's name.
 QString ShortName(WaterKind water, int animal);
 
-/// Names of animals by what the row of one animal says of them, each in the order of the table.
+/// Animals grouped by the letter in one animal's row, each group in the order of the table.
 struct CompatLists
 {
     QStringList compatible;
@@ -23,5 +23,5 @@ struct CompatLists
     QStringList incompatible;
 };
 
-/// Sorts the animals of the table, that animal itself included.
+/// Groups all animals of the table, including the animal itself.
 CompatLists SortAnimals(WaterKind water, int animal);

@@ -15,8 +15,8 @@ struct Diagnosis
 #define SUPPORT_ADDRESS "support@velmoor.example"
 
 // One diagnosis a block: its name, as the answers in QuestionTree.cpp lead to it, and its advice. \" is a quotation
-// mark within a text, \r begins a new line. "Open Sore" is not here: it has no advice, and the windows say so. Wording
-// and spelling are as keepers know them, blanks at either end included.
+// mark within a text, \r starts a new line. "Open Sore" is missing on purpose: it has no advice, and the windows say
+// so. Wording and spelling, including blanks at either end, are what keepers know.
 constexpr Diagnosis diagnoses[] = {
     {"Dropsy",
      "Your fish probably has a disease called \"DROPSY\" which is often caused by a bacterial infection. While "
@@ -185,7 +185,8 @@ constexpr Diagnosis diagnoses[] = {
 
 };
 
-// Where the window of its own words "Unable to Diagnose" otherwise: passages of the advice above, and what it says.
+// The separate diagnosis window words "Unable to Diagnose" differently: passages of the advice above, and their
+// replacements.
 constexpr struct
 {
     const char *wizard, *ownWindow;

@@ -12,14 +12,14 @@ constexpr int commentLines = 10;
 void DiagnosisLog::ResetAnswerLog()
 {
     AnswerLog.fill({});
-    // Written and never printed: a sheet begins at slot 2 and has a title of its own.
+    // Never printed: a sheet starts at slot 2 and has its own title.
     AnswerLog[1] = QStringLiteral(" Ostrelmark for Windows - Marine Disease Diagnosis Aid");
     AnswerLogCount = 3;
 }
 
 void DiagnosisLog::put(const QString &line)
 {
-    // A second run on one log could pass its end; nothing behind slot 60 is ever printed.
+    // A second run on the same log could exceed its end. Nothing after slot 60 is printed.
     if (AnswerLogCount < slotCount)
         AnswerLog[static_cast<size_t>(AnswerLogCount)] = line;
 }
@@ -34,8 +34,9 @@ void DiagnosisLog::AddAnswer(const QString &question, const QString &answer)
 
 void DiagnosisLog::putAdvice(const QString &advice)
 {
-    // A line ends before a blank, which leads the next one. A last single character gets no line. A text of another
-    // window may hold a longer word: that is cut. It may also be longer than the log: the count then stops.
+    // A line ends before a blank, which starts the next line. A single last character gets no line. A text from another
+    // window may contain a word longer than a line, which is cut, and may be longer than the log, where the count
+    // stops.
     for (qsizetype at = 0; at + 1 < advice.size() && AnswerLogCount < slotCount;) {
         qsizetype width = lineWidth;
         while (width > 0 && at + width < advice.size() && advice.at(at + width) != u' ')

@@ -9,11 +9,11 @@ struct SheetStyle
 {
     const char *title;
     bool reminder;
-    const char *blankLineBefore; ///< how a line starts that gets an empty one before it
+    const char *blankLineBefore; ///< lines that start like this get a blank line before them
 };
 
-/// By DiagnosisWindow. No line of a log starts with two blanks and "Q:", so the sheet of the own window has no blank
-/// lines.
+/// In the order of DiagnosisWindow. No line of a log starts with two blanks and "Q:", so the sheet of the separate
+/// window has no blank lines.
 constexpr SheetStyle styles[] = {
     {"Ostrelmark for Windows - Disease Diagnosis Aid", true, "Q:"},
     {"Ostrelmark for Windows - Marine Disease Diagnosis Aid", false, "  Q:"},
@@ -24,14 +24,14 @@ void setFont(Printer &page, double size, bool bold = false, bool italic = false)
     page.Font = {QStringLiteral("Arial"), size, bold, italic, false};
 }
 
-/// A line from the left, going on below where it is too long for the page, or where a carriage return says so.
+/// Prints a line from the left edge. It continues below if it is too long for the page or contains a carriage return.
 void printLine(Printer &page, QString line) { page.PrintRow({{0, page.ScaleWidth(), line.replace(u'\r', u'\n')}}); }
 
 void printLog(Printer &page, const DiagnosisLog &log, const SheetStyle &style)
 {
     int last = log.AnswerLogCount;
     while (last > 1 && log.AnswerLog[static_cast<size_t>(last)].isEmpty())
-        --last; // nothing of these would be seen, but they could feed a page
+        --last; // invisible at the end, but they could feed a page
     for (int slot = 2; slot <= last; ++slot) {
         const QString &line = log.AnswerLog[static_cast<size_t>(slot)];
         if (line.startsWith(QLatin1String(style.blankLineBefore)))
@@ -54,7 +54,7 @@ void printSheet(Printer &page, const DiagnosisLog &log, const SheetStyle &style)
             printLine(page, QLatin1String(line));
     setFont(page, 10);
     printLog(page, log, style);
-    // Five sixths down, whatever stands there: on a full sheet the notice crosses the lines for comments.
+    // At five sixths of the page, whatever is there: on a full sheet the notice overlaps the lines for comments.
     page.CurrentY = static_cast<int>(page.ScaleHeight() / 60) * 50;
     setFont(page, 9, false, true);
     page.Print(QLatin1String(legalNotice));

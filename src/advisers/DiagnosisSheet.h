@@ -1,6 +1,6 @@
-// The sheet of questions, answers and diagnosis that a keeper takes to his dealer or vet: the lines of a completed log
-// under a title, each answer set off from its question, and the notice at the foot. The windows of the diagnosis print
-// it; title, reminder and blank lines differ between them.
+// The printed sheet that a keeper takes to a dealer or vet: a title, the lines of a completed log with questions,
+// answers and diagnosis, and the notice at the foot. Both diagnosis windows print it, with a different title, reminder
+// and blank lines.
 #pragma once
 
 #include "advisers/Diagnoses.h"

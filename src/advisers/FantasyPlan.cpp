@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr double fullest = 125; ///< percent: the bar ends there
+constexpr double fullest = 125; ///< percent, the end of the bar
 
-/// Gallons of water for an inch of fish: a variation of the aquarists' old rule of inches to gallons.
+/// Gallons of water for an inch of fish, a variation of the old rule of thumb for aquariums.
 double gallonsPerInch(WaterKind water, bool wetDry, bool taller)
 {
     if (water == WaterKind::Fresh)
@@ -21,7 +21,7 @@ double gallonsPerInch(WaterKind water, bool wetDry, bool taller)
 
 double FantasyPlan::FantasyInches() const
 {
-    double inches = 0; // summed up afresh, so that an emptied tank holds nothing and no rest of rounding
+    double inches = 0; // summed up from zero, so that an empty tank has no rounding error left
     for (const FantasyRow &row : FantasyTank)
         inches += row.HowMany * row.HowBig;
     return inches;
@@ -30,7 +30,7 @@ double FantasyPlan::FantasyInches() const
 void FantasyPlan::RecalcHolding(double gallons, WaterKind water, bool wetDry, bool taller)
 {
     FantasyGallons = gallons;
-    // Cut, not rounded: 55 gallons in a tall tank of salt water hold 24, because 2.2 is no exact number.
+    // Truncated, not rounded: a tall saltwater tank of 55 gallons holds 24, because 2.2 has no exact binary value.
     FantasyHolding = std::floor(gallons / gallonsPerInch(water, wetDry, taller));
     const double inches = FantasyInches();
     if (FantasyHolding > 0)
@@ -49,7 +49,7 @@ AddWarnings FantasyPlan::Add(WaterKind water, double howMany, double howBig)
     return warningsOf(water, added);
 }
 
-/// The new animal's row is asked about each animal in the tank, itself included, and never the reverse.
+/// The new animal's row is checked against each animal in the tank, including itself, but never the other way round.
 AddWarnings FantasyPlan::warningsOf(WaterKind water, const FantasyRow &added) const
 {
     AddWarnings warnings;

@@ -1,6 +1,6 @@
-// The plan of a tank that does not exist: what was dropped in, how full it would be, and what an animal dropped in
-// would meet there. It lives as long as the window of the Fantasy Tank, which shows it; nothing of it is stored. The
-// rows stand in the order of the window's list.
+// The plan of an imaginary tank: which animals were added, how full the tank would be, and which conflicts a new animal
+// would meet. The Fantasy Tank window owns and shows it; nothing is stored. The rows have the order of the window's
+// list.
 #pragma once
 
 #include <vector>
@@ -11,15 +11,15 @@
 
 struct FantasyRow
 {
-    int AnimalNo;   ///< in the table of the water that was set when it was added
-    double HowMany; ///< as typed: may be a fraction or negative
+    int AnimalNo;   ///< number in the table of the water type that was chosen when it was added
+    double HowMany; ///< as typed; may be fractional or negative
     double HowBig;  ///< inches, as typed
 };
 
-/// What to warn of when an animal is added. A list of names ends with ", " and is empty where there is nothing to say.
+/// The warnings for a new animal. A list of names ends with ", " and is empty if there is no warning.
 struct AddWarnings
 {
-    bool crowdsOwnKind = false; ///< two or more of an animal that does not keep its own kind
+    bool crowdsOwnKind = false; ///< two or more of an animal that does not tolerate its own kind
     QString maybe;
     QString incompatible;
 };
@@ -33,21 +33,21 @@ public:
     int SelectedAnimal = 0; ///< number of the animal being added
     double FantasyGallons = 55;
     double FantasyHolding = 0; ///< whole inches of fish that the tank could hold
-    double FantasyPercent = 0; ///< how full it is, at most 125; below 0 where the sizes typed are
+    double FantasyPercent = 0; ///< how full it is, at most 125; negative if the typed sizes are
 
     int FantasyCount() const { return int(FantasyTank.size()); }
     bool isFull() const { return FantasyCount() >= mostRows; }
-    /// Sum of all animals' sizes.
+    /// The total size of all animals.
     double FantasyInches() const;
 
-    /// Works out FantasyHolding and FantasyPercent for a tank of that many gallons. In salt water the filter counts and
-    /// the shape only without it; in fresh water the shape alone counts.
+    /// Calculates FantasyHolding and FantasyPercent for a tank of that many gallons. In salt water the filter counts,
+    /// and the shape only without a filter; in fresh water only the shape counts.
     void RecalcHolding(double gallons, WaterKind water, bool wetDry, bool taller);
-    /// Adds SelectedAnimal, by the table of that water; warnings stop nobody. The plan must not be full.
+    /// Adds SelectedAnimal from the table of that water type. Warnings do not prevent it. The plan must not be full.
     AddWarnings Add(WaterKind water, double howMany, double howBig);
-    /// Takes a row out; rows count from 0.
+    /// Removes a row; rows count from 0.
     void Remove(int row);
-    /// The empty plan of a tank of 55 gallons.
+    /// Resets the plan to an empty tank of 55 gallons.
     void Reset() { *this = {}; }
 
 private:

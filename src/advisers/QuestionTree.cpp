@@ -7,10 +7,9 @@ namespace {
 
 using enum QuestionPage;
 
-// One page a block: its name, the question, and its answers in the order in which they are offered. Behind each answer
-// stands where it leads: a name without quotation marks is the page that comes next, one in quotation marks is the
-// diagnosis (Diagnoses.cpp has their advice). \" is a quotation mark within a text. Wording and spelling are as keepers
-// know them.
+// One block per page: its name, the question, and the answers in the order in which they are offered. Each answer is
+// followed by its target: a name without quotation marks is the next page, a name in quotation marks a diagnosis
+// (Diagnoses.cpp holds the advice). \" is a quotation mark within a text. Wording and spelling are what keepers know.
 constexpr Question questions[] = {
     {Question_Disclaimer, "", {}},
     {Question_StartingPoint,

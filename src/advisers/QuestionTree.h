@@ -1,6 +1,6 @@
-// The questions about a sick fish: twelve pages, each with the answers that a keeper chooses from, and where each
-// answer leads, to another page or to the name of a diagnosis. The tree is a table in QuestionTree.cpp, to be checked
-// against a book; here is how it is walked. frm_DiagnosisQA shows its pages.
+// The questions about a sick fish: twelve pages with the possible answers, each of which leads to another page or to a
+// diagnosis. QuestionTree.cpp holds the tree as a table that can be checked against a book. frm_DiagnosisQA shows the
+// pages.
 #pragma once
 
 #include <optional>
@@ -23,21 +23,21 @@ enum class QuestionPage {
     Question_Eating,
 };
 constexpr int questionPageCount = 12;
-constexpr int mostAnswers = 6; ///< of any page
+constexpr int mostAnswers = 6; ///< the most that a page has
 
-/// Where an answer leads: to a page, or to the name of a diagnosis.
+/// The target of an answer: a page, or the name of a diagnosis.
 using LeadsTo = std::variant<QuestionPage, const char *>;
 
 struct Answer
 {
-    const char *text = nullptr; ///< null behind the last answer of a page
+    const char *text = nullptr; ///< null after the last answer of a page
     LeadsTo leadsTo;
 };
 
 struct Question
 {
     QuestionPage page;
-    const char *text; ///< empty on the disclaimer's page, which asks nothing
+    const char *text; ///< empty on the disclaimer's page, which has no question
     Answer answers[mostAnswers];
 
     /// 0 to 6.
@@ -46,9 +46,9 @@ struct Question
 
 const Question &QuestionOf(QuestionPage page);
 
-/// What AnswerIndex holds after Start Over; no answer has that number.
+/// The value of AnswerIndex after Start Over. No answer has this number.
 inline const QString startedOver = QStringLiteral("99");
 
-/// Where a page goes on to: `answerIndex` is the number of the answer chosen, as text. Nowhere where it is none of the
-/// page's; the disclaimer's page alone goes on by anything but Start Over.
+/// The page or diagnosis that follows. `answerIndex` is the number of the chosen answer, as text; nothing follows if
+/// the page has no such answer. From the disclaimer's page everything but Start Over continues.
 std::optional<LeadsTo> FollowAnswer(QuestionPage page, const QString &answerIndex);

@@ -1,6 +1,5 @@
-// Paints the lines of a list so that their sizes stand one below the other whatever the font: what follows a run of
-// blanks goes to the right edge. The lines themselves keep their text as it is. Installed on the lists of animals,
-// where a name and a size are one text.
+// Paints the lines of a list so that the sizes are aligned in any font: what follows a run of blanks is painted at the
+// right edge. The text of the lines does not change. Used for the lists of animals, where name and size are one text.
 #pragma once
 
 #include <QStyledItemDelegate>

@@ -21,7 +21,7 @@ StockingBar::StockingBar(QWidget *parent) : QProgressBar(parent)
 void StockingBar::setPercent(double percent)
 {
     m_percent = float(qBound(0.0, percent, double(end)));
-    setUpdatesEnabled(false); // a progress bar paints itself at once; this one is painted with its window
+    setUpdatesEnabled(false); // a progress bar repaints at once; this one waits for the next paint of its window
     setValue(int(m_percent));
     setUpdatesEnabled(true);
     setAccessibleName(QStringLiteral("The tank is %1% full").arg(value()));

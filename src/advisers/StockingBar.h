@@ -1,6 +1,5 @@
-// The bar that shows how full a planned tank is, from 0 to 125 percent: what fits is green up to a mark at 100, what is
-// too much is red beyond it. A screen reader hears the percentage as its name, because its position within 0 to 125
-// would be another number.
+// The bar that shows how full a planned tank is, from 0 to 125 percent: green up to a mark at 100, red beyond it. Its
+// accessible name is the percentage, because a screen reader would otherwise read its position within 0 to 125.
 #pragma once
 
 #include <QProgressBar>
@@ -11,7 +10,7 @@ class StockingBar : public QProgressBar
 public:
     explicit StockingBar(QWidget *parent = nullptr);
 
-    /// Any number: the bar is empty below 0 and stops at 125.
+    /// Accepts any number: the bar is empty below 0 and stops at 125.
     void setPercent(double percent);
 
     QSize sizeHint() const override;

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-// "Ounce(fl.oz)" and "Pounds(lb)" are the units of "Ounce (fl. oz)" and "Pounds (lb)", and the key from Fahrenheit ends
-// in a ">" that its second column shows.
-// clang-format off
+// "Ounce(fl.oz)" and "Pounds(lb)" mean the same units as "Ounce (fl. oz)" and "Pounds (lb)". The key from Fahrenheit
+// ends with a ">" that appears in the second column. clang-format off
 const std::array<Conversion, 40> conversions = {{
     {"Gallons (US gal)>Litres (L)", [](double x) { return x * 3.785; }},
     {"Litres (L)>Gallons (US gal)", [](double x) { return x * 0.264; }},
@@ -51,7 +50,7 @@ const std::array<Conversion, 40> conversions = {{
 
 namespace {
 
-/// Known to the calculator, but not in its list.
+/// The calculator knows this conversion, but does not list it.
 constexpr Conversion unlisted[] = {
     {"Millilitres (mL)>Gallons (US gal)", [](double x) { return x / 3785; }},
     {"Millilitres (mL)>Litres (L)", [](double x) { return x / 1000; }},

@@ -92,7 +92,7 @@ void frm_Conversions::arrange()
     grid->setRowStretch(1, 1);
     grid->setColumnStretch(1, 2);
     grid->setColumnStretch(2, 3);
-    lbl_From->setMinimumWidth(1); // a long unit does not push the boxes aside
+    lbl_From->setMinimumWidth(1); // so that a long unit does not push the boxes aside
     lbl_To->setMinimumWidth(1);
 }
 
@@ -101,7 +101,7 @@ void frm_Conversions::connectAll()
     on(cmd_Convert, &QPushButton::clicked, this, &frm_Conversions::cmd_Convert_Click);
     on(cmd_Close, &QPushButton::clicked, this, &frm_Conversions::cmd_Close_Click);
     on(lstv_Convert, &ListView::Click, this, &frm_Conversions::lstv_Convert_Click);
-    // Whoever walks through the list by keys sees the units of what he would convert, too.
+    // The units also follow when the keeper moves through the list by keyboard.
     on(lstv_Convert->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frm_Conversions::SetLabels);
     connect(lstv_Convert, &ListView::ColumnClick, this,
             guarded([this](int index) { lstv_Convert_ColumnClick(index); }));

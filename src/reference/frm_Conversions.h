@@ -1,5 +1,5 @@
 // The conversion calculator, a child window with no link to the database: a list of conversions, a box for the value
-// and one for the result. The sums are those of Conversions.h; Enter converts, Esc closes.
+// and one for the result. Conversions.h calculates. Enter converts, Esc closes.
 #pragma once
 
 #include "shell/ChildForm.h"
@@ -17,7 +17,7 @@ public:
 
     void Form_Load();
     void Form_Activate() override;
-    /// The units of the selected conversion beside the boxes; the result, which was of another, goes.
+    /// Shows the units of the selected conversion beside the boxes and clears the result of the previous one.
     void SetLabels();
 
     ListView *lstv_Convert;

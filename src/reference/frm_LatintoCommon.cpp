@@ -19,7 +19,7 @@
 
 namespace {
 
-// Both waters say "freshwater names" near the end, and only the saltwater's sentence goes on behind the address.
+// Both texts say "freshwater names" near the end, and only the saltwater text continues after the address.
 const QString saltMissing =
     QStringLiteral("The file containing the saltwater names (NAMESSW.TXT) is missing or not in the correct format. You "
                    "will not be able to view freshwater names. Contact Velmoor via email or download the file from the "
@@ -101,7 +101,7 @@ void frm_LatintoCommon::makeControls()
 void frm_LatintoCommon::Form_Load()
 {
     lstv_Names->setSort(true, 0, 0);
-    opt_Salt->setChecked(true); // and so loads the list
+    opt_Salt->setChecked(true); // which loads the list
 }
 
 void frm_LatintoCommon::Form_Activate()

@@ -1,5 +1,5 @@
-// Animals with their common and Latin names, a child window that lists either of the two name files and sorts by either
-// name. Each load replaces the list; nothing comes from the database.
+// A child window that lists animals with their common and Latin names from one of the two name files, sorted by either
+// name. Each load replaces the list. It does not use the database.
 #pragma once
 
 #include "shell/ChildForm.h"
@@ -18,7 +18,8 @@ public:
 
     void Form_Load();
     void Form_Activate() override;
-    /// Fill the list from the file of that water. A file that is not there, or cannot be read, gets a box.
+    /// Fill the list from the saltwater or the freshwater file. If the file is missing or cannot be read, a box says
+    /// so.
     void LoadSalt();
     void LoadFresh();
 
