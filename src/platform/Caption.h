@@ -1,5 +1,5 @@
-// A name that a keeper gave, as the caption of a control or a menu entry: its "&" is a sign like any other and makes no
-// mnemonic.
+// Makes a name that a keeper entered the caption of a control or menu entry: an "&" is shown as it is and does not make
+// a mnemonic.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,6 @@
-// The doors through which the program meets the world: boxes, beeps, file and print dialogs, the help, the clock,
-// random numbers and the settings. Everything outside goes through here and nowhere else, so that a test can put a
-// script in the place of the world. The desktop's own doors are in DesktopDoors.h; those of the tests in
-// tests/support/ScriptedDoors.h.
+// The interface between the program and the outside world: message boxes, beeps, file and print dialogs, the help, the
+// clock, random numbers and the settings. All of these are reached only through here, so that tests can replace the
+// world with a script. DesktopDoors.h implements it for a real desktop, tests/support/ScriptedDoors.h for the tests.
 #pragma once
 
 #include <functional>
@@ -15,13 +14,14 @@ class PageSink;
 class RuntimeFailure;
 class SettingsStore;
 
-/// Buttons and icon of a message box, added up; the numbers are the traditional ones.
+/// Flags of a message box: their sum gives its buttons, its icon and its default button. The numbers are the
+/// traditional ones.
 enum MsgBoxFlag : int {
     vbOKOnly = 0,
     vbOKCancel = 1,
     vbYesNoCancel = 3,
     vbYesNo = 4,
-    omkSkipDelete = 7, ///< ours: "Skip", the default and what Esc does, and "Delete"
+    omkSkipDelete = 7, ///< our own: "Skip" (the default button, which Esc presses) and "Delete"
     vbCritical = 16,
     vbQuestion = 32,
     vbExclamation = 48, ///< the warning icon
@@ -36,7 +36,7 @@ struct MsgBoxRequest
     QString text;
     int flags = vbOKOnly; ///< sum of MsgBoxFlag
     QString title;
-    QString details = {}; ///< a long list, shown on demand; empty for none
+    QString details = {}; ///< a longer text that is shown on demand; empty for none
     int buttons() const { return flags & 15; }
     int icon() const { return flags & 0x70; }
     bool secondIsDefault() const { return (flags & vbDefaultButton2) != 0; }
@@ -45,8 +45,8 @@ struct MsgBoxRequest
 struct SaveDialogRequest
 {
     QString title;
-    QString fileName;      ///< offered name, may be a path
-    QString filter;        ///< as "Database files (*.MDB);;All files (*)"
+    QString fileName;      ///< the name that the dialog offers; may be a path
+    QString filter;        ///< such as "Database files (*.MDB);;All files (*)"
     QString defaultSuffix; ///< without the dot
     bool askOverwrite = true;
 };
@@ -93,13 +93,14 @@ class Doors
 public:
     virtual ~Doors() = default;
     virtual MsgBoxAnswer msgBox(const MsgBoxRequest &request) = 0;
-    /// The box of a failure; true for its button "End", false for "Return". At start-up "End" is the only button.
+    /// Shows the box of a failure. Returns true for its button "End" and false for "Return". If `mayReturn` is false,
+    /// as at start-up, "End" is the only button.
     virtual bool failureBox(const RuntimeFailure &failure, bool mayReturn) = 0;
     virtual void beep() = 0;
-    /// Absolute path of the file chosen, or nothing if the dialog was cancelled.
+    /// Returns the absolute path of the chosen file, or nothing if the dialog was cancelled.
     virtual std::optional<QString> saveDialog(const SaveDialogRequest &request) = 0;
     virtual std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) = 0;
-    /// Pages to print on. A PDF is complete when its document has ended, or not there at all.
+    /// Opens pages to print on. A PDF file appears only when its document has ended, and is complete then.
     virtual std::unique_ptr<PageSink> openPages(const PageTarget &target) = 0;
     /// Shows a document on the screen and waits until the keeper has closed it.
     virtual void preview(const PreviewRequest &request) = 0;
@@ -107,13 +108,13 @@ public:
     /// RuntimeFailure where it cannot be shown.
     virtual bool showHelp(const HelpRequest &request) = 0;
     virtual QDateTime now() = 0;
-    /// A random number from 0 up to, and without, 1.
+    /// A random number from 0 up to but not including 1.
     virtual double random() = 0;
     virtual SettingsStore &settings() = 0;
 
-    /// The doors in use. There are none before install() was called: a call then is a programming fault and aborts.
+    /// The doors in use. Calling this before install() is a programming error and aborts the program.
     static Doors &current();
-    /// Puts doors in place, owned by the caller, and returns those that were there (null at first).
+    /// Makes these the doors in use and returns the former ones (null at first). The caller keeps ownership.
     static Doors *install(Doors *doors);
 };
 
@@ -121,7 +122,7 @@ public:
 MsgBoxAnswer MsgBox(const QString &text, int flags = vbOKOnly, const QString &title = {}, const QString &details = {});
 void Beep();
 QDateTime Now();
-/// Reads a setting of section SETTINGS; the default comes back where there is none.
+/// Reads a setting of section SETTINGS; returns the default if it is not set.
 QString GetSetting(const QString &key, const QString &defaultValue);
-/// Writes a setting at once; throws RuntimeFailure where the store cannot be written.
+/// Writes a setting to the file at once. Throws RuntimeFailure if it cannot be written.
 void SaveSetting(const QString &key, const QString &value);

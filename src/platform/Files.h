@@ -1,5 +1,5 @@
-// Where files are. Those of the keeper's folder are found whatever the case of their names: they may come from a system
-// that keeps none.
+// Finds files. The case of file names in the keeper's folder does not matter, because the files may come from a system
+// that ignores case.
 #pragma once
 
 #include <QString>
@@ -7,5 +7,5 @@
 /// Absolute path of a file, found by its exact name or else by its name in any case of letters; empty if there is none.
 QString FindFile(const QString &fileName);
 
-/// The folder of the data files that came with the program: name files and help. Read only.
+/// The folder of the data files that are installed with the program (name files and help). The program only reads it.
 QString DataFolder();

@@ -1,4 +1,4 @@
-// Where a value was refused, its box gets the focus back, with the text selected: typing replaces it.
+// Gives the focus back to a box whose value was refused, with its text selected, so that typing replaces it.
 #pragma once
 
 #include <QLineEdit>

@@ -29,7 +29,7 @@ void showFailure(const RuntimeFailure &failure)
     ending = true;
     if (endHook)
         endHook();
-    QCoreApplication::exit(1); // ends every nested loop; what follows an exec() acts on acceptance only
+    QCoreApplication::exit(1); // ends nested event loops too; code after an exec() acts only if it was accepted
 }
 
 void endWithFailure(const RuntimeFailure &failure)

@@ -1,5 +1,5 @@
-// Failures out of handlers. Qt's own frames cannot be unwound without leaks, so every connection to code that can fail
-// goes through guarded(): it catches a RuntimeFailure at the slot's border and shows its box there.
+// Handles failures in event handlers. Unwinding Qt's own stack frames would leak, so every connection to code that can
+// fail goes through guarded(), which catches a RuntimeFailure at the edge of the handler and shows its box there.
 #pragma once
 
 #include <concepts>
@@ -11,14 +11,14 @@
 
 #include "platform/RuntimeFailure.h"
 
-/// A line on stderr, then the box. "End" closes the database (the hook below) and ends the program with status 1;
-/// "Return" comes back here.
+/// Writes the failure to stderr and shows its box. "End" runs the end hook and makes all event loops end with status 1;
+/// after "Return" the program goes on.
 void showFailure(const RuntimeFailure &failure);
 
-/// A failure at start-up: the same with "End" alone.
+/// Does the same for a failure at start-up, where "End" is the only button.
 [[noreturn]] void endWithFailure(const RuntimeFailure &failure);
 
-/// What "End" runs before the process ends: closes the database, rolled back.
+/// Sets what "End" runs before the program ends: it rolls back and closes the database.
 void setEndHook(std::function<void()> hook);
 
 template <class F> auto guarded(F handler)
@@ -33,16 +33,17 @@ template <class F> auto guarded(F handler)
         } catch (const RuntimeFailure &e) {
             failure = e;
         }
-        showFailure(*failure); // outside the catch: a nested event loop runs in there
+        showFailure(*failure); // outside the catch block, because it runs a nested event loop
     };
 }
 
-/// Connects a handler without arguments, guarded: on(cmd_OK, &QPushButton::clicked, this, &frm_X::cmd_OK_Click).
+/// Connects a handler without arguments through guarded(), as in on(cmd_OK, &QPushButton::clicked, this,
+/// &frm_X::cmd_OK_Click).
 template <class Sender, class Signal, class Receiver, class Result, class Class>
 void on(Sender *sender, Signal signal, Receiver *receiver, Result (Class::*handler)())
 {
     QObject::connect(sender, signal, receiver, guarded([receiver, handler] { (receiver->*handler)(); }));
 }
 
-/// True once "End" was pressed: the program only unwinds from then on.
+/// True after "End" was pressed: from then on the program only leaves its event loops.
 bool isEnding();

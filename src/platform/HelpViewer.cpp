@@ -29,7 +29,7 @@ const QUrl firstPage(QStringLiteral("qthelp://ostrelmark.help/doc/index.html"));
 
 enum Tab { ContentsTab, IndexTab, SearchTab };
 
-/// Reads pages, styles and pictures from the help file, and nothing from anywhere else.
+/// Loads pages, styles and pictures from the help file only.
 class HelpPage : public QTextBrowser
 {
 public:
@@ -38,7 +38,7 @@ public:
 protected:
     QVariant loadResource(int, const QUrl &name) override
     {
-        const QUrl url = firstPage.resolved(name); // all pages stand in one folder
+        const QUrl url = firstPage.resolved(name); // all pages are in one folder
         return url.scheme() == u"qthelp" ? QVariant(m_engine.fileData(url)) : QVariant();
     }
 
@@ -93,7 +93,7 @@ void HelpViewer::makePage()
     letters.setPointSizeF(letters.pointSizeF() * 1.1);
     m_page->setFont(letters);
     m_page->document()->setDocumentMargin(14);
-    // Queued: when it tells of a page, the browser itself does not yet say that it is there.
+    // Queued, because the browser emits this before its own source() is the new page.
     connect(m_page, &QTextBrowser::sourceChanged, this, guarded([this] { markInContents(); }), Qt::QueuedConnection);
 }
 
@@ -235,9 +235,9 @@ void HelpViewer::markInContents()
     QHelpContentWidget *contents = m_engine->contentWidget();
     const QHelpContentItem *present = m_engine->contentModel()->contentItemAt(contents->currentIndex());
     if (present && present->url().path() == m_page->source().path())
-        return; // of the entries that lead to the page, the one that was chosen
+        return; // several entries may lead to the page; the chosen one stays
     const QModelIndex entry = contents->indexOf(m_page->source());
-    // Each entry leads to the top of its page, and this page may stand at a place further down.
+    // An entry leads to the top of its page, but the page may be shown further down and must not move.
     const QScopedValueRollback marking(m_isMarking, true);
     if (entry.isValid())
         contents->setCurrentIndex(entry);
@@ -245,14 +245,14 @@ void HelpViewer::markInContents()
 
 void HelpViewer::standOverDialog()
 {
-    winId(); // else there is no window yet that could stand over another
+    winId(); // otherwise windowHandle() may still be null
     QWidget *dialog = QApplication::activeModalWidget();
     windowHandle()->setTransientParent(dialog ? dialog->window()->windowHandle() : nullptr);
     if (dialog)
         dialog->installEventFilter(this);
 }
 
-/// Not at once: Qt is about to tell its windows of the dialog that came or went.
+/// Queued, because Qt is still informing its windows about the dialog that opened or closed.
 void HelpViewer::dialogsChanged()
 {
     QMetaObject::invokeMethod(this, guarded([this] { standOverDialog(); }), Qt::QueuedConnection);
@@ -260,14 +260,14 @@ void HelpViewer::dialogsChanged()
 
 bool HelpViewer::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowBlocked) // by a dialog that came up while the help was open
+    if (event->type() == QEvent::WindowBlocked) // by a dialog that opened while the help was open
         dialogsChanged();
     return QWidget::event(event);
 }
 
 bool HelpViewer::eventFilter(QObject *, QEvent *event)
 {
-    if (event->type() == QEvent::Hide) // of the dialog, which may have stood over another
+    if (event->type() == QEvent::Hide) // of the dialog; another one may still be open
         dialogsChanged();
     return false;
 }

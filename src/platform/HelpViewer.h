@@ -1,7 +1,7 @@
-// The window of the help: contents, index and search beside the page. One for the whole program, held by the desktop's
-// doors; it belongs to no window, and where a dialog is open it stands over that dialog, so that both can be used. The
-// help file is read only; what Qt Help must write (its collection and search index) is made afresh in a temporary
-// folder each time and goes with the viewer, so that nothing of another version or of another user is ever met.
+// The help window: contents, index and search beside the page. There is one for the whole program, owned by its doors.
+// It has no parent window, but while a dialog is open it is made transient for that dialog, so that both can be used.
+// The help file is only read. The files that Qt Help must write (its collection and search index) are made anew in a
+// temporary folder and removed with the viewer, so that files of another version or another user are never used.
 #pragma once
 
 #include <memory>
@@ -19,13 +19,13 @@ class HelpViewer : public QWidget
 {
     Q_OBJECT
 public:
-    /// Throws RuntimeFailure where the file is no help file, or where there is no room for the index.
+    /// Throws RuntimeFailure if the file is not a help file or the temporary folder cannot be made.
     explicit HelpViewer(const QString &helpFile);
     ~HelpViewer() override;
 
-    /// Shows itself at what is asked for, in front.
+    /// Shows the window in front, with what was requested.
     void open(const HelpRequest &request);
-    /// Lists the pages that hold all these words, as soon as they have been gathered.
+    /// Lists the pages that contain all these words, as soon as the search index is ready.
     void searchFor(const QString &words);
     /// How many pages the last search found.
     int hits() const;
@@ -44,18 +44,18 @@ private:
     QWidget *makeSearchTab();
     void arrange();
     void showPage(const QUrl &url);
-    /// The way to the page, in the contents.
+    /// Selects the entry of the current page in the contents.
     void markInContents();
-    /// A dialog blocks every window but those that stand over it.
+    /// Makes the window transient for the open dialog, because a dialog blocks all other windows.
     void standOverDialog();
     void dialogsChanged();
 
     QTemporaryDir m_folder;
-    std::unique_ptr<QHelpEngine> m_engine; ///< goes before the window does, and takes its lists out of it
+    std::unique_ptr<QHelpEngine> m_engine; ///< destroyed before the window's children; removes its own lists from them
     QTextBrowser *m_page = nullptr;
     QTabWidget *m_tabs = nullptr;
     QLineEdit *m_searchBox = nullptr;
-    QString m_waiting; ///< words looked for before the index was ready
+    QString m_waiting; ///< words to search for when the index is ready
     bool m_isIndexed = false;
-    bool m_isMarking = false; ///< the contents follow the page, and not the page the contents
+    bool m_isMarking = false; ///< the contents follow the page, so the page must not follow them
 };

@@ -1,4 +1,4 @@
-// The waiting pointer, for as long as the object lives: put back whatever way its scope is left.
+// Shows the wait cursor for as long as the object lives.
 #pragma once
 
 #include <QApplication>

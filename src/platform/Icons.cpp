@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Qt's own engine for drawings loads a plugin at the start and reads each file twice.
+/// Replaces Qt's own SVG icon engine, which loads a plugin at the start and reads each file twice.
 class DrawingEngine : public QIconEngine
 {
 public:
@@ -50,7 +50,7 @@ private:
         painter.end();
         QStyleOption option;
         option.palette = QApplication::palette();
-        // In a selected row a picture keeps its colours: the style would wash it out.
+        // Icons in a selected row keep their colours; the style would wash them out.
         return mode == QIcon::Disabled ? QApplication::style()->generatedIconPixmap(mode, pixmap, &option) : pixmap;
     }
 

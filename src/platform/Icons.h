@@ -1,8 +1,8 @@
-// The program's own icons, drawings that are sharp at every size. A picture is read when it is first painted and kept
-// as painted, so that a window full of buttons costs nothing before it is seen.
+// The program's own icons, SVG drawings that are sharp at every size. An icon is read when it is painted for the first
+// time and then cached, so that a window full of buttons costs nothing before it is shown.
 #pragma once
 
 #include <QIcon>
 
-/// By the name of its file, "tank" for tank.svg; the name must be one of data/icons.
+/// The icon in that file: "tank" means tank.svg. The file must be in data/icons.
 QIcon Icon(const char *name);

@@ -49,7 +49,7 @@ bool LeavingChecks::eventFilter(QObject *object, QEvent *event)
         if (object != m_pending || m_running || leavesUnchecked(object) || runPending())
             return false;
         swallowPress();
-        return m_window->focusWidget() == object; // it is back: the box need not know that it was gone
+        return m_window->focusWidget() == object; // the focus is back: hide from the box that it was gone
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
@@ -58,15 +58,15 @@ bool LeavingChecks::eventFilter(QObject *object, QEvent *event)
     }
 }
 
-/// The focus widget is the new one already. A menu takes the focus events but leaves the focus widget as it is; another
-/// window or program is made up for on return.
+/// QApplication::focusWidget() is already the new widget here. A menu causes focus events but does not change the focus
+/// widget. When the focus goes to another window or program, the check runs once it has come back.
 bool LeavingChecks::leavesUnchecked(const QObject *box) const
 {
     QWidget *next = QApplication::focusWidget();
     return !next || next == box || !m_window->isVisible() || !m_window->isAncestorOf(next) || m_exempt.contains(next);
 }
 
-/// A check that was put off for a calendar button, when that is left in its turn.
+/// Runs the check that was postponed when the focus moved to an exempt widget, such as a calendar button.
 void LeavingChecks::makeUpFor(QWidget *from, QWidget *to)
 {
     const bool isDue = m_pending && to && to != m_pending && m_exempt.contains(from) && !m_exempt.contains(to) &&
@@ -80,7 +80,7 @@ bool LeavingChecks::runPending()
     const QPointer<QWidget> box = m_pending;
     if (!box || !m_checks.contains(box))
         return true;
-    const QPointer<LeavingChecks> alive = this; // a message box runs the event loop
+    const QPointer<LeavingChecks> alive = this; // a message box runs an event loop, in which this may be deleted
     const auto done = qScopeGuard([alive] {
         if (alive)
             alive->m_running = false;
@@ -89,17 +89,17 @@ bool LeavingChecks::runPending()
     const bool passed = m_checks.value(box)();
     if (!alive)
         return passed;
-    // The focus is put back while this still runs, so that the box it comes from is not asked in its turn.
+    // The focus is put back while m_running is still set, so that the box that it leaves is not checked.
     if (!passed && box && m_window->isVisible())
         FocusAtFault(*box);
-    // A box that passed but keeps the focus may yet be changed, without a new FocusIn. Where the check moved the focus
-    // itself, its FocusIn has gone by.
+    // A box that passed but keeps the focus stays pending, because its text may change again without a new FocusIn. If
+    // the check itself moved the focus, the FocusIn of the new box was ignored, so that box becomes pending here.
     if (QWidget *now = m_window->focusWidget(); passed && now != box)
         m_pending = m_checks.contains(now) ? now : nullptr;
     return passed;
 }
 
-/// The press that took the focus is still on its way to its button.
+/// Discards the mouse press that moved the focus; it has not reached its button yet.
 void LeavingChecks::swallowPress()
 {
     m_swallow = true;

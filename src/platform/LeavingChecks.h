@@ -1,6 +1,6 @@
-// Runs a box's check when the focus leaves it within its window, and before a storing button acts, so that a bad value
-// can reach the store by no way out of the box: mouse, mnemonic, Enter, another program and back. A box shown from a
-// check puts the focus back, and the press that was on its way is swallowed.
+// Validates an input box when the focus leaves it for another widget of its window, and again before a button stores,
+// so that a bad value cannot be stored by any way out of the box: mouse, mnemonic, Enter, a switch to another program
+// and back. When a check fails, the focus returns to the box, and the mouse click that moved the focus is discarded.
 #pragma once
 
 #include <functional>
@@ -15,18 +15,20 @@
 class LeavingChecks : public QObject
 {
 public:
-    /// True if the content may stand; else it has shown its message itself, and the focus goes back to the box.
+    /// Returns true if the content is valid. Otherwise it has shown its message itself, and the focus goes back to the
+    /// box.
     using Check = std::function<bool()>;
 
     explicit LeavingChecks(QWidget *window);
     void watch(QWidget *box, Check check);
-    /// Widgets that are reached without a check: Cancel, Close, the calendar button, up-downs. Who leaves them for
-    /// another box is asked then.
+    /// Marks a widget that can take the focus without a check: Cancel, Close, a calendar button, an up-down. The check
+    /// runs when the focus moves on from there.
     void exempt(QWidget *widget) { m_exempt.insert(widget); }
-    /// Asks that box, too, before anything is stored: its text was changed by arrows beside it, without its being
-    /// entered.
+    /// Has this box checked as well before anything is stored: the arrows beside it changed its text, so it may never
+    /// have had the focus.
     void suspect(QWidget *box);
-    /// First line of every handler that stores: false if the box last entered does not pass.
+    /// Every handler that stores calls this first. Returns false if nothing may be stored, because the box entered last
+    /// or a suspect one is not valid.
     bool passes();
 
 protected:
@@ -41,7 +43,7 @@ private:
     QWidget *m_window;
     QHash<QObject *, Check> m_checks;
     QSet<QWidget *> m_exempt;
-    QPointer<QWidget> m_pending; ///< the box entered last that has not passed since
+    QPointer<QWidget> m_pending; ///< the box entered last, while its check is due
     QList<QWidget *> m_suspects;
     bool m_running = false;
     bool m_swallow = false;

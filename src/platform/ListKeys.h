@@ -1,7 +1,7 @@
-// What keys do in a list beside walking through it: Enter opens, Delete deletes, Insert adds. A key presses a button of
-// the window, so that it does what the button does, and nothing while the button is disabled; it is meant for the row
-// in the frame, which is selected first: a list that gets the focus frames its first row without selecting it. The key
-// goes no further: Enter in a dialog's list does not press the default button as well.
+// Keys of a list that run commands: Enter opens, Insert adds, Delete deletes. A key presses a button of the window, so
+// it does what the button does, and nothing while the button is disabled. It acts on the row with the frame and selects
+// it first, because a list that gets the focus frames its first row without selecting it. The key event goes no
+// further: Enter in a dialog's list does not press the default button as well.
 #pragma once
 
 #include <initializer_list>
@@ -20,7 +20,7 @@ void connectTo(QAbstractItemView &list, Qt::Key key, Command &command, void (Com
 {
     auto *shortcut = new QShortcut(QKeySequence(key), &list);
     shortcut->setContext(Qt::WidgetShortcut);
-    shortcut->setAutoRepeat(false); // a key that is held down deletes one row
+    shortcut->setAutoRepeat(false); // holding Delete down deletes only one row
     QObject::connect(shortcut, &QShortcut::activated, &command, [&list, &command, press] {
         if (!list.selectionModel()->isRowSelected(list.currentIndex().row()) && list.currentIndex().isValid())
             list.selectionModel()->select(list.currentIndex(),

@@ -9,7 +9,7 @@
 
 #include "platform/RuntimeFailure.h"
 
-/// Rows that were added one by one.
+/// A source for rows that are added one by one.
 class ListModel::OwnRows : public ListSource
 {
 public:
@@ -107,7 +107,7 @@ std::vector<int> ListModel::sortedOrder(int column, Qt::SortOrder order)
     return sorted;
 }
 
-/// The present order the other way round, rows of like texts still in the source's order: no text is asked for.
+/// The current order reversed, with rows of equal text still in the source's order. It fetches no texts.
 std::vector<int> ListModel::turnedOrder()
 {
     std::vector<int> turned;
@@ -132,7 +132,7 @@ void ListModel::applyOrder(std::vector<int> order)
 {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     const QModelIndexList before = persistentIndexList();
-    std::vector<int> rowOf; // of each source row; needed for the few rows that somebody remembers
+    std::vector<int> rowOf; // the new row of each source row; needed only for persistent indexes
     if (!before.isEmpty()) {
         rowOf.resize(order.size());
         for (size_t row = 0; row < order.size(); ++row)
@@ -151,7 +151,7 @@ int ListModel::rowCount(const QModelIndex &parent) const { return parent.isValid
 
 int ListModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : int(m_columns.size()); }
 
-/// Called while painting, where nothing may throw: a cell that cannot be made stays empty.
+/// Views call this while painting, where nothing may throw: a cell whose text cannot be made stays empty.
 QVariant ListModel::data(const QModelIndex &index, int role) const
 try {
     if (!index.isValid() || index.row() >= rowCount())
@@ -181,7 +181,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     }
 }
 
-/// Typed letters look for a row by its own text, without a QVariant a row.
+/// Looks up typed letters in the first column, without making a QVariant for each row.
 QModelIndexList ListModel::match(const QModelIndex &start, int role, const QVariant &value, int hits,
                                  Qt::MatchFlags flags) const
 {

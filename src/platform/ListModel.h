@@ -1,6 +1,5 @@
-// The rows of a ListSource as a model of the item views, in the source's order or sorted by the text of a column. Only
-// row numbers are moved; texts are asked for when a cell is painted. ListView alone uses it. Rows and columns count
-// from 0 here.
+// The item model of ListView: the rows of a ListSource, in the source's order or sorted by the text of a column.
+// Sorting moves only row numbers; the text of a cell is fetched when it is painted. Rows and columns count from 0 here.
 #pragma once
 
 #include <memory>
@@ -22,9 +21,11 @@ public:
     void setSource(std::shared_ptr<const ListSource> source);
     /// A source without rows.
     static std::shared_ptr<const ListSource> noRows();
-    /// Adds a row at the end; after rows of another source it starts anew. Throws KeyNotUnique.
+    /// Adds a row at the end. If the list shows another source, that source's rows are removed first. Throws
+    /// KeyNotUnique.
     void append(const QString &key, const QStringList &texts);
-    /// Case-blind and stable, ties in the source's order, whichever way. The selection stays on its row.
+    /// Sorts case-insensitively and stably: in both directions, rows with equal texts keep the source's order. The
+    /// selection stays on its row.
     void sortBy(int column, Qt::SortOrder order);
     bool isSorted() const { return m_sorted; }
 
@@ -48,10 +49,10 @@ private:
 
     std::vector<ListColumn> m_columns;
     std::shared_ptr<const ListSource> m_source;
-    std::shared_ptr<OwnRows> m_own; ///< the source, where rows are added one by one
-    std::vector<int> m_order;       ///< source row of each row; empty: the source's own order
+    std::shared_ptr<OwnRows> m_own; ///< the source if rows are added one by one; else null
+    std::vector<int> m_order;       ///< the source row of each row; empty in the source's own order
     bool m_sorted = false;
     int m_sortedColumn = -1;
     Qt::SortOrder m_sortedOrder = Qt::AscendingOrder;
-    std::vector<bool> m_likeAbove; ///< of each sorted row: its text is that of the row above
+    std::vector<bool> m_likeAbove; ///< for each sorted row, whether its text equals that of the row above
 };

@@ -21,7 +21,7 @@
 
 namespace {
 
-/// Pixels of a letter of 9 points at 96 dpi, for which column widths are given.
+/// Pixel size of a font of 9 points at 96 dpi, for which column widths are given.
 constexpr double referenceFontPixels = 12;
 
 QString onOneLine(QString text)
@@ -34,8 +34,8 @@ QString onOneLine(QString text)
 
 } // namespace
 
-/// Draws a cell as part of its row: no focus rectangle of its own, a text of one line, and the whole text as a tool tip
-/// where it is cut off, else the list's own.
+/// Draws a cell as part of its row: one line of text without a focus rectangle. The tool tip shows the whole text if it
+/// is cut off, otherwise that of the list.
 class ListView::RowDelegate : public QStyledItemDelegate
 {
 public:
@@ -43,8 +43,8 @@ public:
 
     QString displayText(const QVariant &value, const QLocale &) const override { return onOneLine(value.toString()); }
 
-    /// A cell has a background and one line of text. The style would lay the text out as a paragraph, twice if it is
-    /// cut off, and look for a picture, a check box and a frame.
+    /// Paints a background and one line of text. The style would be slower: it would lay the text out as a paragraph
+    /// (twice if it is cut off) and look for an icon, a check box and a frame.
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         QStyleOptionViewItem cell = option;
@@ -67,7 +67,7 @@ public:
             return QStyledItemDelegate::helpEvent(event, view, option, index);
         const QString text = index.data(Qt::ToolTipRole).toString();
         const bool cut = text.contains(u'\n') || sizeHint(option, index).width() > option.rect.width();
-        // As rich text, so that a long one is broken into lines and its own signs are not read as tags.
+        // Converted to rich text, so that a long text is broken into lines and its characters are not read as tags.
         QToolTip::showText(event->globalPos(), cut ? Qt::convertFromPlainText(text) : view->toolTip(), view);
         return true;
     }
@@ -84,7 +84,7 @@ ListView::ListView(QWidget *parent) : QTableView(parent), m_model(new ListModel(
 {
     setModel(m_model);
     setItemDelegate(new RowDelegate(this));
-    setAutoFillBackground(true); // so that its scroll bars do not paint what lies behind it anew
+    setAutoFillBackground(true); // otherwise its scroll bars would repaint what lies behind the list
     setShowGrid(false);
     setWordWrap(false);
     setTextElideMode(Qt::ElideRight);
@@ -101,7 +101,7 @@ ListView::ListView(QWidget *parent) : QTableView(parent), m_model(new ListModel(
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setFirstSectionMovable(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
-        showSortArrow(); // the header has turned its arrow by itself
+        showSortArrow(); // the header has changed its arrow by itself
         emit ColumnClick(section + 1);
     });
     fitToFont();
@@ -134,7 +134,7 @@ QString ListView::columnLayout() const
 void ListView::setColumnLayout(const QString &layout)
 {
     static const QRegularExpression entry(QStringLiteral("^([1-9][0-9]?)(?::([0-9]{1,4}))?$"));
-    std::vector<std::pair<int, int>> columns; // in the order of their places; width 0: as it is
+    std::vector<std::pair<int, int>> columns; // from left to right; a width of 0 changes nothing
     std::set<int> seen;
     for (const QString &text : layout.split(u' ')) {
         const auto match = entry.match(text);
@@ -236,7 +236,7 @@ void ListView::setFullRowSelect(bool on) { setSelectionBehavior(on ? SelectRows 
 
 void ListView::setHeaderDragDrop(bool on) { horizontalHeader()->setSectionsMovable(on); }
 
-/// One height for all rows, and columns as wide as their letters ask for; widths that were dragged keep their
+/// Gives all rows the height of the font and scales the columns with it; widths that were dragged keep their
 /// proportion.
 void ListView::fitToFont()
 {
@@ -257,7 +257,7 @@ void ListView::changeEvent(QEvent *event)
         fitToFont();
 }
 
-/// The current cell is of no matter to whoever walks through rows: the columns stay where they are.
+/// Scrolls vertically only: the keeper moves through rows, so the columns stay where they are.
 void ListView::scrollTo(const QModelIndex &index, ScrollHint hint)
 {
     const int left = horizontalScrollBar()->value();
@@ -309,7 +309,7 @@ void ListView::keyPressEvent(QKeyEvent *event)
         Select(current.row() + 1);
         emit DblClick();
     } else if (event->key() == Qt::Key_Down && plain && current.isValid() && SelectedItem() == 0) {
-        Select(current.row() + 1); // framed when the focus came, but not selected: else it would be passed over
+        Select(current.row() + 1); // it has the frame but is not selected; Qt would skip it
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
         menuByKey();
     else if ((event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) && plain)
@@ -319,7 +319,7 @@ void ListView::keyPressEvent(QKeyEvent *event)
         QTableView::keyPressEvent(event);
 }
 
-/// By mouse the menu comes with the release of the button, not with its press.
+/// Handles the keyboard only: with the mouse, the menu opens when the button is released (MouseUp).
 void ListView::contextMenuEvent(QContextMenuEvent *event)
 {
     if (event->reason() == QContextMenuEvent::Keyboard)
@@ -341,13 +341,14 @@ QRect ListView::rowRect(int row) const
     return {-horizontalOffset(), rowViewportPosition(row), horizontalHeader()->length(), rowHeight(row)};
 }
 
-/// A frame around the current row while the list has the focus, for the row may be current without being selected.
+/// Draws a frame around the current row while the list has the focus, because a row may be current without being
+/// selected.
 void ListView::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
     if (!hasFocus() || !currentIndex().isValid())
         return;
-    // Plain lines, filled: the style's own frame has a gradient, dear on a whole row.
+    // Plain filled lines: the style's own frame has a gradient, which is slow to paint on a whole row.
     QPainter painter(viewport());
     const QRect row = rowRect(currentIndex().row());
     for (const QRect &edge : QRegion(row).subtracted(row.adjusted(1, 1, -1, -1)))

@@ -1,7 +1,7 @@
-// A list of rows in columns, in report mode: keyed rows, columns that can be dragged, whole rows selected, one at a
-// time. Rows are numbered from 1, as are column headers; sub-items and SortKey count from 0. The list holds no item a
-// row: it asks a ListSource, so that a hundred thousand rows cost nothing. A text sort of its own is case-blind and
-// stable, ties in the source's order.
+// A list of rows and columns: rows have keys, columns can be dragged, and one whole row is selected at a time. Rows and
+// column headers are numbered from 1; sub-items and SortKey count from 0. The list keeps no item per row but asks a
+// ListSource, so that a hundred thousand rows cost nothing. It can sort by the texts of a column, case-insensitively
+// and stably.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 
 #include <QTableView>
 
-/// Where a list gets its rows from. Nothing here may throw: it is called while painting.
+/// Where a list gets its rows from. No function here may throw, because they are called while painting.
 class ListSource
 {
 public:
@@ -17,7 +17,7 @@ public:
     virtual int count() const = 0;
     /// The text of a cell; row and column from 0.
     virtual QString text(int row, int column) const = 0;
-    /// The row's identity, unique in the source; empty where rows have none.
+    /// Identifies the row: unique in the source; empty if its rows have no keys.
     virtual QString key(int row) const = 0;
 };
 
@@ -25,8 +25,8 @@ struct ListColumn
 {
     QString key; ///< in Qt::UserRole of the header
     QString heading;
-    bool right = false; ///< aligned to the right
-    int width = 96;     ///< pixels at 9 points and 96 dpi; scaled with the font
+    bool right = false; ///< right-aligned
+    int width = 96;     ///< in pixels for a font of 9 points at 96 dpi; scaled with the font
 };
 
 class ListModel;
@@ -41,37 +41,38 @@ public:
     void setColumns(const std::vector<ListColumn> &columns);
     int columnCount() const;
 
-    /// Order and widths of the columns as text, "2:80 1:96 3": column and width, as ListColumn gives it. The last one
-    /// in sight has no width, for it fills the list.
+    /// Order and widths of the columns as text, such as "2:80 1:96 3": the number of each column and its width, in the
+    /// units of ListColumn::width. The last visible column has no width, because it fills the list.
     QString columnLayout() const;
-    /// Puts the columns so. A text that is not such a layout of this list changes nothing.
+    /// Restores a layout of columnLayout(). A text that is not a layout of this list changes nothing.
     void setColumnLayout(const QString &layout);
 
-    /// Shows the rows of a source in its order, whatever Sorted says; selects nothing.
+    /// Shows the rows of a source in the source's order, even if Sorted() is true. Selects no row.
     void setSource(std::shared_ptr<const ListSource> source);
-    /// Rows added one by one at the end, for short lists. Throws KeyNotUnique for a key that is there already (an empty
-    /// key is none).
+    /// Adds a row at the end; meant for short lists. Throws KeyNotUnique if the key exists already. An empty key means
+    /// that the row has none.
     void Add(const QString &key, const QStringList &texts);
     void Clear();
 
     int Count() const;
-    /// Row from 1, sub-item from 0 (the row's own text). Throws SubscriptOutOfRange where there is no such row.
+    /// The text of a cell: row from 1, sub-item from 0 (the row's own text). Throws SubscriptOutOfRange if there is no
+    /// such row.
     QString Text(int item, int subItem = 0) const;
     QString Key(int item) const;
     bool Selected(int item) const;
-    void Select(int item); ///< and scrolls to it; 0 selects nothing
-    /// The selected row, from 1; 0 where none is.
+    void Select(int item); ///< scrolls to the row as well; 0 selects nothing
+    /// The selected row, from 1; 0 if none is selected.
     int SelectedItem() const;
 
     bool Sorted() const { return m_sorted; }
     int SortKey() const { return m_sortKey; }
     int SortOrder() const { return m_sortOrder; } ///< 0 ascending, 1 descending
-    /// Sets the three at once; sorts by the texts of column `sortKey` if `sorted`. They outlive Clear() and
-    /// setSource(); the arrow in the header goes with the order that is shown.
+    /// Sets all three, and sorts by the texts of column `sortKey` if `sorted` is true. They keep their values over
+    /// Clear() and setSource(); the header shows its arrow only while the rows are sorted.
     void setSort(bool sorted, int sortKey, int sortOrder);
 
-    /// Extended styles of the old desktops, both on from the start: a row is selected as a whole and not its hit cell
-    /// alone, and headers can be dragged.
+    /// Whether a click selects the whole row or only its cell, and whether headers can be dragged. Both are on by
+    /// default.
     void setFullRowSelect(bool on);
     void setHeaderDragDrop(bool on);
 
@@ -109,17 +110,18 @@ private:
     bool m_sorted = false;
     int m_sortKey = 0;
     int m_sortOrder = 0;
-    bool m_doubleClicked = false; ///< its release is no click of its own
+    bool m_doubleClicked = false; ///< the release after a double click is not a click
 };
 
-/// What every list of a child window has: rows selected whole, and headers that can be dragged.
+/// Sets the style of every list in a child window: whole rows are selected, and headers can be dragged.
 inline void SetListViewStyle(ListView &list)
 {
     list.setFullRowSelect(true);
     list.setHeaderDragDrop(true);
 }
 
-/// A click on the head of a column (from 1): sorts by its texts, or turns the order where it is sorted so already.
+/// Handles a click on a column header (from 1): sorts by that column, or reverses the order if the list is sorted by it
+/// already.
 inline void SortByColumn(ListView &list, int index)
 {
     const bool again = list.Sorted() && list.SortKey() == index - 1;

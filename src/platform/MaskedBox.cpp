@@ -31,7 +31,8 @@ bool fits(QChar mask, QChar c)
     }
 }
 
-/// The text in the mask's shape: its delimiters, and the prompt in every place whose character does not fit.
+/// Puts a text into the shape of the mask: with its delimiters, and with the prompt in every place whose character does
+/// not fit.
 QString shaped(const QString &mask, const QString &text)
 {
     QString shape = mask;
@@ -61,7 +62,7 @@ private:
 MaskedBox::MaskedBox(QWidget *parent) : QLineEdit(parent)
 {
     setValidator(new ShapeValidator(this));
-    // A change from outside makes what is shown the content; a mask gives it its shape.
+    // If the text is changed from outside, the shown text becomes the content and is put into the mask's shape.
     connect(this, &QLineEdit::textChanged, this, [this] {
         m_typed.reset();
         if (!m_mask.isEmpty() && shaped(m_mask, text()) != text())
@@ -117,12 +118,12 @@ void MaskedBox::keyPressEvent(QKeyEvent *event)
         QLineEdit::keyPressEvent(event);
 }
 
-/// The keys that change a masked text.
+/// Handles the keys that change a masked text; returns false for all others.
 bool MaskedBox::takeKey(const QKeyEvent &event)
 {
     const QString typed = event.text();
     const bool back = event.key() == Qt::Key_Backspace;
-    if (event.matches(QKeySequence::Undo)) // may be a key with Backspace
+    if (event.matches(QKeySequence::Undo)) // first, because it may be a combination with Backspace
         return false;
     if (event.matches(QKeySequence::Paste))
         paste();
@@ -151,7 +152,7 @@ void MaskedBox::inputMethodEvent(QInputMethodEvent *event)
         enter(event->commitString());
 }
 
-/// The usual menu would paste past the mask.
+/// Qt's own menu would paste without regard to the mask.
 void MaskedBox::contextMenuEvent(QContextMenuEvent *event)
 {
     if (m_mask.isEmpty()) {
@@ -186,14 +187,14 @@ void MaskedBox::focusOutEvent(QFocusEvent *event)
         return;
     const std::optional<double> number = ReadNumber(text());
     const QString picture = number ? ::Format(*number, m_format) : QString();
-    if (!number || picture.size() > maxLength() || picture == text()) // a number that was cut would be another number
+    if (!number || picture.size() > maxLength() || picture == text()) // cut off, it would be another number
         return;
     const QString typed = text();
     showText(picture);
     m_typed = typed;
 }
 
-/// Types the characters from the selection or the cursor on, all or, where the mask refuses one, none of them.
+/// Types the characters at the selection or the cursor. If the mask refuses one of them, none is entered.
 void MaskedBox::enter(const QString &characters)
 {
     QString content = text();
@@ -237,7 +238,7 @@ void MaskedBox::blank(int from, int to)
     replace(content, from);
 }
 
-/// One step of undo; nothing where nothing changes.
+/// Replaces the content as a single undo step, if it differs.
 void MaskedBox::replace(const QString &shaped, int cursor)
 {
     if (shaped != text()) {
@@ -247,8 +248,8 @@ void MaskedBox::replace(const QString &shaped, int cursor)
     setCursorPosition(cursor);
 }
 
-/// Shows a text without a word to the outside: the content, or its formatted picture. Clears the undo steps, which
-/// belong to another text.
+/// Shows the content, or its formatted version, without emitting signals. Clears the undo steps, which belong to
+/// another text.
 void MaskedBox::showText(const QString &text)
 {
     const QSignalBlocker quiet(this);

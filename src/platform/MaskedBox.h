@@ -1,8 +1,8 @@
-// An entry box with an optional mask and an optional format. The mask's delimiters stay in place: '#' or '9' take a
-// digit, '?' a letter, 'A' a letter or digit, 'C' any character; a blank leaves its place empty. Text() is what the box
-// holds, with delimiters and a blank for what is missing; ClipText() the typed characters alone. A box without a mask
-// may have a Format: it shows its number in that picture while the focus is elsewhere, and what was typed, with all its
-// digits, while it is being edited.
+// An input box with an optional mask and an optional format. The mask's delimiters stay in place; '#' and '9' accept a
+// digit, '?' a letter, 'A' a letter or digit, 'C' any character, and a typed blank leaves its place empty. Text() is
+// the content with its delimiters and a blank for each missing character; ClipText() is the typed characters alone. A
+// box without a mask may have a Format: it shows its number in that format while the focus is elsewhere, and what was
+// typed, with all digits, while it is edited.
 #pragma once
 
 #include <optional>
@@ -18,21 +18,22 @@ public:
     explicit MaskedBox(QWidget *parent = nullptr);
 
     QString Mask() const { return m_mask; }
-    /// Empties the box, and limits its length to the mask's. An empty mask lets any text in, up to maxLength().
+    /// Empties the box and limits its length to that of the mask. An empty mask accepts any text up to maxLength().
     void setMask(const QString &mask);
-    /// A number picture such as "##0.000", applied when the focus leaves the box; empty: none.
+    /// A number format such as "##0.000", applied when the focus leaves the box; empty for none.
     QString Format() const { return m_format; }
     void setFormat(const QString &picture) { m_format = picture; }
 
     QString Text() const;
-    /// With a mask: characters that do not fit their place become blank. Needs no focus, applies no Format.
+    /// With a mask, characters that do not fit their place become blank. Works without the focus and does not apply the
+    /// Format.
     void setText(const QString &text);
     QString ClipText() const;
     /// What the box shows now.
     QString FormattedText() const { return text(); }
 
 signals:
-    /// A key (or a pasted text) that the mask refuses at that place, from 0; nothing was entered.
+    /// The mask refused a key or a pasted text at that position (from 0); nothing was entered.
     void ValidationError(const QString &text, int position);
 
 protected:
@@ -53,5 +54,5 @@ private:
 
     QString m_mask;
     QString m_format;
-    std::optional<QString> m_typed; ///< what was typed, while the box shows it in its Format
+    std::optional<QString> m_typed; ///< what was typed, while the box shows it formatted
 };

@@ -1,5 +1,6 @@
-// What pages are made on: a printer, a preview, a PDF or a test's record. Lengths are pixels of the device, from the
-// left top of its printable area. Printer (Printer.h) turns the verbs of a report into these calls.
+// The interface to what pages are printed on: a printer, a preview, a PDF, or the record of a test. Lengths are in
+// pixels of the device, measured from the top left of its printable area. Reports print through Printer (Printer.h),
+// which calls these functions.
 #pragma once
 
 #include <functional>
@@ -18,7 +19,7 @@ struct PageFont
     bool underline = false;
 };
 
-/// Paints a picture into a rectangle of that size, whose left top corner is 0, 0.
+/// Paints a picture into a rectangle of that size whose top left corner is at 0, 0.
 using PagePicture = std::function<void(QPainter &painter, const QSizeF &size)>;
 
 class PageSink
@@ -34,13 +35,14 @@ public:
     virtual double textWidth(const PageFont &font, const QString &text) const = 0;
     virtual double lineHeight(const PageFont &font) const = 0;
 
-    /// Begins a document on its first page. Throws RuntimeFailure where the device cannot be written.
+    /// Begins a document on its first page. Throws RuntimeFailure if the device cannot be written.
     virtual void beginDocument(const QString &title) = 0;
     virtual void newPage() = 0;
-    /// Ends it and hands it over; throws RuntimeFailure where that fails, and nothing of a PDF is left then.
+    /// Ends the document and sends it to the printer or the file. Throws RuntimeFailure if that fails; a PDF file is
+    /// then not written at all.
     virtual void endDocument() = 0;
 
-    /// One line of text, its top left corner at the place given.
+    /// Draws one line of text with its top left corner at x, y.
     virtual void text(double x, double y, const PageFont &font, const QString &text) = 0;
     virtual void line(double x1, double y1, double x2, double y2) = 0;
     virtual void picture(double x, double y, const QSizeF &size, const PagePicture &paint) = 0;

@@ -65,8 +65,8 @@ QStringList Printer::wrap(const QString &text, double width) const
     QStringList lines;
     for (QString rest : text.split(u'\n')) {
         while (!rest.isEmpty() && TextWidth(rest) > width) {
-            // The longest start that fits, by halving; cut at its last blank, or within a word that is wider than the
-            // cell.
+            // Finds the longest start that fits by bisection, and cuts it at its last blank, or inside a word that is
+            // wider than the cell.
             qsizetype fits = 1;
             for (qsizetype beyond = rest.size(); beyond - fits > 1;) {
                 const qsizetype middle = (fits + beyond) / 2;

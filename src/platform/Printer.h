@@ -1,7 +1,7 @@
-// A page with the verbs that reports are written in: a position, a font, text that ends its line or stays on it, lines,
-// pages, and an end of the document. The document begins with the first thing printed, so that a report without rows
-// leaves nothing. The page feeds itself where a line would pass its foot: without a heading, and the next page has its
-// whole height.
+// The interface that reports print with: a current position, a font, text with or without a line break, lines, pages,
+// and the end of the document. The document begins with the first thing printed, so that a report without rows prints
+// nothing. A line that would pass the foot of the page goes to a new page, which has no heading and is used to its full
+// height.
 #pragma once
 
 #include <vector>
@@ -10,19 +10,19 @@
 
 #include "platform/Pages.h"
 
-/// One cell of a printed row: its text wraps between its edges, and none of it is cut.
+/// One cell of a printed row. Its text is wrapped between its edges and never cut off.
 struct PrintCell
 {
     double left;
     double right;
     QString text;        ///< may hold line breaks
-    bool shrink = false; ///< each of its lines whole, in a smaller size if need be
+    bool shrink = false; ///< do not wrap; make the font smaller until each line fits
 };
 
 class Printer
 {
 public:
-    /// Prints documents of that title on pages that must live longer.
+    /// Prints documents with that title. The pages must outlive this object.
     Printer(PageSink &pages, const QString &title) : m_pages(pages), m_title(title) {}
 
     double ScaleWidth() const { return m_pages.width(); }
@@ -39,18 +39,19 @@ public:
 
     /// Prints at the current position and ends the line.
     void Print(const QString &text);
-    /// Prints and stays behind the text.
+    /// Prints and leaves the position behind the text.
     void PrintOn(const QString &text);
     void Line(double x1, double y1, double x2, double y2);
-    /// Paints a picture on this page; the position stays.
+    /// Paints a picture on this page; the current position does not change.
     void PaintPicture(double x, double y, double width, double height, const PagePicture &paint);
-    /// Cells side by side, as high as the highest; kept on one page unless higher than a page. Ends the line.
+    /// Prints cells side by side; the row is as high as its highest cell. It is kept on one page unless it is higher
+    /// than a page. Ends the line.
     void PrintRow(const std::vector<PrintCell> &cells);
     void NewPage();
     /// Ends the document, if anything was printed.
     void EndDoc();
 
-    /// The foot of this page: lines that would pass it go to the next page. Lapses with the page.
+    /// Sets the foot of this page: lines that would pass it go to the next page. It does not apply to later pages.
     void setFoot(double y) { m_foot = y; }
 
 private:

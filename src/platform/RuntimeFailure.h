@@ -1,7 +1,6 @@
-// The one exception type of the program: a failure of the database engine or of a file, or something nobody foresaw.
-// It carries the number and the words that users of such programs know. Whatever a keeper brings about by ordinary work
-// is no failure: the windows answer that with a plain box. guarded() (Guarded.h) and Application::notify show a
-// failure.
+// The only exception type of the program: a failure of the database engine or of a file, or an unforeseen error. It
+// carries the error number and text that users of such programs know. What a keeper can cause by ordinary work is not a
+// failure: the windows answer it with a plain message box. guarded() (Guarded.h) and Application::notify show failures.
 #pragma once
 
 #include <exception>
@@ -34,16 +33,16 @@ enum class Failure : int {
 class RuntimeFailure : public std::exception
 {
 public:
-    /// `what` is what was being done or looked for, in words for the keeper; it follows the standard words of the
+    /// `what` tells the keeper what the program was doing or looking for; it is shown after the standard text of the
     /// number.
     explicit RuntimeFailure(Failure number, const QString &what = {});
 
     Failure number() const { return m_number; }
-    /// The standard words of the number, and after them what was being done.
+    /// The standard text of the number, followed by `what`.
     QString description() const { return m_description; }
     const char *what() const noexcept override { return m_utf8.constData(); }
 
-    /// The words of a number, such as "Overflow".
+    /// The standard text of a number, such as "Overflow".
     static QString standardWords(Failure number);
 
 private:

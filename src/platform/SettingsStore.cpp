@@ -15,14 +15,14 @@ QString path(const QString &key, SettingsStore::Section section)
 
 SettingsStore::SettingsStore(const QString &fileName) : m_settings(fileName, QSettings::IniFormat)
 {
-    m_settings.allKeys(); // or of a section that stands twice in the file only the last would be read, until one writes
+    m_settings.allKeys(); // else, of a section that occurs twice, only the last is read until the first write
 }
 
 QString SettingsStore::value(const QString &key, const QString &defaultValue, Section section) const
 {
     const QVariant stored = m_settings.value(path(key, section), defaultValue);
-    // A text with a comma that someone wrote by hand, without quotation marks, is read as a list; of variants where a
-    // part of it begins with "@".
+    // QSettings reads a text with a comma that someone wrote by hand, without quotation marks, as a list of strings, or
+    // as a list of variants if a part of it begins with "@".
     const bool isList = stored.typeId() == QMetaType::QStringList || stored.typeId() == QMetaType::QVariantList;
     return isList ? stored.toStringList().join(u", ") : stored.toString();
 }

@@ -1,5 +1,5 @@
-// The per-user settings: texts under keys, kept as an INI file. Section "SETTINGS" holds what the keeper has chosen,
-// "WINDOWS" what the program remembers of its windows. A key is exact; every value is text.
+// The settings of one user, kept in an INI file. Section "SETTINGS" holds what the keeper has chosen, section "WINDOWS"
+// what the program remembers about its windows. Keys are case-sensitive, and every value is text.
 #pragma once
 
 #include <QSettings>
@@ -8,7 +8,7 @@
 class SettingsStore
 {
 public:
-    /// Opens, or will make at the first write, the INI file of that path.
+    /// Uses the INI file of that path; the first write creates the file if it does not exist.
     explicit SettingsStore(const QString &fileName);
 
     enum class Section { Settings, Windows };
@@ -18,7 +18,7 @@ public:
     void setValue(const QString &key, const QString &value, Section section = Section::Settings);
     QString fileName() const { return m_settings.fileName(); }
 
-    /// The file of this user: OMK.ini in the folder of the program's configuration.
+    /// Path of the current user's settings file: OMK.ini in the program's configuration folder.
     static QString userFileName();
 
 private:

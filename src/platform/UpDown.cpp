@@ -107,8 +107,8 @@ void UpDown::stepBy(int steps)
         emit Change();
 }
 
-/// An arrow that is held repeats. A box that a step brings up takes the release of the mouse away: the arrow would stay
-/// down and go on stepping, behind the box and after it.
+/// An arrow repeats while it is held down. If a step opens a message box, the box receives the release of the mouse,
+/// and the arrow would stay down and go on stepping behind the box and after it.
 void UpDown::clickArrow(QToolButton &arrow, int steps)
 {
     const QWidget *modal = QApplication::activeModalWidget();
@@ -177,7 +177,8 @@ void UpDown::changeEvent(QEvent *event)
         updateGeometry();
 }
 
-/// The arrows are called after the box beside them, which may have got its name from its label since.
+/// Names the arrows, for screen readers, after the box beside them. The box may have got its name from its label since
+/// the last call.
 void UpDown::nameButtons()
 {
     QString box;

@@ -1,7 +1,7 @@
-// A pair of arrows that steps a whole number within bounds. It knows nothing of the box beside it but through Change(),
-// unless it is bound: then it steps from the number that the box holds and writes into it. Change() fires in code too,
-// when the value changes, and at a step that changes the text of a bound box. setKeyBox() lets the arrow keys and the
-// wheel in a box step it.
+// A pair of arrow buttons that steps a whole number within bounds. A window connects it to the box beside it through
+// Change(), or binds the box with setBoundBox(): then a step starts from the number in the box and writes the result
+// into it. Change() is emitted whenever the value changes, even by code, and at a step that changes only the text of a
+// bound box. With setKeyBox() the arrow keys and the wheel in a box step the value.
 #pragma once
 
 #include <QPointer>
@@ -20,7 +20,7 @@ public:
     explicit UpDown(QWidget *parent = nullptr);
 
     int Value() const { return m_value; }
-    /// A position beyond the range stays at the bound. A bound box keeps its text.
+    /// A value beyond the range becomes the nearest bound. The text of a bound box does not change.
     void setValue(int value);
     int Min() const { return m_min; }
     int Max() const { return m_max; }
@@ -29,10 +29,11 @@ public:
     void setMax(int max);
     void setIncrement(int increment) { m_increment = increment; }
 
-    /// Up and down keys, page keys for ten steps, and the wheel while it has the focus, in that box step this value.
+    /// Lets these step the value while they are used in that box: Up and Down, Page Up and Page Down (ten steps), and
+    /// the wheel if the box has the focus.
     void setKeyBox(QWidget *box);
-    /// Binds the box: each step starts from the number it holds, and its text becomes the new value. Also sets the key
-    /// box.
+    /// Binds the box: each step starts from the number in the box and writes the new value into it. Also makes it the
+    /// key box.
     void setBoundBox(QLineEdit *box);
     void stepBy(int steps);
 
@@ -60,5 +61,5 @@ private:
     int m_min = 0;
     int m_max = 100;
     int m_increment = 1;
-    int m_wheel = 0; ///< eighths of a degree that make no whole step yet
+    int m_wheel = 0; ///< eighths of a degree that do not add up to a step yet
 };

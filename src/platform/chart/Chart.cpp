@@ -12,10 +12,10 @@
 
 namespace {
 
-constexpr double paperWidth = 1000; // pixels that a chart on paper counts across
-constexpr double fullTurn = 300;    // pixels from straight on to the far side
-constexpr double keyTurn = 20;      // pixels that an arrow key stands for
-constexpr int frame = 1;            // around the plot, seen when the chart has the focus
+constexpr double paperWidth = 1000; // width of a chart on paper, in pixels
+constexpr double fullTurn = 300;    // pixels of mouse movement for the largest turn
+constexpr double keyTurn = 20;      // pixels of mouse movement that an arrow key stands for
+constexpr int frame = 1;            // pixels around the plot; visible while the chart has the focus
 
 ChartTurn turnedBy(const ChartTurn &turn, const QPointF &moved)
 {
@@ -27,7 +27,7 @@ ChartTurn turnedBy(const ChartTurn &turn, const QPointF &moved)
 
 Chart::Chart(QWidget *parent) : QWidget(parent), m_plot(new ChartPlot(this))
 {
-    setMouseTracking(true); // the chart is turned, and the tips are told, without a button pressed
+    setMouseTracking(true); // turning and tool tips need no pressed button
     setFocusPolicy(Qt::StrongFocus);
     m_plot->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_plot->setFocusPolicy(Qt::NoFocus);
@@ -207,7 +207,7 @@ void Chart::keyPressEvent(QKeyEvent *event)
 
 void Chart::mouseReleaseEvent(QMouseEvent *event) { emit MouseUp(event->button(), event->globalPosition().toPoint()); }
 
-// The menu key stands for the right button, whose own menu comes when it is let go.
+// The menu key acts like the right mouse button, whose menu opens when the button is released.
 void Chart::contextMenuEvent(QContextMenuEvent *event)
 {
     event->accept();

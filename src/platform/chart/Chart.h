@@ -1,7 +1,7 @@
 // The chart control: a grid of cells that is filled through a selected row and column, drawn as one of twelve types.
-// Moving the mouse with Ctrl held, or an arrow key, turns a chart with depth; a tool tip tells the row, the column and
-// the value under the pointer. The picture is drawn anew once, when the event loop comes round, however many cells were
-// written.
+// Moving the mouse with Ctrl held, or an arrow key, turns a chart with depth; a tool tip shows the row, the column and
+// the value under the pointer. However many cells are written, the picture is redrawn once, when control returns to the
+// event loop.
 #pragma once
 
 #include <memory>
@@ -26,28 +26,32 @@ public:
     void setRowCount(int count);
 
     int chartType() const { return m_type; }
-    /// 0, 2, 4, 6, 8: bars, lines, areas, steps, combination with depth; 1, 3, 5, 7, 9: the same flat; 14 pies; 16 XY.
+    /// 0, 2, 4, 6, 8 are bars, lines, areas, steps and combination with depth; 1, 3, 5, 7, 9 the same without depth; 14
+    /// is pies, 16 is XY.
     void setChartType(int code);
 
-    /// Selects the cell that is written, from 1; throws SubscriptOutOfRange where there is none. It stays selected.
+    /// Selects the cell that is written, from 1, until another is selected. Throws SubscriptOutOfRange if there is
+    /// none.
     void setRow(int row);
     void setColumn(int column);
     void setRowLabel(const QString &label);
     void setColumnLabel(const QString &label);
-    /// The value of the selected cell, as text; one that is no number leaves it blank.
+    /// Sets the value of the selected cell as text; a text that is not a number makes it blank.
     void setData(const QString &text);
 
     void setTitleText(const QString &title);
     QString TitleText() const { return m_title; }
 
-    /// Puts a picture of the chart on the clipboard, as on paper, twice as fine as on the screen.
+    /// Copies a picture of the chart to the clipboard, in the colours for paper and at twice the resolution of the
+    /// screen.
     void EditCopy() const;
-    /// Paints it on paper, as vectors, in a rectangle from 0, 0 on. Letters are as large as on a chart 1000 wide.
+    /// Paints the chart as vectors in the colours for paper, into a rectangle of that size at 0, 0. Its text is as
+    /// large as on a chart 1000 pixels wide.
     void paintOn(QPainter &painter, const QSizeF &size) const;
 
-    /// Where a cell's value is drawn, row and column from 1; empty for a blank one.
+    /// Where a cell's value is drawn, row and column from 1; empty if the cell is blank.
     QRectF place(int row, int column) const;
-    /// What stands at a place, as the tool tip tells it; empty where nothing does.
+    /// The tool tip for a place in the chart; empty if no value is drawn there.
     QString tip(const QPointF &place) const;
 
 signals:
@@ -72,10 +76,10 @@ private:
 
     ChartData m_data;
     int m_type = 1;
-    int m_row = 0; ///< selected; from 1
+    int m_row = 0; ///< of the selected cell; from 1
     int m_column = 0;
     QString m_title;
     ChartPlot *m_plot;
-    mutable bool m_stale = false;    ///< the plot is not yet what the cells say
-    std::optional<QPointF> m_turned; ///< where the pointer was when it turned the chart last
+    mutable bool m_stale = false;    ///< the plot does not show the present cells yet
+    std::optional<QPointF> m_turned; ///< where the pointer was when it last turned the chart
 };

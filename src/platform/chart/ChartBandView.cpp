@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double barsOfARow = 0.8; // what they take of its width together
+constexpr double barsOfARow = 0.8; // share of a row's width that its bars take up together
 constexpr double barAmongLines = 0.6;
 constexpr double spot = 4; // pixels around a point
 
@@ -54,7 +54,7 @@ ChartBandView::Slot ChartBandView::slot(int column) const
     return {(behind - 0.9) / count, (behind - 0.1) / count};
 }
 
-// Of areas the small ones stand in front; of a combination the bars stand behind the lines.
+// Among areas, the small ones are in front; in a combination, the bars are behind the lines.
 std::vector<int> ChartBandView::backToFront() const
 {
     std::vector<int> order = band.columns;

@@ -1,6 +1,6 @@
-// Where the cells of a band stand on the plot, in pixels as the axes are now: the one place that knows, for what
-// paints, for the tool tip and for the tests. Bars stand on the front; the other columns of a chart with depth lie one
-// behind the other, each in a slot of the depth.
+// Computes where the cells of a band are on the plot, in pixels for the present axes. Painting, tool tips and tests all
+// use it. In a chart with depth, bars stand at the front; other columns lie one behind the other, each in its own slot
+// of the depth.
 #pragma once
 
 #include <QPointF>
@@ -16,33 +16,33 @@ struct ChartBandView
     const ChartData *data;
     ChartBand band;
     ChartKind kind;
-    QCPAxis *keys;       ///< row 0 stands at 1
-    QCPAxis *values;     ///< of the band
-    const QPointF *away; ///< from the front to the back, in pixels; 0 without depth
+    QCPAxis *keys;       ///< the horizontal axis; row 0 is at 1
+    QCPAxis *values;     ///< the vertical axis of the band
+    const QPointF *away; ///< the vector from the front to the back, in pixels; 0 without depth
 
     struct Bar
     {
-        double offset; ///< of its middle from the row's key
+        double offset; ///< from the row's key to the middle of the bar
         double width;
     };
-    /// Of a column that stands as bars, in rows.
+    /// Offset and width of a column's bars, in widths of a row. The column must be drawn as bars.
     Bar bar(int column) const;
-    /// The front of a bar; a flat one where the value is 0.
+    /// The front face of a bar; it has no height if the value is 0.
     QRectF front(int row, int column) const;
-    /// Of a column's value, on the front.
+    /// The point of a cell's value, on the front plane.
     QPointF point(int row, int column) const;
 
-    /// Between which parts of the depth a column lies: 0 front, 1 back.
+    /// The part of the depth that a column takes up: 0 is the front, 1 the back.
     struct Slot
     {
         double front;
         double back;
     };
     Slot slot(int column) const;
-    /// The columns from the last one to the first that hides others.
+    /// The columns in the order of painting, so that those in front hide those behind.
     std::vector<int> backToFront() const;
 
-    /// What stands for a cell's value on the plot: its bar, or a spot around its point. The cell must not be blank.
+    /// The area that shows a cell's value: its bar, or a small square around its point. The cell must not be blank.
     QRectF place(int row, int column) const;
     bool has(int column) const;
 };

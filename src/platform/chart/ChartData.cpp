@@ -11,7 +11,7 @@ namespace {
 constexpr double blank = std::numeric_limits<double>::quiet_NaN();
 constexpr double greatest = 1e200;
 
-// XY draws points alone, over their rows: the rows are dates, and no measurement is another's x.
+// XY (16) draws points only, at their rows: the rows are dates, and no measurement gives the x values of another.
 constexpr ChartKind kinds[] = {
     {0, ChartShape::Bar, true},          {1, ChartShape::Bar, false},  {2, ChartShape::Line, true},
     {3, ChartShape::Line, false},        {4, ChartShape::Area, true},  {5, ChartShape::Area, false},

@@ -1,5 +1,5 @@
-// What a chart shows: rows of labelled cells, each a number or blank, and the twelve ways to draw them. Plain values
-// that the control fills and the painters read; a blank cell is a gap in whatever is drawn.
+// The data of a chart: rows of labelled cells, each a number or blank, and the twelve chart types. The control fills
+// it, and the painting classes read it. A blank cell leaves a gap in the chart.
 #pragma once
 
 #include <vector>
@@ -9,20 +9,20 @@
 
 enum class ChartShape { Bar, Line, Area, Step, Combination, Pie, Points };
 
-/// A chart type by its number.
+/// A chart type.
 struct ChartKind
 {
     int code;
     ChartShape shape;
-    bool depth; ///< drawn as bodies that can be turned
+    bool depth; ///< drawn as three-dimensional bodies that can be turned
 };
 
-/// The kind of that code; a code that no type has is drawn as 2D bars, the type that a new keeper has.
+/// The chart type with that code; an unknown code gives 2D bars, the default type.
 const ChartKind &ChartKindOf(int code);
 
 struct ChartCell
 {
-    int row = -1; ///< from 0, as the column; -1 for none
+    int row = -1; ///< from 0, like the column; -1 for no cell
     int column = -1;
     bool operator==(const ChartCell &) const = default;
     explicit operator bool() const { return row >= 0; }
@@ -31,7 +31,7 @@ struct ChartCell
 class ChartData
 {
 public:
-    /// Cells that come into being are blank.
+    /// New cells are blank.
     void resize(int rows, int columns);
     int rows() const { return int(rowLabels.size()); }
     int columns() const { return int(columnLabels.size()); }
@@ -39,9 +39,9 @@ public:
     /// NaN where the cell is blank.
     double value(int row, int column) const { return m_values[at(row, column)]; }
     bool isBlank(int row, int column) const;
-    /// As it was written, for a person to read.
+    /// The text as it was written, for display.
     const QString &text(int row, int column) const { return m_texts[qsizetype(at(row, column))]; }
-    /// A text that is no number leaves the cell blank, and so does a number beyond what an axis can show (1e200).
+    /// A text that is not a number makes the cell blank, as does a number that is too large for an axis (above 1e200).
     void write(int row, int column, const QString &text);
 
     QStringList rowLabels;
@@ -56,6 +56,6 @@ private:
     QStringList m_texts;
 };
 
-/// Whether a column stands as bars: all do in a bar chart. Of a combination the first is bars and the others are lines
-/// over it, so that the measurement named first is the one that the others are held against.
+/// Whether a column is drawn as bars. In a bar chart all columns are. In a combination only the first is, and the
+/// others are lines over it, so that they can be compared with it.
 bool DrawnAsBars(ChartShape shape, int column);

@@ -4,7 +4,7 @@ namespace {
 
 constexpr int lighter = 125;
 constexpr int darker = 130;
-constexpr double islandWidth = 0.3; // of a row: what a value between two gaps is wide
+constexpr double islandWidth = 0.3; // width of a single value between two gaps, as a share of a row
 
 QPolygonF sheet(const QPointF &from, const QPointF &to, const QPointF &front, const QPointF &back)
 {
@@ -13,7 +13,7 @@ QPolygonF sheet(const QPointF &from, const QPointF &to, const QPointF &front, co
 
 } // namespace
 
-/// Painter and directions of one drawing.
+/// The painter and the direction of the depth during one drawing.
 struct ChartDepth::Paint
 {
     QCPPainter &painter;
@@ -26,7 +26,7 @@ struct ChartDepth::Paint
         painter.setBrush(colour);
         painter.drawPolygon(polygon);
     }
-    /// Front, top and the side that can be seen.
+    /// Draws the front, the top and the visible side of a box.
     void box(const QRectF &front, double near, double far, const QColor &colour, const QPen &rim)
     {
         const QPointF n = away * near, f = away * far;
@@ -90,7 +90,7 @@ void ChartDepth::drawBox(Paint &paint) const
     }
 }
 
-// Towards the side that the depth goes to: there each bar hides the side of the one before.
+// Draws in the direction of the depth, so that each bar hides the side of the one before.
 void ChartDepth::drawBars(Paint &paint, const std::vector<int> &columns) const
 {
     const int rows = m_view.data->rows();
@@ -119,7 +119,7 @@ std::vector<QPolygonF> ChartDepth::stretches(int column) const
             const QPointF point = m_view.point(row, column);
             if (!open)
                 all.emplace_back();
-            if (steps) // as wide as its row
+            if (steps) // a step is as wide as its row
                 all.back() << point - QPointF(half, 0) << point + QPointF(half, 0);
             else
                 all.back() << point;

@@ -1,6 +1,6 @@
-// Bars, lines, areas and steps as bodies in a box, in the axes of a plot: the front is where the axes stand, and the
-// depth goes to the right or left and up, in a parallel projection, so that a value can be read off the front. Drawn
-// from the back to the front. One to a band; inside of the chart.
+// Draws bars, lines, areas and steps as three-dimensional bodies in a box. The front of the box is the plane of the
+// axes, and the depth goes up and to the right or left in a parallel projection, so that values can be read off the
+// front. Everything is painted from the back to the front. There is one for each band; only the chart uses it.
 #pragma once
 
 #include <qcustomplot.h>
@@ -27,7 +27,7 @@ private:
     void drawBox(Paint &paint) const;
     void drawBars(Paint &paint, const std::vector<int> &columns) const;
     void drawSheets(Paint &paint, int column) const;
-    /// The stretches of a column between its gaps, on the front.
+    /// The lines of a column between its gaps, on the front plane.
     std::vector<QPolygonF> stretches(int column) const;
 
     ChartBandView m_view;

@@ -4,8 +4,8 @@
 
 namespace {
 
-// Okabe and Ito, "Color Universal Design" (2008), without yellow and black, which are lost on one of the two grounds,
-// and with a grey.
+// The palette of Okabe and Ito, "Color Universal Design" (2008), with a grey added, and without yellow and black, which
+// are hard to see on a light or a dark background.
 constexpr QRgb hues[] = {0x0072b2, 0xe69f00, 0x009e73, 0xd55e00, 0x56b4e9, 0xcc79a7, 0x707070};
 constexpr int hueCount = int(std::size(hues));
 
@@ -34,5 +34,5 @@ QBrush ChartLook::body(const QColor &paper) const { return second ? mixed(colour
 
 QPen ChartLook::rim() const { return {second ? colour : colour.darker(115), second ? 2.0 : 1.0}; }
 
-// Square ends close the corners of lines that are drawn piece by piece.
+// Square caps close the corners of lines that are drawn in segments.
 QPen ChartLook::line() const { return {colour, second ? 1.0 : 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin}; }

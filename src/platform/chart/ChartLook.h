@@ -1,7 +1,6 @@
-// The colours of a chart. The columns' own are chosen so that nobody has to see red or green to tell them apart, and
-// so that they differ in lightness on paper without colour: seven hues, and after them the same seven once more in a
-// second dress (pale bodies with a rim, thin lines), with a marker of its own for each of fourteen. Used by what
-// paints.
+// The colours of a chart. Those of the columns can be told apart by colour-blind readers, and by their lightness on
+// black-and-white paper. There are seven hues; the next seven columns repeat them in a second style (pale bodies with a
+// rim, thin lines). Each of these fourteen columns has a marker of its own.
 #pragma once
 
 #include <QBrush>
@@ -13,8 +12,8 @@ class QPalette;
 struct ChartColours
 {
     QColor paper;
-    QColor ink;  ///< of axes and letters
-    QColor grid; ///< of what is to be seen only if looked for
+    QColor ink;  ///< for axes and text
+    QColor grid; ///< for grid lines, which should not stand out
 
     static ChartColours onScreen(const QPalette &palette);
     static ChartColours onPaper();
@@ -23,7 +22,7 @@ struct ChartColours
 struct ChartLook
 {
     QColor colour;
-    bool second; ///< in the second dress
+    bool second; ///< in the second style
     int marker;  ///< 0 to 13
 
     QBrush body(const QColor &paper) const;

@@ -5,11 +5,11 @@
 namespace {
 
 constexpr double betweenLabels = 8;  // pixels
-constexpr double labelHeights = 1.5; // what a label of a value takes with the gap to the next
+constexpr double labelHeights = 1.5; // height of a value's label with the gap to the next, in font heights
 constexpr double mostTicks = 6;
 constexpr int sampleWidth = 20;
 constexpr int sampleGap = 5;
-constexpr int widestEntry = 180; // pixels of a legend's text
+constexpr int widestEntry = 180; // pixels of the text of a legend entry
 constexpr double markerSize = 7;
 
 } // namespace

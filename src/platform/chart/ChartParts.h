@@ -1,5 +1,5 @@
-// Small parts that a plot needs and QCustomPlot leaves to its users: ticks whose labels never
-// run into each other, and the entries of the legend. Inside of the chart.
+// Small parts that QCustomPlot leaves to its users: axis ticks whose labels never overlap, and legend entries. Only the
+// chart uses them.
 #pragma once
 
 #include <qcustomplot.h>
@@ -7,7 +7,7 @@
 #include "platform/chart/ChartData.h"
 #include "platform/chart/ChartLook.h"
 
-/// Ticks at the rows, each with its label, or at every second, third ... where they would not fit.
+/// Ticks with the labels of the rows: at every row, or at every second, third and so on if the labels would not fit.
 class ChartRowTicker : public QCPAxisTicker
 {
 public:
@@ -26,7 +26,7 @@ private:
     int m_step = 1;
 };
 
-/// Ticks of an axis of values, at round steps that leave each label its height.
+/// Ticks of a value axis, at round steps with enough height for each label.
 class ChartValueTicker : public QCPAxisTicker
 {
 public:
@@ -37,19 +37,19 @@ protected:
     double getTickStep(const QCPRange &range) override { return roundStep(range.size() / m_most); }
 
 private:
-    /// The next step from that on that people count in: 1, 2, 2.5 or 5, or ten times that.
+    /// Rounds a step up to 1, 2, 2.5 or 5 times a power of ten.
     static double roundStep(double step);
-    double m_most = 5; ///< ticks
+    double m_most = 5; ///< number of ticks
 };
 
-/// How a column looks in a type of chart, so small that it goes beside a line of text.
+/// A small sample of how a column is drawn, for the legend.
 struct ChartSample
 {
     ChartLook look;
     QColor paper;
-    bool body;   ///< a bar, an area, a slice
-    bool line;   ///< with its marker
-    bool marker; ///< alone
+    bool body;   ///< a bar, an area or a slice
+    bool line;   ///< a line with its marker
+    bool marker; ///< a marker alone
 
     void draw(QCPPainter &painter, const QRectF &place) const;
 };

@@ -81,7 +81,7 @@ void ChartPie::draw(QCPPainter *painter)
         }
         if (all.empty()) {
             painter->setBrush(Qt::NoBrush);
-            painter->drawEllipse(circle); // a row without values keeps its place
+            painter->drawEllipse(circle); // a row without values is an empty circle
         }
         if (pies.labelled) {
             painter->setPen(m_colours.ink);

@@ -1,6 +1,6 @@
-// A pie for each row, side by side with their labels below, in the rectangle of a plot's axes. A slice is the share of
-// a column's value in its row, by its distance from 0; the smallest are drawn a little wider than they are, so that
-// they can be seen beside a great one. Blank cells and zeroes have no slice. Inside of the chart.
+// Draws a pie for each row, side by side with their labels below. A slice shows the share of a column's absolute value
+// in its row. Each slice is at least five degrees wide, so that small ones can be seen beside a large one. Blank cells
+// and zeros have no slice. Only the chart uses it.
 #pragma once
 
 #include <qcustomplot.h>
@@ -13,9 +13,9 @@ class ChartPie : public QCPAbstractPlottable
 public:
     ChartPie(QCPAxisRect &rect, const ChartData &data, const ChartColours &colours, const QFont &font);
 
-    /// The slice at a place, none beside the pies.
+    /// The cell of the slice at a place; no cell outside the pies.
     ChartCell cellAt(const QPointF &place) const;
-    /// The middle of a slice; empty where the cell has none.
+    /// A small area in the middle of a slice; empty if the cell has no slice.
     QRectF place(int row, int column) const;
 
     double selectTest(const QPointF &, bool, QVariant *) const override { return -1; }
@@ -38,7 +38,7 @@ private:
     };
     std::vector<Slice> slices(int row) const;
 
-    /// How the pies stand: so many side by side that they are largest.
+    /// How the pies are arranged: as many side by side as makes them largest.
     struct Grid
     {
         int across;

@@ -12,15 +12,15 @@
 namespace {
 
 constexpr int edge = 8;              // pixels between the chart and its rim
-constexpr double reach = 6;          // how far from a value the pointer still means it
-constexpr double legendShare = 0.35; // of the height at most
+constexpr double reach = 6;          // pixels around a value within which the pointer hits it
+constexpr double legendShare = 0.35; // largest share of the height
 constexpr double markerSize = 6;
 constexpr double loneMarkerSize = 9;
 constexpr int areaAlpha = 110;
 
 QFont inPixels(QFont font, double factor = 1)
 {
-    font.setPixelSize(std::max(1, qRound(QFontInfo(font).pixelSize() * factor))); // points would grow on paper
+    font.setPixelSize(std::max(1, qRound(QFontInfo(font).pixelSize() * factor))); // points would make it grow on paper
     return font;
 }
 
@@ -39,7 +39,7 @@ ChartPlot::ChartPlot(QWidget *parent) :
     plotLayout()->clear();
     plotLayout()->setRowSpacing(4);
     setNoAntialiasingOnDrag(false);
-    setPlottingHint(QCP::phFastPolylines); // a wide line as a whole costs many times its pieces
+    setPlottingHint(QCP::phFastPolylines); // a wide line drawn as a whole is many times slower
     connect(this, &QCustomPlot::afterLayout, this, [this] { fit(); });
 }
 
@@ -69,7 +69,7 @@ void ChartPlot::build(const ChartData &data, int chartType, const QString &title
     } else {
         const std::vector<ChartBand> bands = MakeChartBands(m_data, m_kind.shape);
         m_rows = QSharedPointer<ChartRowTicker>::create(m_data.rowLabels);
-        m_bands.reserve(bands.size()); // what paints keeps copies, with pointers into this plot alone
+        m_bands.reserve(bands.size()); // the plottables copy these; their pointers lead into this plot only
         for (const ChartBand &band : bands)
             addBand(band, &band == &bands.back());
     }
@@ -97,7 +97,8 @@ void ChartPlot::addPie()
     m_pie = new ChartPie(*rect, m_data, m_colours, m_font);
 }
 
-/// Colours and letters of the axes. Those of the right side stand in for the left where the depth goes to the left.
+/// Sets the colours and fonts of the axes. The right axis is shown instead of the left one if the depth goes to the
+/// left.
 void ChartPlot::dress(QCPAxisRect &rect)
 {
     rect.setMarginGroup(QCP::msLeft | QCP::msRight, m_margins);
@@ -139,7 +140,7 @@ void ChartPlot::addBand(const ChartBand &band, bool isLast)
         new ChartDepth(view, m_colours);
         return;
     }
-    // Bars first: lines and points lie over them.
+    // Bars come first, so that lines and points lie over them.
     for (const int column : view.backToFront())
         if (DrawnAsBars(m_kind.shape, column))
             addBars(view, column);
@@ -171,7 +172,7 @@ void ChartPlot::addGraph(const ChartBandView &view, int column)
     auto *graph = new QCPGraph(view.keys, view.values);
     QSharedPointer<QCPGraphDataContainer> cells(new QCPGraphDataContainer);
     for (int row = 0; row < m_data.rows(); ++row)
-        cells->add(QCPGraphData(row + 1, m_data.value(row, column))); // not a number where it is blank: a gap
+        cells->add(QCPGraphData(row + 1, m_data.value(row, column))); // NaN for a blank cell makes a gap
     graph->setData(cells);
     graph->setAdaptiveSampling(false);
     graph->setPen(look.line());
@@ -193,7 +194,7 @@ void ChartPlot::addLegend()
         return;
     m_legend = new QCPLegend;
     plotLayout()->addElement(plotLayout()->rowCount(), 0, m_legend);
-    plotLayout()->setRowStretchFactor(plotLayout()->rowCount() - 1, 0.001); // no higher than its lines
+    plotLayout()->setRowStretchFactor(plotLayout()->rowCount() - 1, 0.001); // no higher than its entries need
     m_legend->setLayer(QStringLiteral("legend"));
     m_legend->setBrush(Qt::NoBrush);
     m_legend->setBorderPen(Qt::NoPen);
@@ -206,7 +207,7 @@ void ChartPlot::addLegend()
                                               m_data.columnLabels.at(column)));
 }
 
-// A change of one may make another necessary: fewer lines of legend give the bands more height, and so more depth.
+// One fit may make another necessary: fewer lines of legend give the bands more height, and so more depth.
 void ChartPlot::fit()
 {
     if (m_fitting)
@@ -220,7 +221,7 @@ void ChartPlot::fit()
     }
 }
 
-/// No wider than the picture, which it would widen.
+/// Shortens the title to the width of the picture, which would otherwise grow with it.
 bool ChartPlot::fitTitle()
 {
     if (!m_title)
@@ -232,7 +233,7 @@ bool ChartPlot::fitTitle()
     return changed;
 }
 
-/// As many entries in a line as the width holds; no legend where it would leave the chart no room.
+/// Puts as many legend entries in a line as fit, and hides the legend if it would leave the chart no room.
 bool ChartPlot::fitLegend()
 {
     if (!m_legend)
@@ -248,7 +249,7 @@ bool ChartPlot::fitLegend()
     const int entry = widest + m_legend->columnSpacing();
     const int room = viewport().width() - 4 * edge + m_legend->columnSpacing();
     const int wrap = std::clamp(room / entry, 1, count);
-    // What is left over stands to the right of them.
+    // The width that is left over goes to the right of the entries.
     m_legend->setMargins(QMargins(2 * edge, 0, 2 * edge + std::max(0, room - wrap * entry), 4));
     const int lines = (count + wrap - 1) / wrap;
     const bool fits = widest + 4 * edge <= viewport().width() &&
@@ -274,7 +275,7 @@ bool ChartPlot::fitLegend()
     return changed;
 }
 
-/// In pixels: a part of the height of a band, and of bars no more than they are wide.
+/// The depth in pixels: a share of a band's height, limited for bars by their width.
 double ChartPlot::depth() const
 {
     double depth = std::min<double>(viewport().width() / 2.0, viewport().height() / double(m_bands.size())) * 0.22;
@@ -318,7 +319,8 @@ bool ChartPlot::fitLabels()
     return changed;
 }
 
-// Through a recording: the painter may be anybody's, and QCustomPlot's own would end the page.
+// Records the painting and plays it on the given painter: QCustomPlot needs a QCPPainter, and one of its own on the
+// page would end the page.
 void ChartPlot::paintVectors(QPainter &painter, const QSizeF &size)
 {
     QPicture picture;
@@ -328,7 +330,7 @@ void ChartPlot::paintVectors(QPainter &painter, const QSizeF &size)
     recorder.setMode(QCPPainter::pmNoCaching);
     toPainter(&recorder, qRound(size.width()), qRound(size.height()));
     recorder.end();
-    // A recording is played as large as on the screen that it was made for.
+    // A recording is played at the size that it had on the screen; the scale makes up for the resolution of the device.
     const QPaintDevice &device = *painter.device();
     painter.scale(double(picture.logicalDpiX()) / device.logicalDpiX(),
                   double(picture.logicalDpiY()) / device.logicalDpiY());
@@ -342,7 +344,7 @@ ChartCell ChartPlot::cellAt(const QPointF &place) const
     ChartCell nearest;
     double least = reach;
     for (const ChartBandView &view : m_bands)
-        for (const int column : view.backToFront()) // of two that meet, the one in front
+        for (const int column : view.backToFront()) // where two meet, the one in front is found last and wins
             for (int row = 0; row < m_data.rows(); ++row)
                 if (!m_data.isBlank(row, column))
                     if (const double away = distance(view.place(row, column), place); away <= least) {

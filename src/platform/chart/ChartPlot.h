@@ -1,7 +1,7 @@
-// The picture of a chart: axes, grid, bars, lines, steps and legend are QCustomPlot's own, the pie and the bodies with
-// depth are plottables of ours in its axes. Made whole by build() from data that it keeps; what depends on the size
-// (which rows are labelled, how the legend wraps, how deep the depth is) is fitted at each layout, on screen and on
-// paper. Inside of the chart: the windows use Chart.h.
+// The picture of a chart. Axes, grid, bars, lines, steps and legend are QCustomPlot's own; pies and three-dimensional
+// bodies are plottables of ours. build() makes the whole picture from data that it copies; what depends on the size
+// (which rows are labelled, how the legend wraps, how deep the bodies are) is fitted at each layout, on screen and on
+// paper. Only the chart uses it; windows use Chart.h.
 #pragma once
 
 #include <memory>
@@ -15,7 +15,7 @@
 class ChartPie;
 class ChartRowTicker;
 
-/// Where the depth goes: to the right (1) or to the left (-1), and up (0 to 1).
+/// The direction of the depth: from left (-1) to right (1), and up (0 to 1).
 struct ChartTurn
 {
     double right = 0.7;
@@ -29,12 +29,12 @@ public:
 
     /// Replaces whatever was drawn before. The change is visible after the next replot().
     void build(const ChartData &data, int chartType, const QString &title, const ChartColours &colours);
-    /// Visible after the next replot(), too.
+    /// This change, too, is visible after the next replot().
     void setTurn(const ChartTurn &turn) { m_turn = turn; }
     const ChartTurn &turn() const { return m_turn; }
     /// The cell whose value is drawn at a place of the widget, or within a few pixels of it.
     ChartCell cellAt(const QPointF &place) const;
-    /// Where a cell's value is drawn; empty for a blank one.
+    /// Where a cell's value is drawn; empty if the cell is blank.
     QRectF place(int row, int column) const;
     /// Paints the chart as vectors into a rectangle that starts at 0, 0.
     void paintVectors(QPainter &painter, const QSizeF &size);
@@ -66,7 +66,7 @@ private:
     QCPMarginGroup *m_margins;
     QSharedPointer<ChartRowTicker> m_rows;
     std::vector<ChartBandView> m_bands;
-    std::unique_ptr<QCPLegend> m_hiddenLegend; ///< while there is no room for it
+    std::unique_ptr<QCPLegend> m_hiddenLegend; ///< the legend, while there is no room for it
     QPointer<QCPLegend> m_legend;
     QPointer<ChartPie> m_pie;
     QPointF m_away;

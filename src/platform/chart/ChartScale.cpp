@@ -11,9 +11,9 @@ constexpr double readable = 10; // a column at least a tenth as high as its neig
 struct Sized
 {
     int column;
-    double size; ///< greatest distance from 0; 0 for a column without values
+    double size; ///< largest absolute value; 0 for a column without values
 };
-using Group = std::vector<Sized>; // by size, never empty
+using Group = std::vector<Sized>; // sorted by size
 
 double sizeOf(const ChartData &data, int column)
 {
@@ -24,14 +24,15 @@ double sizeOf(const ChartData &data, int column)
     return size;
 }
 
-/// How many times the smallest of a group its greatest is. What is 0 throughout fits beside anything.
+/// The ratio of the largest to the smallest column of a group. A column that is all 0 fits beside anything and does not
+/// count.
 double spread(const Group &group)
 {
     const auto first = std::ranges::find_if(group, [](const Sized &one) { return one.size > 0; });
     return first == group.end() ? 1 : group.back().size / first->size;
 }
 
-/// Cuts a group where one column is most times greater than the one before.
+/// Splits a group at the largest ratio between two neighbours and returns the upper part.
 Group cutOff(Group &group)
 {
     std::size_t cut = 1;
@@ -46,7 +47,7 @@ Group cutOff(Group &group)
     return upper;
 }
 
-/// The range of a band's axis. Bars and areas stand on 0; lines may leave it out where that shows nothing but a gap
+/// Sets the range of a band's axis. Bars and areas start at 0; for lines, 0 is left out if it would only leave a gap
 /// below them.
 void setRange(ChartBand &band, const ChartData &data, ChartShape shape)
 {
@@ -68,7 +69,7 @@ void setRange(ChartBand &band, const ChartData &data, ChartShape shape)
         high = std::max(high, 0.0);
     }
     const double size = std::max(std::abs(low), std::abs(high));
-    // A marker is higher than its point.
+    // Leaves room for the markers, which are higher than their points.
     const double room = high - low > size * 1e-9 ? (high - low) * (standsOnZero ? 0.06 : 0.1)
                         : size > 0               ? size * 0.1
                                                  : 1;
