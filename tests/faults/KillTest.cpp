@@ -1,5 +1,6 @@
-// The program killed while a keeper works in it: what a window said was saved is in the file, and nothing half. Twenty
-// times where nothing is said; omk_tests_faults --kills=600 is the long run, whose table docs/RELIABILITY.md shows.
+// Kills the program while a keeper works in it. Everything that a window reported as saved must be in the file, and
+// nothing may be there in part. By default it kills twenty times; omk_tests_faults --kills=600 is the long run, whose
+// table is in docs/RELIABILITY.md.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,7 +24,7 @@ int killsWanted()
 struct Way
 {
     const char *name;
-    Death death; ///< None: at a moment of the clock
+    Death death; ///< None: killed at a random time
     int cutOff = 0, saved = 0, lost = 0;
 };
 
@@ -33,7 +34,7 @@ struct Kill : testing::Test
 
     Kill() { keeper.g().gDatabase.reset(); }
 
-    /// One round: a child plays on, is killed, and the file is looked at.
+    /// One round: a child process plays until it is killed, and then the file is checked.
     void runRound(Way &way, unsigned seed)
     {
         prepareTanks();
@@ -65,7 +66,7 @@ struct Kill : testing::Test
                                   {tank, tank});
     }
 
-    /// The child: plays through the windows, and says so after each move that a window has confirmed.
+    /// Runs in the child: plays through the windows, and reports each move that a window has confirmed.
     [[noreturn]] void playUntilKilled(int said, unsigned seed, Death death)
     {
         keeper.restart();
@@ -73,7 +74,7 @@ struct Kill : testing::Test
         std::minstd_rand moment(seed), random(seed);
         faults.plan({.after = int(moment() % 150), .death = death});
         if (death == Death::None)
-            ::ualarm(1 + useconds_t(moment() % 300'000), 0); // which nobody catches
+            ::ualarm(1 + useconds_t(moment() % 300'000), 0); // nobody catches this signal
         for (int n = 0; n < mostMoves; ++n) {
             keeper.doors.clock = m_start.addSecs(61 * n);
             const Move move = nextMove(m_book, random, keeper.doors.clock);
@@ -86,8 +87,7 @@ struct Kill : testing::Test
         ::_exit(0);
     }
 
-    /// The file is whole, and holds all moves that were confirmed, and perhaps the one that was on its way, and no
-    /// more.
+    /// Checks that the file is undamaged and holds all confirmed moves, perhaps the one in progress, and nothing else.
     bool checkFile(unsigned seed, int saved)
     {
         const auto database = Database::OpenDatabase(keeper.databaseFile());

@@ -1,5 +1,5 @@
-// A keeper's work as a game that can be played twice: once through the real windows, in a process that may be killed,
-// and once in a book that says what must then be in the file. The same seed gives the same moves.
+// A keeper's work as a sequence of moves that is played twice: through the real windows, in a process that may be
+// killed, and in a Book, which says what must then be in the file. The same seed gives the same moves.
 #pragma once
 
 #include <map>
@@ -13,8 +13,8 @@
 #include "platform/MaskedBox.h"
 #include "windows/Hands.h"
 
-/// "kind|tank|moment" and the number in it, of every entry; "T|tank|" and 0 of every tank. The kinds are W, L and M, in
-/// the order of the tabs of the logbook.
+/// The expected entries: "kind|tank|moment" with the number in the entry, and "T|tank|" with 0 for each tank. The kinds
+/// are W, L and M, in the order of the tabs of the logbook.
 using Book = std::map<QString, int>;
 
 inline const QString kinds = "WLM";
@@ -70,7 +70,7 @@ inline void note(Book &book, const Move &move)
     }
 }
 
-/// What is in the file, as a book; an entry that is there twice is told.
+/// The content of the file as a Book. An entry that is there twice fails the test.
 inline Book bookOf(Database &database)
 {
     Book book;
@@ -86,7 +86,7 @@ inline Book bookOf(Database &database)
     return book;
 }
 
-/// Plays moves through the windows of a program that runs. The tanks are called like their ids.
+/// Plays moves through the windows of a running program. The name of a tank is also its id.
 class Player
 {
 public:
@@ -96,10 +96,10 @@ public:
         m_keeper.told();
     }
 
-    /// What `confirm` does in the entry window once it is filled; OK where nothing is said.
+    /// Called in an entry window when it is filled; presses OK unless a test changes it.
     std::function<void(QPushButton &ok)> confirm = [](QPushButton &ok) { ok.click(); };
 
-    /// As a menu or a button would: a failure is shown, and does not come out.
+    /// Plays a move as a menu or button would: a failure is shown and not thrown.
     void play(const Move &move)
     {
         guarded([this, &move] { carryOut(move); })();

@@ -1,5 +1,5 @@
-// What the world does to a running program: no room on the disk, the file locked or gone, settings that cannot be read
-// or written. Each entry is refused with a word about it, whole, and can be saved as typed once the world is mended.
+// Tests a running program with a full disk, a locked or missing file, and settings that cannot be read or written. Each
+// entry must be refused as a whole and with a message, and can be saved as typed when the cause is gone.
 #include "Play.h"
 #include "store/FaultVfs.h"
 #include "store/StoreFixture.h"
@@ -16,7 +16,7 @@ struct World : testing::Test
 
     Book file() { return bookOf(*Database::OpenDatabase(keeper.databaseFile())); }
 
-    /// Plays a move that the spoilt world refuses, and, once it is mended, confirms it again.
+    /// Plays a move that must be refused after `spoil`, and confirms it again after `mend`.
     void expectRefusedThenSaved(const Move &move, const std::function<void()> &spoil, const std::function<void()> &mend)
     {
         SCOPED_TRACE(move.key.toStdString() + " move " + std::to_string(move.what));
@@ -45,7 +45,7 @@ struct World : testing::Test
         EXPECT_EQ(file(), book);
     }
 
-    /// All that can be done to entries, one after the other, each in a spoilt world first.
+    /// Plays every kind of move, each refused after `spoil` and then saved after `mend`.
     void playAll(const std::function<void()> &spoil, const std::function<void()> &mend)
     {
         for (const char *tank : {"A", "B"})
@@ -60,7 +60,7 @@ struct World : testing::Test
         expectRefusedThenSaved({Move::MoveTank, animal, 0, "B"}, spoil, mend);
         expectRefusedThenSaved({Move::Remove, water}, spoil, mend);
         expectRefusedThenSaved({Move::Remove, work}, spoil, mend);
-        expectRefusedThenSaved({Move::RemoveTank, keyOf('T', "B", {})}, spoil, mend); // with its animal
+        expectRefusedThenSaved({Move::RemoveTank, keyOf('T', "B", {})}, spoil, mend); // with the animal in it
     }
 
     FaultVfs faults;
@@ -93,7 +93,7 @@ TEST_F(World, TheSettingsCannotBeReadOrWritten)
     const QString garbage = keeper.folder.filePath("garbage.ini");
     writeFile(garbage, "[SETTINGS\n\xff\xfe=\n%%%");
     keeper.addTank("A", "A");
-    for (const QString &settings : {garbage, keeper.folder.path()}) { // a folder is no file
+    for (const QString &settings : {garbage, keeper.folder.path()}) { // a folder cannot serve as the file
         player.reset();
         ScriptedDoors doors(settings);
         keeper.restart();

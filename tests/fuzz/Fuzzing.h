@@ -1,5 +1,5 @@
-// What the fuzz targets share: the input taken apart, the doors with their clock, a folder in memory for the files that
-// a target reads, and the check that ends a run. A target says what must hold whatever the input is.
+// What the fuzz targets share: reading the input piece by piece, the doors with their clock, a folder in memory for
+// files, and the check that ends a run. A target checks what must be true for every input.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 #include "support/ScriptedDoors.h"
 
-/// Ends the process, so that libFuzzer keeps the input; `seen` is a text of what was found.
+/// Ends the process if the condition is false, so that libFuzzer keeps the input. `seen` describes what was found.
 #define FUZZ_REQUIRE(holds, seen)                                                                                      \
     do {                                                                                                               \
         if (!(holds)) {                                                                                                \
@@ -23,14 +23,14 @@
         }                                                                                                              \
     } while (false)
 
-/// Hands the input out from its front. Past its end there are empty lines and zeros.
+/// Reads the input from its start. Past its end, lines are empty and numbers are 0.
 class Input
 {
 public:
     Input(const std::uint8_t *data, std::size_t size) : m_rest(reinterpret_cast<const char *>(data), qsizetype(size)) {}
 
     bool isEmpty() const { return m_rest.isEmpty(); }
-    /// Up to the next line feed, which is dropped.
+    /// The text up to the next line feed, which is skipped.
     QString line()
     {
         const qsizetype end = m_rest.indexOf('\n');
@@ -38,9 +38,10 @@ public:
         m_rest = end < 0 ? QByteArrayView() : m_rest.sliced(end + 1);
         return QString::fromUtf8(line);
     }
-    /// 0 to `count` - 1 of one byte; the digit "0" is 0, so that inputs can be read and written by hand.
+    /// Reads one byte as a number from 0 to `count` - 1. The digit "0" gives 0, so that inputs can be read and written
+    /// by hand.
     int choice(int count) { return std::uint8_t(number(1) - '0') % count; }
-    /// A number of that many bytes, the highest first.
+    /// Reads a number of that many bytes, the most significant first.
     std::uint32_t number(int length)
     {
         std::uint32_t value = 0;
@@ -54,7 +55,7 @@ private:
     QByteArrayView m_rest;
 };
 
-/// Path of a file in a folder that goes with the process; in memory where the system has a place for that.
+/// Path of a file in a folder that is removed when the process ends; in memory if the system allows it.
 inline QString scratchPath(const QString &name)
 {
     static const QTemporaryDir memory(QStringLiteral("/dev/shm/omk_fuzz-XXXXXX"));
@@ -75,7 +76,8 @@ inline QByteArray readFile(const QString &path)
     return file.readAll();
 }
 
-/// What a target is: one run with one input. The doors are installed, and the clock of the run before stands.
+/// Each target implements this: one run with one input. The doors are installed; their clock keeps the time of the run
+/// before.
 void fuzz(Input &input, ScriptedDoors &doors);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

@@ -1,5 +1,6 @@
-// A second walk over a rule's dates, slow and literal: it makes dates of their text and looks for weekdays a day at a
-// time. It reads rules of a pattern that there is, but for a single date, with their detail in its plain form.
+// A second implementation of the walk over a rule's dates, slow and literal, to compare the program's walk with: it
+// reads dates from text and looks for weekdays one day at a time. It handles the known patterns except single dates,
+// with their detail in its plain form.
 #pragma once
 
 #include <vector>
@@ -76,7 +77,7 @@ private:
                     result.dates.push_back(result.dates.back().addDays(7 * r.RecurrenceInterval));
             }
     }
-    /// From that day in the year of the start, or so many months later where that is before it.
+    /// Begins at that day in the year of the start date, or `toFirst` months later if that day is before the start.
     void sameDay(int month, const QString &day, int toFirst, int toNext)
     {
         const auto first = ReadDate(QStringLiteral("%1/%2/%3").arg(month).arg(day).arg(r.StartDate.year()));
@@ -87,11 +88,11 @@ private:
         for (; d <= r.EndDate; d = AddMonths(d, toNext))
             result.dates.push_back(d);
     }
-    /// A weekday by its ordinal, of which 4 and more are the last of the month.
+    /// A weekday by its ordinal, where 4 and above mean the last one of the month.
     void sameWeekday(int month, bool eachYear, int toNext)
     {
         const int x = number(0, 1), w = number(1, 1);
-        result.failed = w > 6 || month < 1 || month > 12; // a 7 would be looked for without an end
+        result.failed = w > 6 || month < 1 || month > 12; // looking for a weekday 7 would never end
         for (QDate d = r.StartDate; !result.failed && d <= r.EndDate;) {
             const QDate first(d.year(), eachYear ? month : d.month(), 1);
             d = x < 4 ? seek(first, w, 1).addDays(7 * x) : seek(AddMonths(first, 1).addDays(-1), w, -1);

@@ -1,5 +1,5 @@
-// A database file with damaged bytes and pages: it is opened, read and written, or refused with a failure that says so.
-// A refusal leaves the file as it was. The input is a list of damages.
+// Fuzzes a database file with damaged bytes and pages. It is either opened, read and written, or refused with a failure
+// that has a text; a refusal leaves the file as it was. The input is a list of damages.
 #include <QFileInfo>
 
 #include "Fuzzing.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype pageSize = 4096;
 
-/// A file with pages of each kind: leaves, inner pages, and those that a long text goes on over.
+/// Makes a file with pages of each kind: leaves, inner pages, and overflow pages of a long text.
 QByteArray makeWholeFile()
 {
     const QString path = scratchPath(QStringLiteral("WHOLE.MDB"));
@@ -28,7 +28,7 @@ QByteArray makeWholeFile()
     return readFile(path);
 }
 
-/// Eight bytes of the input are one damage: of what kind, where, and with what.
+/// Eight bytes of the input describe one damage: its kind, its place and the new bytes.
 void damage(QByteArray &file, Input &input)
 {
     const int kind = input.choice(5);
@@ -41,13 +41,13 @@ void damage(QByteArray &file, Input &input)
         for (qsizetype i = 0; i < 4 && at + i < file.size(); ++i)
             bytes[at + i] = char(with >> (24 - 8 * i));
         break;
-    case 2: bytes[page * pageSize + with % 128] = char(with >> 8); break; // its header and its first pointers
+    case 2: bytes[page * pageSize + with % 128] = char(with >> 8); break; // in the page's header or first pointers
     case 3: std::copy_n(bytes + with % (file.size() / pageSize) * pageSize, pageSize, bytes + page * pageSize); break;
     case 4: file.truncate(std::max<qsizetype>(at, pageSize)); break;
     }
 }
 
-/// Does the work, which may fail with a RuntimeFailure and with nothing else; true if it did not.
+/// Does work that may fail with a RuntimeFailure only. Returns true if it succeeded.
 template <class Work> bool attempt(Work work)
 {
     try {
@@ -79,7 +79,7 @@ void readTable(Database &database, const QString &table)
     FUZZ_REQUIRE(count == set.RecordCount(), table);
 }
 
-/// A row that was refused stays in progress; one that was deleted is no longer counted.
+/// Adds, changes and deletes a row. A refused row must stay under edit, and a deleted row must no longer be counted.
 void writeWater(Database &database)
 {
     Recordset set = database.OpenRecordset(QStringLiteral("SELECT * FROM waterlog"));

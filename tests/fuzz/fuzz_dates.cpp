@@ -1,4 +1,4 @@
-// Dates and times as somebody might type or store them.
+// Fuzzes dates and times as someone might type or store them.
 #include "Fuzzing.h"
 #include "text/Dates.h"
 
@@ -6,7 +6,7 @@ namespace {
 
 const QStringList orders = {QStringLiteral("MMDDYY"), QStringLiteral("DDMMYY"), QStringLiteral("YYMMDD")};
 
-/// A date shown with the user's picture and read back is the same day, typed or normalised, in each order.
+/// In each order, a date that is shown in the user's format must be read back as the same day, typed or normalised.
 void checkShownAndReadBack(const QDate &date, const QString &delimiter)
 {
     const bool inWindow = date.year() <= lastTypedYear() && date.year() > lastTypedYear() - 100;

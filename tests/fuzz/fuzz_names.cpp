@@ -1,10 +1,10 @@
-// Any bytes as a name file.
+// Fuzzes the reading of name files with any bytes.
 #include "common/NameFile.h"
 #include "Fuzzing.h"
 
 namespace {
 
-/// Bytes that are UTF-8 are read as that, all others as Latin-1: no letter is dropped or made another.
+/// The expected text: valid UTF-8 is read as UTF-8, anything else as Latin-1, so that no letter is lost or changed.
 QString lettersOf(const QByteArray &bytes)
 {
     const QString text = QString::fromUtf8(bytes);
@@ -16,7 +16,7 @@ QString lettersOf(const QByteArray &bytes)
 
 void fuzz(Input &input, ScriptedDoors &)
 {
-    const bool many = input.choice(256) == 1; // so many that the progress begins anew
+    const bool many = input.choice(256) == 1; // enough names for the progress to start again
     const QByteArray bytes = many ? input.rest().repeated(64) : input.rest();
     static const QString path = scratchPath(QStringLiteral("NAMES.TXT"));
     writeFile(path, bytes);
@@ -35,7 +35,7 @@ void fuzz(Input &input, ScriptedDoors &)
             FUZZ_REQUIRE(name.common == turned && name.latin == line.mid(49).trimmed(), name.common);
         },
         [&](const QString &text) {
-            ++told; // at the first name and at each new dot
+            ++told; // shown at the first name and at each new dot
             FUZZ_REQUIRE(taken == 1 || taken % 20 == 0, QString::number(taken));
             FUZZ_REQUIRE(text.startsWith(u"Loading.") && text.size() <= 8 + 100, text);
         });

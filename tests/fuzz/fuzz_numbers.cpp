@@ -1,4 +1,4 @@
-// Numbers as somebody might type or store them.
+// Fuzzes numbers as someone might type or store them.
 #include <cmath>
 #include <limits>
 
@@ -13,20 +13,21 @@ namespace {
 
 constexpr double largest = std::numeric_limits<double>::max();
 
-/// 15 digits are shown: what they say is the number but for their last, and they say it each time.
+/// PlainText() shows at most 15 digits. Read back, they must give the number to that precision, and then the same text
+/// again.
 void checkPlainText(double number)
 {
     const QString plain = PlainText(number);
     static const QRegularExpression noDigit(QStringLiteral("^-?0*\\.?0*|\\.|E.*"));
     FUZZ_REQUIRE(IsNumeric(plain) && QString(plain).remove(noDigit).size() <= 15, plain);
     if (std::abs(number) > 1.797693134862315e308)
-        return; // rounded up, the digits would be beyond a double
+        return; // rounded up, the digits would exceed the range of a double
     const auto back = ReadNumber(plain);
     FUZZ_REQUIRE(back && std::abs(*back - number) <= std::abs(number) * 1e-14, plain);
     FUZZ_REQUIRE(PlainText(*back) == plain, plain + u" and then " + PlainText(*back));
 }
 
-/// The pictures of the windows, with their places, round and cut nothing.
+/// The number formats of the windows must round to their decimals and cut nothing off.
 void checkPictures(double number)
 {
     for (const auto &[ours, places] : {std::pair{"0", 0}, {"##0.0", 1}, {"##0.000", 3}, {"###,##0.00", 2}}) {
@@ -37,7 +38,7 @@ void checkPictures(double number)
     }
 }
 
-/// A column takes the number within its range, or refuses it.
+/// A column must accept a number within its range and refuse anything else.
 void checkColumn(const QString &text, ColumnKind kind, double lowest, double highest)
 {
     const auto number = ReadNumber(text);

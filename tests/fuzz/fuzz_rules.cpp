@@ -1,5 +1,5 @@
-// Any columns of a stored reminder: its rule is read, walked in the three runs, as the second walk does, shown in the
-// editor and stored again.
+// Fuzzes the columns of a stored reminder: its rule is read, walked in all three runs and compared with the second
+// walk, shown in the editor, and stored again.
 #include <algorithm>
 
 #include "Fuzzing.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int longestDays = 60 * 366; // of a rule's range, so that an input takes milliseconds
+constexpr int longestDays = 60 * 366; // the longest range of a rule, so that an input takes milliseconds
 
 /// A stored value: "" is Null, "i5" a whole number, "f5" a number, all else a text.
 Value stored(const QString &text)
@@ -26,14 +26,14 @@ Value stored(const QString &text)
     }
 }
 
-/// The row goes through the engine as a keeper's would: its columns decide what becomes of the values.
+/// Writes the row to a database and reads it back, so that the columns convert its values as they do for a keeper.
 std::vector<RecurrenceRule> readBack(const Parameters &values)
 {
     static const auto database = [] {
         CreateDatabase(scratchPath(QStringLiteral("OM.MDB")));
         return Database::OpenDatabase(scratchPath(QStringLiteral("OM.MDB")));
     }();
-    static Database::Transaction unfinished(*database); // so that nothing waits for a disk
+    static Database::Transaction unfinished(*database); // never committed, so that nothing waits for a disk
     database->Execute(QStringLiteral("DELETE FROM MAINTSCHED"));
     database->Execute(QStringLiteral("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, "
                                      "SchedRtype, SchedRSubtype, SchedDetailText, SchedEnglishDesc) "
@@ -51,12 +51,12 @@ Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRang
     return walked;
 }
 
-/// The second walk reads a month by its name in the preview, and by its number in the runs that look at their range.
+/// The second walk reads a month as a name for the preview, and as a number for the other two runs.
 void checkWalks(const RecurrenceRule &rule, const DateRange &range, const QString &order)
 {
     const Walked preview = walk(rule, previewRun, range, order), schedule = walk(rule, scheduleRun, range, order);
     FUZZ_REQUIRE(schedule == walk(rule, upcomingRun, range, order), rule.RecurrenceDetail);
-    Walked named = preview, listed = preview; // a single date stands for itself
+    Walked named = preview, listed = preview; // a single date has no second walk
     if (LiteralWalk::canRead(rule)) {
         named = LiteralWalk(rule, true).result;
         listed = LiteralWalk(rule, false).result;
@@ -67,7 +67,8 @@ void checkWalks(const RecurrenceRule &rule, const DateRange &range, const QStrin
     FUZZ_REQUIRE(preview == named && schedule == listed, rule.RecurrenceDetail);
 }
 
-/// What the editor shows of a rule and finds no fault with, it stores as a rule of the same dates, and shows again.
+/// If the editor shows a rule and finds no fault in it, it must store a rule with the same dates and show it again in
+/// the same words.
 void checkEditor(const RecurrenceRule &rule, const DateConventions &conventions)
 {
     EditorFields fields;

@@ -1,4 +1,5 @@
-// Any bytes as the settings file: it is read, every setting is text, and what is written is read back.
+// Fuzzes the settings file with any bytes: it must be readable, every setting must be text, and what is written must be
+// read back.
 #include "Fuzzing.h"
 #include "platform/SettingsStore.h"
 
@@ -11,10 +12,10 @@ const QString keys[] = {QStringLiteral("DateOrder"), QStringLiteral("DATEORDER")
 
 void fuzz(Input &input, ScriptedDoors &)
 {
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // Qt complains of odd values
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // Qt warns about odd values
     const QString key = keys[input.choice(int(std::size(keys)))];
     const QString written = input.line();
-    static int files = 0; // a name for each: settings of the same name and age are not read again
+    static int files = 0; // a new name for each: Qt does not read a file of the same name and age again
     const QString path = scratchPath(QStringLiteral("%1.ini").arg(++files));
     const QByteArray content = input.rest();
     writeFile(path, content);
@@ -27,11 +28,11 @@ void fuzz(Input &input, ScriptedDoors &)
     }
     store.setValue(key, written);
     FUZZ_REQUIRE(store.value(key, QStringLiteral("default")) == written, written);
-    QFile::copy(path, path + u'2'); // under another name it comes from the file
+    QFile::copy(path, path + u'2'); // under another name Qt reads it from the file
     const SettingsStore again(path + u'2');
     for (std::size_t i = 0; i < std::size(keys); ++i) {
         const QString now = again.value(keys[i], QStringLiteral("default"));
-        // Below a broken section header a setting may come to light; none may be lost or changed.
+        // Writing may uncover a setting below a broken section header, but none may be lost or changed.
         const bool cameToLight = keys[i] != key && before[qsizetype(i)] == u"default";
         FUZZ_REQUIRE(cameToLight || now == (keys[i] == key ? written : before[qsizetype(i)]), keys[i] + u": " + now);
     }

@@ -1,5 +1,5 @@
-// The laws that the tables of the advisers keep: animals, question tree, advice. The plan of a tank, the log of a
-// diagnosis and its printed sheet.
+// Tests of the advisers: what their tables of animals, questions and advice must fulfil, the plan of a tank, and the
+// log of a diagnosis with its printed sheet.
 #include <algorithm>
 #include <set>
 
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Pairs whose letters differ, as "2-13".
+/// Pairs of animals whose letter depends on which of them comes first, such as "2-13".
 QStringList lopsidedPairs(WaterKind water, int count)
 {
     QStringList pairs;
@@ -27,7 +27,7 @@ QStringList lopsidedPairs(WaterKind water, int count)
     return pairs;
 }
 
-/// Pages and leaves that the answers lead to.
+/// Collects the pages and the diagnoses (the leaves of the tree) that the answers lead to.
 struct Walked
 {
     void from(QuestionPage page, int questions = 1)
@@ -57,7 +57,7 @@ QStringList wrapped(const QString &advice)
 
 } // namespace
 
-TEST(AnimalTables, DifferByWhoIsAskedInThesePairsAlone)
+TEST(AnimalTables, AreSymmetricExceptForKnownPairs)
 {
     EXPECT_EQ(lopsidedPairs(WaterKind::Fresh, freshAnimalCount).size(), 144);
     EXPECT_EQ(lopsidedPairs(WaterKind::Salt, saltAnimalCount), QStringList({"2-13", "12-30"}));
@@ -75,7 +75,7 @@ TEST(AnimalTables, DifferByWhoIsAskedInThesePairsAlone)
     EXPECT_EQ((danios.compatible + danios.maybe + danios.incompatible).size(), 39) << "those after are never listed";
 }
 
-TEST(FantasyPlan, HoldsByWaterFilterAndShape)
+TEST(FantasyPlan, CapacityDependsOnWaterFilterAndShape)
 {
     for (const auto &[gallons, water, wetDry, taller, holds] : {std::tuple{55, WaterKind::Salt, true, true, 30},
                                                                 {5, WaterKind::Salt, false, true, 2},
@@ -85,11 +85,11 @@ TEST(FantasyPlan, HoldsByWaterFilterAndShape)
         EXPECT_EQ(plan.FantasyHolding, holds);
     }
     FantasyPlan plan{.FantasyTank = {{15, 1, 1}}};
-    plan.RecalcHolding(1, WaterKind::Salt, false, false); // holds nothing at all
+    plan.RecalcHolding(1, WaterKind::Salt, false, false); // such a tank holds nothing
     EXPECT_EQ(plan.FantasyPercent, 125);
 }
 
-TEST(FantasyPlan, WarnsOfWhatTheNewAnimalMeets)
+TEST(FantasyPlan, WarnsAboutAnimalsThatDoNotFit)
 {
     const auto warnings = [](WaterKind water, const std::vector<int> &before, int animal, double howMany) {
         FantasyPlan plan;
@@ -107,7 +107,7 @@ TEST(FantasyPlan, WarnsOfWhatTheNewAnimalMeets)
     EXPECT_EQ(warnings(WaterKind::Salt, {50}, 45, 3), "0||") << "numbers of the other table";
 }
 
-TEST(Diagnosis, EveryPageAndLeafIsReachedAndOneLeafHasNoAdvice)
+TEST(Diagnosis, EveryPageAndDiagnosisIsReachable)
 {
     Walked walked;
     walked.from(QuestionPage::Question_StartingPoint);
@@ -120,19 +120,19 @@ TEST(Diagnosis, EveryPageAndLeafIsReachedAndOneLeafHasNoAdvice)
     }
 }
 
-TEST(Diagnosis, AdviceIsWrappedAtEightyCharactersAndAlwaysEnds)
+TEST(Diagnosis, AdviceIsWrappedAtEightyCharacters)
 {
     const QString a(40, 'a'), b(39, 'b'), word(200, 'w');
     EXPECT_EQ(wrapped(a + ' ' + b + 'c').join('|'), a + "| " + b + 'c') << "81 do not";
     EXPECT_EQ(wrapped(a + ' ' + b + ' ').join('|'), a + ' ' + b) << "a last single character gets no line";
     EXPECT_EQ(wrapped(word).join('|'), QString(80, 'w') + '|' + QString(80, 'w') + '|' + QString(40, 'w'));
-    DiagnosisLog log; // two runs without a reset would pass the end, and a vast text that of the count's 16 bits
+    DiagnosisLog log; // neither two runs without a reset nor a huge text may overflow it or its 16-bit count
     for (int run = 0; run < 2; ++run)
         log.AddDiagnosis("X", word.repeated(20'000));
     EXPECT_EQ(log.AnswerLogCount, 60);
 }
 
-TEST(Diagnosis, TheSheetHoldsEveryLineWithinItsWidth)
+TEST(Diagnosis, TheSheetShowsEveryLineOfTheLog)
 {
     DiagnosisLog log;
     log.ResetAnswerLog();

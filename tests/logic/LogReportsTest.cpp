@@ -1,9 +1,9 @@
-// The printed logs: what stands where on which page.
+// Tests of the printed logs: what is printed where, and on which page.
 #include "logbook/LogReports.h"
 #include "platform/Printer.h"
 #include "store/StoreFixture.h"
 
-/// Two tanks, "angels" before "Reef" in the alphabet, on a printer that is read back.
+/// Three tanks, and a printer whose pages are read back.
 struct LogReports : StoreTest
 {
     LogReports()

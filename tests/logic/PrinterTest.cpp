@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A printer whose pages are read back; a line of size 7.2 is 10 dots high and takes 12, a letter is 5 wide.
+/// A printer whose pages are read back. In size 7.2 a letter is 5 dots wide and 10 high, and a line takes 12.
 struct Bench
 {
     Bench() { page.Font = {"Arial", 7.2, false, false, false}; }

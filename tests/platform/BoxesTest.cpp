@@ -1,4 +1,4 @@
-// The masked box by keys, clipboard, menu and focus, and the up-down beside a box.
+// Tests of the masked box, and of the up-down beside a box.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Characters are typed; these stand for other keys.
+/// Types the characters; those in the table stand for other keys.
 void play(QWidget *box, const QString &keys)
 {
     static const QMap<QChar, QKeyCombination> others = {
@@ -31,7 +31,7 @@ void play(QWidget *box, const QString &keys)
             QTest::keyClick(box, key.toLatin1());
 }
 
-TEST(MaskedBox, TakesWhatItsMaskTakes)
+TEST(MaskedBox, AcceptsWhatItsMaskAllows)
 {
     const char *const date = "##/##/##", *const time = "##:##:## ??";
     const struct
@@ -39,7 +39,7 @@ TEST(MaskedBox, TakesWhatItsMaskTakes)
         const char *mask, *before, *keys, *text;
         int refused = 0; ///< how many ValidationErrors
     } cases[] = {
-        // Typed with and without delimiters; a delimiter jumps, and only where it stands.
+        // Typing with and without delimiters. A typed delimiter moves on, but only at its own place.
         {date, "", "031426", "03/14/26"},
         {date, "", "03/14-26", "03/14/26", 1},
         {date, "", "0/", "0 /  /  ", 1},
@@ -54,14 +54,14 @@ TEST(MaskedBox, TakesWhatItsMaskTakes)
         // Undo and redo go by whole steps.
         {date, "03/14/26", "^7~", "03/14/26"},
         {date, "03/14/26", "^7~=", "7 /  /  "},
-        // The clipboard holds 12/24/25: all or nothing goes in.
+        // The clipboard holds 12/24/25. Pasting enters all of it or nothing.
         {date, "03/14/26", "^@", "12/24/25"},
         {time, "", "@", "  :  :     ", 1},
-        // Letters at the end, and digits before.
+        // A mask with digits first and letters at its end.
         {time, "", "09:26:53 PM", "09:26:53 PM"},
         {time, "", "0926531", "09:26:53   ", 1},
         {time, "", "0a9", "09:  :     ", 1},
-        // A text that is set fills the places that it fits.
+        // setText() fills the places that its characters fit.
         {date, "3/14/26", "", "3 /4 /6 "},
         {date, "03/14/2026", "", "03/14/20"},
     };
@@ -79,8 +79,8 @@ TEST(MaskedBox, TakesWhatItsMaskTakes)
     }
 }
 
-/// No editing key of the platform, and no code that knows only a line edit, breaks the shape.
-TEST(MaskedBox, KeepsItsShapeWhateverComes)
+/// Neither an editing key of the platform nor code that takes the box for a QLineEdit may break its shape.
+TEST(MaskedBox, NeverLosesItsShape)
 {
     MaskedBox box;
     box.setMask(QStringLiteral("##/##/## ??"));
@@ -100,7 +100,7 @@ TEST(MaskedBox, KeepsItsShapeWhateverComes)
     }
 }
 
-/// A box with a format beside another one with an up-down, in a window.
+/// A window with a formatted box, and another box with an up-down.
 struct BoxesTest : testing::Test
 {
     BoxesTest()
@@ -128,7 +128,7 @@ struct BoxesTest : testing::Test
     UpDown *m_upDown = new UpDown;
 };
 
-TEST_F(BoxesTest, ANumberIsShownInItsPictureWhileTheFocusIsElsewhere)
+TEST_F(BoxesTest, ANumberIsFormattedWhileTheFocusIsElsewhere)
 {
     for (const auto &[typed, shown] :
          {std::pair{"8.12345", "8.123"}, {"1,000", "1000.000"}, {"12ab", "12ab"}, {"", ""}, {"1e200", "1e200"}}) {
@@ -161,7 +161,7 @@ TEST_F(BoxesTest, AnUpDownStepsWithinItsBoundsByArrowKeyAndWheelAndTellsEachChan
         {[this] { QTest::keyClick(m_other, Qt::Key_Up); }, 102},
         {[this] { QTest::keyClick(m_other, Qt::Key_PageUp); }, 110},
         {[this] { turnWheel(60); }, 110},
-        {[this] { turnWheel(-240); }, 109}, // with the half step before
+        {[this] { turnWheel(-240); }, 109}, // together with the half step before
         {[this] { m_upDown->setMax(20); }, 20},
         {[this] { m_upDown->setMin(30), m_upDown->setMax(40); }, 30}};
     for (const auto &[step, value] : steps) {
@@ -177,7 +177,7 @@ TEST_F(BoxesTest, AnUpDownStepsWithinItsBoundsByArrowKeyAndWheelAndTellsEachChan
     EXPECT_EQ(m_upDown->Value(), 30) << "not without the focus, nor disabled";
 }
 
-TEST_F(BoxesTest, AnArrowThatIsHeldLetsGoWhenAStepBringsABoxUp)
+TEST_F(BoxesTest, AHeldArrowStopsWhenAStepOpensABox)
 {
     auto *up = m_upDown->findChild<QAbstractButton *>(QStringLiteral("up"));
     up->setAutoRepeatDelay(1);

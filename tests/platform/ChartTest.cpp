@@ -12,7 +12,7 @@ namespace {
 
 constexpr int allTypes[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 14, 16};
 
-/// A chart on the screen whose rows are "1/1", "1/2" ... and whose columns are "A", "B" ...; "" is blank.
+/// A chart on the screen. Its rows are "1/1", "1/2" and so on, its columns "A", "B" and so on; "" is a blank cell.
 struct ShownChart : Chart
 {
     ShownChart(int type, const std::vector<QStringList> &columns, const QSize &size = {600, 400})
@@ -39,7 +39,7 @@ struct ShownChart : Chart
     }
 };
 
-/// Pixels of a column's hue, however light or dark, in a strip as high as the picture.
+/// Counts the pixels of a column's hue, however light or dark, in a vertical strip of the picture.
 int painted(const QImage &image, double x, double halfWidth, int column)
 {
     const QColor colour = ChartLookOf(column).colour;
@@ -54,7 +54,7 @@ int painted(const QImage &image, double x, double halfWidth, int column)
 
 } // namespace
 
-TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
+TEST(Chart, EveryTypeDrawsEveryValueInsideTheChart)
 {
     for (const int type : allTypes)
         for (const auto &[rows, columns] : {std::pair{1, 1}, {2, 13}, {20, 13}})
@@ -67,7 +67,7 @@ TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
                             (2 + std::sin(row + column)) * std::pow(10, column % 5 - 2) * (column == 7 ? -1 : 1));
                 ShownChart chart(type, cells, size);
                 chart.setTitleText("Ostrelmark Graph for a tank with quite a long name");
-                chart.setColumnLabel(QString(99, 'W')); // of the last
+                chart.setColumnLabel(QString(99, 'W')); // of the last column
                 EXPECT_GT(painted(chart.picture(), size.width() / 2.0, size.width() / 2.0 - 1, 0), 3);
                 for (int row = 1; row <= rows; ++row)
                     for (int column = 1; column <= columns; ++column) {
@@ -80,10 +80,11 @@ TEST(Chart, EveryTypeDrawsEveryValueInItsWindowAndNothingForABlank)
 
 TEST(Chart, ABlankCellIsAGap)
 {
-    for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 16}) { // a pie has none
+    for (const int type : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 16}) { // a pie has no gaps
         SCOPED_TRACE(type);
         ShownChart whole(type, {{"8", "8", "8", "8", "8"}}), gap(type, {{"8", "8", "", "8", "8"}});
-        // Where the third row stands: bodies with depth lean over from their neighbours, so that only its front counts.
+        // Looks at the third row. Bars with depth reach into the place of their neighbours, so that only a narrow strip
+        // in the middle counts.
         const double x = whole.place(3, 1).center().x();
         const bool bodies = type == 0 || type == 8;
         const double half = bodies ? 1 : 5;
@@ -99,7 +100,7 @@ TEST(Chart, ABlankCellIsAGap)
     EXPECT_THROW(chart.setColumn(0), RuntimeFailure);
 }
 
-TEST(Chart, BarsStandInTheOrderOfTheColumnsAndAreAsHighAsTheirValues)
+TEST(Chart, BarsAreAsHighAsTheirValues)
 {
     for (const int type : {0, 1}) {
         ShownChart chart(type, {{"10", "5"}, {"20", "-10"}, {"5", "0"}});
@@ -118,9 +119,9 @@ TEST(Chart, BarsStandInTheOrderOfTheColumnsAndAreAsHighAsTheirValues)
     }
 }
 
-TEST(Chart, ColumnsOfLikeSizeShareAnAxisThatHoldsTheirValues)
+TEST(Chart, ColumnsOfSimilarSizeShareABand)
 {
-    const std::pair<std::vector<double>, const char *> rows[] = {// the greatest of each column, bands from the top
+    const std::pair<std::vector<double>, const char *> rows[] = {// greatest value of each column, bands from the top
                                                                  {{8, 9, 10}, "012"},
                                                                  {{0.05, 350}, "1|0"},
                                                                  {{2, 40}, "1|0"},

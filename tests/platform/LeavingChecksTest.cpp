@@ -1,5 +1,5 @@
-// Every way out of a box with a bad value, with a window that is shown modally and one that is not. The mouse enters
-// through the window system, where Qt gives the focus before it delivers the press.
+// Tries every way out of a box with a bad value, in a modal window and in one that is not. Mouse events go through the
+// window system, because Qt then moves the focus before it delivers the press.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -18,7 +18,8 @@
 
 namespace {
 
-/// Two boxes that take no "bad", a plain button, OK and Cancel; shown, with the focus in the first box.
+/// A window with two boxes that refuse "bad", a plain button, OK and Cancel. It is shown with the focus in the first
+/// box.
 struct EntryWindow : QDialog
 {
     explicit EntryWindow(bool modal = false)
@@ -85,8 +86,8 @@ struct WayOut
 {
     const char *name;
     void (*go)(EntryWindow &);
-    int boxes;         ///< as many as there were attempts
-    bool stays = true; ///< in the bad box, in the open window
+    int boxes;         ///< how many message boxes are shown
+    bool stays = true; ///< the window stays open, with the focus in the bad box
 };
 
 const WayOut waysOut[] = {
@@ -106,7 +107,7 @@ const WayOut waysOut[] = {
     {"its own menu", openAndCloseItsMenu, 0},
 };
 
-/// A box that is really on the screen takes the activity, and gives it back.
+/// Shows a real message box, which takes the activation from the window and gives it back.
 void showRealBox(const MsgBoxRequest &request)
 {
     QWidget *window = QApplication::activeWindow();
@@ -138,7 +139,7 @@ void play(const WayOut &way, ScriptedDoors &doors, EntryWindow &w)
     EXPECT_TRUE(doors.boxes.empty());
 }
 
-TEST(LeavingChecks, LetNoBadValueThroughByAnyWayOut)
+TEST(LeavingChecks, RefuseABadValueOnEveryWayOut)
 {
     for (const WayOut &way : waysOut)
         for (const bool modal : {false, true})
@@ -152,7 +153,7 @@ TEST(LeavingChecks, LetNoBadValueThroughByAnyWayOut)
             }
 }
 
-TEST(LeavingChecks, GoOnAfterACheckThatMovesTheFocus)
+TEST(LeavingChecks, CheckTheBoxThatACheckMovedTheFocusTo)
 {
     const ScriptedDoors doors;
     EntryWindow w;

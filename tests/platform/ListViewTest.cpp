@@ -1,4 +1,4 @@
-// The list's sort, its keys, its columns, and how little it reads.
+// Tests of the list's sorting, keys and columns, and of how few texts it reads.
 #include <gtest/gtest.h>
 
 #include <QHeaderView>
@@ -8,7 +8,7 @@
 #include "support/Mouse.h"
 #include "support/ScriptedDoors.h"
 
-/// Rows of name and size; the key is the name. Counts what it is asked for.
+/// Rows with a name and a size; the key is the name. Counts the texts that are asked for.
 class FishRows : public ListSource
 {
 public:
@@ -52,7 +52,7 @@ struct ListViewTest : testing::Test
     ListView m_list;
 };
 
-TEST_F(ListViewTest, SortsCaseBlindWithTiesInTheOrderOfTheSourceAndTheSelectionOnItsRow)
+TEST_F(ListViewTest, SortsStablyAndKeepsTheSelection)
 {
     showFish();
     m_list.Select(1);
@@ -74,11 +74,11 @@ TEST_F(ListViewTest, SortsCaseBlindWithTiesInTheOrderOfTheSourceAndTheSelectionO
     EXPECT_FALSE(m_list.horizontalHeader()->isSortIndicatorShown());
 }
 
-TEST_F(ListViewTest, TheMenuKeyAsksForTheMenuAtItsRowAndAHeadingTellsItsOwnNumberWhereverItWasDragged)
+TEST_F(ListViewTest, ReportsTheRowOfTheMenuKeyAndTheClickedColumn)
 {
     showFish();
     m_list.selectionModel()->setCurrentIndex(m_list.model()->index(2, 1), QItemSelectionModel::NoUpdate);
-    QTest::keyClick(&m_list, Qt::Key_Z); // jumps by the row's own text, also from another cell
+    QTest::keyClick(&m_list, Qt::Key_Z); // searches the first column, even if another cell is current
     EXPECT_EQ(m_list.SelectedItem(), 4);
     QSignalSpy ups(&m_list, &ListView::MouseUp), clicked(&m_list, &ListView::ColumnClick);
     QTest::keyClick(&m_list, Qt::Key_F10, Qt::ShiftModifier);

@@ -1,5 +1,5 @@
-// What the editor asks: sentence, stored form, refusals in their order, the preview's complaints, and a rule that is
-// opened and stored again.
+// Tests of the reminder editor without its window: the sentence, the stored form, the order of refusals, the complaints
+// of the preview, and a rule that is opened and stored again.
 #include <gtest/gtest.h>
 
 #include "reminders/RuleFields.h"
@@ -12,7 +12,7 @@ using Fields = EditorFields;
 
 const DateConventions american{"MMDDYY", "MM/DD/YY"};
 
-/// A rule that may be stored.
+/// Fields of a rule that can be stored.
 Fields goodFields(Pattern pattern, bool secondVariant = false)
 {
     Fields f;
@@ -27,7 +27,7 @@ Fields goodFields(Pattern pattern, bool secondVariant = false)
     return f;
 }
 
-/// The control at fault, or nothing.
+/// The name of the control at fault, or an empty text.
 QString refused(const Fields &fields) { return EditFault(fields, american).value_or(EditorComplaint{}).control; }
 QString complainedOf(const Fields &fields)
 {
@@ -39,7 +39,7 @@ struct EditorFieldsTest : testing::Test
     ScriptedDoors doors;
 };
 
-TEST_F(EditorFieldsTest, RefusalsComeInTheirOrder)
+TEST_F(EditorFieldsTest, FaultsAreReportedInTheirOrder)
 {
     Fields f = goodFields(Pattern::Daily);
     f.txt_DailyDays = "0";
@@ -58,14 +58,14 @@ TEST_F(EditorFieldsTest, RefusalsComeInTheirOrder)
     EXPECT_EQ(refused(f), "txt_OnceDate");
 }
 
-TEST_F(EditorFieldsTest, NumbersAndChoicesAreRefusedAndLessStrictlyPreviewed)
+TEST_F(EditorFieldsTest, InvalidNumbersAndChoicesAreRefused)
 {
     const struct
     {
         Pattern pattern;
         bool second;
         QString Fields::*box;
-        const char *name, *text; ///< no name: it passes
+        const char *name, *text; ///< no name if the value passes
         bool previewed = false;
     } cases[] = {
         {Pattern::Daily, false, &Fields::txt_DailyDays, "txt_DailyDays", "0.4"},
@@ -79,7 +79,7 @@ TEST_F(EditorFieldsTest, NumbersAndChoicesAreRefusedAndLessStrictlyPreviewed)
         {Pattern::Monthly, true, &Fields::txt_MonthlyNumofMonths2, "txt_MonthlyNumofMonths2", "0"},
         {Pattern::Yearly, false, &Fields::txt_YearlyDay, "txt_YearlyDay", "32"},
         {Pattern::Yearly, false, &Fields::txt_YearlyDay, "txt_YearlyDay", "5x", true},
-        {Pattern::Yearly, true, &Fields::txt_YearlyDay, "", "31", true}, // not asked
+        {Pattern::Yearly, true, &Fields::txt_YearlyDay, "", "31", true}, // not checked
     };
     for (const auto &row : cases) {
         SCOPED_TRACE(std::string(row.name) + ' ' + row.text);
@@ -109,7 +109,7 @@ TEST_F(EditorFieldsTest, NumbersAndChoicesAreRefusedAndLessStrictlyPreviewed)
 
 TEST_F(EditorFieldsTest, ShowsAnUpgradedRuleAndRefusesStrangeDetails)
 {
-    const QDate start(1997, 3, 1), end(2047, 3, 1); // two digits would mean 1947
+    const QDate start(1997, 3, 1), end(2047, 3, 1); // with two digits, its year would mean 1947
     RecurrenceRule old{"Old", start, end, 3, 0, 0, {}, {}};
     Fields fields = goodFields(Pattern::Once);
     ShowRecurrence(old, american, fields);

@@ -1,5 +1,5 @@
-// The walk over a rule's dates against the cases of data/; tests/fuzz/fuzz_rules.cpp holds it against a second walk.
-// Rows of older files, and the twenty soonest of many dates.
+// Tests of the walk over a rule's dates against the cases in data/ (tests/fuzz/fuzz_rules.cpp compares it with a second
+// walk), of reading old rows, and of the twenty soonest dates.
 #include <algorithm>
 
 #include <QMap>
@@ -19,9 +19,9 @@ const QMap<QString, WalkFault> faults{{"NoStart", WalkFault::NoStart},     {"NoE
                                       {"NoOrdinal", WalkFault::NoOrdinal}, {"NoWeekday", WalkFault::NoWeekday},
                                       {"NoMonth", WalkFault::NoMonth},     {"NoOnceDate", WalkFault::NoOnceDate}};
 
-/// A file of data/ is a rule and the dates that it must give, in the order of the walk. A line is a word and its value:
-/// "run" preview, schedule or upcoming; "start", "end", "from", "to"; "type" with its subtype; "interval", "detail"
-/// (blanks kept), "order", "fault"; or a date that is expected.
+/// Checks a file of data/: a rule and the dates that it must give, in the order of the walk. A line is a word and its
+/// value: "run" with preview, schedule or upcoming; "start", "end", "from", "to"; "type" with its subtype; "interval";
+/// "detail" (blanks are kept); "order"; "fault"; or it is an expected date.
 void expectGoldenDates(const QString &fileName)
 {
     QFile file(fileName);
@@ -48,7 +48,7 @@ void expectGoldenDates(const QString &fileName)
 
 } // namespace
 
-TEST(Walk, GivesTheDatesOfEachGoldenFileInOrder)
+TEST(Walk, GivesTheExpectedDatesOfEachCase)
 {
     const ScriptedDoors doors;
     const QFileInfoList files = QDir(QStringLiteral(OMK_REMINDER_CASES)).entryInfoList({"*.txt"});
@@ -61,7 +61,8 @@ TEST(Walk, GivesTheDatesOfEachGoldenFileInOrder)
 
 TEST(Upcoming, KeepsTheSoonestTwentyInOrderOfDateAndTask)
 {
-    // Dates come rule by rule, each in its own order; seven days with seven reminders on each, some alike but for case.
+    // Seven days with seven reminders each, some of which differ only in case. The dates come rule by rule and not
+    // sorted.
     const QDate monday(1998, 6, 8);
     UpcomingReminders upcoming;
     std::vector<std::pair<QDate, QString>> all;
@@ -82,7 +83,7 @@ TEST(Upcoming, KeepsTheSoonestTwentyInOrderOfDateAndTask)
 
 using StoredRules = StoreTest;
 
-TEST_F(StoredRules, OldRowsAndStrangeCellsReadWithoutAFailure)
+TEST_F(StoredRules, OldRowsAndInvalidCellsCanBeRead)
 {
     db->Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype) VALUES "
                 "('upgraded', '1997-03-01', '1999-03-01', 3, 0), ('empty', NULL, NULL, NULL, NULL), "

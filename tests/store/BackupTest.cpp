@@ -1,4 +1,5 @@
-// The backup: the whole file or none, whatever the target, the disk or a kill does, and never over the database itself.
+// Tests of the backup: it writes the whole file or nothing, whatever happens to the target, the disk or the process,
+// and it never overwrites the database itself.
 #include "store/Backup.h"
 
 #include <cstdio>
@@ -10,8 +11,8 @@
 
 #include "StoreFixture.h"
 
-/// No file of this process grows beyond so many bytes, as if the disk were full there. What writes on is told so, or,
-/// with a death, killed in the middle of it.
+/// Limits the size of the files that this process writes, as if the disk were full. A write beyond the limit fails or,
+/// with `death`, kills the process.
 class SmallDisk
 {
 public:
@@ -46,7 +47,7 @@ struct BackupTest : StoreTest
     }
 };
 
-TEST_F(BackupTest, TargetsThatCanHoldNoCopyAreRefused)
+TEST_F(BackupTest, BadTargetsAreRefused)
 {
     ASSERT_EQ(::symlink(qPrintable(path()), qPrintable(path("to/symbolic"))), 0);
     ASSERT_EQ(::link(qPrintable(path()), qPrintable(path("to/hard"))), 0);
@@ -72,14 +73,14 @@ TEST_F(BackupTest, TargetsThatCanHoldNoCopyAreRefused)
     EXPECT_EQ(contentOf(path("to")), before);
     expectUnharmed();
     const auto backUp = [this] { BackUpDatabase(path(), path("to/old.MDB")); };
-    writeFile(path(), ""); // what is no database any more takes no backup's place
+    writeFile(path(), ""); // a file that is no database must not replace a backup
     EXPECT_EQ(numberOf(backUp), int(Failure::UnrecognizedFormat));
     QFile::remove(path());
     EXPECT_EQ(numberOf(backUp), int(Failure::CouldNotFindFile));
     EXPECT_EQ(contentOf(path("to"))["old.MDB"], "an older file");
 }
 
-TEST_F(BackupTest, IsTheSameToTheLastByteAndAsPrivate)
+TEST_F(BackupTest, CopiesContentAndPermissions)
 {
     ASSERT_EQ(::chmod(qPrintable(path()), 0600), 0);
     ASSERT_EQ(::symlink("old.MDB", qPrintable(path("to/link.MDB"))), 0);
@@ -89,7 +90,7 @@ TEST_F(BackupTest, IsTheSameToTheLastByteAndAsPrivate)
     EXPECT_TRUE(QFileInfo(path("to/link.MDB")).isSymLink());
 }
 
-TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
+TEST_F(BackupTest, AFailedBackupLeavesTheOldTarget)
 {
     const qint64 size = QFileInfo(path()).size();
     const auto before = contentOf(path("to"));
@@ -102,7 +103,7 @@ TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
         EXPECT_EQ(numberOf([&] { backUp(false); }), int(Failure::DiskFull)) << room;
         EXPECT_EQ(contentOf(path("to")), before);
         EXPECT_EQ(signalThatEnds([&] { backUp(true); }), SIGXFSZ) << room;
-        expectUnharmed(); // and what is left of the copy goes with the next one
+        expectUnharmed(); // the next backup removes what is left of the copy
     }
     BackUpDatabase(path(), path("to/old.MDB"));
     EXPECT_NO_THROW(Database::OpenDatabase(path("to/old.MDB")));
@@ -110,7 +111,7 @@ TEST_F(BackupTest, AFullDiskAndAKillLeaveTheOldTarget)
     std::printf("| backup over an older copy, disk full, and killed, after so many bytes | %d |\n", 2 * tries);
 }
 
-TEST_F(BackupTest, ANewDatabaseOnAFullDiskIsNotThere)
+TEST_F(BackupTest, AFullDiskLeavesNoUnfinishedDatabase)
 {
     const qint64 size = QFileInfo(path()).size();
     for (qint64 room = 0; room < size; room += 3000) {
@@ -120,7 +121,7 @@ TEST_F(BackupTest, ANewDatabaseOnAFullDiskIsNotThere)
     }
 }
 
-TEST_F(BackupTest, WaitsForWhatAnotherProgramWrites)
+TEST_F(BackupTest, FailsWhileAnotherProgramWrites)
 {
     OtherProgram other(path());
     ASSERT_EQ(other.run("BEGIN EXCLUSIVE; DELETE FROM WATERLOG"), "");
@@ -132,7 +133,7 @@ TEST_F(BackupTest, WaitsForWhatAnotherProgramWrites)
     expectUnharmed();
 }
 
-TEST_F(BackupTest, AnOldDatabaseIsKeptOnceAndNeverOverwritten)
+TEST_F(BackupTest, AKeptOldDatabaseIsNeverOverwritten)
 {
     writeFile(path("OM-version-1.0.MDB"), "from long ago");
     EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-2.MDB"));

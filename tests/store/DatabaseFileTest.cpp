@@ -1,4 +1,4 @@
-// Which files are opened, which are refused and how, and that a refusal leaves everything as it was.
+// Tests which files are opened and which are refused, and that a refusal changes no file.
 #include <sys/stat.h>
 
 #include "platform/Files.h"
@@ -8,7 +8,8 @@ struct DatabaseFileTest : StoreTest
 {
     DatabaseFileTest() { db->Close(); }
 
-    /// Opening ends in that failure with that word in it, and no byte of the folder differs afterwards.
+    /// Expects that opening fails with that number and a text that contains the word, and that no file of the folder
+    /// changes.
     void expectRefused(Failure number, const char *word, const char *what)
     {
         const auto before = contentOf(folder.path());
@@ -21,7 +22,7 @@ struct DatabaseFileTest : StoreTest
     }
 };
 
-TEST_F(DatabaseFileTest, ForeignAndDamagedFilesAreRefusedAndLeftAlone)
+TEST_F(DatabaseFileTest, ForeignAndDamagedFilesAreRefused)
 {
     const QByteArray good = contentOf(folder.path())["OM.MDB"];
     const auto write = [this](const QByteArray &bytes) { writeFile(path(), bytes); };
@@ -52,7 +53,7 @@ TEST_F(DatabaseFileTest, ForeignAndDamagedFilesAreRefusedAndLeftAlone)
     expectRefused(Failure::CouldNotFindFile, "OM.MDB", "a folder of that name");
 }
 
-TEST_F(DatabaseFileTest, WhatCannotBeWrittenIsRefused)
+TEST_F(DatabaseFileTest, ReadOnlyAndLockedFilesAreRefused)
 {
     for (const QString &what : {path(), folder.path()}) {
         const QByteArray name = QFile::encodeName(what);

@@ -13,7 +13,7 @@ bool faultStruck = false;
 sqlite3_vfs faultSystem{};
 sqlite3_vfs *realSystem = nullptr;
 
-/// The engine's methods of an open file, but for those that write, sync and close.
+/// The engine's methods of an open file, with our own for writing, syncing and closing.
 struct FaultMethods : sqlite3_io_methods
 {
     const sqlite3_io_methods *real;
@@ -21,7 +21,7 @@ struct FaultMethods : sqlite3_io_methods
 
 const sqlite3_io_methods *realOf(sqlite3_file *file) { return static_cast<const FaultMethods *>(file->pMethods)->real; }
 
-/// What a place of a file held before a write that no sync has followed yet; zeros past the end.
+/// What a place of a file held before a write that was not synced since; zeros past the end of the file.
 struct Unsynced
 {
     sqlite3_int64 at;
@@ -38,7 +38,7 @@ void losePieces()
                 realOf(file)->xWrite(file, piece->content.data(), int(piece->content.size()), piece->at);
 }
 
-/// The code to fail with now, or 0.
+/// Returns the code to fail with now, or 0; kills the process if that is planned.
 int strike()
 {
     const bool planned = faultPlan.code != 0 || faultPlan.death != Death::None;
@@ -81,11 +81,11 @@ int closeFile(sqlite3_file *file)
 
 int openFile(sqlite3_vfs *, sqlite3_filename name, sqlite3_file *file, int flags, int *outFlags)
 {
-    static std::map<const sqlite3_io_methods *, FaultMethods> methods; // locked and lockless files have their own
+    static std::map<const sqlite3_io_methods *, FaultMethods> methods; // differ with the kind of locking
     const int code = realSystem->xOpen(realSystem, name, file, flags, outFlags);
     if (const sqlite3_io_methods *real = file->pMethods) {
         FaultMethods &own = methods[real] = {*real, real};
-        own.iVersion = 1; // no memory that is shared, or mapped: all goes through a write
+        own.iVersion = 1; // no shared or mapped memory, so that everything goes through a write
         own.xWrite = writeOrFail;
         own.xSync = syncOrFail;
         own.xClose = closeFile;

@@ -1,4 +1,4 @@
-// Walking, adding, changing, deleting and finding rows, transactions, and what ends with the database.
+// Tests of the recordset: moving, adding, changing, deleting and finding rows, and transactions.
 #include "StoreFixture.h"
 
 constexpr int noCurrentRecord = int(Failure::NoCurrentRecord);
@@ -24,7 +24,7 @@ struct RecordsetTest : StoreTest
     }
 };
 
-TEST_F(RecordsetTest, WalksItsRowsInTheirOrderAndStepsOverDeletedOnes)
+TEST_F(RecordsetTest, MovesThroughTheRowsThatAreNotDeleted)
 {
     Recordset rows = water();
     EXPECT_EQ(days(rows), "1 3 5 9");
@@ -42,7 +42,7 @@ TEST_F(RecordsetTest, WalksItsRowsInTheirOrderAndStepsOverDeletedOnes)
     EXPECT_EQ(numberOf([&] { rows.MoveNext(); }), noCurrentRecord);
 }
 
-TEST_F(RecordsetTest, WhereThereIsNoRowOrNoDatabaseNothingIsReadOrWritten)
+TEST_F(RecordsetTest, EveryUseFailsWithoutARowOrADatabase)
 {
     Recordset rows = water(" WHERE ph > 100");
     const Field field = water()["ph"];
@@ -56,7 +56,7 @@ TEST_F(RecordsetTest, WhereThereIsNoRowOrNoDatabaseNothingIsReadOrWritten)
     EXPECT_EQ(numberOf([&] { water(); }), int(Failure::ObjectNotSet));
 }
 
-TEST_F(RecordsetTest, ADuplicateIsRefusedAndTheBufferStays)
+TEST_F(RecordsetTest, ADuplicateIsRefusedAndCanBeCorrected)
 {
     for (const char *entry :
          {"MAINTSCHED (SchedTask) VALUES ('T')",
@@ -78,7 +78,7 @@ TEST_F(RecordsetTest, ADuplicateIsRefusedAndTheBufferStays)
     EXPECT_EQ(count("WATERLOG"), 5);
 }
 
-TEST_F(RecordsetTest, TheBufferLapsesWhenTheRecordsetMoves)
+TEST_F(RecordsetTest, MovingDiscardsTheBuffer)
 {
     const std::function<void(Recordset &)> moves[] = {
         [](Recordset &r) { r.MoveNext(); }, [](Recordset &r) { r.FindFirst("ph > ?", {3.0}); },
@@ -95,7 +95,7 @@ TEST_F(RecordsetTest, TheBufferLapsesWhenTheRecordsetMoves)
     EXPECT_EQ(asked("SELECT group_concat(ph, ' ') FROM WATERLOG"), "5.5 3.5 9.5 1.5");
 }
 
-TEST_F(RecordsetTest, AChangeWritesItsColumnsAloneAndShowsAtOnce)
+TEST_F(RecordsetTest, UpdateWritesOnlyTheChangedColumns)
 {
     Recordset rows = water();
     rows.MoveNext();
@@ -107,7 +107,7 @@ TEST_F(RecordsetTest, AChangeWritesItsColumnsAloneAndShowsAtOnce)
     EXPECT_EQ(rows["ph"].value(), Value(7.25));
     EXPECT_EQ(rows.rows()->number(1, rows.columnIndex("ph")), 3.5);
     EXPECT_EQ(asked("SELECT ph || ' ' || nitrate FROM WATERLOG WHERE logdate = '2003-01-03'"), "7.25 20.0");
-    rows.MoveFirst(); // the row that another program took
+    rows.MoveFirst(); // the row that another program deleted
     rows.Edit();
     rows["ph"].setValue(7.0);
     EXPECT_EQ(numberOf([&] { rows.Update(); }), noCurrentRecord);
@@ -115,7 +115,7 @@ TEST_F(RecordsetTest, AChangeWritesItsColumnsAloneAndShowsAtOnce)
     EXPECT_EQ(days(water()), "3 5 9");
 }
 
-TEST_F(RecordsetTest, FindsTheFirstInItsOwnOrderAmongTheRowsItRead)
+TEST_F(RecordsetTest, FindFirstSearchesTheRowsThatWereRead)
 {
     Recordset rows = water(" WHERE logdate < '2003-01-09' ORDER BY logdate DESC");
     EXPECT_TRUE(rows.FindFirst("tankname = ? AND logdate < ?", {QString("T"), QDate(2003, 1, 5)}));
@@ -124,7 +124,7 @@ TEST_F(RecordsetTest, FindsTheFirstInItsOwnOrderAmongTheRowsItRead)
     EXPECT_EQ(numberOf([&] { rows.FindFirst("tankname = ", {}); }), int(Failure::SyntaxError));
 }
 
-TEST_F(RecordsetTest, OnlyAQueryOfOneWholeTableIsWritten)
+TEST_F(RecordsetTest, OnlyAQueryOfOneWholeTableCanBeWritten)
 {
     const int denied = int(Failure::PermissionDenied), syntax = int(Failure::SyntaxError);
     for (const auto &[sql, number] : {std::pair{" select * from [waterlog] order by [ph] asc ", 0},

@@ -1,5 +1,5 @@
-// What the tests of the store share: a new database in a folder of its own, the clock and boxes of a script, a second
-// connection as another program would have it, and the failure that a piece of work ends in.
+// What the tests of the store share: a new database in a folder of its own, scripted doors, a second connection that
+// acts as another program, and functions that return the failure of a piece of work.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@
 #include "support/ScriptedDoors.h"
 #include "support/TestFiles.h"
 
-/// The failure that the work ends in; nothing if it ends well.
+/// The failure that `work` throws, or nothing.
 inline std::optional<RuntimeFailure> failureOf(const std::function<void()> &work)
 {
     try {
@@ -27,14 +27,15 @@ inline std::optional<RuntimeFailure> failureOf(const std::function<void()> &work
     return std::nullopt;
 }
 
-/// Its number; 0 if it ends well.
+/// The number of that failure; 0 if there is none.
 inline int numberOf(const std::function<void()> &work)
 {
     const auto failure = failureOf(work);
     return failure ? int(failure->number()) : 0;
 }
 
-/// The signal that ended work in a child process; 0 where it came to its end, which it must without a failure.
+/// Runs `work` in a child process and returns the signal that ended it; 0 if it finished, which it must do without a
+/// failure.
 inline int signalThatEnds(const std::function<void()> &work)
 {
     const pid_t child = ::fork();
@@ -46,7 +47,7 @@ inline int signalThatEnds(const std::function<void()> &work)
     return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
 }
 
-/// Another program's connection: runs statements at once, and asks for one value as text.
+/// The connection of another program: runs statements and returns one value as text.
 class OtherProgram
 {
 public:
@@ -54,7 +55,7 @@ public:
     ~OtherProgram() { sqlite3_close(m_handle); }
     OtherProgram(const OtherProgram &) = delete;
     OtherProgram &operator=(const OtherProgram &) = delete;
-    /// The first value of the last row; "error" where the engine refuses.
+    /// Returns the first value of the last row, or "error" if the engine refuses the statement.
     QString run(const QString &sql)
     {
         QString result;
@@ -82,7 +83,7 @@ struct StoreTest : testing::Test
     void open() { db = Database::OpenDatabase(path()); }
     QString asked(const QString &sql) { return OtherProgram(path()).run(sql); }
     qsizetype count(const QString &table) { return db->OpenRecordset("SELECT * FROM " + table).RecordCount(); }
-    /// Opens the table's recordset for adding and sets columns of the buffer.
+    /// Opens a recordset of the table for adding, begins a row and sets its columns.
     Recordset adding(const QString &table, const std::map<QString, Value> &columns)
     {
         Recordset rows = db->OpenForAppend(table);
@@ -91,7 +92,7 @@ struct StoreTest : testing::Test
             rows[name].setValue(value);
         return rows;
     }
-    /// A water test of tank "T" at 9 o'clock of a day of January 2003.
+    /// Begins a water test of tank "T" at 9 o'clock on that day of January 2003.
     Recordset addingWater(int day, double ph)
     {
         return adding(

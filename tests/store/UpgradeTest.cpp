@@ -1,5 +1,5 @@
-// Databases of versions 1.0 and 1.1 brought up: with every row, and at every moment that a full disk, a kill or a power
-// cut can choose, whole and ready to be tried again.
+// Tests of the upgrade of databases of versions 1.0 and 1.1. It keeps every row; and at whatever moment a full disk, a
+// kill or a power cut interrupts it, the file is whole and the upgrade can be run again.
 #include "store/Upgrade.h"
 
 #include <cstdio>
@@ -39,7 +39,8 @@ struct UpgradeTest : StoreTest
         db->Close();
         oldLayout = asked(layout);
     }
-    /// All that the window does, without its windows: the copy, then step by step. The bar's moves come back.
+    /// Does what the upgrade window does, without the window: makes the copy and runs the steps. Returns the positions
+    /// of the progress bar.
     QString upgrade()
     {
         open();
@@ -55,7 +56,7 @@ struct UpgradeTest : StoreTest
         db->Close();
         return bars;
     }
-    /// Strikes while it upgrades; false where the upgrade came through before the fault.
+    /// Upgrades with a planned fault. Returns false if the upgrade was finished before the fault could happen.
     bool strike(const FaultPlan &plan)
     {
         if (plan.death != Death::None)
@@ -71,7 +72,8 @@ struct UpgradeTest : StoreTest
         EXPECT_TRUE(number == 0 ? asked("PRAGMA user_version") == "20" : struck) << "at place " << plan.after;
         return struck;
     }
-    /// The file is whole, has every old row as it was, and nothing new while it is of the old version.
+    /// Expects that the file is undamaged, that every old row is unchanged, and that nothing of the new layout is there
+    /// while the file has the old version.
     void expectWhole()
     {
         open();
@@ -80,7 +82,7 @@ struct UpgradeTest : StoreTest
         EXPECT_TRUE(QStringList({oldVersion, "1.1 ", "2.0 "}).contains(version)) << version.toStdString();
         for (const auto &[table, rows] : oldRows) {
             const QString now = asked(rows.ask);
-            const bool mayGrow = table == "ANIMALLIST"; // which gets new words at its end
+            const bool mayGrow = table == "ANIMALLIST"; // the upgrade adds words at its end
             EXPECT_TRUE(mayGrow ? now.startsWith(rows.text) : now == rows.text) << table.toStdString();
         }
         EXPECT_EQ(asked("PRAGMA integrity_check"), "ok");
@@ -104,11 +106,11 @@ struct UpgradeTest : StoreTest
     };
     FaultVfs faults;
     QByteArray oldBytes;
-    std::map<QString, Rows> oldRows; ///< of each table
+    std::map<QString, Rows> oldRows; ///< for each table
     QString oldVersion, oldLayout;
 };
 
-TEST_F(UpgradeTest, KeepsEveryRowAndEndsLikeANewDatabase)
+TEST_F(UpgradeTest, KeepsEveryRowInTheNewLayout)
 {
     CreateDatabase(path("new.MDB"));
     const QString newLayout = OtherProgram(path("new.MDB")).run(layout);
@@ -123,7 +125,7 @@ TEST_F(UpgradeTest, KeepsEveryRowAndEndsLikeANewDatabase)
         }
 }
 
-TEST_F(UpgradeTest, RemindersEndSoManyYearsAfterTheirStart)
+TEST_F(UpgradeTest, RemindersGetAnEndDateFromTheirYears)
 {
     writeOld("1.1", 0);
     asked("INSERT INTO MAINTSCHED (SchedStartDate, schedyears) VALUES ('1999-12-31', 2), ('1996-02-29', 1), "
@@ -133,20 +135,20 @@ TEST_F(UpgradeTest, RemindersEndSoManyYearsAfterTheirStart)
               "2001-12-31 1997-02-28 2045-06-01 none none");
 }
 
-TEST_F(UpgradeTest, AFaultAKillOrAPowerCutLeavesTheVersionAndTheNextTryComesThrough)
+TEST_F(UpgradeTest, AnInterruptedUpgradeCanBeRunAgain)
 {
     const struct
     {
         const char *name;
         FaultPlan plan;
-        int rows = 40, stride = 1; ///< every so many places
+        int rows = 40, stride = 1; ///< how many places apart the faults are
     } rounds[] = {{"disk full, for ever", {.code = SQLITE_FULL, .forEver = true}},
                   {"disk broken, once", {.code = SQLITE_IOERR_WRITE}},
                   {"power cut", {.death = Death::PowerCut}},
                   {"killed", {.death = Death::Killed}, 3000, 37}};
     for (auto [name, plan, rows, stride] : rounds) {
         SCOPED_TRACE(name);
-        writeOld("1.0", rows); // whose two steps are all that there is
+        writeOld("1.0", rows); // this version needs both steps of the upgrade
         for (bool struck = true; struck && !HasFailure(); plan.after += stride) {
             ASSERT_LT(plan.after, 1000);
             writeFile(path(), oldBytes);

@@ -1,4 +1,4 @@
-// What goes into a column and what comes out: every type there and back, conversions, cells that do not fit, and the
+// Tests of column values: storing and reading every type, conversions, cells that do not fit their column, and the sort
 // order of texts.
 #include <algorithm>
 
@@ -6,7 +6,7 @@
 
 using ValuesTest = StoreTest;
 
-TEST_F(ValuesTest, EveryTypeComesBackAsItWentIn)
+TEST_F(ValuesTest, EveryTypeIsReadBackAsStored)
 {
     const QString odd =
         QString::fromUtf8("a \"b\" 'c' ?\r\n\xf0\x9f\x90\xa0 \xce\xa9 \xd7\xa9 [x];--") + QChar(0) + "after";
@@ -25,7 +25,7 @@ TEST_F(ValuesTest, EveryTypeComesBackAsItWentIn)
         }
 }
 
-TEST_F(ValuesTest, TextsBecomeWhatTheColumnHoldsOrAreRefused)
+TEST_F(ValuesTest, ValuesAreConvertedToTheTypeOfTheColumn)
 {
     const int conversion = int(Failure::DataTypeConversion), overflow = int(Failure::Overflow);
     const std::tuple<const char *, Value, int, const char *> cases[] = {
@@ -53,7 +53,7 @@ TEST_F(ValuesTest, TextsBecomeWhatTheColumnHoldsOrAreRefused)
     EXPECT_EQ(numberOf([&] { water["ph"].setValue(HUGE_VAL); }), overflow);
 }
 
-TEST_F(ValuesTest, CellsThatDoNotFitAreTextAndNothingIsLost)
+TEST_F(ValuesTest, CellsThatDoNotFitAreReadAsText)
 {
     const struct
     {
@@ -81,7 +81,7 @@ TEST_F(ValuesTest, CellsThatDoNotFitAreTextAndNothingIsLost)
     }
 }
 
-TEST_F(ValuesTest, TheOrderThatAPersonSeesIsCaseBlindAndTotal)
+TEST_F(ValuesTest, TextsAreSortedCaseInsensitively)
 {
     const QString order =
         QString::fromUtf8("| |_x|Apfel|apfelbaum|REEF|Reef|reef|STRASSE|Strasse 2|straße|Zebra|Äpfel|äpfel");

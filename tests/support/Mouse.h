@@ -1,6 +1,6 @@
-// The mouse as it comes from outside, through the window system: Qt then gives the focus, makes double clicks and opens
-// pop-ups as for a keeper. A place is in the widget's coordinates; the middle of the widget where none is given. The
-// window must be shown.
+// Mouse events that enter through the window system, so that Qt moves the focus, recognises double clicks and opens
+// pop-ups as it does for a keeper. A place is in the widget's coordinates; without one it is the middle of the widget.
+// The window must be shown.
 #pragma once
 
 #include <optional>

@@ -1,5 +1,5 @@
-// A printer of 100 dots an inch that writes down what was printed where, page by page. Each letter is half as wide as
-// its font is high, so that a test can count; a page is 10 x 8 inches, or 8 x 10.
+// A printer of 100 dots per inch that records what was printed where, page by page. Each letter is half as wide as its
+// font is high, so that a test can calculate widths. A page is 8 x 10 inches, or 10 x 8 in landscape.
 #pragma once
 
 #include <vector>
@@ -23,7 +23,7 @@ struct PrintedPage
     std::vector<PrintedText> texts;
     std::vector<QRectF> pictures;
 
-    /// The texts of one height, from left to right, between bars.
+    /// The texts at one height in the order they were printed, separated by bars.
     QString row(double y) const
     {
         QString joined;

@@ -1,6 +1,6 @@
-// The world as a script: answers in, a record of boxes, beeps and dialogs out. The clock stands where the test set it,
-// chance is a half, and the settings live in a temporary file. A box that nobody expected gets its default answer and
-// is in the record, which told() tells.
+// Doors for tests: they answer from a script and record boxes, beeps and dialogs. The clock stands still at the time
+// that the test has set, random() returns a half, and the settings are in a temporary file. A box without an answer in
+// the script gets its default answer. told() returns what was recorded.
 #pragma once
 
 #include <deque>
@@ -21,7 +21,8 @@ inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << tex
 class ScriptedDoors : public Doors
 {
 public:
-    /// Installs itself; the destructor takes itself out again. `settingsFile` keeps settings over a restart.
+    /// Installs these doors; the destructor puts the former ones back. `settingsFile` keeps the settings over a
+    /// restart.
     explicit ScriptedDoors(const QString &settingsFile = {}) :
         m_settings(std::make_unique<SettingsStore>(settingsFile.isEmpty() ? m_folder.filePath(QStringLiteral("OMK.ini"))
                                                                           : settingsFile)),
@@ -30,26 +31,26 @@ public:
     }
     ~ScriptedDoors() override { Doors::install(m_previous); }
 
-    // In: what the world will answer.
-    std::deque<MsgBoxAnswer> answers;         ///< of the next boxes with a choice; else the default button's
-    std::deque<std::optional<QString>> files; ///< of the next save dialogs; else cancelled
+    // Input: what the doors will answer.
+    std::deque<MsgBoxAnswer> answers;         ///< to the next boxes with a choice; if empty, the default button's
+    std::deque<std::optional<QString>> files; ///< from the next save dialogs; if empty, they are cancelled
     std::deque<std::optional<PrintDialogAnswer>> printers;
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
     bool helpIsThere = true;
-    std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< what happens while a box is on the screen
+    std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< called while a box is on the screen
 
-    // Out: what was shown since last taken.
+    // Output: what was shown since it was last taken.
     std::vector<MsgBoxRequest> boxes;
     std::vector<RuntimeFailure> failures;
     std::vector<SaveDialogRequest> saveDialogs;
     std::vector<PrintDialogRequest> printDialogs;
     std::vector<PageTarget> targets;        ///< of the documents printed
-    std::vector<PrintedDocument> documents; ///< printed, and previewed
+    std::vector<PrintedDocument> documents; ///< printed or previewed
     std::vector<HelpRequest> helps;
     int previews = 0;
     int beeps = 0;
 
-    /// What was told since last asked: how many beeps, and each box as title/flags/text.
+    /// Returns and clears what was recorded: how many beeps, each box as title/flags/text, and each failure.
     QString told()
     {
         QStringList all{QString::number(std::exchange(beeps, 0))};

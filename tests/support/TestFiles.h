@@ -1,4 +1,4 @@
-// Files that a test writes, and what stands in a folder afterwards.
+// Writes the files of a test, and reads what is in a folder afterwards.
 #pragma once
 
 #include <map>

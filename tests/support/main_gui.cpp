@@ -1,5 +1,5 @@
-// main() of the tests that drive windows: the program's own application object, and a warning of Qt fails the test that
-// caused it.
+// main() of the tests that use windows. They run with the program's own application object, and a warning from Qt fails
+// the test that caused it.
 #include <cstdio>
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ namespace {
 
 void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    // The plugin without a display says so at every dialog: "This plugin does not support raise()".
+    // The offscreen plugin warns at every dialog: "This plugin does not support raise()".
     if (text.startsWith(u"This plugin does not support"))
         return;
     if (type == QtWarningMsg || type == QtCriticalMsg)
@@ -21,7 +21,7 @@ void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-/// No display, no keeper's settings and a run-time folder of its own, however the tests are started or listed.
+/// Uses no display and none of the user's settings or run-time folders, however the tests are started or listed.
 void makeSurroundings(const QByteArray &folder)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

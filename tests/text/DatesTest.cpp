@@ -1,4 +1,5 @@
-// What a date or a time is read as; that it comes back as it was shown is shown by tests/fuzz/fuzz_dates.cpp.
+// Tests of how dates and times are read. The fuzz target tests/fuzz/fuzz_dates.cpp checks that what is shown is read
+// back as the same.
 #include "text/Dates.h"
 
 #include <gtest/gtest.h>
@@ -12,10 +13,10 @@ struct Dates : testing::Test
     ScriptedDoors doors;
 };
 
-/// The date as ISO text, "none" where there is none.
+/// The date as ISO text, or "none".
 QString iso(const std::optional<QDate> &date) { return date ? date->toString(Qt::ISODate) : QStringLiteral("none"); }
 
-TEST_F(Dates, AreReadMonthFirstWithAWindowOfYearsThatSlidesOnlyWhenItMust)
+TEST_F(Dates, AreReadAsMonthDayYear)
 {
     const struct
     {
@@ -36,7 +37,7 @@ TEST_F(Dates, AreReadMonthFirstWithAWindowOfYearsThatSlidesOnlyWhenItMust)
         EXPECT_FALSE(ReadDate(QString::fromUtf8(none))) << none;
 }
 
-TEST_F(Dates, TypedOnesAreMonthFirstAndElseInTheUsersOrder)
+TEST_F(Dates, TypedOnesMayBeInTheKeepersOrder)
 {
     for (const auto &[text, order, date] : {std::tuple{"03/04/05", "DDMMYY", "2005-03-04"},
                                             {"18/02/97", "DDMMYY", "1997-02-18"},
@@ -49,7 +50,7 @@ TEST_F(Dates, TypedOnesAreMonthFirstAndElseInTheUsersOrder)
         EXPECT_EQ(iso(ReadTypedDate(text, order)), QString(date)) << text << ' ' << order;
 }
 
-TEST_F(Dates, TimesAreReadShownAndInTheirBoxWantTheirMarkerInOneCase)
+TEST_F(Dates, TimesAreReadBackAsShown)
 {
     for (const auto &[text, upper, inBox] : {std::tuple{"12:00:00 am", "12:00:00 AM", true},
                                              {"12:00:01 PM", "12:00:01 PM", true},
@@ -69,7 +70,7 @@ TEST_F(Dates, TimesAreReadShownAndInTheirBoxWantTheirMarkerInOneCase)
         EXPECT_FALSE(ReadTime(text) || IsBoxTime(text)) << text;
 }
 
-TEST_F(Dates, MonthsAndYearsFallBackToTheLastDay)
+TEST_F(Dates, AddedMonthsAndYearsEndOnAnExistingDay)
 {
     EXPECT_EQ(AddMonths(QDate(2003, 10, 31), 4), QDate(2004, 2, 29));
     EXPECT_EQ(AddYears(QDate(2004, 2, 29), 1), QDate(2005, 2, 28));

@@ -9,7 +9,7 @@
 
 constexpr double largest = std::numeric_limits<double>::max();
 
-TEST(Numbers, WholeTextsAndTheirStarts)
+TEST(Numbers, ValReadsTheNumberAtTheStartOfAText)
 {
     const std::pair<const char *, double> whole[] = {
         {" 7 ", 7},       {"+3", 3},     {"-.5", -0.5}, {"5.", 5},    {"1,234,567.8", 1234567.8},
@@ -34,7 +34,7 @@ TEST(Numbers, WholeTextsAndTheirStarts)
     }
 }
 
-TEST(Numbers, PicturesRoundAndCutNothing)
+TEST(Numbers, FormatRoundsAndCutsNothingOff)
 {
     const struct
     {
@@ -61,7 +61,7 @@ TEST(Numbers, PicturesRoundAndCutNothing)
     EXPECT_EQ(Format(1e300, "0.00"), '1' + QString(300, u'0') + ".00");
 }
 
-TEST(Numbers, PlainTexts)
+TEST(Numbers, PlainTextShowsFifteenDigits)
 {
     for (const auto &[value, text] : {std::pair{1023 / 1000.0, "1.023"},
                                       {0.1 + 0.2, "0.3"},
