@@ -22,7 +22,7 @@ namespace {
 
 constexpr int repetitions = 51;
 
-/// The desktop, with every box answered before it shows, while this lives.
+/// Doors of the desktop for as long as this lives, except that every message box is answered without being shown.
 class NoBoxes : public DesktopDoors
 {
 public:
@@ -49,7 +49,7 @@ QStringList linesOf(const QListWidget &list)
     return lines;
 }
 
-/// Plain list widgets side by side, each as large as one of ours, and filled with its lines.
+/// Plain list widgets side by side, each as large as one of ours and filled with the same lines.
 class PlainLists
 {
 public:
@@ -86,7 +86,8 @@ private:
     std::vector<std::pair<QListWidget *, QStringList>> m_lists;
 };
 
-/// Opens the window, or brings it back, for one measurement: no other figure has it in its way.
+/// Opens the window, or shows it again, for one measurement, and hides it afterwards so that it does not disturb other
+/// figures.
 template <class Window> class OnDesk
 {
 public:
@@ -122,7 +123,7 @@ Sample chooseAnimal()
     return {millisecondsSince(start)};
 }
 
-/// Painting these alone, in milliseconds: what else waits for it is painted before.
+/// Times the painting of these widgets alone, in milliseconds; other pending painting is done first.
 double paint(std::initializer_list<QWidget *> widgets)
 {
     settle(*widgets.begin());
@@ -132,7 +133,7 @@ double paint(std::initializer_list<QWidget *> widgets)
     return millisecondsSince(start);
 }
 
-/// Lets a button go of a dialog that is about to open, and notes the time.
+/// Clicks a button in a dialog that is about to open, and notes the time of the release.
 void pressInDialog(std::int64_t &released, const std::function<QPushButton *()> &button)
 {
     QTimer::singleShot(0, [&released, button] {
@@ -144,8 +145,8 @@ void pressInDialog(std::int64_t &released, const std::function<QPushButton *()> 
     });
 }
 
-/// Drops the last animal of the list, which lives with its own kind and draws no warning. Returns what it took from
-/// "Drop It In" on, in milliseconds.
+/// Drops in the last animal of the list, which lives with its own kind and causes no warning. Returns the time from the
+/// click on "Drop It In", in milliseconds.
 double drop(frm_Fantasy &window)
 {
     std::int64_t released = 0;
@@ -155,13 +156,13 @@ double drop(frm_Fantasy &window)
     return millisecondsSince(released);
 }
 
-/// Brings the plan to 49 rows and times the next, and the painting of what it changes; not that of the whole main
-/// window, which the closing of any dialog brings.
+/// Brings the plan to 49 rows, then times dropping in one more and painting what that changes. The painting of the
+/// whole main window, which follows the closing of any dialog, is not included.
 Sample dropAnimal()
 {
     const OnDesk<frm_Fantasy> desk(&frm_OMKMDIMain::mnu_ToolsFantasy_Click);
     frm_Fantasy &window = desk.window();
-    window.parentWidget()->move(0, 0); // wholly in sight
+    window.parentWidget()->move(0, 0); // fully visible
     window.opt_Fresh->setChecked(true);
     while (window.lst_Fantank->count() < 49)
         drop(window);
@@ -174,7 +175,7 @@ Sample dropAnimal()
     return {added + paint({window.lst_Fantank->viewport(), window.pb_StockingRatio, window.lbl_pctfull})};
 }
 
-/// The same rows put into a plain list after a plain dialog has closed over an empty main window.
+/// Puts the same rows into a plain list after a plain dialog over an empty main window was closed.
 class PlainDrop
 {
 public:

@@ -18,7 +18,7 @@ void keepTwenty(Dates &dates, const QDate &date, int rule)
         dates.erase(std::prev(dates.end()));
 }
 
-/// Hands over the dates of a rule in the range, in no particular order.
+/// Passes the dates of a rule in the range to `send`, in no particular order.
 template <class Send> void walkAll(const RecurrenceRule &rule, const DateRange &range, Send send)
 {
     std::vector<QDate> dates;
@@ -83,7 +83,7 @@ QString recurrence(const RecurrenceRule &rule)
     }
 }
 
-/// Midnight of the day: with plain dates the library never returns from skipping ahead.
+/// Midnight of the day: with plain dates the library never returns when it skips ahead.
 icaltimetype icalMidnight(const QDate &date)
 {
     icaltimetype time = icaltime_null_time();

@@ -1,4 +1,4 @@
-// The floors of the reminder figures: a thousand rules of all patterns, expanded without windows or database, once by
+// The floors of the reminder figures: a thousand rules of all patterns, expanded without windows or a database, once by
 // the literal walk of the fuzz target and once by a calendar library.
 #pragma once
 
@@ -16,12 +16,12 @@ namespace bare {
 std::vector<RecurrenceRule> sampleRules();
 void writeRules(Database &database, const std::vector<RecurrenceRule> &rules);
 
-/// A date and the number of its rule, soonest first.
+/// Dates with the number of their rule, soonest first.
 using Dates = std::multimap<QDate, int>;
 
-/// The soonest twenty dates of all rules in the range.
+/// The twenty soonest dates of all rules in the range.
 Dates soonestTwenty(const std::vector<RecurrenceRule> &rules, const DateRange &range);
-/// The same by the calendar library, which skips ahead to the start of the range.
+/// The same, expanded by the calendar library, which skips ahead to the start of the range.
 Dates soonestTwentyByLibical(const std::vector<RecurrenceRule> &rules, const DateRange &range);
 
 /// The texts of one row of the schedule: the date with its weekday, the task, and the sorting key.

@@ -1,4 +1,5 @@
-// The graph: a page of tests as a picture beside QCustomPlot alone, and opening it on a long log beside bare SQL.
+// The figures of the graph: drawing a page of tests beside QCustomPlot alone, and opening it on a long log beside plain
+// SQL.
 #include "Figure.h"
 
 #include <array>
@@ -17,10 +18,10 @@
 namespace {
 
 constexpr int rows = 20;
-constexpr int bars = 1; // types of the chart
+constexpr int bars = 1; // the chart type of bars
 const QSize pictureSize(1000, 700);
 
-/// Values of the sizes that a marine tank has.
+/// Values as large as those of a marine tank.
 double cell(int row, int column)
 {
     constexpr std::array<double, 13> sizes = {8.2, 0.8, 0.6, 10, 1.023, 78, 7, 9, 410, 0.1, 350, 3, 12};
@@ -29,7 +30,7 @@ double cell(int row, int column)
 
 QString rowLabel(int row) { return QStringLiteral("4/%1").arg(row + 1); }
 
-/// Until the event loop has nothing to do, so that what is put off counts too.
+/// Processes all pending events before the picture is taken, so that postponed work counts too.
 QPixmap finish(QWidget &widget)
 {
     QCoreApplication::processEvents();
@@ -56,7 +57,7 @@ Sample drawOurs(Chart &chart, int type)
     return {millisecondsSince(start)};
 }
 
-/// Its bars side by side, or its lines with a mark at each value, in its own colours and widths.
+/// Draws bars side by side, or lines with a marker at each value, in QCustomPlot's own way.
 Sample drawFloor(QCustomPlot &plot, int type)
 {
     const std::int64_t start = nowNanoseconds();
@@ -99,7 +100,7 @@ Sample drawFloor(QCustomPlot &plot, int type)
     return {millisecondsSince(start)};
 }
 
-/// Counts a tank's tests and reads the first page of them, each a statement prepared for it.
+/// Counts the tests of a tank and reads their first page, with a statement prepared for each.
 class BarePage
 {
 public:
@@ -124,7 +125,7 @@ public:
     }
 
 private:
-    /// Of all numbers that come back, so that each is read.
+    /// The sum of all numbers in the result, so that each of them is read.
     double sum(const char *sql)
     {
         sqlite3_stmt *statement = nullptr;
@@ -181,7 +182,7 @@ Figure openGraphFigure(const QString &databaseFile, const QString &tankId)
                     PaintWatch watch(Form<frm_WaterGraph>().Chart1->findChild<QCustomPlot *>());
                     watch.wait();
                     const Sample sample{millisecondsSince(start)};
-                    closeGraph(); // it would cover the lists that other figures paint
+                    closeGraph(); // otherwise it would cover the lists that other figures paint
                     return sample;
                 },
             .floor = [bare] { return (*bare)(); },

@@ -19,7 +19,7 @@ bool PaintWatch::eventFilter(QObject *, QEvent *event)
     return false;
 }
 
-// The filter sees the event before the widget does; the painting is over when the event loop comes back.
+// The filter sees the paint event before the widget does; when processEvents() returns, the painting is over.
 void PaintWatch::wait()
 {
     const QDeadlineTimer deadline(30'000);
@@ -54,7 +54,7 @@ Desk::Desk(const QString &folder)
     m_globals.splashMilliseconds = 0;
     m_forms = std::make_unique<Forms>(m_globals);
     auto &main = Form<frm_OMKMDIMain>();
-    SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("No")); // it would wait for somebody to close it
+    SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("No")); // the tip would wait for someone to close it
     main.MDIForm_Load();
     main.mnu_ToolsLogbook_Click();
     m_logbook = &Form<frm_Waterlog>();

@@ -1,5 +1,5 @@
-// The program's real windows off-screen, on the database of a folder, with the logbook open and no tank chosen; and the
-// hands of a keeper: clicks and keys that come through the window system, each followed to the painted screen.
+// The program's real windows, off-screen, on the database in a folder, with the logbook open and no tank chosen. Clicks
+// and keys enter through the window system, and their effect is measured up to the painted screen.
 #pragma once
 
 #include <memory>
@@ -21,7 +21,7 @@ public:
     explicit Desk(const QString &folder);
     ~Desk();
 
-    /// Clicks on the first tank in the tree; back when its list is painted.
+    /// Clicks on the first tank in the tree and returns when its list is painted.
     void openFirstTank();
     ListView &waterList();
     Globals &globals() { return m_globals; }
@@ -35,12 +35,12 @@ private:
     frm_Waterlog *m_logbook;
 };
 
-/// Sees whether a widget was painted since the watch began.
+/// Notices whether a widget was painted since this object was made.
 class PaintWatch : public QObject
 {
 public:
     explicit PaintWatch(QWidget *widget);
-    /// Runs the event loop until it was; throws std::runtime_error after half a minute.
+    /// Runs the event loop until it was painted; throws std::runtime_error after half a minute.
     void wait();
 
 protected:
@@ -50,8 +50,8 @@ private:
     bool m_painted = false;
 };
 
-/// The left button on a place that is given in the widget's coordinates.
+/// Presses and releases the left button at a place in the widget's coordinates.
 void press(QWidget *widget, const QPoint &place);
 void release(QWidget *widget, const QPoint &place);
-/// Puts a window in front, gives the widget the focus, and lets everything be painted that waits for it.
+/// Activates the widget's window, gives the widget the focus, and lets pending painting finish.
 void settle(QWidget *widget);

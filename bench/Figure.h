@@ -1,6 +1,6 @@
-// A figure: something that the program does, and a floor that does the least that any program would have to do for it.
-// Each side measures itself once a call; omk_bench calls both in turn, many times, and compares the medians. What a
-// figure stands on (windows, rows, files) lives as long as its functions.
+// A figure compares something that the program does with a floor: the least that any program would have to do for it.
+// Each call measures one side once; omk_bench calls both sides in turn, many times, and compares the medians. What a
+// figure needs (windows, rows, files) lives as long as its functions.
 #pragma once
 
 #include <functional>
@@ -13,13 +13,13 @@ class Desk;
 struct Sample
 {
     double milliseconds = 0;
-    double extra = 0; ///< the figure's second row, in its unit
+    double extra = 0; ///< the value of the figure's second row, in that row's unit
 };
 
 struct Figure
 {
     QString name;
-    double target; ///< how many times the floor's time ours may take
+    double target; ///< the largest allowed ratio of our time to the floor's
     std::function<Sample()> ours;
     std::function<Sample()> floor;
     int repetitions = 15;
@@ -27,27 +27,28 @@ struct Figure
     double extraTarget = 0;
 };
 
-/// Of programs in processes of their own, which lie beside omk_bench.
+/// These run programs in processes of their own, which lie beside omk_bench.
 Figure openTankFigure(const QString &folder, const QString &tankId);
 Figure startFigure(const QString &folder);
-/// On a desk where a tank is open.
+/// These need a desk where a tank is open.
 Figure sortFigure(Desk &desk);
 Figure scrollFigure(Desk &desk);
-/// On two copies of the database.
+/// Saves into two copies of the database.
 Figure saveFigure(const QString &databaseFile, const QString &tankId);
-/// In the livestock window, and in the names window. The first writes the name files, which the others read, into the
-/// current directory.
+/// In the livestock window and in the names window. namesFigure() writes the name files, which the others read, into
+/// the current directory.
 Figure namesFigure();
 Figure namesWindowFigure();
 Figure namesAgainFigure();
-/// On a thousand reminders of all patterns, each begun in 1990.
+/// On a thousand reminders of all patterns, each starting in 1990.
 std::vector<Figure> reminderFigures(Desk &desk, const QString &folder);
-/// An animal chosen and its three lists shown; one dropped into a plan of 49 rows. In the desk's main window.
+/// Choosing an animal until its three lists are shown, and dropping one into a plan of 49 rows; both in the desk's main
+/// window.
 Figure chooseAnimalFigure();
 Figure dropAnimalFigure();
-/// The time for 10,000 entries as it is, and as ten times that of 1,000: linear where they agree.
+/// The time for 10,000 entries beside ten times the time for 1,000; they are equal if the time grows linearly.
 Figure pdfFigure(const QString &folder);
-/// A page of 20 tests with 13 measurements as a picture of 1000 x 700, beside QCustomPlot alone.
+/// A page of 20 tests with 13 measurements, drawn as a picture of 1000 x 700, beside QCustomPlot alone.
 Figure barChartFigure();
 Figure lineChartFigure();
 /// On a desk where the tank is in hand, from the menu to the painted window, beside two statements of bare SQL.

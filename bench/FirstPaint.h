@@ -1,6 +1,6 @@
-// An application object that reports time and memory when a window has been painted for the first time, and ends the
-// process there. Both sides of the start's figure use it, so that "painted" means the same: the whole window, its
-// children too.
+// An application object that reports time and memory when a window has been painted for the first time, and then ends
+// the process. Both sides of the start's figure use it, so that "painted" means the same for both: the whole window
+// with its children.
 #pragma once
 
 #include <cstdlib>
@@ -14,10 +14,10 @@
 template <class Base> class FirstPaint : public Base
 {
 public:
-    /// `since`: when the process was started, in nanoseconds of the monotonic clock.
+    /// `since` is when the process was started, in nanoseconds of the monotonic clock.
     FirstPaint(int &argc, char **argv, std::int64_t since) : Base(argc, argv), m_since(since) {}
 
-    /// The window that counts; until it is set nothing does.
+    /// Sets the window to watch; before that, no painting counts.
     void watch(const QWidget *window) { m_window = window; }
 
     bool notify(QObject *receiver, QEvent *event) override
@@ -25,7 +25,7 @@ public:
         m_painted = m_painted || (event->type() == QEvent::Paint && isInWindow(receiver));
         const bool isNative = receiver->isWindowType();
         const bool result = Base::notify(receiver, event);
-        // A window is painted from within an event of its native window: when that is over, so is the painting.
+        // A window is painted within an event of its native window; when that event is over, so is the painting.
         if (m_painted && isNative) {
             reportMeasured(millisecondsSince(m_since), residentKilobytes());
             std::_Exit(0);
@@ -34,7 +34,7 @@ public:
     }
 
 private:
-    // Any widget of it: a window that its children cover wholly is not painted itself.
+    // Any widget of the window counts, because a window that is covered by its children is not painted itself.
     bool isInWindow(const QObject *receiver) const
     {
         return m_window && receiver->isWidgetType() && static_cast<const QWidget *>(receiver)->window() == m_window;

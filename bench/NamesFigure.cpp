@@ -22,7 +22,7 @@ namespace {
 
 constexpr int names = 50'000;
 
-/// Both name files, in the current directory: made-up names, in no order.
+/// Writes both name files into the current directory, with made-up names in no order.
 void writeNameFiles()
 {
     for (const char *fileName : {"NAMESSW.TXT", "NAMESFW.TXT"}) {
@@ -45,7 +45,7 @@ Sample loadInWindow(frm_LivesAddEdit &window)
     window.lst_AnimalList->showPopup();
     watch.wait();
     const Sample sample{millisecondsSince(start)};
-    window.lst_AnimalList->hidePopup(); // an open one would take the clicks of the other figures
+    window.lst_AnimalList->hidePopup(); // an open list would take the clicks of the other figures
     return sample;
 }
 
@@ -59,7 +59,7 @@ Sample loadInNames(frm_LatintoCommon &window)
     return {millisecondsSince(start)};
 }
 
-/// The same lines read, turned about and sorted, in a plain loop.
+/// Reads, rearranges and sorts the same lines in a plain loop.
 Sample loadPlainly()
 {
     const std::int64_t start = nowNanoseconds();
@@ -78,7 +78,7 @@ Sample loadPlainly()
     return {millisecondsSince(start), double(turned.size())};
 }
 
-/// The list of the names window beside ready keys, each call the other way round.
+/// Sorts the list of the names window, and as the floor ready keys; each call reverses the order.
 class SortAgain
 {
 public:

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Runs a program that reports itself in one line.
+/// Runs a program that reports its figures in one line.
 Sample run(const QString &program, const QStringList &arguments)
 {
     QProcess process;

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// A thousand reminders, in a database of their own that the windows work on while they are measured.
+/// A thousand reminders in a database of their own, which the windows use while they are measured.
 class ReminderDesk
 {
 public:

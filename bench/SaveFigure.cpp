@@ -13,14 +13,14 @@
 
 namespace {
 
-// One test a day, from a day on that the sample data does not reach.
+// One test a day, from a day after all sample data.
 const QDate firstDay(2200, 1, 1);
 constexpr const char *numbers[] = {"Ammonia", "nitrite", "nitrate", "ph", "orp",     "temp",   "oxygen",
                                    "dkh",     "calcium", "copper",  "sg", "custom1", "custom2"};
 constexpr std::array<double, 13> values = {0.1, 0.02, 7.5, 8.2, 350, 78, 7, 9, 410, 0, 1.023, 0, 0};
 constexpr const char *comment = "After the water change. All animals well.";
 
-/// As the entry window does it: a recordset that was opened for it, its fields, and one Update.
+/// Saves as the entry window does: opens a recordset, sets its fields and calls Update once.
 class SaveByRecordset
 {
 public:
@@ -51,7 +51,7 @@ private:
     int m_day = 0;
 };
 
-/// An INSERT that was prepared once, in its own transaction, with the program's settings.
+/// Runs an INSERT that was prepared once, in a transaction of its own and with the program's database settings.
 class BareInsert
 {
 public:

@@ -18,7 +18,8 @@ namespace {
 
 constexpr int pages = 50;
 
-/// The same rows as a model that anyone would write: Qt's own functions make a cell's text when it is asked for.
+/// The same rows in a model that is written in the obvious way: Qt's own functions make the text of a cell when it is
+/// asked for.
 class PlainModel : public QAbstractTableModel
 {
 public:
@@ -71,7 +72,7 @@ private:
     std::vector<Column> m_columns;
 };
 
-/// A table as large as the list, of the same columns, heights and looks.
+/// A table as large as the list, with the same columns, row heights and looks.
 std::shared_ptr<QTableView> plainTable(const ListView &list, QAbstractItemModel *model)
 {
     auto table = std::make_shared<QTableView>();
@@ -119,7 +120,7 @@ Figure scrollFigure(Desk &desk)
             .target = 1,
             .ours =
                 [&desk, &list] {
-                    desk.openFirstTank(); // whatever way it was sorted
+                    desk.openFirstTank(); // restores the order after a sort
                     return scroll(list);
                 },
             .floor = [table] { return scroll(*table); },

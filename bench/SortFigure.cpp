@@ -14,8 +14,8 @@
 
 namespace {
 
-/// Case-folded keys of ready texts, and row numbers sorted by them; each call the other way round, as the list's header
-/// does.
+/// Makes case-folded keys of ready texts and sorts row numbers by them. Each call reverses the order, as the list's
+/// header does.
 class FoldAndSort
 {
 public:
@@ -50,7 +50,7 @@ Sample clickHeader(ListView &list, int column)
     const QPoint place(header->sectionViewportPosition(column) + header->sectionSize(column) / 2, header->height() / 2);
     const std::int64_t start = nowNanoseconds();
     press(header->viewport(), place);
-    PaintWatch watch(list.viewport()); // from here on: the release sorts
+    PaintWatch watch(list.viewport()); // from here on, because the release sorts
     release(header->viewport(), place);
     watch.wait();
     return {millisecondsSince(start)};
@@ -69,7 +69,7 @@ Figure sortFigure(Desk &desk)
             .target = 2,
             .ours =
                 [&desk, &list, comments] {
-                    desk.openFirstTank(); // a list that is sorted already would only be turned
+                    desk.openFirstTank(); // a list that is sorted already would only be reversed
                     return clickHeader(list, comments);
                 },
             .floor = FoldAndSort(std::move(texts))};

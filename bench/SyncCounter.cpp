@@ -9,7 +9,7 @@ long calls = 0;
 
 long syncCalls() { return calls; }
 
-// A function of the program goes before the system library's of that name, for every library of the process.
+// A function of this name in the program replaces that of the system library, for all libraries of the process.
 extern "C" int fsync(int file)
 {
     ++calls;

@@ -1,4 +1,4 @@
-// Counts how often this process has asked the system to bring a file or a folder to the disk.
+// Counts how often this process has asked the system to sync a file or a folder to disk.
 #pragma once
 
 /// Since the process began.

@@ -16,7 +16,7 @@ std::string sideName(const Figure &figure, bool ours)
     return figure.name.toStdString() + (ours ? "/ours" : "/floor");
 }
 
-/// Keeps what was measured of each side, and prints nothing.
+/// Keeps the measurements of each side and prints nothing.
 class Collector : public benchmark::BenchmarkReporter
 {
 public:

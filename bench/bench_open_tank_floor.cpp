@@ -1,5 +1,5 @@
-// bench_open_tank_floor DATABASE SELECT TANKID: the floor of opening a tank: reads the rows of the logbook's own
-// statement and keeps them, each a struct of numbers and texts. No Qt.
+// bench_open_tank_floor DATABASE SELECT TANKID: the floor of opening a tank. Reads the rows with the logbook's own
+// statement and keeps each as a struct of numbers and texts. Uses no Qt.
 #include <array>
 #include <string>
 #include <vector>

@@ -1,5 +1,5 @@
-// bench_pdf FOLDER ENTRIES: writes the water log of a tank with so many entries to a PDF, in the folder. Reports the
-// time for 10,000 entries, and the most memory that it took.
+// bench_pdf FOLDER ENTRIES: writes the water log of a tank with that many entries to a PDF in the folder. Reports the
+// time, scaled to 10,000 entries, and the largest amount of memory used.
 #include <fstream>
 #include <string>
 
@@ -44,7 +44,7 @@ int main(int argc, char **argv)
     const auto database = Database::OpenDatabase(file + u".mdb");
     const QString tank = AddSampleTank(*database, QStringLiteral("Reef"), {}, 180, QStringLiteral("3"), {});
     AddSampleWaterTests(*database, tank, entries, QDate(2010, 1, 1), 60, true);
-    std::ofstream("/proc/self/clear_refs") << 5; // the mark of the most memory starts again from here
+    std::ofstream("/proc/self/clear_refs") << 5; // resets the peak memory that the system reports
     const std::int64_t start = nowNanoseconds();
     const Report report = MakeLogReport(WaterTab, *database, QStringLiteral("MM/DD/YY"), tank);
     if (!report.open())

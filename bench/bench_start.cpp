@@ -1,5 +1,5 @@
-// bench_start FOLDER NANOSECONDS: the start of the program as main() does it, on the database of that folder, up to the
-// first paint of the main window.
+// bench_start FOLDER NANOSECONDS: starts the program as main() does, on the database in that folder, up to the first
+// paint of the main window.
 #include <cstdlib>
 
 #include <QDir>

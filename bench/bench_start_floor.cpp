@@ -1,5 +1,5 @@
-// bench_start_floor DATABASE NANOSECONDS: the floor of the start: a main window with one menu, an empty MDI area and a
-// line in the status bar, and the database opened through SQLite's own interface.
+// bench_start_floor DATABASE NANOSECONDS: the floor of the start. Shows a main window with one menu, an empty MDI area
+// and a line in the status bar, and opens the database through SQLite's own interface.
 #include <cstdlib>
 
 #include <QMainWindow>

@@ -1,5 +1,6 @@
-// omk_bench: measures what the program promises, each thing beside its floor, and prints one table. Needs no display;
-// the files of the run lie in a folder beside the program and go when it ends. Takes Google Benchmark's own options.
+// omk_bench: measures what the program promises, each figure beside its floor, and prints one table. Needs no display;
+// the files of a run are in a folder beside the program, which is removed at the end. Accepts Google Benchmark's own
+// options.
 #include <cstdio>
 #include <exception>
 
@@ -64,7 +65,8 @@ int main(int argc, char **argv)
         if (type != QtWarningMsg || !text.startsWith(u"This plugin does not support"))
             std::fprintf(stderr, "%s\n", qPrintable(text));
     });
-    // Beside the program, because a folder for temporary files may lie in memory, where saving to disk costs nothing.
+    // The folder is beside the program, because a folder for temporary files may be in memory, where saving costs
+    // nothing.
     const QTemporaryDir folder(QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath() + u"/omk_bench-XXXXXX");
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8()); // the keeper's own settings are left alone
     qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
