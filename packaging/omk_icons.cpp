@@ -1,5 +1,5 @@
-// omk_icons DRAWING FOLDER SIZE ...: paints an SVG in each size, as FOLDER/SIZExSIZE/apps/ and the drawing's name: the
-// way in which a theme of icons keeps them. Run by the build.
+// omk_icons DRAWING FOLDER SIZE ...: paints an SVG in each size and writes FOLDER/SIZExSIZE/apps/NAME.png with the name
+// of the drawing, which is the layout of an icon theme. The build runs it.
 #include <cstdio>
 
 #include <QDir>

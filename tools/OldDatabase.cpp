@@ -6,7 +6,7 @@
 
 namespace {
 
-// What each version brought is taken out again of an empty database of the present one.
+// The file begins as an empty database of the present version; these statements remove what each version added.
 const char *const withoutVersion20[] = {
     "ALTER TABLE MAINTSCHED DROP COLUMN SchedRtype",
     "ALTER TABLE MAINTSCHED DROP COLUMN SchedRSubtype",
@@ -59,7 +59,7 @@ constexpr TableRows logs[] = {
              tankOf(row), dayOf(row),        timeOf(row),      QStringLiteral("Tang - Yellow"),
              1 + row % 9, QString("Active"), 4.5 * (row % 20), row % 3 == 0 ? Value(dayOf(row + 400)) : Value()};
      }},
-    // Every sixth has no end, and some begin on a day that most years lack.
+    // Every sixth reminder has no end, and some begin on February 29.
     {"INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedInterval, schedyears, schedcomment) "
      "VALUES (?, ?, ?, ?, ?)",
      [](int row) {

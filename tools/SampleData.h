@@ -1,5 +1,5 @@
-// Sample data for pictures and measurements: tanks with water tests as a keeper would log them. The same data at every
-// call.
+// Sample data for pictures and measurements: tanks with water tests as a keeper would log them. Every call makes the
+// same data.
 #pragma once
 
 #include <QDate>
@@ -7,7 +7,7 @@
 
 class Database;
 
-/// Adds a tank and returns its tankid. `waterType` as in TANKLST.TankWaterType.
+/// Adds a tank and returns its tankid. `waterType` is a value of TANKLST.TankWaterType.
 QString AddSampleTank(Database &database, const QString &name, const QString &description, int gallons,
                       const QString &waterType, const QString &notes);
 

@@ -1,5 +1,4 @@
-// omk_newdb FILE: writes an empty database by hand, as the program does at its first start; a file that is there is
-// left as it is.
+// omk_newdb FILE: writes an empty database, as the program does at its first start. An existing file is not changed.
 #include <cstdio>
 
 #include <QCoreApplication>

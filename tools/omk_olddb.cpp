@@ -1,5 +1,5 @@
-// omk_olddb FILE 1.0|1.1 [ROWS]: writes a database of an older version with made-up entries, 5000 in each log where
-// nothing is said, to try the upgrade on.
+// omk_olddb FILE 1.0|1.1 [ROWS]: writes a database of an older version with made-up entries, by default 5000 in each
+// log, to try the upgrade with.
 #include <cstdio>
 
 #include <QCoreApplication>

@@ -1,5 +1,6 @@
-// omk_shots DIR [--dark] [--scale N]: plays a day on sample data through the real windows, off-screen, and leaves a PNG
-// of each window and a PDF of each printout in DIR. Prints their names. Needs no display.
+// omk_shots DIR [--dark] [--scale N]: uses the real windows, off-screen and with sample data, as a keeper does on a
+// day, and writes a PNG of each window and a PDF of each printout to DIR. Prints the names of the files. Needs no
+// display.
 #include <cstdio>
 
 #include <QFile>
@@ -29,7 +30,7 @@ void goDark()
     QApplication::setPalette(palette);
 }
 
-/// A screen that is big enough for every window: the off-screen one is 800 x 800.
+/// Sets up a screen that is large enough for every window; the off-screen one would be 800 x 800.
 void setBigScreen(const QString &folder)
 {
     QFile file(folder + u"/screen.json");
@@ -73,7 +74,7 @@ int main(int argc, char **argv)
     globals.splashMilliseconds = 0;
     Forms forms(globals);
     auto &main = Form<frm_OMKMDIMain>();
-    SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("No")); // photographed later
+    SaveSetting(QStringLiteral("Show_Tips"), QStringLiteral("No")); // playTip() photographs the tip later
     main.MDIForm_Load();
     playTanks(album);
     main.CheckTanks();

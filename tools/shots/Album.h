@@ -1,5 +1,5 @@
-// What the photographer of the windows works with: the album that the pictures go to, the world that answers him, and
-// the way into a dialog.
+// What omk_shots works with: the album that takes the pictures, the doors that answer the program, and a way into its
+// dialogs.
 #pragma once
 
 #include <cstdio>
@@ -29,7 +29,7 @@ public:
         else
             m_failed = true;
     }
-    /// Where a printout goes, its name made one of files; told like a picture.
+    /// The path for a printout, with a file name made of its name; prints the path, as take() does for a picture.
     QString path(QString name) const
     {
         const QString file = m_folder.filePath(name.replace(u' ', u'-').toLower());
@@ -43,8 +43,8 @@ private:
     bool m_failed = false;
 };
 
-/// The desktop with the clock standing still, settings of its own, and each box photographed and answered with its
-/// default button.
+/// Doors of the desktop with a clock that stands still and settings of their own. Each message box is photographed and
+/// answered with its default button.
 class ShotDoors : public DesktopDoors
 {
 public:
@@ -82,7 +82,7 @@ private:
     int m_boxes = 0;
 };
 
-/// What to do in the next dialog while `start` waits in it.
+/// Runs `inside` in the dialog that `start` opens and waits for.
 inline void inDialog(const std::function<void()> &start, const std::function<void()> &inside)
 {
     QTimer::singleShot(0, inside);

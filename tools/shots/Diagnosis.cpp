@@ -6,7 +6,7 @@
 #include "shots/Album.h"
 #include "shots/Plays.h"
 
-/// From the disclaimer to a diagnosis, each page photographed before it is left, and the sheet printed.
+/// Goes from the disclaimer to a diagnosis, photographs each page before leaving it, and prints the sheet.
 void playDiagnosis(Album &album, frm_OMKMDIMain &main)
 {
     const std::vector<int> answers{0, 0, 1, 0, 1};

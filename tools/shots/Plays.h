@@ -1,5 +1,5 @@
-// The day that omk_shots plays, a scene a tool. Each scene drives the real windows, photographs them, and leaves the
-// main window as it found it.
+// The scenes of omk_shots, one for each tool. A scene uses the real windows, photographs them, and leaves the main
+// window as it found it.
 #pragma once
 
 #include <QDateTime>
@@ -9,10 +9,10 @@ class frm_OMKMDIMain;
 class frm_Waterlog;
 struct Globals;
 
-/// The upgrade of an old database, which it writes into that folder.
+/// The upgrade of an old database, which the scene writes into that folder.
 void playUpgrade(Album &album, const QString &folder);
 void playTanks(Album &album);
-/// Opens the logbook, which the next three work in.
+/// Opens the logbook, in which the next three scenes work.
 void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals);
 void playLivestock(Album &album, frm_Waterlog &logbook);
 void playMaintenance(Album &album, frm_Waterlog &logbook, QDateTime &clock);
@@ -22,9 +22,9 @@ void playDiagnosis(Album &album, frm_OMKMDIMain &main);
 void playCompatibility(Album &album, frm_OMKMDIMain &main);
 void playFantasyTank(Album &album, frm_OMKMDIMain &main);
 void playReference(Album &album, frm_OMKMDIMain &main);
-/// The graph as a keeper sees it first, a sheet of all its styles, and its printout.
+/// The graph as a keeper sees it at first, a sheet of all its styles, and its printout.
 void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals);
-/// The help on its first page, on the page of a window, and with what a search found.
+/// The help with its first page, with the page of a window, and with the results of a search.
 void playHelp(Album &album);
 void playOptions(Album &album, frm_OMKMDIMain &main);
 void playAbout(Album &album, frm_OMKMDIMain &main);

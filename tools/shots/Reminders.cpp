@@ -16,7 +16,7 @@ struct SampleReminder
     ComposeReminder compose;
 };
 
-/// One of each pattern.
+/// A reminder of each pattern.
 const SampleReminder sampleReminders[] = {
     {"Feed frozen food", [](frm_SchedNewAddEdit &w) { w.txt_DailyDays->setText(QStringLiteral("2")); }},
     {"Water change, 10 gallons",

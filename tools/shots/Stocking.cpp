@@ -17,14 +17,14 @@ void playCompatibility(Album &album, frm_OMKMDIMain &main)
     window.lst_Select->setCurrentIndex(1);
     album.take(window, QStringLiteral("compatibility"));
     window.but_fresh->setChecked(true);
-    window.lst_Select->setCurrentIndex(0); // one that lives with nobody for sure
+    window.lst_Select->setCurrentIndex(0); // an animal that is surely compatible with no other
     album.take(window, QStringLiteral("compatibility-fresh"));
     window.parentWidget()->close();
 }
 
 namespace {
 
-/// Chooses an animal by its line, from 0, and drops so many in.
+/// Chooses an animal by its line, from 0, and drops in that many.
 void dropAnimal(frm_Fantasy &window, int line, const QString &howMany, Album *album = nullptr)
 {
     window.lst_select->setCurrentRow(line);

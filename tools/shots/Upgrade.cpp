@@ -7,7 +7,7 @@
 #include "store/frm_OMKupgrade.h"
 #include "store/Version.h"
 
-/// The upgrade of an old database, photographed half way.
+/// Runs the upgrade of an old database and photographs it half way.
 void playUpgrade(Album &album, const QString &folder)
 {
     const QString file = folder + u"/old.MDB";
