@@ -25,7 +25,7 @@ void addTank(Album &album, const QString &name, const QString &description, cons
 void playTanks(Album &album)
 {
     addTank(album, QStringLiteral("Reef"), QStringLiteral("Mixed reef in the living room"),
-            QStringLiteral("Skimmer, two return pumps, 4 x 54 W T5.\nSet up in March."), true);
+            QStringLiteral("Skimmer, two return pumps, 4 x 54 W T5.\nSet up in April."), true);
     addTank(album, QStringLiteral("Angels"), QStringLiteral("Planted tank with angelfish"), {}, false);
     addTank(album, QStringLiteral("Garden pond"), QStringLiteral("Goldfish and lilies"), {}, false);
     auto &list = Form<frm_TankMaint>();
