@@ -36,7 +36,8 @@ QString commentOf(int test, double day, bool beforeWaterChange)
 {
     if (beforeWaterChange)
         return QStringLiteral("Before water change");
-    return QString::fromLatin1((day < cycleDays ? commentsOfCycle : commentsLater)[test % 5]);
+    const auto &comments = day < cycleDays ? commentsOfCycle : commentsLater;
+    return QString::fromLatin1(comments[test % 5]);
 }
 
 } // namespace
