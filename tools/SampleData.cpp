@@ -56,20 +56,20 @@ void AddSampleWaterTests(Database &database, const QString &tankId, int count, c
     Database::Transaction whole(database);
     QDateTime moment(firstDay, QTime(9, 0), Qt::UTC);
     const double daysApart = minutesApart / 1440.0;
-    double nitrate = 1;
+    double nitrate = 2;
     for (int i = 0; i < count; ++i) {
         const double day = i * daysApart;
         const double wave = std::sin(i * 0.7) + 0.4 * std::sin(i * 2.3);
-        const double nitrite = 2 * hump(day, 12, 8);
+        const double nitrite = 0.9 * hump(day, 12, 8);
         const QDateTime next = moment.addSecs(minutesApart * 60);
         const bool waterChange = moment.date().dayOfWeek() == Qt::Saturday && next.date() != moment.date();
         database.Execute(insertTest,
-                         {tankId, moment.date(), moment.time(), rounded(1.5 * hump(day, 5, 3), 20),
+                         {tankId, moment.date(), moment.time(), rounded(0.8 * hump(day, 5, 3), 20),
                           rounded(nitrite, 20), rounded(nitrate, 2), rounded((salt ? 8.2 : 7.2) + 0.1 * wave, 20),
                           rounded(350 + 15 * wave, 1), rounded(78 + wave, 10), rounded(7 + 0.3 * wave, 10),
                           rounded(9 + 0.5 * wave, 10), salt ? rounded(410 + 12 * wave, 0.2) : 0.0, 0.0,
                           salt ? rounded(1.025 + 0.0005 * wave, 1000) : 0.0, 0.0, 0.0, commentOf(i, day, waterChange)});
-        nitrate += (0.25 + 0.35 * nitrite) * daysApart; // from the food, and from what the bacteria turn into it
+        nitrate += (0.25 + 0.9 * nitrite) * daysApart; // from the food, and from what the bacteria turn into it
         if (waterChange)
             nitrate *= keptByWaterChange;
         moment = next;

@@ -49,23 +49,25 @@ void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals)
     QTreeWidgetItem *root = logbook.TreeView1->topLevelItem(0);
     logbook.TreeView1->setCurrentItem(root->child(root->childCount() - 1));
     auto &test = Form<frm_WaterAddEdit>();
-    inDialog(
-        [&logbook] { logbook.Add_Entries(); },
-        [&] {
-            const std::pair<const char *, const char *> measured[] = {
-                {"txt_nitrate", "8"}, {"txt_ph", "8.2"}, {"txt_sg", "1.025"}, {"txt_dkh", "9"}, {"txt_calcium", "415"}};
-            for (const auto &[box, value] : measured)
-                test.findChild<MaskedBox *>(QLatin1String(box))->setText(QLatin1String(value));
-            test.txt_Comment->setPlainText(QStringLiteral("After the water change. All animals well."));
-            album.take(test, QStringLiteral("water-test"));
-            inDialog([&test] { test.cmd_Caldate->click(); },
-                     [&] {
-                         auto &calendar = Form<frm_Caltool>();
-                         album.take(calendar, QStringLiteral("calendar"));
-                         calendar.close();
-                     });
-            test.cmd_OK->click();
-        });
+    inDialog([&logbook] { logbook.Add_Entries(); },
+             [&] {
+                 const std::pair<const char *, const char *> measured[] = {{"txt_nitrate", "8.5"},
+                                                                           {"txt_ph", "8.2"},
+                                                                           {"txt_sg", "1.025"},
+                                                                           {"txt_dkh", "9"},
+                                                                           {"txt_calcium", "415"}};
+                 for (const auto &[box, value] : measured)
+                     test.findChild<MaskedBox *>(QLatin1String(box))->setText(QLatin1String(value));
+                 test.txt_Comment->setPlainText(QStringLiteral("After the water change. All animals well."));
+                 album.take(test, QStringLiteral("water-test"));
+                 inDialog([&test] { test.cmd_Caldate->click(); },
+                          [&] {
+                              auto &calendar = Form<frm_Caltool>();
+                              album.take(calendar, QStringLiteral("calendar"));
+                              calendar.close();
+                          });
+                 test.cmd_OK->click();
+             });
     logbook.lstv_WaterLog->Select(61);
     album.take(logbook, QStringLiteral("logbook"));
     album.take(main, QStringLiteral("main"));
