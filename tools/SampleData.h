@@ -11,6 +11,7 @@ class Database;
 QString AddSampleTank(Database &database, const QString &name, const QString &description, int gallons,
                       const QString &waterType, const QString &notes);
 
-/// Adds `count` water tests, `minutesApart`, from the first day on at nine in the morning. One transaction.
+/// Adds `count` water tests, `minutesApart`, from the first day on at nine in the morning: those of a new tank that
+/// cycles within a month and has its water changed on Saturdays. One transaction.
 void AddSampleWaterTests(Database &database, const QString &tankId, int count, const QDate &firstDay, int minutesApart,
                          bool salt);

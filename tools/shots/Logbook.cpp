@@ -51,8 +51,13 @@ void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals)
     auto &test = Form<frm_WaterAddEdit>();
     inDialog([&logbook] { logbook.Add_Entries(); },
              [&] {
-                 test.findChild<MaskedBox *>(QStringLiteral("txt_nitrate"))->setText(QStringLiteral("7.5"));
-                 test.findChild<MaskedBox *>(QStringLiteral("txt_calcium"))->setText(QStringLiteral("415"));
+                 const std::pair<const char *, const char *> measured[] = {{"txt_nitrate", "8.5"},
+                                                                           {"txt_ph", "8.2"},
+                                                                           {"txt_sg", "1.025"},
+                                                                           {"txt_dkh", "9"},
+                                                                           {"txt_calcium", "415"}};
+                 for (const auto &[box, value] : measured)
+                     test.findChild<MaskedBox *>(QLatin1String(box))->setText(QLatin1String(value));
                  test.txt_Comment->setPlainText(QStringLiteral("After the water change. All animals well."));
                  album.take(test, QStringLiteral("water-test"));
                  inDialog([&test] { test.cmd_Caldate->click(); },
@@ -71,14 +76,16 @@ void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals)
 void playLivestock(Album &album, frm_Waterlog &logbook)
 {
     logbook.tab_logtype->setCurrentIndex(LivestockTab);
-    addAnimal(logbook, QStringLiteral("Tang - Yellow"), QStringLiteral("Active"), QStringLiteral("45"),
+    addAnimal(logbook, QStringLiteral("Goby - Watchman, Yellow"), QStringLiteral("Active"), QStringLiteral("24"),
               [&album](frm_LivesAddEdit &window) {
-                  window.txt_Comment->setPlainText(QStringLiteral("Eats nori from the first day on."));
+                  window.txt_Comment->setPlainText(QStringLiteral("Eats frozen mysis from the first day on."));
                   album.take(window, QStringLiteral("livestock-entry"));
               });
-    for (const char *animal : {"Clown - Percula", "Shrimp - Cleaner", "Coral - Bubble"})
+    const std::pair<const char *, const char *> earlier[] = {
+        {"Clown - Percula", "05/23/26"}, {"Shrimp - Cleaner", "05/30/26"}, {"Coral - Bubble", "06/06/26"}};
+    for (const auto &[animal, day] : earlier)
         addAnimal(logbook, QLatin1String(animal), QStringLiteral("Active"), QStringLiteral("18.5"),
-                  [](frm_LivesAddEdit &) {});
+                  [day = day](frm_LivesAddEdit &window) { window.txt_DateAdded->setText(QLatin1String(day)); });
     logbook.lstv_Livestock->Select(1);
     album.take(logbook, QStringLiteral("logbook-livestock"));
     inDialog([&logbook] { logbook.Move_Entries(); },
@@ -90,20 +97,34 @@ void playLivestock(Album &album, frm_Waterlog &logbook)
              });
 }
 
+namespace {
+
+struct SampleWork
+{
+    const char *task, *quantity, *unit, *notes;
+};
+
+const SampleWork sampleWork[] = {
+    {"Water Change", "10", "gallons", "Salt mixed a day ahead, heated to 78 degrees."},
+    {"Filter Clean", "1", " ", "Rinsed the sponge in old tank water."},
+    {"Additives Added", "20", "ml", "Calcium."},
+};
+
+} // namespace
+
 void playMaintenance(Album &album, frm_Waterlog &logbook, QDateTime &clock)
 {
     logbook.tab_logtype->setCurrentIndex(MaintenanceTab);
     bool first = true;
-    for (const char *task : {"Water Change", "Filter Clean", "Additives Added"}) {
+    for (const SampleWork &work : sampleWork) {
         clock = clock.addSecs(60);
         inDialog([&logbook] { logbook.Add_Entries(); },
                  [&] {
                      auto &window = Form<frm_MaintAddEdit>();
-                     window.lst_mainttasklist->setEditText(QLatin1String(task));
-                     window.txt_quantity->setText(QStringLiteral("10"));
-                     window.lst_unit->setEditText(QStringLiteral("gallons"));
-                     window.txt_maintlognotes->setPlainText(
-                         QStringLiteral("Water aged for two days, heated to 78 degrees."));
+                     window.lst_mainttasklist->setEditText(QLatin1String(work.task));
+                     window.txt_quantity->setText(QLatin1String(work.quantity));
+                     window.lst_unit->setEditText(QLatin1String(work.unit));
+                     window.txt_maintlognotes->setPlainText(QLatin1String(work.notes));
                      if (std::exchange(first, false))
                          album.take(window, QStringLiteral("maintenance-entry"));
                      window.cmd_OK->click();

@@ -44,13 +44,14 @@ void playFantasyTank(Album &album, frm_OMKMDIMain &main)
 {
     main.mnu_ToolsFantasy_Click();
     auto &window = Form<frm_Fantasy>();
-    dropAnimal(window, 0, QStringLiteral("2"), &album);
+    dropAnimal(window, 0, QStringLiteral("2"), &album); // a pair of clownfish, and what lives with them in 55 gallons
     dropAnimal(window, 14, QStringLiteral("3"));
+    dropAnimal(window, 15, QStringLiteral("1"));
+    dropAnimal(window, 5, QStringLiteral("2"));
     dropAnimal(window, 37, QStringLiteral("4"));
-    dropAnimal(window, 28, QStringLiteral("2"));
-    window.lst_select->setCurrentRow(5);
+    window.lst_select->setCurrentRow(7);
     album.take(window, QStringLiteral("fantasy"));
-    dropAnimal(window, 35, QStringLiteral("5"));
+    dropAnimal(window, 11, QStringLiteral("24"));
     album.take(window, QStringLiteral("fantasy-overfull"));
     window.parentWidget()->close();
 }

@@ -1,18 +1,22 @@
 #include "shots/Album.h"
 #include "shots/Plays.h"
 
+#include <QRadioButton>
+
 #include "tanks/frm_TankAddNew.h"
 #include "tanks/frm_TankMaint.h"
 
 namespace {
 
-void addTank(Album &album, const QString &name, const QString &description, const QString &notes, bool picture)
+void addTank(Album &album, const QString &name, const QString &description, QRadioButton *frm_TankAddNew::*water,
+             const QString &notes, bool picture)
 {
     auto &dialog = Form<frm_TankAddNew>();
     inDialog([&dialog] { dialog.AddNewTank(); },
              [&] {
                  dialog.txt_tankname->setText(name);
                  dialog.txt_long_desc->setText(description);
+                 (dialog.*water)->setChecked(true);
                  dialog.txt_tanknotes->setPlainText(notes);
                  if (picture)
                      album.take(dialog, QStringLiteral("tank-new"));
@@ -24,10 +28,12 @@ void addTank(Album &album, const QString &name, const QString &description, cons
 
 void playTanks(Album &album)
 {
-    addTank(album, QStringLiteral("Reef"), QStringLiteral("Mixed reef in the living room"),
-            QStringLiteral("Skimmer, two return pumps, 4 x 54 W T5.\nSet up in March."), true);
-    addTank(album, QStringLiteral("Angels"), QStringLiteral("Planted tank with angelfish"), {}, false);
-    addTank(album, QStringLiteral("Garden pond"), QStringLiteral("Goldfish and lilies"), {}, false);
+    addTank(album, QStringLiteral("Reef"), QStringLiteral("Mixed reef in the living room"), &frm_TankAddNew::opt_Reef,
+            QStringLiteral("Skimmer, two return pumps, 4 x 54 W T5.\nSet up in April."), true);
+    addTank(album, QStringLiteral("Angels"), QStringLiteral("Planted tank with angelfish"),
+            &frm_TankAddNew::opt_Freshwater, {}, false);
+    addTank(album, QStringLiteral("Garden pond"), QStringLiteral("Goldfish and lilies"), &frm_TankAddNew::opt_Pond, {},
+            false);
     auto &list = Form<frm_TankMaint>();
     inDialog([&list] { list.Show_List(); },
              [&] {
