@@ -34,6 +34,7 @@ public:
     std::deque<MsgBoxAnswer> answers;         ///< of the next boxes with a choice; else the default button's
     std::deque<std::optional<QString>> files; ///< of the next save dialogs; else cancelled
     std::deque<std::optional<PrintDialogAnswer>> printers;
+    std::optional<PrintDialogAnswer> printedFromPreview; ///< what each preview is closed with
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
     bool helpIsThere = true;
     std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< what happens while a box is on the screen
@@ -88,11 +89,13 @@ public:
         targets.push_back(target);
         return std::make_unique<RecordedPages>(documents);
     }
-    void preview(const PreviewRequest &request) override
+    std::optional<PrintDialogAnswer> preview(const PreviewRequest &request) override
     {
         ++previews;
         RecordedPages pages(documents);
+        pages.setLandscape(request.printing.landscape);
         request.print(pages);
+        return printedFromPreview;
     }
     bool showHelp(const HelpRequest &request) override
     {
