@@ -31,7 +31,7 @@ int main(int argc, char **argv)
             globals.gDatabase->Close();
     });
     try {
-        if (!folder.open(line.folder.isEmpty() ? KeepersFolder::usual() : line.folder, DataFolder()))
+        if (!folder.open(KeepersFolder::choose(line.folder), DataFolder()))
             return 1;
         Form<frm_OMKMDIMain>().MDIForm_Load();
     } catch (const RuntimeFailure &failure) {

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPrinter>
 #include <QPushButton>
 #include <QRandomGenerator>
 
@@ -80,17 +81,6 @@ constexpr BoxButton boxButtons[] = {
     {omkSkipDelete, QMessageBox::NoButton, "&Delete", QMessageBox::DestructiveRole, MsgBoxAnswer::Delete, false},
 };
 
-std::optional<QString> askPdfName(QWidget *parent, const PrintDialogRequest &request)
-{
-    QString name = QFileDialog::getSaveFileName(parent, QStringLiteral("No printer is set up: save as PDF"),
-                                                request.documentName + u".pdf", QStringLiteral("PDF files (*.pdf)"));
-    if (name.isEmpty())
-        return {};
-    if (!name.endsWith(u".pdf", Qt::CaseInsensitive))
-        name += u".pdf";
-    return name;
-}
-
 } // namespace
 
 DesktopDoors::DesktopDoors() : m_settings(std::make_unique<SettingsStore>(SettingsStore::userFileName())) {}
@@ -160,22 +150,33 @@ std::optional<QString> DesktopDoors::saveDialog(const SaveDialogRequest &request
 
 std::optional<PrintDialogAnswer> DesktopDoors::printDialog(const PrintDialogRequest &request)
 {
-    const ActivityKeeper keeper;
-    if (HasPrinters())
-        return AskPrinter(keeper.window(), request);
-    const auto name = askPdfName(keeper.window(), request);
-    return name ? std::optional(PrintDialogAnswer{1, 0, 0, {}, *name}) : std::nullopt;
+    return askWhere(request, PrinterFor(request));
+}
+
+std::optional<PrintDialogAnswer> DesktopDoors::askWhere(const PrintDialogRequest &request,
+                                                        const std::shared_ptr<QPrinter> &printer)
+{
+    if (HasPrinters()) {
+        const ActivityKeeper keeper;
+        return AskPrinter(keeper.window(), request, printer);
+    }
+    const auto name = saveDialog(AskForPdf(QStringLiteral("No printer is set up: save as PDF"), request.documentName));
+    return name ? std::optional(PrintDialogAnswer{1, 0, 0, {{}, *name}}) : std::nullopt;
 }
 
 std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
 {
-    return target.pdfFileName.isEmpty() ? PagesOnPrinter(target.printerName) : PagesInPdf(target.pdfFileName);
+    if (target.pdfFileName.isEmpty())
+        return PagesOnPrinter(target.printer);
+    return PagesInPdf(target.pdfFileName, target.printer ? std::optional(target.printer->pageLayout()) : std::nullopt);
 }
 
-void DesktopDoors::preview(const PreviewRequest &request)
+std::optional<PrintDialogAnswer> DesktopDoors::preview(const PreviewRequest &request)
 {
     const ActivityKeeper keeper;
-    ShowPreview(keeper.window(), {request.title, guarded([&request](PageSink &pages) { request.print(pages); })});
+    return ShowPreview(keeper.window(),
+                       {request.printing, guarded([&request](PageSink &pages) { request.print(pages); })},
+                       [&](const std::shared_ptr<QPrinter> &printer) { return askWhere(request.printing, printer); });
 }
 
 bool DesktopDoors::showHelp(const HelpRequest &request)

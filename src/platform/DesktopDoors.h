@@ -19,13 +19,17 @@ public:
     std::optional<QString> saveDialog(const SaveDialogRequest &request) override;
     std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override;
     std::unique_ptr<PageSink> openPages(const PageTarget &target) override;
-    void preview(const PreviewRequest &request) override;
+    std::optional<PrintDialogAnswer> preview(const PreviewRequest &request) override;
     bool showHelp(const HelpRequest &request) override;
     QDateTime now() override;
     double random() override;
     SettingsStore &settings() override { return *m_settings; }
 
 private:
+    /// The dialog of a printer that is set up so far; where the machine has none, that of a PDF.
+    std::optional<PrintDialogAnswer> askWhere(const PrintDialogRequest &request,
+                                              const std::shared_ptr<QPrinter> &printer);
+
     std::unique_ptr<SettingsStore> m_settings;
     std::unique_ptr<HelpViewer> m_help; ///< made when help is asked for the first time
 };

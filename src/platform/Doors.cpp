@@ -17,6 +17,11 @@ Doors &Doors::current()
 
 Doors *Doors::install(Doors *doors) { return std::exchange(installed, doors); }
 
+SaveDialogRequest AskForPdf(const QString &title, const QString &documentName)
+{
+    return {title, documentName + u".pdf", QStringLiteral("PDF files (*.pdf)"), QStringLiteral("pdf"), true};
+}
+
 MsgBoxAnswer MsgBox(const QString &text, int flags, const QString &title, const QString &details)
 {
     return Doors::current().msgBox({text, flags, title, details});

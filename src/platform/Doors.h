@@ -11,6 +11,7 @@
 #include <QString>
 
 class PageSink;
+class QPrinter;
 class RuntimeFailure;
 class SettingsStore;
 
@@ -51,6 +52,9 @@ struct SaveDialogRequest
     bool askOverwrite = true;
 };
 
+/// The dialog that names a PDF.
+SaveDialogRequest AskForPdf(const QString &title, const QString &documentName);
+
 struct PrintDialogRequest
 {
     QString title;
@@ -58,25 +62,25 @@ struct PrintDialogRequest
     QString documentName; ///< offered as the name of a PDF where there is no printer
 };
 
+/// Where printed pages go: to a printer, or to a PDF where a file name is given.
+struct PageTarget
+{
+    std::shared_ptr<QPrinter> printer; ///< as the dialog left it; null: the one that is the default
+    QString pdfFileName;               ///< its pages lie as those of the printer, where there is one
+    bool keepsOrientation = false;     ///< the keeper saw in a preview how the pages lie, and so they are printed
+};
+
 struct PrintDialogAnswer
 {
     int copies = 1;
     int fromPage = 0; ///< 0: all pages
     int toPage = 0;
-    QString printerName; ///< empty where the output is a PDF
-    QString pdfFileName;
-};
-
-/// Where printed pages go: to a printer, or to a PDF where a file name is given.
-struct PageTarget
-{
-    QString printerName;
-    QString pdfFileName;
+    PageTarget target = {};
 };
 
 struct PreviewRequest
 {
-    QString title;
+    PrintDialogRequest printing; ///< what the preview shows, and is asked where the keeper prints it from there
     /// Prints the whole document; may be called again and again.
     std::function<void(PageSink &)> print;
 };
@@ -102,8 +106,9 @@ public:
     virtual std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) = 0;
     /// Opens pages to print on. A PDF file appears only when its document has ended, and is complete then.
     virtual std::unique_ptr<PageSink> openPages(const PageTarget &target) = 0;
-    /// Shows a document on the screen and waits until the keeper has closed it.
-    virtual void preview(const PreviewRequest &request) = 0;
+    /// Shows a document on the screen, its pages as the request says until the keeper turns them, and waits until it is
+    /// closed. An answer where the keeper then wants it printed.
+    virtual std::optional<PrintDialogAnswer> preview(const PreviewRequest &request) = 0;
     /// Opens the help beside whatever is in front, and does not wait. False where there is no help file; throws
     /// RuntimeFailure where it cannot be shown.
     virtual bool showHelp(const HelpRequest &request) = 0;

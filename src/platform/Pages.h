@@ -27,8 +27,7 @@ class PageSink
 public:
     virtual ~PageSink() = default;
 
-    /// Before a document begins: the pages' orientation, which width() and height() follow. Once it has ended, its
-    /// pages stay as they are.
+    /// Outside of a document: the pages' orientation, which width() and height() follow.
     virtual void setLandscape(bool landscape) = 0;
     virtual double width() const = 0;
     virtual double height() const = 0;

@@ -1,5 +1,9 @@
 #include "platform/PaintedPages.h"
 
+#include <cerrno>
+
+#include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -20,16 +24,32 @@ QFont fontOf(const PageFont &font)
     return made;
 }
 
+QPageLayout usualLayout()
+{
+    const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageLayout(QPageSize(american ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
+                       QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
+}
+
+/// What a file met. It keeps the system's words, but not the number that they stand for.
+Failure failureOf(const QFileDevice &file)
+{
+    if (!QFileInfo(file.fileName()).absoluteDir().exists())
+        return Failure::PathNotFound;
+    for (const int full : {ENOSPC, EDQUOT, EFBIG})
+        if (file.errorString() == qt_error_string(full))
+            return Failure::DiskFull;
+    return Failure::PermissionDenied;
+}
+
 class PdfPages : public PaintedPages
 {
 public:
-    explicit PdfPages(const QString &fileName) : m_file(fileName), m_writer(&m_file)
+    PdfPages(const QString &fileName, const QPageLayout &layout) : m_file(fileName), m_writer(&m_file)
     {
         if (!m_file.open(QIODevice::WriteOnly))
             throw failure();
-        const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-        m_writer.setPageSize(QPageSize(american ? QPageSize::Letter : QPageSize::A4));
-        m_writer.setPageMargins(QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
+        m_writer.setPageLayout(layout);
         m_writer.setResolution(pdfResolution);
         m_writer.setCreator(QStringLiteral("Ostrelmark"));
     }
@@ -41,7 +61,10 @@ public:
     void endDocument() override
     {
         PaintedPages::endDocument();
-        if (!m_file.commit())
+        const bool isWritten = m_file.flush();
+        if (!isWritten)
+            m_file.flush(); // a write that was only cut short gives no reason; the next one does
+        if (!isWritten || m_file.error() != QFileDevice::NoError || !m_file.commit())
             throw failure();
     }
 
@@ -53,7 +76,7 @@ private:
     RuntimeFailure failure() const
     {
         return RuntimeFailure(
-            Failure::PermissionDenied,
+            failureOf(m_file),
             QStringLiteral("\"%1\" could not be written: %2").arg(m_file.fileName(), m_file.errorString()));
     }
     QSaveFile m_file;
@@ -64,8 +87,6 @@ private:
 
 void PaintedPages::setLandscape(bool landscape)
 {
-    if (m_ended)
-        return; // a preview asks the device how its pages lie when all are painted
     device().setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
@@ -91,11 +112,7 @@ void PaintedPages::newPage()
         throw RuntimeFailure(Failure::DeviceError, QStringLiteral("The printer took no further page."));
 }
 
-void PaintedPages::endDocument()
-{
-    m_painter.end();
-    m_ended = true;
-}
+void PaintedPages::endDocument() { m_painter.end(); }
 
 void PaintedPages::text(double x, double y, const PageFont &font, const QString &text)
 {
@@ -117,4 +134,7 @@ void PaintedPages::picture(double x, double y, const QSizeF &size, const PagePic
     m_painter.restore();
 }
 
-std::unique_ptr<PageSink> PagesInPdf(const QString &fileName) { return std::make_unique<PdfPages>(fileName); }
+std::unique_ptr<PageSink> PagesInPdf(const QString &fileName, const std::optional<QPageLayout> &layout)
+{
+    return std::make_unique<PdfPages>(fileName, layout.value_or(usualLayout()));
+}

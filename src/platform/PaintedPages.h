@@ -2,9 +2,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
+#include <QPageLayout>
 #include <QPainter>
 
 #include "platform/Pages.h"
@@ -32,8 +34,8 @@ protected:
 
 private:
     QFontMetricsF metrics(const PageFont &font) const;
-    bool m_ended = false;
 };
 
-/// Pages in a PDF file, there when its document has ended.
-std::unique_ptr<PageSink> PagesInPdf(const QString &fileName);
+/// Pages in a PDF file, there when its document has ended; of the usual paper where no layout is given. Throws
+/// PermissionDenied, PathNotFound or DiskFull, as endDocument().
+std::unique_ptr<PageSink> PagesInPdf(const QString &fileName, const std::optional<QPageLayout> &layout = {});

@@ -1,10 +1,12 @@
 #include "platform/Paper.h"
 
+#include <QAction>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPrintPreviewDialog>
 
+#include "platform/Guarded.h"
 #include "platform/PaintedPages.h"
 
 namespace {
@@ -12,59 +14,82 @@ namespace {
 class PrinterPages : public PaintedPages
 {
 public:
-    explicit PrinterPages(QPrinter &printer) : m_printer(printer) {}
-    explicit PrinterPages(std::unique_ptr<QPrinter> printer) : m_owned(std::move(printer)), m_printer(*m_owned) {}
+    explicit PrinterPages(std::shared_ptr<QPrinter> printer) : m_printer(std::move(printer)) {}
     ~PrinterPages() override
     {
         if (!m_painter.isActive())
             return;
-        m_printer.abort(); // given up half-way
+        m_printer->abort(); // given up half-way
         m_painter.end();
     }
 
 protected:
-    QPagedPaintDevice &device() const override { return m_printer; }
-    void setTitle(const QString &title) override { m_printer.setDocName(title); }
+    QPagedPaintDevice &device() const override { return *m_printer; }
+    void setTitle(const QString &title) override { m_printer->setDocName(title); }
 
 private:
-    std::unique_ptr<QPrinter> m_owned;
-    QPrinter &m_printer;
+    std::shared_ptr<QPrinter> m_printer;
 };
+
+/// The toolkit's own way would ask for a PDF by a name that has not got its suffix yet, and print copies as one
+/// document.
+void replacePrint(QPrintPreviewDialog &dialog, const std::function<void()> &print)
+{
+    for (QAction *action : dialog.findChildren<QAction *>()) {
+        if (action->text() != QPrintPreviewDialog::tr("Print"))
+            continue;
+        action->disconnect(&dialog);
+        QObject::connect(action, &QAction::triggered, &dialog, guarded(print));
+    }
+}
 
 } // namespace
 
 bool HasPrinters() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 
-std::optional<PrintDialogAnswer> AskPrinter(QWidget *parent, const PrintDialogRequest &request)
+std::shared_ptr<QPrinter> PrinterFor(const PrintDialogRequest &request)
 {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(request.documentName);
-    printer.setPageOrientation(request.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    QPrintDialog dialog(&printer, parent);
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(request.documentName);
+    printer->setPageOrientation(request.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    return printer;
+}
+
+std::optional<PrintDialogAnswer> AskPrinter(QWidget *parent, const PrintDialogRequest &request,
+                                            std::shared_ptr<QPrinter> printer)
+{
+    QPrintDialog dialog(printer.get(), parent);
     dialog.setWindowTitle(request.title);
     dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    return PrintDialogAnswer{
-        qMax(1, printer.copyCount()), printer.fromPage(), printer.toPage(), printer.printerName(), {}};
+    const int copies = qMax(1, printer->copyCount());
+    printer->setCopyCount(1);
+    return PrintDialogAnswer{copies, printer->fromPage(), printer->toPage(), {std::move(printer), {}}};
 }
 
-std::unique_ptr<PageSink> PagesOnPrinter(const QString &printerName)
+std::unique_ptr<PageSink> PagesOnPrinter(std::shared_ptr<QPrinter> printer)
 {
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setPrinterName(printerName);
-    return std::make_unique<PrinterPages>(std::move(printer));
+    return std::make_unique<PrinterPages>(printer ? std::move(printer) : PrinterFor({}));
 }
 
-std::unique_ptr<PageSink> PagesOnPrinter(QPrinter &printer) { return std::make_unique<PrinterPages>(printer); }
-
-void ShowPreview(QWidget *parent, const PreviewRequest &request)
+std::optional<PrintDialogAnswer> ShowPreview(QWidget *parent, const PreviewRequest &request, const AskWhere &where)
 {
-    QPrinter printer(QPrinter::HighResolution);
-    QPrintPreviewDialog dialog(&printer, parent);
-    dialog.setWindowTitle(request.title);
+    const auto printer = PrinterFor(request.printing);
+    QPrintPreviewDialog dialog(printer.get(), parent);
+    dialog.setWindowTitle(request.printing.documentName);
     dialog.resize(900, 700);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&request](QPrinter *pages) { request.print(*PagesOnPrinter(*pages)); });
+                     [&] { request.print(*PagesOnPrinter(printer)); });
+    std::optional<PrintDialogAnswer> answer;
+    replacePrint(dialog, [&] {
+        answer = where(printer);
+        if (!answer)
+            return;
+        answer->target.printer = printer;
+        answer->target.keepsOrientation = true;
+        dialog.accept();
+    });
     dialog.exec();
+    return answer;
 }

@@ -1,5 +1,5 @@
 // What all printouts share: the print dialog under its title, copies as documents of their own, each from a fresh
-// query; or the preview, or a PDF. A printout is a Report: it opens its rows, tells whether there are any, and prints
+// query and of the pages that were chosen; or the preview, from which it can be printed as well, or a PDF. A printout is a Report: it opens its rows, tells whether there are any, and prints
 // them.
 #pragma once
 

@@ -18,12 +18,27 @@ namespace {
 
 const QString databaseName = QStringLiteral("OM.MDB");
 
+/// What a logbook leaves in its folder beside the database: name files, copies, the file from before an upgrade, and a
+/// journal, whose pages must not come into a new database. In any case of letters.
+const QStringList tracesOfUse{QStringLiteral("NAMES?W.TXT"), QStringLiteral("copies"), QStringLiteral("OM-*.MDB"),
+                              QStringLiteral("OM.MDB-journal")};
+
+/// Only where nothing shows that there was a database before: an empty one in its place would look like lost data.
 void makeDatabase(const QDir &folder)
 {
     const QString name = folder.filePath(databaseName);
-    // A journal without its database: that one was lost, and what the journal holds must not come into a new one.
-    if (FindFile(name).isEmpty() && FindFile(name + u"-journal").isEmpty())
-        CreateDatabase(name);
+    if (!FindFile(name).isEmpty())
+        return;
+    const QStringList traces =
+        folder.entryList(tracesOfUse, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    if (!traces.isEmpty())
+        throw RuntimeFailure(
+            Failure::CouldNotFindFile,
+            QStringLiteral("The database %1 was looked for in the folder %2. It is not there, but the folder was used "
+                           "before: it holds %3.\n\nPut %1, or a backup under that name, into the folder and start "
+                           "again. To begin with an empty logbook, move what is named above to another place first.")
+                .arg(databaseName, folder.path(), traces.join(QStringLiteral(", "))));
+    CreateDatabase(name);
 }
 
 /// The lists of names serve typing only: without them, the windows that read them say what is missing.
@@ -42,8 +57,12 @@ KeepersFolder::~KeepersFolder()
         ::close(m_lock);
 }
 
-QString KeepersFolder::usual()
+QString KeepersFolder::choose(const QString &argument)
 {
+    if (!argument.isEmpty())
+        return argument;
+    if (!FindFile(databaseName).isEmpty())
+        return QDir::currentPath();
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/ostrelmark";
 }
 
@@ -64,7 +83,7 @@ bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
                vbInformation);
         return false;
     }
-    makeDatabase(place);
+    makeDatabase(place); // first: name files without a database tell of one that was lost
     copyNameFiles(QDir(dataFolder), place);
     if (!QDir::setCurrent(place.path()))
         throw RuntimeFailure(Failure::PermissionDenied,

@@ -1,6 +1,7 @@
 // The keeper's folder, the current directory of the program: made at the first start with an empty database and the
 // lists of names, and open in one Ostrelmark at a time. main() opens it before the main window loads, which makes
-// nothing itself and fails where there is no database. A file that is there is never overwritten.
+// nothing itself and fails where there is no database. A file that is there is never overwritten, and a database that
+// was lost is never replaced by an empty one.
 #pragma once
 
 #include <QString>
@@ -13,11 +14,13 @@ public:
     KeepersFolder(const KeepersFolder &) = delete;
     KeepersFolder &operator=(const KeepersFolder &) = delete;
 
-    /// Where the desktop keeps such data of its user: ~/.local/share/ostrelmark, or in $XDG_DATA_HOME.
-    static QString usual();
+    /// The folder given as argument; without one the current directory, if it holds a database; else the keeper's usual
+    /// one, ~/.local/share/ostrelmark, or in $XDG_DATA_HOME.
+    static QString choose(const QString &argument);
 
     /// Makes what is missing, the name files from `dataFolder`, and goes into the folder. False where another program
-    /// has it open, after a box that says so. Throws RuntimeFailure where folder or database cannot be made.
+    /// has it open, after a box that says so. Throws RuntimeFailure where folder or database cannot be made, and
+    /// CouldNotFindFile where the folder was used before and has lost its database.
     bool open(const QString &folder, const QString &dataFolder);
 
 private:

@@ -55,6 +55,17 @@ frm_Waterlog *visibleLogbook()
     return logbook && logbook->isShown() ? logbook : nullptr;
 }
 
+/// Why the database could not be opened after a backup, and what became of the backup.
+QString withBackup(const RuntimeFailure &notOpened, const std::optional<RuntimeFailure> &failure, const QString &target)
+{
+    const QString outcome = failure ? QStringLiteral("not backed up: ") + failure->description()
+                                    : QStringLiteral("backed up to %1.").arg(QDir::toNativeSeparators(target));
+    return QStringLiteral(
+               "The database was %1\n\nIt could not be opened again afterwards. Each command from now on tries it "
+               "once more, so mend what is told here and go on:\n%2")
+        .arg(outcome, notOpened.description().section(u'\n', 1));
+}
+
 void tellNoBackup(const RuntimeFailure &failure)
 {
     Beep();
@@ -110,14 +121,18 @@ void frm_OMKMDIMain::backUpTo(const QString &target)
     std::optional<RuntimeFailure> failure;
     {
         const HourGlass waiting;
-        g.gDatabase->Close(); // and every recordset lapses
+        g.gDatabase->LetGo(); // and every recordset lapses
         try {
             BackUpDatabase(g.gDatabase->fileName(), target);
         } catch (const RuntimeFailure &e) {
             failure = e;
         }
+    }
+    try {
         // Before the box: the window in front may ask the database for something once the box is gone.
-        g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
+        g.gDatabase->OpenAgain();
+    } catch (const RuntimeFailure &notOpened) {
+        throw RuntimeFailure(notOpened.number(), withBackup(notOpened, failure, target));
     }
     if (failure)
         return tellNoBackup(*failure);

@@ -113,6 +113,14 @@ void requireQuery(const Statement &statement, const QString &sql)
 
 std::unique_ptr<Database> Database::OpenDatabase(const QString &fileName, Access access)
 {
+    std::unique_ptr<Database> database(new Database);
+    database->m_access = access;
+    database->connect(fileName);
+    return database;
+}
+
+void Database::connect(const QString &fileName)
+{
     const QString path = FindFile(fileName);
     if (path.isEmpty()) {
         const QFileInfo wanted(fileName);
@@ -122,18 +130,16 @@ std::unique_ptr<Database> Database::OpenDatabase(const QString &fileName, Access
                                  .arg(name, QDir::toNativeSeparators(wanted.absolutePath())));
     }
     requireWritable(path);
-    std::unique_ptr<Database> database(new Database);
-    database->m_fileName = path;
-    database->m_connection = std::make_shared<Connection>(path);
-    Connection &connection = *database->m_connection;
-    requireOurHeader(connection, path);
+    const auto connection = std::make_shared<Connection>(path);
+    requireOurHeader(*connection, path);
     const QString doing = QStringLiteral("Opening the database %1.").arg(path);
-    connection.run("PRAGMA cell_size_check = ON; PRAGMA foreign_keys = OFF; PRAGMA synchronous = EXTRA", doing);
-    if (access == Access::Exclusive)
-        connection.run("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT", doing);
-    requireWholeContent(database->m_connection, path);
-    connection.run("PRAGMA journal_mode = DELETE", doing);
-    return database;
+    connection->run("PRAGMA cell_size_check = ON; PRAGMA foreign_keys = OFF; PRAGMA synchronous = EXTRA", doing);
+    if (m_access == Access::Exclusive)
+        connection->run("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT", doing);
+    requireWholeContent(connection, path);
+    connection->run("PRAGMA journal_mode = DELETE", doing);
+    m_fileName = path;
+    m_connection = connection;
 }
 
 Database::~Database()
@@ -144,8 +150,10 @@ Database::~Database()
 
 void Database::setBusyTimeout(int milliseconds) { Connection::busyTimeout = milliseconds; }
 
-std::shared_ptr<Connection> Database::connection() const
+std::shared_ptr<Connection> Database::connection()
 {
+    if (!m_connection && m_opensAgain)
+        connect(m_fileName);
     if (!m_connection)
         throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("The database is closed."));
     return m_connection;
@@ -188,7 +196,7 @@ int Database::Execute(const QString &sql, const Parameters &parameters)
     return statement.run();
 }
 
-QStringList Database::TableDefs() const
+QStringList Database::TableDefs()
 {
     Statement query(
         connection(),
@@ -202,7 +210,7 @@ QStringList Database::TableDefs() const
     return names;
 }
 
-QString Database::tableName(const QString &table) const
+QString Database::tableName(const QString &table)
 {
     for (const QString &name : TableDefs())
         if (name.compare(table, Qt::CaseInsensitive) == 0)
@@ -210,7 +218,7 @@ QString Database::tableName(const QString &table) const
     throw RuntimeFailure(Failure::NoSuchColumn, QStringLiteral("There is no table \"%1\".").arg(table));
 }
 
-std::vector<FieldDef> Database::Fields(const QString &table) const
+std::vector<FieldDef> Database::Fields(const QString &table)
 {
     Statement query(connection(), QStringLiteral("SELECT name, type FROM pragma_table_info(?)"),
                     QStringLiteral("Reading the columns of %1.").arg(table));
@@ -228,11 +236,20 @@ void Database::Append(const QString &table, const FieldDef &field)
                 .arg(quoted(tableName(table)), quoted(field.Name), declarationOf(field)));
 }
 
+void Database::LetGo()
+{
+    Close();
+    m_opensAgain = true;
+}
+
+void Database::OpenAgain() { connection(); }
+
 void Database::Close()
 {
     if (m_connection)
         m_connection->close();
     m_connection.reset();
+    m_opensAgain = false;
 }
 
 Database::Transaction::Transaction(Database &database) : m_connection(database.connection())

@@ -54,13 +54,18 @@ public:
     int Execute(const QString &sql, const Parameters &parameters = {});
 
     /// Names of the tables.
-    QStringList TableDefs() const;
+    QStringList TableDefs();
     /// Columns of a table; the case of its name does not matter. Throws NoSuchColumn if there is no such table, as does
     /// Append().
-    std::vector<FieldDef> Fields(const QString &table) const;
+    std::vector<FieldDef> Fields(const QString &table);
     /// Adds a column to a table; it is Null in every row. A text of size 0 gets the default size of 255.
     void Append(const QString &table, const FieldDef &field);
 
+    /// Closes the file for as long as others work on it; recordsets lapse. The next use opens it again. If that fails,
+    /// it throws as OpenDatabase does, and the use after that tries once more.
+    void LetGo();
+    /// Opens it again at once.
+    void OpenAgain();
     /// Rolls back an open transaction and closes the file. Every later use throws ObjectNotSet. The destructor closes
     /// as well.
     void Close();
@@ -84,9 +89,13 @@ public:
 
 private:
     Database() = default;
-    std::shared_ptr<Connection> connection() const;
-    QString tableName(const QString &table) const;
+    void connect(const QString &fileName);
+    /// The open one; opens the file again where it was let go.
+    std::shared_ptr<Connection> connection();
+    QString tableName(const QString &table);
 
     std::shared_ptr<Connection> m_connection;
     QString m_fileName;
+    Access m_access = Access::Shared;
+    bool m_opensAgain = false; ///< it was let go, not closed
 };

@@ -177,7 +177,7 @@ QStringList Year::onScreen()
 QStringList Year::onPaper(const QString &tank)
 {
     keeper.doors.documents.clear();
-    keeper.doors.printers = {PrintDialogAnswer{1, 0, 0, "Laser", {}}};
+    keeper.doors.printers = {PrintDialogAnswer{1}};
     bool ofWork = false, ofTank = false;
     give<frm_OMKLogPrint>("printentries", 0, [&](frm_OMKLogPrint &w) {
         ofWork = w.opt_Maintenance->isChecked();

@@ -21,7 +21,7 @@ struct LogReports : StoreTest
     }
     const std::vector<PrintedDocument> &print(LogTab log, const std::optional<QString> &tank)
     {
-        doors.printers = {PrintDialogAnswer{1, 0, 0, "Laser", {}}};
+        doors.printers = {PrintDialogAnswer{1}};
         RunReport(MakeLogReport(log, *db, "DD.MM.YY", tank), PrintTo::Printer);
         return doors.documents;
     }

@@ -1,7 +1,8 @@
-// The verbs of a report: pages that feed themselves, cells that wrap.
+// The verbs of a report: pages that feed themselves, cells that wrap. And its run: copies, chosen pages, the preview.
 #include <gtest/gtest.h>
 
 #include "platform/Printer.h"
+#include "platform/PrintJob.h"
 #include "support/ScriptedDoors.h"
 
 namespace {
@@ -27,7 +28,68 @@ QStringList texts(const Bench &bench, size_t from, size_t to)
     return texts;
 }
 
+/// A report of three landscape pages, which says so itself.
+const Report threePages{"Print Log", "Log", true, [] { return true; },
+                        [](Printer &page) {
+                            page.setLandscape(true);
+                            page.Print("1");
+                            for (const char *number : {"2", "3"}) {
+                                page.NewPage();
+                                page.Print(number);
+                            }
+                            page.EndDoc();
+                            page.setLandscape(false);
+                        }};
+
+/// What the report was printed as: its pages, documents between bars.
+QString printed(ScriptedDoors &doors)
+{
+    QStringList documents;
+    for (const PrintedDocument &document : std::exchange(doors.documents, {})) {
+        EXPECT_TRUE(document.ended);
+        QString pages = document.landscape ? "landscape " : "portrait ";
+        for (const PrintedPage &page : document.pages)
+            pages += page.texts.empty() ? "empty" : page.texts.front().text;
+        documents << pages;
+    }
+    return documents.join('|');
+}
+
 } // namespace
+
+TEST(PrintJob, EachCopyHasTheChosenPagesAlone)
+{
+    ScriptedDoors doors;
+    const QString beyond = "0|Note!/64/The pages 4 to 5 were chosen, but the last page is 3. Nothing was printed.";
+    const struct
+    {
+        PrintDialogAnswer answer;
+        QString printed, told = "0";
+    } cases[] = {
+        {{1, 0, 0, {}}, "landscape 123"}, {{2, 2, 2, {}}, "landscape 2|landscape 2"},
+        {{1, 1, 2, {}}, "landscape 12"},  {{1, 3, 9, {}}, "landscape 3"},
+        {{2, 4, 5, {}}, "", beyond},
+    };
+    for (const auto &[answer, pages, told] : cases) {
+        SCOPED_TRACE(pages.toStdString());
+        doors.printers = {answer};
+        const bool isPrinted = RunReport(threePages, PrintTo::Printer) == PrintOutcome::Printed;
+        EXPECT_EQ(isPrinted, !pages.isEmpty());
+        EXPECT_EQ(printed(doors), pages);
+        EXPECT_EQ(doors.told(), told);
+    }
+}
+
+TEST(PrintJob, APreviewBeginsAsTheReportLiesAndIsPrintedAsItWasSeen)
+{
+    ScriptedDoors doors;
+    RunReport(threePages, PrintTo::Window);
+    EXPECT_EQ(printed(doors), "landscape 123");
+    doors.printedFromPreview = {2, 2, 3, {{}, {}, true}}; // turned to portrait there
+    RunReport(threePages, PrintTo::Window);
+    EXPECT_EQ(printed(doors), "landscape 123|portrait 23|portrait 23");
+    EXPECT_TRUE(doors.printDialogs.empty()) << "the preview has asked";
+}
 
 TEST(PrintedPages, CellsWrapInsideTheirColumnAndLoseNothing)
 {

@@ -1,9 +1,25 @@
 // The files that the program writes for a keeper beside his database: PDFs and settings. A failure leaves what was
 // there.
+#include <csignal>
+
+#include <sys/resource.h>
+
 #include <gtest/gtest.h>
 
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPrinter>
+#include <QPrintPreviewDialog>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/DesktopDoors.h"
+#include "platform/Doors.h"
 
 #include "platform/PaintedPages.h"
 #include "platform/Paper.h"
@@ -39,26 +55,133 @@ TEST_F(WrittenFiles, APdfIsThereWhenItsDocumentHasEnded)
     EXPECT_TRUE(content().contains("/Count 2")) << "two pages";
 }
 
-TEST_F(WrittenFiles, PagesKeepTheOrientationTheyWerePaintedIn)
+TEST_F(WrittenFiles, APdfThatCannotBeWrittenSaysWhy)
 {
-    QPrinter printer;
-    printer.setOutputFileName(name);
-    const auto pages = PagesOnPrinter(printer);
-    pages->setLandscape(true);
-    pages->beginDocument("Log");
-    pages->endDocument();
-    pages->setLandscape(false); // as a report leaves its printer; a preview asks afterwards
-    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
-}
-
-TEST_F(WrittenFiles, APdfInAFolderThatIsNotThereOrGoesAwayIsAFailure)
-{
-    EXPECT_THROW(PagesInPdf(folder.filePath("none/log.pdf")), RuntimeFailure);
+    const auto number = [](const auto &work) {
+        try {
+            work();
+        } catch (const RuntimeFailure &failure) {
+            return int(failure.number());
+        }
+        return 0;
+    };
+    EXPECT_EQ(number([&] { PagesInPdf(folder.filePath("none/log.pdf")); }), int(Failure::PathNotFound));
     QDir(folder.path()).mkdir("usb");
-    const auto pages = PagesInPdf(folder.filePath("usb/log.pdf"));
+    EXPECT_EQ(number([&] { PagesInPdf(folder.filePath("usb")); }), int(Failure::PermissionDenied)) << "a folder";
+    auto pages = PagesInPdf(folder.filePath("usb/log.pdf"));
     pages->beginDocument("Log");
     ASSERT_TRUE(QDir(folder.filePath("usb")).removeRecursively());
-    EXPECT_THROW(pages->endDocument(), RuntimeFailure);
+    EXPECT_EQ(number([&] { pages->endDocument(); }), int(Failure::PathNotFound));
+
+    writeFile(name, "an older log");
+    struct rlimit former = {};
+    ::getrlimit(RLIMIT_FSIZE, &former);
+    const struct rlimit full = {100, former.rlim_max};
+    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
+    pages = PagesInPdf(name);
+    pages->beginDocument("Log");
+    ::setrlimit(RLIMIT_FSIZE, &full);
+    const int told = number([&] { pages->endDocument(); });
+    pages.reset();
+    ::setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, formerHandler);
+    EXPECT_EQ(told, int(Failure::DiskFull));
+    EXPECT_EQ(content(), "an older log");
+    EXPECT_EQ(contentOf(folder.path()).size(), 1u);
+}
+
+TEST_F(WrittenFiles, APdfIsAskedForByTheNameThatItGets)
+{
+    qputenv("CUPS_SERVER", "/nowhere"); // no printer, whatever the machine has
+    const QString mine = folder.filePath("mine.pdf");
+    writeFile(mine, "another report");
+    DesktopDoors doors;
+    QStringList questions;
+    QTimer keeper;
+    QObject::connect(&keeper, &QTimer::timeout, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (auto *question = qobject_cast<QMessageBox *>(dialog)) {
+            questions << question->text();
+            question->button(QMessageBox::No)->click();
+        } else if (auto *files = qobject_cast<QFileDialog *>(dialog); files && questions.isEmpty()) {
+            files->setDirectory(folder.path());
+            auto *box = files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            box->clear();
+            QTest::keyClicks(box, QStringLiteral("mine"));
+            QTimer::singleShot(0, box, [box] { QTest::keyClick(box, Qt::Key_Return); });
+        } else if (files) {
+            files->reject();
+        }
+    });
+    keeper.start(20);
+    EXPECT_EQ(doors.saveDialog(AskForPdf("Print Log", "Log")), std::nullopt);
+    EXPECT_EQ(questions.size(), 1);
+    EXPECT_TRUE(std::exchange(questions, {}).join(' ').contains("mine.pdf"));
+    EXPECT_FALSE(doors.printDialog({"Print Log", false, "Log"})) << "no printer";
+    EXPECT_TRUE(questions.join(' ').contains("mine.pdf"));
+}
+
+TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
+{
+    qputenv("CUPS_SERVER", "/nowhere");
+    DesktopDoors doors;
+    Doors *former = Doors::install(&doors);
+    QStringList painted;
+    const PreviewRequest request{{"Print Log", true, "Log"}, [&](PageSink &pages) {
+                                     painted << (pages.width() > pages.height() ? "landscape" : "portrait");
+                                     pages.beginDocument("Log");
+                                     pages.text(0, 0, {"Arial", 14}, "Reef");
+                                     pages.endDocument();
+                                 }};
+    const auto button = [](QWidget *dialog, const QString &text) {
+        for (auto *action : dialog->findChildren<QAction *>())
+            if (action->text() == text)
+                return action;
+        return static_cast<QAction *>(nullptr);
+    };
+    QTimer keeper;
+    int step = 0;
+    QObject::connect(&keeper, &QTimer::timeout, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
+            files->selectFile(name + ".pdf");
+            QTest::keyClick(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+        } else if (qobject_cast<QPrintPreviewDialog *>(dialog) && !painted.isEmpty() && ++step == 1) {
+            EXPECT_TRUE(button(dialog, "Landscape")->isChecked());
+            EXPECT_EQ(painted.back(), "landscape");
+            button(dialog, "Portrait")->trigger();
+        } else if (step == 2) {
+            EXPECT_EQ(painted.back(), "portrait");
+            QMetaObject::invokeMethod(button(dialog, "Print"), "trigger", Qt::QueuedConnection);
+            step = 3;
+        }
+    });
+    keeper.start(20);
+    const auto answer = doors.preview(request);
+    Doors::install(former);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->copies, 1);
+    EXPECT_EQ(answer->target.pdfFileName, name + ".pdf");
+    EXPECT_TRUE(answer->target.keepsOrientation);
+    const auto pages = doors.openPages(answer->target);
+    EXPECT_LT(pages->width(), pages->height());
+}
+
+TEST_F(WrittenFiles, APrinterKeepsTheChosenPaper)
+{
+    const auto printer = std::make_shared<QPrinter>();
+    printer->setOutputFileName(name);
+    printer->setPageSize(QPageSize(QPageSize::A5));
+    for (int copy = 0; copy < 2; ++copy) {
+        const auto pages = PagesOnPrinter(printer);
+        pages->setLandscape(true);
+        pages->beginDocument("Log");
+        pages->text(0, 0, {"Arial", 14}, "Reef");
+        pages->endDocument();
+        pages->setLandscape(false);
+        EXPECT_TRUE(content().contains("/MediaBox [0 0 595")) << "A5, landscape";
+        QFile::remove(name);
+    }
 }
 
 TEST_F(WrittenFiles, ASettingMayHoldACommaWithoutQuotationMarks)

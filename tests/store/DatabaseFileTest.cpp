@@ -78,6 +78,23 @@ TEST_F(DatabaseFileTest, ReadOnlyAndLockedFilesAreRefused)
     EXPECT_EQ(other.run("SELECT default_salt FROM CONFIG"), "0");
 }
 
+TEST_F(DatabaseFileTest, AFileThatWasLetGoIsOpenedByItsNextUse)
+{
+    open();
+    auto lapsed = db->OpenRecordset("SELECT * FROM CONFIG");
+    const auto use = [this] { db->Execute("UPDATE CONFIG SET default_salt = 0"); };
+    db->LetGo();
+    ASSERT_TRUE(QFile::rename(path(), path("away.MDB")));
+    for (int attempt = 0; attempt < 2; ++attempt)
+        EXPECT_EQ(numberOf(use), int(Failure::CouldNotFindFile));
+    EXPECT_EQ(numberOf([this] { db->OpenAgain(); }), int(Failure::CouldNotFindFile));
+    ASSERT_TRUE(QFile::rename(path("away.MDB"), path()));
+    EXPECT_EQ(numberOf(use), 0);
+    EXPECT_EQ(numberOf([&] { lapsed.Edit(); }), int(Failure::ObjectNotSet));
+    db->Close();
+    EXPECT_EQ(numberOf(use), int(Failure::ObjectNotSet)) << "closed for good";
+}
+
 TEST_F(DatabaseFileTest, NamesAreFoundInAnyCaseAndTheExactNameWins)
 {
     ASSERT_TRUE(QFile::rename(path(), path("om.Mdb")));

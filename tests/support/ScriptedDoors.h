@@ -35,6 +35,7 @@ public:
     std::deque<MsgBoxAnswer> answers;         ///< to the next boxes with a choice; if empty, the default button's
     std::deque<std::optional<QString>> files; ///< from the next save dialogs; if empty, they are cancelled
     std::deque<std::optional<PrintDialogAnswer>> printers;
+    std::optional<PrintDialogAnswer> printedFromPreview; ///< what each preview is closed with
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
     bool helpIsThere = true;
     std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< called while a box is on the screen
@@ -89,11 +90,13 @@ public:
         targets.push_back(target);
         return std::make_unique<RecordedPages>(documents);
     }
-    void preview(const PreviewRequest &request) override
+    std::optional<PrintDialogAnswer> preview(const PreviewRequest &request) override
     {
         ++previews;
         RecordedPages pages(documents);
+        pages.setLandscape(request.printing.landscape);
         request.print(pages);
+        return printedFromPreview;
     }
     bool showHelp(const HelpRequest &request) override
     {

@@ -25,6 +25,31 @@ protected:
     }
 };
 
+TEST_F(Backup, WhereTheDatabaseCannotBeOpenedAgainItIsToldAndEachCommandTries)
+{
+    const QFile::Permissions former = QFile::permissions(path("OM.MDB"));
+    for (const QString &target : {path("to/copy.MDB"), path("none/copy.MDB")}) {
+        QFile::setPermissions("OM.MDB", QFile::ReadOwner);
+        keeper.doors.files = {target};
+        hand::choose(*main, *main->mnu_File, "mnu_FileBackup");
+        EXPECT_EQ(QFile::exists(target), target.contains("to/"));
+        ASSERT_GE(keeper.doors.failures.size(), 1u);
+        const QString told = keeper.doors.failures.front().description();
+        EXPECT_TRUE(told.startsWith("Permission denied.\nThe database was ")) << told.toStdString();
+        EXPECT_EQ(told.contains("was backed up to " + target), target.contains("to/")) << told.toStdString();
+        EXPECT_EQ(told.contains("was not backed up: Path not found"), target.contains("none")) << told.toStdString();
+        EXPECT_TRUE(told.contains("OM.MDB is read-only")) << told.toStdString();
+        keeper.told();
+        push("addentries");
+        EXPECT_EQ(keeper.told(), "0|failure 70") << "as the command would with the file open";
+        QFile::setPermissions("OM.MDB", former);
+        give<frm_WaterAddEdit>("addentries", 0, [](frm_WaterAddEdit &w) { mouse::click(w.cmd_OK); });
+        EXPECT_EQ(keeper.told(), "0");
+        keeper.doors.clock = keeper.doors.clock.addSecs(60);
+    }
+    EXPECT_EQ(keeper.count("WATERLOG"), 2);
+}
+
 TEST_F(Backup, CopiesAsksRemembersTheNameAndTellsWhatFailed)
 {
     const QString file = path("to/copy.MDB"), question = "Note!/33/The file already exists, overwrite?";

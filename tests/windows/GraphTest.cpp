@@ -163,7 +163,7 @@ TEST_F(Graph, PrintsALandscapePageForEachCopy)
         keeper.doors.answers = {answer};
         keeper.doors.printers = {std::nullopt};
         if (copies > 0)
-            keeper.doors.printers = {PrintDialogAnswer{copies, 0, 0, "Laser", {}}};
+            keeper.doors.printers = {PrintDialogAnswer{copies}};
         hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
         EXPECT_TRUE(keeper.told().startsWith("0|Maximize Window?/67/"));
         EXPECT_EQ(frame.isMaximized(), answer == MsgBoxAnswer::Yes);

@@ -48,14 +48,14 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
         SCOPED_TRACE(tab);
         hand::clickTab(*logbook->tab_logtype, tab);
         const QString document = "Ostrelmark " + logs[tab];
-        keeper.doors.printers = {PrintDialogAnswer{2, 0, 0, "Laser", {}}};
+        keeper.doors.printers = {PrintDialogAnswer{2}};
         keeper.inNext<frm_OMKLogPrint>([](frm_OMKLogPrint &w) { mouse::click(w.cmd_ok); });
         hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
         EXPECT_TRUE(isInFront(*main));
         EXPECT_EQ(printedTanks(), document + ":Reef|" + document + ":Reef");
         EXPECT_EQ(keeper.doors.printDialogs.back().title, "Print " + logs[tab]);
         EXPECT_EQ(keeper.doors.printDialogs.back().landscape, tab == 0);
-        EXPECT_EQ(keeper.doors.targets.back().printerName, "Laser");
+        EXPECT_EQ(keeper.doors.targets.back().pdfFileName, QString());
 
         print(&frm_OMKLogPrint::opt_Window, true);
         EXPECT_EQ(printedTanks(), document + ":Bowl,Reef");
@@ -72,7 +72,7 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
 TEST_F(LogPrint, AnEmptyLogIsToldOnceAndACancelledDialogPrintsNothing)
 {
     hand::clickTank(*logbook, "Pond");
-    keeper.doors.printers = {PrintDialogAnswer{2, 0, 0, "Laser", {}}};
+    keeper.doors.printers = {PrintDialogAnswer{2}};
     print(&frm_OMKLogPrint::opt_Printer);
     EXPECT_EQ(keeper.told(), "0|Note!/64/No water quality entries were found for this tank. No log was printed.");
     hand::clickTank(*logbook, "All Tanks");

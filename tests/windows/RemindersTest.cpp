@@ -216,7 +216,7 @@ TEST_F(Reminders, OnPaperAreNinetyNineOnTheFirstPageAndThenFifty)
     hand::press(Qt::Key_S, Qt::ControlModifier);
     auto &schedule = Form<frm_Schedule>();
     mouse::click(schedule.cmd_Generate);
-    keeper.doors.printers = {PrintDialogAnswer{2, 0, 0, "Laser", {}}, std::nullopt};
+    keeper.doors.printers = {PrintDialogAnswer{2}, std::nullopt};
     hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
     mouse::click(schedule.cmd_Print); // cancelled
     EXPECT_EQ(keeper.doors.printDialogs.at(0).title, "Print Maintenance Schedule");

@@ -69,9 +69,56 @@ TEST(Start, WhatCannotBeMadeFails)
     writeFile(place.path("letter"), "Dear ...");
     KeepersFolder folder;
     EXPECT_THROW(place.open(folder, "letter/logbook"), RuntimeFailure);
-    // The database was lost, and its journal is not to be played into an empty one.
-    QDir(place.top.path()).mkdir("lost");
-    writeFile(place.path("lost/om.mdb-journal"), "pages");
-    EXPECT_TRUE(place.open(folder, "lost"));
-    EXPECT_FALSE(QFile::exists("OM.MDB"));
+}
+
+TEST(Start, ALostDatabaseIsToldAndAnEmptyOneIsMadeOnlyWhereNothingTellsOfAnother)
+{
+    Place place;
+    const struct
+    {
+        const char *holds;
+        bool used;
+    } cases[] = {
+        {"NAMESSW.TXT", true},        {"namesfw.txt", true},    {"copies", true},          {"om-2026.MDB", true},
+        {"OM-version-1.0.MDB", true}, {"om.mdb-journal", true}, // not to be played into a new one
+        {"letter.txt", false},        {"TOM.MDB", false},       {"OM.MDB.new-123", false}, // a first start was killed
+    };
+    for (const auto &[holds, used] : cases) {
+        SCOPED_TRACE(holds);
+        const QString name = QStringLiteral("used-") + holds, folder = place.path(name);
+        QDir(place.top.path()).mkdir(name);
+        if (QLatin1String(holds) == QLatin1String("copies"))
+            QDir(folder).mkdir(holds);
+        else
+            writeFile(folder + '/' + holds, "content");
+        const auto before = contentOf(folder);
+        KeepersFolder keepers;
+        try {
+            EXPECT_TRUE(place.open(keepers, name));
+            EXPECT_FALSE(used);
+            EXPECT_EQ(QDir().entryList({"*.TXT", "OM.MDB"}).size(), QLatin1String(holds).endsWith(u".txt") ? 4 : 3);
+        } catch (const RuntimeFailure &failure) {
+            EXPECT_TRUE(used);
+            EXPECT_EQ(failure.number(), Failure::CouldNotFindFile);
+            for (const QString &told : {QString("OM.MDB"), folder, QString(holds)})
+                EXPECT_TRUE(failure.description().contains(told)) << failure.description().toStdString();
+            EXPECT_EQ(contentOf(folder), before);
+        }
+    }
+}
+
+TEST(Start, TheFolderIsTheArgumentOrTheCurrentOneWithADatabaseOrTheUsualOne)
+{
+    Place place;
+    for (const char *name : {"empty", "logbook", "logbook/sub"})
+        QDir(place.top.path()).mkdir(name);
+    writeFile(place.path("logbook/om.mdb"), "");
+    QDir::setCurrent(place.path("empty"));
+    EXPECT_TRUE(KeepersFolder::choose({}).endsWith("/ostrelmark"));
+    QDir::setCurrent(place.path("logbook"));
+    EXPECT_EQ(KeepersFolder::choose({}), place.path("logbook"));
+    KeepersFolder folder;
+    ASSERT_TRUE(folder.open(KeepersFolder::choose("sub"), place.path("data")));
+    EXPECT_EQ(QDir::currentPath(), place.path("logbook/sub"));
+    EXPECT_TRUE(QFile::exists("OM.MDB"));
 }
