@@ -58,6 +58,8 @@ public:
     /// Row from 1, sub-item from 0 (the row's own text). Throws SubscriptOutOfRange where there is no such row.
     QString Text(int item, int subItem = 0) const;
     QString Key(int item) const;
+    /// The row of the source, from 0, that a row shows in whatever order.
+    int SourceRow(int item) const;
     bool Selected(int item) const;
     void Select(int item); ///< and scrolls to it; 0 selects nothing
     /// The selected row, from 1; 0 where none is.
