@@ -65,6 +65,14 @@ Desk::~Desk() = default;
 
 ListView &Desk::waterList() { return *m_logbook->lstv_WaterLog; }
 
+std::shared_ptr<const Rows> Desk::waterRows() const
+{
+    return m_globals.gDatabase
+        ->OpenRecordset(QStringLiteral("SELECT * FROM waterlog WHERE tankname = ? ORDER BY logdate, logtime"),
+                        {m_globals.gTankId})
+        .rows();
+}
+
 void Desk::openFirstTank()
 {
     QTreeWidget *tree = m_logbook->TreeView1;

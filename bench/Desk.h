@@ -25,8 +25,8 @@ public:
     void openFirstTank();
     ListView &waterList();
     Globals &globals() { return m_globals; }
-    /// What the list shows.
-    std::shared_ptr<const Rows> waterRows() const { return m_globals.gRecordset.rows(); }
+    /// What the list shows, read once more.
+    std::shared_ptr<const Rows> waterRows() const;
 
 private:
     DesktopDoors m_doors;

@@ -48,8 +48,10 @@ frm_Fantasy::frm_Fantasy(Globals &globals, QWidget *parent) : ChildForm(globals,
     ud_Tanksize->setBoundBox(txt_tanksize);
     lbl_pctfull->setMinimumWidth(lbl_pctfull->fontMetrics().horizontalAdvance(QStringLiteral(" 125%")));
     setMinimumSize(smallestWindow.expandedTo(layout()->minimumSize()));
-    for (QListWidget *list : {lst_select, lst_Fantank})
+    for (QListWidget *list : {lst_select, lst_Fantank}) {
         list->viewport()->installEventFilter(this);
+        SelectWithFirstDown(*list);
+    }
     for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_Return, Qt::Key_Enter})
         OnListKey(*lst_select, key, *cmd_AddAnimal);
     OnListKey(*lst_Fantank, Qt::Key_Delete, *cmd_RemoveAnimal);

@@ -148,8 +148,10 @@ bool EntryForm::stored(const std::function<void()> &store, const QString &ifTake
     return refuse(ifTaken, box);
 }
 
-void EntryForm::showFrom(QWidget *first)
+void EntryForm::showFor(const Recordset &row, const QString &tankId, QWidget *first)
 {
+    m_row = row;
+    m_tankId = tankId;
     Form<frm_OMKMDIMain>().disablePrint();
     first->setFocus();
     ShowModal();

@@ -1,6 +1,7 @@
 // What the entry windows of the three logs have in common: date boxes in the user's order with a calendar beside them,
-// a time box, the box that refuses a value, the closing buttons. What differs (checks, their order and words) is each
-// window's own.
+// a time box, the box that refuses a value, the closing buttons; and the row that OK writes, with the tank that the
+// entry belongs to. Both are the window's own: while it is open, other windows may take another tank in hand. What
+// differs (checks, their order and words) is each window's own.
 #pragma once
 
 #include <functional>
@@ -45,8 +46,10 @@ protected:
     /// on.
     bool stored(const std::function<void()> &store, const QString &ifTaken, QWidget *box);
 
-    /// Shows the window with the focus in that box.
-    void showFrom(QWidget *first);
+    /// Shows the window with the focus in that box. `row` is what OK writes, begun by AddNew or Edit.
+    void showFor(const Recordset &row, const QString &tankId, QWidget *first);
 
     LeavingChecks m_checks;
+    Recordset m_row;
+    QString m_tankId;
 };

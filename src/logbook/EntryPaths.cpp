@@ -11,220 +11,240 @@
 #include "platform/Caption.h"
 #include "platform/Doors.h"
 #include "platform/MaskedBox.h"
-#include "platform/RuntimeFailure.h"
 #include "text/Dates.h"
 
+// In all statements "IS" finds an entry without a date or a time as well, which only another program can have written.
 struct frm_Waterlog::DeletePath
 {
     const char *table;
-    const char *condition; ///< tank, date, time
-    bool searchByName;     ///< the search names the tank by its name, so it finds a row only where name and id agree
-    const char *dateColumn;
+    const char *condition;  ///< tank, date, time
+    bool searchByName;      ///< the search names the tank by its name, so it finds a row only where name and id agree
     const char *nameColumn; ///< told in the question; null: date and time alone
 };
 
 const std::array<frm_Waterlog::DeletePath, 3> frm_Waterlog::deletePaths = {{
-    {"waterlog", "tankname = ? AND logdate = ? And logtime = ?", true, "logdate", nullptr},
-    {"Livestock", "Tankname = ? AND DateAdded = ? And TimeAdded = ?", false, "dateadded", "animalname"},
-    {"maintlog", "mainttankname = ? AND maintlogdate = ? And maintlogtime = ?", true, "maintlogdate", nullptr},
+    {"waterlog", "tankname = ? AND logdate IS ? And logtime IS ?", true, nullptr},
+    {"Livestock", "Tankname = ? AND DateAdded IS ? And TimeAdded IS ?", false, "animalname"},
+    {"maintlog", "mainttankname = ? AND maintlogdate IS ? And maintlogtime IS ?", true, nullptr},
 }};
 
 namespace {
 
-const QString waterTest = QStringLiteral("SELECT * FROM waterlog where tankname = ? AND logdate = ? And logtime = ?");
+const QString waterTest = QStringLiteral("SELECT * FROM waterlog where tankname = ? AND logdate IS ? And logtime IS ?");
 const QString livestockEntry =
-    QStringLiteral("SELECT * FROM livestock where tankname = ? AND dateadded = ? AND timeadded = ?");
+    QStringLiteral("SELECT * FROM livestock where tankname = ? AND dateadded IS ? AND timeadded IS ?");
 const QString maintEntry =
-    QStringLiteral("SELECT * FROM maintlog where mainttankname = ? And maintlogdate = ? And maintlogtime = ?");
+    QStringLiteral("SELECT * FROM maintlog where mainttankname = ? And maintlogdate IS ? And maintlogtime IS ?");
 const QString note = QStringLiteral("Note!");
 const QString ascending = QStringLiteral("ascending");
 
-/// The date or time that a list's row shows; it was made from a real one.
-template <class T> T sure(const std::optional<T> &moment, const QString &text)
-{
-    if (!moment)
-        throw RuntimeFailure(Failure::TypeMismatch, QStringLiteral("The row's \"%1\" could not be read.").arg(text));
-    return *moment;
-}
+// What does not happen where the row is not found.
+const QString deleted = QStringLiteral("deleted");
+const QString changed = QStringLiteral("changed");
 
 } // namespace
 
-QString frm_Waterlog::selectedKey(const QString &ifNone)
+std::optional<ShownEntry> frm_Waterlog::selectedEntry(const QString &ifNone)
 {
     const ListView &rows = list(tab());
-    if (rows.SelectedItem() > 0)
-        return rows.Key(rows.SelectedItem());
+    if (const int item = rows.SelectedItem()) {
+        const LogRows &shown = *m_rows[static_cast<size_t>(tab())];
+        const int row = rows.SourceRow(item);
+        return ShownEntry{shown.key(row), shown.date(row), shown.time(row)};
+    }
     g.gMessage = ifNone;
     MsgBox(g.gMessage, vbInformation, note);
     return {};
 }
 
-QDate frm_Waterlog::dateOfRow(const QString &key) const
+std::optional<QDate> frm_Waterlog::dateAsTyped(const ShownEntry &entry) const
 {
-    const QString text = NormalizeDateText(DateOfKey(key), m_shownOrder);
-    return sure(ReadDate(text), text);
+    return ReadTypedDate(DateOfKey(entry.key), m_shownOrder);
 }
 
-QDate frm_Waterlog::dateAsTyped(const QString &key) const
+Recordset frm_Waterlog::newRow(const QString &table)
 {
-    return sure(ReadTypedDate(DateOfKey(key), m_shownOrder), DateOfKey(key));
+    Recordset row = g.gDatabase->OpenForAppend(table);
+    row.AddNew();
+    return row;
 }
 
-QTime frm_Waterlog::timeOfRow(const QString &key) const { return sure(ReadTime(TimeOfKey(key)), TimeOfKey(key)); }
+std::optional<Recordset> frm_Waterlog::rowOf(const QString &sql, const Tank &tank, const ShownEntry &entry,
+                                             const std::optional<QDate> &date, const QString &undone)
+{
+    Recordset row = g.gDatabase->OpenRecordset(sql, {tank.id, date.value_or(QDate()), entry.time});
+    if (!row.isEmpty())
+        return row;
+    tellNoRow(entry, date, undone);
+    Refresh_Listview(ascending);
+    return {};
+}
 
-void frm_Waterlog::AddWaterEntry()
+void frm_Waterlog::tellNoRow(const ShownEntry &entry, const std::optional<QDate> &date, const QString &undone)
+{
+    g.gMessage = u"Nothing was " + undone + u". ";
+    if (!date || *date == entry.date) {
+        g.gMessage += u"This entry is no longer in the log as the list showed it. The list is read again.";
+    } else {
+        g.gMessage += u"The date in this row, " + DateOfKey(entry.key) + u", is read as " +
+                      Format(*date, QStringLiteral("mmmm d, yyyy")) + u" here, and there is no entry of that day at " +
+                      TimeOfKey(entry.key) + u'.';
+        if (m_shownOrder != u"MMDDYY")
+            g.gMessage += u" Choose dates with the month first in \"View\", \"Options...\", and the entry is found.";
+    }
+    Beep();
+    MsgBox(g.gMessage, vbInformation, note);
+}
+
+void frm_Waterlog::AddWaterEntry(const Tank &tank)
 {
     auto &window = Form<frm_WaterAddEdit>();
     window.setDateOrder();
     window.setDefaults(g.gDefaultWaterType);
-    window.setWindowTitle(u"Add a log entry for " + g.gTankName + u" Tank");
-    g.gRecordset = g.gDatabase->OpenForAppend(QStringLiteral("waterlog"));
-    g.gRecordset.AddNew();
-    window.ShowWindow();
+    window.setWindowTitle(u"Add a log entry for " + tank.name + u" Tank");
+    window.ShowWindow(newRow(QStringLiteral("waterlog")), tank.id);
     Refresh_Listview(ascending);
 }
 
-void frm_Waterlog::Change_EntriesWater()
+void frm_Waterlog::Change_EntriesWater(const Tank &tank)
 {
-    const QString key = selectedKey(QStringLiteral("You must first select a log entry to delete")); // so here too
-    if (key.isEmpty())
+    // Its box says "delete" as well.
+    const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to delete"));
+    auto row = entry ? rowOf(waterTest, tank, *entry, entry->date, changed) : std::nullopt;
+    if (!row)
         return;
-    g.gRecordset = g.gDatabase->OpenRecordset(waterTest, {g.gTankId, dateOfRow(key), timeOfRow(key)});
-    g.gRecordset.MoveFirst();
-    g.gRecordset.Edit();
+    row->Edit();
     auto &window = Form<frm_WaterAddEdit>();
     window.setDateOrder();
-    window.txt_date->setText(Format(dateOfRow(key), g.options.DatePicture));
-    window.txt_time->setText(TimeOfKey(key));
-    window.setWindowTitle(u"Change Log Entry for " + g.gTankName + u" Tank");
-    window.load(g.gRecordset);
-    window.ShowWindow();
+    window.txt_date->setText(Format(entry->date, g.options.DatePicture));
+    window.txt_time->setText(TimeOfKey(entry->key));
+    window.setWindowTitle(u"Change Log Entry for " + tank.name + u" Tank");
+    window.load(*row);
+    window.ShowWindow(*row, tank.id);
     Refresh_Listview(ascending);
 }
 
-frm_LivesAddEdit &frm_Waterlog::freshLivestockWindow()
+frm_LivesAddEdit &frm_Waterlog::freshLivestockWindow(const Tank &tank)
 {
     // A change of a maintenance entry may have left it loaded, with the lists of another tank's water.
     if (auto *left = Forms::current().loaded<frm_LivesAddEdit>())
         Unload(*left);
+    readWaterType(tank);
     auto &window = Form<frm_LivesAddEdit>();
     window.setDateOrder();
-    window.setWindowTitle(u" Livestock Detail for " + g.gTankName);
+    window.setWindowTitle(u" Livestock Detail for " + tank.name);
     return window;
 }
 
-void frm_Waterlog::AddLivestockEntry()
+void frm_Waterlog::AddLivestockEntry(const Tank &tank)
 {
-    auto &window = freshLivestockWindow();
+    auto &window = freshLivestockWindow(tank);
     window.setDefaults();
-    g.gLivestockRecordset = g.gDatabase->OpenForAppend(QStringLiteral("livestock"));
-    g.gLivestockRecordset.AddNew();
-    window.ShowWindow();
+    window.ShowWindow(newRow(QStringLiteral("livestock")), tank.id);
     Refresh_Listview(ascending);
 }
 
-void frm_Waterlog::Change_EntriesLives()
+void frm_Waterlog::Change_EntriesLives(const Tank &tank)
 {
-    const QString key = selectedKey(QStringLiteral("You must first select a log entry to change."));
-    if (key.isEmpty())
-        return;
+    const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to change."));
     // The name is not part of the condition: of two animals of one second the first row is taken.
-    g.gLivestockRecordset = g.gDatabase->OpenRecordset(livestockEntry, {g.gTankId, dateOfRow(key), timeOfRow(key)});
-    g.gLivestockRecordset.MoveFirst();
-    g.gLivestockRecordset.Edit();
-    auto &window = freshLivestockWindow();
-    window.txt_DateAdded->setText(Format(dateOfRow(key), g.options.DatePicture));
-    window.txt_timeadded->setText(Format(timeOfRow(key), QStringLiteral("hh:mm:ss AM/PM")));
-    window.load(g.gLivestockRecordset);
-    window.ShowWindow();
+    auto row = entry ? rowOf(livestockEntry, tank, *entry, entry->date, changed) : std::nullopt;
+    if (!row)
+        return;
+    row->Edit();
+    auto &window = freshLivestockWindow(tank);
+    window.txt_DateAdded->setText(Format(entry->date, g.options.DatePicture));
+    window.txt_timeadded->setText(Format(entry->time, QStringLiteral("hh:mm:ss AM/PM")));
+    window.load(*row);
+    window.ShowWindow(*row, tank.id);
     Refresh_Listview(ascending);
 }
 
-void frm_Waterlog::AddMaintEntry()
+void frm_Waterlog::AddMaintEntry(const Tank &tank)
 {
     auto &window = Form<frm_MaintAddEdit>();
     window.setDateOrder();
     window.setDefaults();
-    g.gRecordset = g.gDatabase->OpenForAppend(QStringLiteral("maintlog"));
-    g.gRecordset.AddNew();
-    window.ShowWindow();
+    window.ShowWindow(newRow(QStringLiteral("maintlog")), tank.id);
     Refresh_Listview(ascending);
 }
 
-void frm_Waterlog::Change_EntriesMaint()
+void frm_Waterlog::Change_EntriesMaint(const Tank &tank)
 {
-    const QString key = selectedKey(QStringLiteral("You must first select a log entry to delete")); // so here too
-    if (key.isEmpty())
+    // Its box says "delete" as well.
+    const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to delete"));
+    if (!entry)
         return;
     // A stray step that stays: the time goes into the livestock window, which is loaded for it and stays hidden.
-    Form<frm_LivesAddEdit>().txt_timeadded->setText(TimeOfKey(key));
-    g.gRecordset = g.gDatabase->OpenRecordset(maintEntry, {g.gTankId, dateAsTyped(key), timeOfRow(key)});
-    g.gRecordset.MoveFirst();
-    g.gRecordset.Edit();
+    Form<frm_LivesAddEdit>().txt_timeadded->setText(TimeOfKey(entry->key));
+    auto row = rowOf(maintEntry, tank, *entry, dateAsTyped(*entry), changed);
+    if (!row)
+        return;
+    row->Edit();
     auto &window = Form<frm_MaintAddEdit>();
     window.setDateOrder();
-    window.load(g.gRecordset);
-    window.setWindowTitle(u" Maintenence Log for " + g.gTankName);
-    window.ShowWindow();
+    window.load(*row);
+    window.setWindowTitle(u" Maintenence Log for " + tank.name);
+    window.ShowWindow(*row, tank.id);
     Refresh_Listview(ascending);
 }
 
-bool frm_Waterlog::mayDelete(const QString &entry)
+bool frm_Waterlog::mayDelete(const QString &entry, const Tank &tank)
 {
-    g.gMessage = u"Are you sure you want to delete the  " + entry + u" entry for the " + g.gTankName +
+    g.gMessage = u"Are you sure you want to delete the  " + entry + u" entry for the " + tank.name +
                  u" tank?   (Remember, you CANNOT \"undo\" a delete!)";
     Beep();
     return MsgBox(g.gMessage, vbOKCancel + vbQuestion, QStringLiteral("Are you sure...")) == MsgBoxAnswer::OK;
 }
 
-void frm_Waterlog::deleteEntry(const DeletePath &path)
+void frm_Waterlog::deleteEntry(const DeletePath &path, const Tank &tank)
 {
-    const QString key = selectedKey(QStringLiteral("You must first select a log entry to delete"));
-    if (key.isEmpty())
+    const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to delete"));
+    if (!entry)
         return;
-    const QDate date = dateAsTyped(key); // as it stands: month first, whatever the user's order, if it is a date so
-    const QTime time = timeOfRow(key);
+    const auto date = dateAsTyped(*entry);
+    const QDate day = date.value_or(QDate());
     const QString condition = QLatin1String(path.condition);
-    g.gRecordset = g.gDatabase->OpenRecordset(u"SELECT * FROM " + QLatin1String(path.table) + u" where " + condition,
-                                              {g.gTankId, date, time});
-    QString entry = Format(g.gRecordset[QLatin1String(path.dateColumn)].value().toDate(), QStringLiteral("mm/dd/yy")) +
-                    u", " + TimeOfKey(key);
-    if (path.nameColumn)
-        entry = g.gRecordset[QLatin1String(path.nameColumn)].text() + u" - " + entry;
-    g.gRecordset.MoveFirst();
-    if (!mayDelete(entry))
+    auto row =
+        rowOf(u"SELECT * FROM " + QLatin1String(path.table) + u" where " + condition, tank, *entry, date, deleted);
+    if (!row)
         return;
-    if (g.gRecordset.FindFirst(condition, {path.searchByName ? g.gTankName : g.gTankId, date, time}))
-        g.gRecordset.Delete();
+    QString description = Format(day, QStringLiteral("mm/dd/yy")) + u", " + TimeOfKey(entry->key);
+    if (path.nameColumn)
+        description = (*row)[QLatin1String(path.nameColumn)].text() + u" - " + description;
+    if (!mayDelete(description, tank))
+        return;
+    if (row->FindFirst(condition, {path.searchByName ? tank.name : tank.id, day, entry->time}))
+        row->Delete();
     else
         MsgBox(QStringLiteral("yo... no match on da key!"));
     Refresh_Listview(QStringLiteral("Ascending"));
 }
 
-void frm_Waterlog::Delete_EntriesWater() { deleteEntry(deletePaths[WaterTab]); }
+void frm_Waterlog::Delete_EntriesWater(const Tank &tank) { deleteEntry(deletePaths[WaterTab], tank); }
 
-void frm_Waterlog::Delete_EntriesLives() { deleteEntry(deletePaths[LivestockTab]); }
+void frm_Waterlog::Delete_EntriesLives(const Tank &tank) { deleteEntry(deletePaths[LivestockTab], tank); }
 
-void frm_Waterlog::Delete_EntriesMaint() { deleteEntry(deletePaths[MaintenanceTab]); }
+void frm_Waterlog::Delete_EntriesMaint(const Tank &tank) { deleteEntry(deletePaths[MaintenanceTab], tank); }
 
 void frm_Waterlog::Move_Entries()
 {
-    const QString key = selectedKey(QStringLiteral("You must first select a log entry to move."));
-    if (key.isEmpty())
+    const Tank tank = takeTankInHand();
+    const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to move."));
+    if (!entry)
         return;
-    g.gMoveRecordset = g.gDatabase->OpenRecordset(livestockEntry, {g.gTankId, dateOfRow(key), timeOfRow(key)});
-    if (g.gMoveRecordset.isEmpty()) {
+    Recordset row = g.gDatabase->OpenRecordset(livestockEntry, {tank.id, entry->date, entry->time});
+    if (row.isEmpty()) {
         MsgBox(QStringLiteral("entry not found to be moved"));
         return;
     }
-    g.gMoveRecordset.MoveFirst();
-    g.gMoveRecordset.Edit();
+    row.Edit();
     auto &window = Form<frm_LivesMove>();
-    window.lbl_Move->setText(u"Moving " + Caption(g.gMoveRecordset[QStringLiteral("animalname")].text()) + u" to...");
-    window.ShowWindow();
+    window.lbl_Move->setText(u"Moving " + Caption(row[QStringLiteral("animalname")].text()) + u" to...");
+    window.ShowWindow(row);
     if (g.livesMove.MoveCancelled)
-        g.gMoveRecordset.Close();
+        row.Close();
     Refresh_Listview(ascending);
 }
 
-void frm_Waterlog::Print_Entries() { Form<frm_OMKLogPrint>().ShowFor(static_cast<LogTab>(tab()), g.gTankId); }
+void frm_Waterlog::Print_Entries() { Form<frm_OMKLogPrint>().ShowFor(static_cast<LogTab>(tab()), takeTankInHand().id); }

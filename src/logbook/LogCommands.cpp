@@ -37,29 +37,32 @@ const std::array<frm_Waterlog::EntryPaths, 3> frm_Waterlog::entryPaths = {{
     {&frm_Waterlog::AddMaintEntry, &frm_Waterlog::Change_EntriesMaint, &frm_Waterlog::Delete_EntriesMaint},
 }};
 
-void frm_Waterlog::Add_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].add)(); }
+void frm_Waterlog::Add_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].add)(takeTankInHand()); }
 
-void frm_Waterlog::Change_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].change)(); }
+void frm_Waterlog::Change_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].change)(takeTankInHand()); }
 
-void frm_Waterlog::Delete_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].remove)(); }
+void frm_Waterlog::Delete_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].remove)(takeTankInHand()); }
 
-// The graph of the tank in hand, in front.
-void frm_Waterlog::Graph_Entries() { Form<frm_OMKMDIMain>().mnu_ToolsGraphing_Click(); }
+// The graph, in front; it draws the tank in hand.
+void frm_Waterlog::Graph_Entries()
+{
+    takeTankInHand();
+    Form<frm_OMKMDIMain>().mnu_ToolsGraphing_Click();
+}
 
 void frm_Waterlog::Refresh_Treeview()
 {
     CurrentTankText.clear();
     FirstActivation = true;
-    g.gRecordset = g.gDatabase->OpenRecordset(tanksByName);
+    Recordset tanks = g.gDatabase->OpenRecordset(tanksByName);
     {
         const QSignalBlocker quiet(TreeView1);
         TreeView1->clear();
         QTreeWidgetItem *root = makeNode(allTanks, allTanks);
         TreeView1->addTopLevelItem(root);
         QTreeWidgetItem *last = root;
-        for (; !g.gRecordset.EOF_(); g.gRecordset.MoveNext()) {
-            last = makeNode(g.gRecordset[QStringLiteral("tankid")].text(),
-                            g.gRecordset[QStringLiteral("tankname")].text());
+        for (; !tanks.EOF_(); tanks.MoveNext()) {
+            last = makeNode(tanks[QStringLiteral("tankid")].text(), tanks[QStringLiteral("tankname")].text());
             root->addChild(last);
         }
         TreeView1->scrollToItem(last); // opens the tree
@@ -89,7 +92,6 @@ void frm_Waterlog::Refresh_Listview(const QString &order)
 {
     if (!TreeView1->currentItem())
         return; // a command before the first activation: the tree is not there yet
-    Form<frm_OMKMDIMain>().mnu_FilePrint->Enabled(true);
     switch (tab()) {
     case WaterTab: LoadWaterList(order); break;
     case LivestockTab: LoadLivestockList(order); break;
@@ -98,33 +100,38 @@ void frm_Waterlog::Refresh_Listview(const QString &order)
     Update_Menu_Captions();
 }
 
-void frm_Waterlog::loadList(int tab, const QString &order, Recordset &recordset)
+void frm_Waterlog::loadList(int tab, const QString &order)
 {
     const HourGlass wait;
-    const LogKind &kind = logKinds[static_cast<size_t>(tab)];
+    const auto place = static_cast<size_t>(tab);
+    const LogKind &kind = logKinds[place];
     list(tab).Clear();
-    takeTankInHand();
-    sb_ListviewCaption->showMessage(QString::fromLatin1(kind.listCaption).arg(g.gTankName));
+    const Tank tank = takeTankInHand();
+    sb_ListviewCaption->showMessage(QString::fromLatin1(kind.listCaption).arg(tank.name));
     const QString sql =
         QLatin1String(kind.select) + QLatin1String(order == u"descending" ? kind.descending : kind.ascending);
-    recordset = g.gDatabase->OpenRecordset(sql, {g.gTankId});
     m_shownOrder = g.options.DateOrder;
-    list(tab).setSource(std::make_shared<LogRows>(kind, recordset.rows(), g.options.DatePicture));
+    m_rows[place] =
+        std::make_shared<LogRows>(kind, g.gDatabase->OpenRecordset(sql, {tank.id}).rows(), g.options.DatePicture);
+    list(tab).setSource(m_rows[place]);
 }
 
-void frm_Waterlog::LoadWaterList(const QString &order) { loadList(WaterTab, order, g.gRecordset); }
+void frm_Waterlog::readWaterType(const Tank &tank)
+{
+    Recordset found = g.gDatabase->OpenRecordset(waterTypeByName, {tank.name}); // the one look-up by name
+    if (!found.isEmpty())
+        g.gTankWaterType = found[QStringLiteral("TankWaterType")].text();
+}
+
+void frm_Waterlog::LoadWaterList(const QString &order) { loadList(WaterTab, order); }
 
 void frm_Waterlog::LoadLivestockList(const QString &order)
 {
-    takeTankInHand();
-    g.gLivestockRecordset =
-        g.gDatabase->OpenRecordset(waterTypeByName, {g.gTankName}); // by name, the one look-up that is
-    if (!g.gLivestockRecordset.isEmpty())
-        g.gTankWaterType = g.gLivestockRecordset[QStringLiteral("TankWaterType")].text();
-    loadList(LivestockTab, order, g.gLivestockRecordset);
+    readWaterType(takeTankInHand());
+    loadList(LivestockTab, order);
 }
 
-void frm_Waterlog::LoadMaintList(const QString &order) { loadList(MaintenanceTab, order, g.gRecordset); }
+void frm_Waterlog::LoadMaintList(const QString &order) { loadList(MaintenanceTab, order); }
 
 void frm_Waterlog::Update_Menu_Captions()
 {
@@ -140,7 +147,6 @@ void frm_Waterlog::Update_Menu_Captions()
     const bool livestock = tab() == LivestockTab;
     main.mnu_LogPopup_Move->setVisible(livestock);
     main.mnu_movesep->setVisible(livestock);
-    main.mnu_FileMoveEntry->Enabled(livestock);
     button(QStringLiteral("moveentries")).Enabled(livestock);
 
     const bool tank = isTankSelected();
@@ -161,8 +167,11 @@ void frm_Waterlog::enableLogCommands()
 {
     auto &main = Form<frm_OMKMDIMain>();
     const bool tank = isTankSelected();
-    for (MenuEntry *entry : {main.mnu_FileNew, main.mnu_FileOpen, main.mnu_FileDelete, main.mnu_LogPopup_New,
-                             main.mnu_Logpopup_Open, main.mnu_LogPopup_Delete})
+    const bool inFront = main.isInFront(*this); // its lists are filled behind other windows as well
+    for (MenuEntry *entry : {main.mnu_FileNew, main.mnu_FileOpen, main.mnu_FileDelete})
+        entry->Enabled(tank && inFront);
+    main.mnu_FileMoveEntry->Enabled(inFront && tab() == LivestockTab);
+    for (MenuEntry *entry : {main.mnu_LogPopup_New, main.mnu_Logpopup_Open, main.mnu_LogPopup_Delete})
         entry->Enabled(tank);
     for (const char *key : {"addentries", "changeentries", "deleteentries"})
         button(QLatin1String(key)).Enabled(tank);
@@ -185,7 +194,7 @@ void frm_Waterlog::list_Click() { enableLogCommands(); }
 
 void frm_Waterlog::list_MouseUp(Qt::MouseButton button, const QPoint &position)
 {
-    if (button == Qt::RightButton)
+    if (button == Qt::RightButton && isTankSelected()) // with "All Tanks" there would be nothing to choose in it
         Form<frm_OMKMDIMain>().mnu_LogPopup->popup(position);
 }
 
@@ -211,28 +220,27 @@ void frm_Waterlog::Form_Activate()
         FirstActivation = false;
         return;
     }
-    if (TreeView1->currentItem())
-        takeTankInHand(); // the graph may have taken another, and an entry is for the tank that is shown here
+    takeTankInHand(); // the graph may have taken another
     main.mnu_FilePrint->Enabled(isTankSelected());
     enableLogCommands(); // with "All Tanks" in hand they stay disabled
 }
 
+void frm_Waterlog::disableFileEntries()
+{
+    const auto &main = Form<frm_OMKMDIMain>();
+    for (MenuEntry *entry : {main.mnu_FileNew, main.mnu_FileOpen, main.mnu_FileDelete, main.mnu_FileMoveEntry})
+        entry->Enabled(false);
+}
+
 void frm_Waterlog::Form_LostFocus()
 {
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FileNew->Enabled(false);
-    main.mnu_FileOpen->Enabled(false);
-    main.mnu_FileDelete->Enabled(false);
-    main.mnu_FilePrint->setVisible(true);
+    disableFileEntries();
+    Form<frm_OMKMDIMain>().mnu_FilePrint->setVisible(true);
 }
 
 void frm_Waterlog::Form_Unload()
 {
     if (!ListSortOrder.isEmpty())
         SaveSetting(sortSetting, ListSortOrder);
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FileNew->Enabled(false);
-    main.mnu_FileOpen->Enabled(false);
-    main.mnu_FileDelete->Enabled(false);
-    main.mnu_FileMoveEntry->Enabled(false); // the one command that asks for no logbook on the screen
+    disableFileEntries();
 }

@@ -93,10 +93,7 @@ LogRows::LogRows(const LogKind &kind, std::shared_ptr<const Rows> rows, const QS
 
 int LogRows::count() const { return static_cast<int>(m_rows->count()); }
 
-QString LogRows::rowText(int row) const
-{
-    return MakeRowText(m_rows->date(row, m_date), m_rows->time(row, m_time), m_datePicture, m_timePicture);
-}
+QString LogRows::rowText(int row) const { return MakeRowText(date(row), time(row), m_datePicture, m_timePicture); }
 
 QString LogRows::text(int row, int column) const
 {

@@ -10,6 +10,14 @@
 #include "platform/ListView.h"
 #include "store/Rows.h"
 
+/// The entry of a row.
+struct ShownEntry
+{
+    QString key;
+    QDate date;
+    QTime time;
+};
+
 struct LogColumn
 {
     const char *key;
@@ -47,6 +55,9 @@ public:
     int count() const override;
     QString text(int row, int column) const override;
     QString key(int row) const override;
+    /// The entry's own date and time; a row's text has only two digits of the year. Invalid where the entry has none.
+    QDate date(int row) const { return m_rows->date(row, m_date); }
+    QTime time(int row) const { return m_rows->time(row, m_time); }
 
 private:
     struct Cell

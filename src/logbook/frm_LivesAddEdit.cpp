@@ -185,7 +185,7 @@ void frm_LivesAddEdit::load(Recordset &row)
     lst_where->setEditText(row[QStringLiteral("where_purch")].text());
 }
 
-void frm_LivesAddEdit::ShowWindow() { showFrom(lst_AnimalList); }
+void frm_LivesAddEdit::ShowWindow(const Recordset &row, const QString &tankId) { showFor(row, tankId, lst_AnimalList); }
 
 bool frm_LivesAddEdit::txt_dateadded_LostFocus() { return isDate(*txt_DateAdded) || refuse(badDate, txt_DateAdded); }
 
@@ -241,13 +241,13 @@ bool frm_LivesAddEdit::fieldsAreGood()
 
 void frm_LivesAddEdit::store()
 {
-    Recordset &row = g.gLivestockRecordset;
+    Recordset &row = m_row;
     // Begun afresh: a price or date of a try that was refused must not stay when its box is empty now.
     if (row.isEmpty())
         row.AddNew();
     else
         row.Edit();
-    row[QStringLiteral("tankname")].setValue(g.gTankId);
+    row[QStringLiteral("tankname")].setValue(m_tankId);
     row[QStringLiteral("dateadded")].setValue(NormalizeDateText(txt_DateAdded->Text(), g.options.DateOrder));
     row[QStringLiteral("timeadded")].setValue(txt_timeadded->Text());
     row[QStringLiteral("animalname")].setValue(lst_AnimalList->currentText());

@@ -1,6 +1,6 @@
 // One livestock entry: an animal, when it came, at which price, from where, and what became of it. The logbook opens
-// the row in gLivestockRecordset and fills the controls; OK tests them and writes them there. The list of animals comes
-// from the database or from a name file, for the water of the tank in hand, and can be switched.
+// the row and fills the controls; OK tests them and writes them there. The list of animals comes from the database or
+// from a name file, for the water that the logbook has set (gTankWaterType), and can be switched.
 #pragma once
 
 #include "logbook/EntryForm.h"
@@ -21,7 +21,7 @@ public:
     void setDefaults();
     /// The current row but for its date and time, which the logbook sets from the list.
     void load(Recordset &row);
-    void ShowWindow();
+    void ShowWindow(const Recordset &row, const QString &tankId);
 
     void Salt_List_From_File();
     void Fresh_List_From_File();

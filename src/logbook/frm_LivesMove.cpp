@@ -2,6 +2,7 @@
 
 #include "platform/Doors.h"
 #include "platform/Guarded.h"
+#include "platform/ListKeys.h"
 #include "text/Dates.h"
 
 namespace {
@@ -17,6 +18,7 @@ frm_LivesMove::frm_LivesMove(Globals &globals, QWidget *parent) : DialogForm(glo
     on(cmd_ok, &QPushButton::clicked, this, &frm_LivesMove::cmd_OK_Click);
     on(cmd_Cancel, &QPushButton::clicked, this, &frm_LivesMove::cmd_Cancel_Click);
     on(lst_tanklist, &QListWidget::itemDoubleClicked, this, &frm_LivesMove::lst_tanklist_DblClick);
+    SelectWithFirstDown(*lst_tanklist);
 }
 
 void frm_LivesMove::Form_Load()
@@ -26,18 +28,25 @@ void frm_LivesMove::Form_Load()
         lst_tanklist->addItem(tanks[QStringLiteral("tankname")].text());
 }
 
+void frm_LivesMove::ShowWindow(const Recordset &row)
+{
+    m_row = row;
+    ShowModal();
+}
+
 void frm_LivesMove::store()
 {
     Recordset tank = g.gDatabase->OpenRecordset(tankByName, {lst_tanklist->currentItem()->text()});
     tank.MoveFirst();
     const QString id = tank[QStringLiteral("tankid")].text();
-    g.gMoveRecordset.Edit(); // begun afresh: the date of a try that was refused must not stay
+    m_row.Edit(); // begun afresh: the date of a try that was refused must not stay
     if (chk_ChangeDate->isChecked()) {
-        g.gMoveRecordset[QStringLiteral("dateadded")].setValue(Format(Now().date(), QStringLiteral("mm/dd/yy")));
-        g.gMoveRecordset[QStringLiteral("timeadded")].setValue(Format(Now().time(), QStringLiteral("hh:mm:ss am/pm")));
+        const QDateTime now = Now(); // asked once: between two readings the day may change
+        m_row[QStringLiteral("dateadded")].setValue(Format(now.date(), QStringLiteral("mm/dd/yy")));
+        m_row[QStringLiteral("timeadded")].setValue(Format(now.time(), QStringLiteral("hh:mm:ss am/pm")));
     }
-    g.gMoveRecordset[QStringLiteral("tankname")].setValue(id);
-    g.gMoveRecordset.Update();
+    m_row[QStringLiteral("tankname")].setValue(id);
+    m_row.Update();
 }
 
 void frm_LivesMove::cmd_OK_Click()

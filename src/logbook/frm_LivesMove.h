@@ -1,5 +1,5 @@
-// Asks for the tank to which an animal moves. The logbook has the row in gMoveRecordset, ready to be changed; OK gives
-// it to the other tank, and if asked for with the present date and time.
+// Asks for the tank to which an animal moves. The logbook opens the row; OK gives it to the other tank, and if asked
+// for with the present date and time.
 #pragma once
 
 #include "shell/DialogForm.h"
@@ -12,7 +12,7 @@ public:
     frm_LivesMove(Globals &globals, QWidget *parent);
 
     void Form_Load();
-    void ShowWindow() { ShowModal(); }
+    void ShowWindow(const Recordset &row);
 
 private:
     void Cancel() override { cmd_Cancel_Click(); }
@@ -21,4 +21,6 @@ private:
     void cmd_OK_Click();
     void cmd_Cancel_Click();
     void lst_tanklist_DblClick();
+
+    Recordset m_row;
 };

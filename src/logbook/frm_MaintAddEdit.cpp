@@ -135,9 +135,10 @@ void frm_MaintAddEdit::setDefaults()
 
 void frm_MaintAddEdit::load(Recordset &row)
 {
-    txt_logdate->setText(Format(row[QStringLiteral("maintlogdate")].value().toDate(), g.options.DatePicture));
-    txt_logtime->setText(
-        Format(row[QStringLiteral("maintlogtime")].value().toTime(), QStringLiteral("hh:mm:ss am/pm")));
+    if (const Value date = row[QStringLiteral("maintlogdate")].value(); !date.isNull())
+        txt_logdate->setText(Format(date.toDate(), g.options.DatePicture));
+    if (const Value time = row[QStringLiteral("maintlogtime")].value(); !time.isNull())
+        txt_logtime->setText(Format(time.toTime(), QStringLiteral("hh:mm:ss am/pm")));
     txt_maintlognotes->setPlainText(row[QStringLiteral("maintlognote")].text());
     lst_mainttasklist->setEditText(row[QStringLiteral("maintlogtask")].text());
     txt_description->setText(row[QStringLiteral("maintlogdesc")].text());
@@ -145,7 +146,7 @@ void frm_MaintAddEdit::load(Recordset &row)
     txt_quantity->setText(row[QStringLiteral("maintlogqty")].text());
 }
 
-void frm_MaintAddEdit::ShowWindow() { showFrom(txt_logdate); }
+void frm_MaintAddEdit::ShowWindow(const Recordset &row, const QString &tankId) { showFor(row, tankId, txt_logdate); }
 
 bool frm_MaintAddEdit::txt_logdate_LostFocus()
 {
@@ -171,8 +172,8 @@ void frm_MaintAddEdit::ud_quantity_Change() { txt_quantity->setText(QString::num
 
 bool frm_MaintAddEdit::store()
 {
-    Recordset &row = g.gRecordset;
-    row[QStringLiteral("mainttankname")].setValue(g.gTankId);
+    Recordset &row = m_row;
+    row[QStringLiteral("mainttankname")].setValue(m_tankId);
     const auto date = ReadTypedDate(txt_logdate->Text(), g.options.DateOrder);
     row[QStringLiteral("maintlogdate")].setValue(date ? Value(*date) : Value(txt_logdate->Text()));
     row[QStringLiteral("maintlogtime")].setValue(txt_logtime->Text());

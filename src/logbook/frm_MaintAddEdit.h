@@ -1,6 +1,5 @@
-// One maintenance entry: a task, when it was done, how much of what. The logbook opens the row in gRecordset and fills
-// the controls; OK writes and tests by turns. What a refused try has written is overwritten by the next, and lapses on
-// Cancel.
+// One maintenance entry: a task, when it was done, how much of what. The logbook opens the row and fills the controls;
+// OK writes and tests by turns. What a refused try has written is overwritten by the next, and lapses on Cancel.
 #pragma once
 
 #include "common/DateBoxes.h"
@@ -20,7 +19,7 @@ public:
     /// The values that a new entry starts with.
     void setDefaults();
     void load(Recordset &row);
-    void ShowWindow();
+    void ShowWindow(const Recordset &row, const QString &tankId);
 
     MaskedBox *txt_logdate;
     MaskedBox *txt_logtime;

@@ -185,7 +185,7 @@ void frm_WaterAddEdit::load(Recordset &row)
     }
 }
 
-void frm_WaterAddEdit::ShowWindow() { showFrom(txt_date); }
+void frm_WaterAddEdit::ShowWindow(const Recordset &row, const QString &tankId) { showFor(row, tankId, txt_date); }
 
 bool frm_WaterAddEdit::numberIsGood(const Line &line)
 {
@@ -230,12 +230,12 @@ void frm_WaterAddEdit::upDown_Change(const Line &line)
 
 void frm_WaterAddEdit::store()
 {
-    Recordset &row = g.gRecordset;
+    Recordset &row = m_row;
     row[QStringLiteral("logdate")].setValue(NormalizeDateText(txt_date->Text(), g.options.DateOrder));
     row[QStringLiteral("logtime")].setValue(txt_time->Text());
     for (const char *column : writeOrder)
         row[QLatin1String(column)].setValue(isComment(column) ? txt_Comment->toPlainText() : line(column).box->Text());
-    row[QStringLiteral("tankname")].setValue(g.gTankId);
+    row[QStringLiteral("tankname")].setValue(m_tankId);
     row.Update();
 }
 

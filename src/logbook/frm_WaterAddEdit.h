@@ -1,6 +1,6 @@
-// One water test: thirteen measurements, date, time and comment. The logbook opens the row in gRecordset, fills the
-// controls and shows the window; OK writes the controls into whatever row stands there, so the window does not know
-// whether it adds or changes. A number is tested when the focus leaves its box, and once more before OK stores.
+// One water test: thirteen measurements, date, time and comment. The logbook opens the row, fills the controls and
+// shows the window; OK writes the controls into that row, so the window does not know whether it adds or changes. A
+// number is tested when the focus leaves its box, and once more before OK stores.
 #pragma once
 
 #include <array>
@@ -24,7 +24,7 @@ public:
     void setDefaults(const QString &waterType);
     /// The current row's measurements and comment.
     void load(Recordset &row);
-    void ShowWindow();
+    void ShowWindow(const Recordset &row, const QString &tankId);
 
     MaskedBox *txt_date;
     MaskedBox *txt_time;

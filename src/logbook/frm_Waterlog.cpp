@@ -167,9 +167,12 @@ bool frm_Waterlog::isTankSelected() const
     return node && node->text(0).toUpper() != u"ALL TANKS";
 }
 
-void frm_Waterlog::takeTankInHand()
+frm_Waterlog::Tank frm_Waterlog::takeTankInHand()
 {
     const QTreeWidgetItem *node = TreeView1->currentItem();
+    if (!node)
+        return {}; // before the first activation
     g.gTankName = node->text(0);
     g.gTankId = node->data(0, Qt::UserRole).toString();
+    return {g.gTankId, g.gTankName};
 }

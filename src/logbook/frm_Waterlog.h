@@ -1,11 +1,14 @@
 // The logbook: a tree of the tanks, and the three logs of the tank selected, a list each. It holds no data: a list is
-// read afresh whenever something changes. The entry windows are driven from here: a row is opened in a shared
-// recordset, the window's controls are filled, and when the window returns the list is reloaded. What the three logs do
-// alike is here once; what differs between them is data (LogKinds.h) or a path of its own (EntryPaths.cpp).
+// read afresh whenever something changes. Every command first takes the tree's tank in hand, whatever tank another
+// window has dealt with since, and then works on its own copy of it. The entry windows are driven from here: a row is
+// opened, the window's controls are filled, the row is handed to the window, and when it returns the list is reloaded.
+// What the three logs do alike is here once; what differs between them is data (LogKinds.h) or a path of its own
+// (EntryPaths.cpp).
 #pragma once
 
 #include <array>
 #include <map>
+#include <optional>
 
 #include "logbook/LogKinds.h"
 #include "shell/ChildForm.h"
@@ -60,12 +63,19 @@ public:
     ListView *lstv_Maintenance;
 
 private:
+    /// The tank that a command works on.
+    struct Tank
+    {
+        QString id;
+        QString name;
+    };
+    using EntryPath = void (frm_Waterlog::*)(const Tank &);
     /// The entry paths of a log.
     struct EntryPaths
     {
-        void (frm_Waterlog::*add)();
-        void (frm_Waterlog::*change)();
-        void (frm_Waterlog::*remove)();
+        EntryPath add;
+        EntryPath change;
+        EntryPath remove;
     };
     static const std::array<EntryPaths, 3> entryPaths;
 
@@ -79,13 +89,17 @@ private:
     ListView &list(int tab) const { return *m_lists[static_cast<size_t>(tab)]; }
     bool isTankSelected() const;
     void enableLogCommands();
+    void disableFileEntries();
 
     void LoadWaterList(const QString &order);
     void LoadLivestockList(const QString &order);
     void LoadMaintList(const QString &order);
     /// What the three loaders do alike: takes the tank in hand, tells it in the panel, reads the rows and shows them.
-    void loadList(int tab, const QString &order, Recordset &recordset);
-    void takeTankInHand();
+    void loadList(int tab, const QString &order);
+    /// Makes the tree's tank the tank in hand.
+    Tank takeTankInHand();
+    /// Sets gTankWaterType for the livestock window.
+    void readWaterType(const Tank &tank);
 
     void ColumnClick(ListView &list, int index);
     void list_MouseUp(Qt::MouseButton button, const QPoint &position);
@@ -98,28 +112,34 @@ private:
     struct DeletePath;
     static const std::array<DeletePath, 3> deletePaths;
 
-    void AddWaterEntry();
-    void AddLivestockEntry();
-    void AddMaintEntry();
-    void Change_EntriesWater();
-    void Change_EntriesLives();
-    void Change_EntriesMaint();
-    void Delete_EntriesWater();
-    void Delete_EntriesLives();
-    void Delete_EntriesMaint();
-    void deleteEntry(const DeletePath &path);
-    /// Key of the row selected in the list on show; empty, after a box with that text, where none is.
-    QString selectedKey(const QString &ifNone);
-    /// The date of a row in the order that it was shown in; the second as it stands, month first if it is a date so.
-    QDate dateOfRow(const QString &key) const;
-    QDate dateAsTyped(const QString &key) const;
-    QTime timeOfRow(const QString &key) const;
-    /// The livestock window with the lists of the tank in hand.
-    frm_LivesAddEdit &freshLivestockWindow();
+    void AddWaterEntry(const Tank &tank);
+    void AddLivestockEntry(const Tank &tank);
+    void AddMaintEntry(const Tank &tank);
+    void Change_EntriesWater(const Tank &tank);
+    void Change_EntriesLives(const Tank &tank);
+    void Change_EntriesMaint(const Tank &tank);
+    void Delete_EntriesWater(const Tank &tank);
+    void Delete_EntriesLives(const Tank &tank);
+    void Delete_EntriesMaint(const Tank &tank);
+    void deleteEntry(const DeletePath &path, const Tank &tank);
+    /// The entry selected in the list on show; nothing, after a box with that text, where none is.
+    std::optional<ShownEntry> selectedEntry(const QString &ifNone);
+    /// The date in a row's text, read month first where that gives a date, else in the order that it was shown in.
+    std::optional<QDate> dateAsTyped(const ShownEntry &entry) const;
+    /// A row to be filled by an entry window.
+    Recordset newRow(const QString &table);
+    /// The row of an entry under that date; nothing, after a box, where the log has none. `undone` is what then does
+    /// not happen: "deleted".
+    std::optional<Recordset> rowOf(const QString &sql, const Tank &tank, const ShownEntry &entry,
+                                   const std::optional<QDate> &date, const QString &undone);
+    void tellNoRow(const ShownEntry &entry, const std::optional<QDate> &date, const QString &undone);
+    /// The livestock window with the lists of that tank's water.
+    frm_LivesAddEdit &freshLivestockWindow(const Tank &tank);
     /// Asks whether an entry may be deleted; `entry` is its description.
-    bool mayDelete(const QString &entry);
+    bool mayDelete(const QString &entry, const Tank &tank);
 
     std::array<ListView *, 3> m_lists{};
+    std::array<std::shared_ptr<const LogRows>, 3> m_rows; ///< what the lists show
     std::map<QString, MenuEntry *> m_buttons;
     QString ListSortOrder;
     QString m_shownOrder; ///< DateOrder when the list on show was loaded: its rows stay so until they are loaded again

@@ -31,6 +31,9 @@ void connectTo(QAbstractItemView &list, Qt::Key key, Command &command, void (Com
 
 } // namespace listkeys
 
+/// The first Down selects the framed row; it would pass it over, and a single row could not be chosen by keys.
+void SelectWithFirstDown(QAbstractItemView &list);
+
 inline void OnListKey(QAbstractItemView &list, Qt::Key key, QAbstractButton &button)
 {
     listkeys::connectTo(list, key, button, &QAbstractButton::click);

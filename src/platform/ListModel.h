@@ -31,6 +31,7 @@ public:
 
     QString text(int row, int column) const { return m_source->text(sourceRow(row), column); }
     QString key(int row) const { return m_source->key(sourceRow(row)); }
+    int sourceRow(int row) const { return m_order.empty() ? row : m_order[size_t(row)]; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -42,7 +43,6 @@ public:
 private:
     class OwnRows;
 
-    int sourceRow(int row) const { return m_order.empty() ? row : m_order[size_t(row)]; }
     void applyOrder(std::vector<int> order);
     std::vector<int> sortedOrder(int column, Qt::SortOrder order);
     std::vector<int> turnedOrder();

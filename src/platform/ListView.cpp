@@ -187,6 +187,12 @@ QString ListView::Key(int item) const
     return m_model->key(item - 1);
 }
 
+int ListView::SourceRow(int item) const
+{
+    checkRow(item);
+    return m_model->sourceRow(item - 1);
+}
+
 bool ListView::Selected(int item) const
 {
     checkRow(item);

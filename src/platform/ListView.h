@@ -59,6 +59,8 @@ public:
     /// such row.
     QString Text(int item, int subItem = 0) const;
     QString Key(int item) const;
+    /// The row of the source, from 0, that a row shows in whatever order.
+    int SourceRow(int item) const;
     bool Selected(int item) const;
     void Select(int item); ///< scrolls to the row as well; 0 selects nothing
     /// The selected row, from 1; 0 if none is selected.

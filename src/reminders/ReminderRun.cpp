@@ -8,8 +8,7 @@
 
 std::vector<RecurrenceRule> LoadReminders(Globals &g)
 {
-    g.gRecordset = g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM maintsched "));
-    return ReadRules(*g.gRecordset.rows());
+    return ReadRules(*g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM maintsched ")).rows());
 }
 
 UndatedReminders RunReminders(Globals &g, const std::vector<RecurrenceRule> &rules, const ReminderRun &run)

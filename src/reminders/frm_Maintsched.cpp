@@ -97,9 +97,9 @@ void frm_Maintsched::cmd_AddTask_Click()
 {
     g.reminderEditor.rule = NewRule(Now().date());
     Form<frm_SchedNewAddEdit>().AddNewTask([this](const RecurrenceRule &rule) {
-        g.gScheduleRecordset = g.gDatabase->OpenForAppend(QStringLiteral("maintsched"));
-        g.gScheduleRecordset.AddNew();
-        return stored(g.gScheduleRecordset, rule);
+        Recordset row = g.gDatabase->OpenForAppend(QStringLiteral("maintsched"));
+        row.AddNew();
+        return stored(row, rule);
     });
     if (!g.reminderEditor.EditCancelled)
         FillTaskList();
@@ -120,15 +120,15 @@ void frm_Maintsched::cmd_update_task_Click()
         selectedTask(QStringLiteral("You must first select a maintenance task to change by clicking on it."));
     if (!task)
         return;
-    g.gScheduleRecordset = g.gDatabase->OpenRecordset(reminderByTask, {*task});
-    if (g.gScheduleRecordset.isEmpty()) {
+    Recordset row = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    if (row.isEmpty()) {
         MsgBox(QStringLiteral("Unable to retrieve detail for reminder message."));
         return;
     }
-    g.reminderEditor.rule = ReadRule(g.gScheduleRecordset);
-    Form<frm_SchedNewAddEdit>().ShowExistingTask([this](const RecurrenceRule &rule) {
-        g.gScheduleRecordset.Edit();
-        return stored(g.gScheduleRecordset, rule);
+    g.reminderEditor.rule = ReadRule(row);
+    Form<frm_SchedNewAddEdit>().ShowExistingTask([this, row](const RecurrenceRule &rule) mutable {
+        row.Edit();
+        return stored(row, rule);
     });
     if (!g.reminderEditor.EditCancelled)
         FillTaskList();
@@ -140,18 +140,18 @@ void frm_Maintsched::cmd_Deletetask_Click()
         selectedTask(QStringLiteral("You must first select a maintenance task to delete by clicking on it."));
     if (!task)
         return;
-    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {*task});
-    const QString sentence = g.gRecordset.isEmpty() ? QString() : ReadRule(g.gRecordset).EnglishDescription;
+    Recordset row = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    const QString sentence = row.isEmpty() ? QString() : ReadRule(row).EnglishDescription;
     g.gMessage = u"Are you sure you want to delete this entry?\n" + *task + u"\nscheduled for " + sentence +
                  u"?\n(Remember, you CANNOT \"undo\" a delete!)";
     Beep();
     if (MsgBox(g.gMessage, vbOKCancel + vbQuestion, QStringLiteral("Are you sure...")) != MsgBoxAnswer::OK)
         return;
-    g.gRecordset = g.gDatabase->OpenRecordset(reminderByTask, {*task});
-    if (g.gRecordset.isEmpty())
+    row = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    if (row.isEmpty())
         MsgBox(QStringLiteral("Unable to delete the task!"));
     else
-        g.gRecordset.Delete();
+        row.Delete();
     FillTaskList();
 }
 

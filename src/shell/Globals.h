@@ -34,12 +34,6 @@ struct CalendarMembers
     bool PickCancelled = true; ///< until a day has been clicked
 };
 
-/// Public members of frm_TankAddNew.
-struct TankDialogMembers
-{
-    QString DialogMode; ///< "add" or "edit"
-};
-
 /// Public members of frm_LivesMove.
 struct LivesMoveMembers
 {
@@ -52,13 +46,9 @@ struct Globals
     QString gCurrentDir;
     std::unique_ptr<Database> gDatabase;
 
-    // The shared working recordset, which any query overwrites, and those that are kept over a dialog.
-    Recordset gRecordset;
-    Recordset gLivestockRecordset;
-    Recordset gMoveRecordset;
-    Recordset gScheduleRecordset;
-
-    QString gMessage;  ///< the message being built; the last one built stays
+    QString gMessage; ///< the message being built; the last one built stays
+    // The tank in hand: the one that a window has dealt with last. Any window may change it while a box or a dialog is
+    // open, so a command that shows one works on a copy of its own.
     QString gTankName; ///< `tankname` and `tankid` of the tank in hand, or "All Tanks" for both
     QString gTankId;
     QString gTankWaterType;    ///< "1" freshwater, "2" saltwater fish only, "3" reef, "4" brackish, "5" pond
@@ -74,7 +64,6 @@ struct Globals
 
     OptionsMembers options;
     CalendarMembers calendar;
-    TankDialogMembers tankDialog;
     LivesMoveMembers livesMove;
     ReminderEditorMembers reminderEditor;
     DiagnosisLog diagnosisLog;

@@ -103,17 +103,17 @@ void frm_OMKMDIMain::mnu_FileBackup_Click()
     // Cancel leaves the name of an earlier backup in place, and that backup is made again, after the question below.
     if (chosen)
         m_backupFile = *chosen;
-    if (m_backupFile.isEmpty())
+    const QString target = m_backupFile;
+    if (target.isEmpty())
         return;
     try {
-        RequireBackupTarget(g.gDatabase->fileName(), m_backupFile);
+        RequireBackupTarget(g.gDatabase->fileName(), target);
     } catch (const RuntimeFailure &failure) {
         return tellNoBackup(failure);
     }
-    if (!QFileInfo::exists(m_backupFile) ||
-        MsgBox(QStringLiteral("The file already exists, overwrite?"), vbOKCancel + vbQuestion,
-               QStringLiteral("Note!")) == MsgBoxAnswer::OK)
-        backUpTo(m_backupFile);
+    if (!QFileInfo::exists(target) || MsgBox(QStringLiteral("The file already exists, overwrite?"),
+                                             vbOKCancel + vbQuestion, QStringLiteral("Note!")) == MsgBoxAnswer::OK)
+        backUpTo(target);
 }
 
 void frm_OMKMDIMain::backUpTo(const QString &target)

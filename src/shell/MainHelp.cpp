@@ -35,12 +35,9 @@ QString frm_OMKMDIMain::formInFront() const
     return {};
 }
 
-bool frm_OMKMDIMain::eventFilter(QObject *object, QEvent *event)
+bool frm_OMKMDIMain::helpKey(const QKeyEvent &key)
 {
-    if (event->type() != QEvent::KeyPress || !object->isWidgetType())
-        return false;
-    const auto *key = static_cast<QKeyEvent *>(event);
-    if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier || key->isAutoRepeat())
+    if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier || key.isAutoRepeat())
         return false;
     if (QWidget *menu = QApplication::activePopupWidget())
         menu->close(); // it would hold mouse and keys

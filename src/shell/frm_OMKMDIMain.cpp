@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -238,10 +239,10 @@ bool frm_OMKMDIMain::tipIsDue()
 
 void frm_OMKMDIMain::CheckTanks()
 {
-    g.gRecordset =
-        g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC"));
     g.gNoTanks = QStringLiteral("N");
-    const bool none = g.gRecordset.BOF() && g.gRecordset.EOF_();
+    const bool none =
+        g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC"))
+            .isEmpty();
     if (none) {
         Beep();
         MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
@@ -275,6 +276,8 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
     child.takeFocus();
 }
 
+bool frm_OMKMDIMain::isInFront(const ChildForm &child) const { return m_activeChild == &child; }
+
 void frm_OMKMDIMain::disablePrint()
 {
     mnu_FilePrint->Enabled(false);
@@ -296,6 +299,10 @@ void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
 
 void frm_OMKMDIMain::MDIForm_Activate()
 {
+    // Some desktops let a keeper bring this window to the front under an open box. Nothing may change for the command
+    // that waits for the box; the child is told when it has closed.
+    if (QApplication::activeModalWidget())
+        return;
     if (m_activeChild && m_activeChild->isShown())
         m_activeChild->Form_Activate();
 }
@@ -305,6 +312,39 @@ void frm_OMKMDIMain::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         guarded([this] { MDIForm_Activate(); })();
+}
+
+bool frm_OMKMDIMain::event(QEvent *event)
+{
+    const bool handled = QMainWindow::event(event);
+    // The last dialog has closed. The window gets no activation if it had one under the dialog already.
+    if (event->type() == QEvent::WindowUnblocked)
+        QMetaObject::invokeMethod(this, guarded([this] {
+                                      if (isActiveWindow())
+                                          MDIForm_Activate();
+                                  }),
+                                  Qt::QueuedConnection);
+    return handled;
+}
+
+/// A press brings a child to the front whatever it meets: a control that takes no focus, as a tool button, does not do
+/// it by itself.
+void frm_OMKMDIMain::bringToFront(const QWidget &pressed)
+{
+    for (const QWidget *widget = &pressed; widget; widget = widget->parentWidget()) {
+        auto *frame = qobject_cast<QMdiSubWindow *>(widget->parentWidget());
+        if (frame && frame->mdiArea() == m_area && frame != m_area->currentSubWindow())
+            m_area->setActiveSubWindow(frame);
+    }
+}
+
+bool frm_OMKMDIMain::eventFilter(QObject *object, QEvent *event)
+{
+    if (!object->isWidgetType())
+        return false;
+    if (event->type() == QEvent::MouseButtonPress)
+        bringToFront(*static_cast<QWidget *>(object));
+    return event->type() == QEvent::KeyPress && helpKey(*static_cast<QKeyEvent *>(event));
 }
 
 void frm_OMKMDIMain::MDIForm_Unload()

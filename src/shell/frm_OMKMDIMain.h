@@ -15,6 +15,7 @@ class ChildForm;
 struct HelpRequest;
 class QAction;
 class QComboBox;
+class QKeyEvent;
 class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
@@ -31,13 +32,16 @@ public:
     /// The start, step by step. Throws RuntimeFailure where the database cannot be opened or upgraded; no window is
     /// left on the screen then.
     void MDIForm_Load();
-    /// Tells the active child that it is in front: after a dialog, or another program, closed over it.
+    /// Tells the active child that it is in front: after a dialog, or another program, closed over it. Does nothing
+    /// while a box or a dialog is open.
     void MDIForm_Activate();
     /// Closes the children, which store what they keep, and unloads the window that holds the settings.
     void MDIForm_Unload();
 
     /// Shows a window among the children and gives it the focus.
     void ShowChild(ChildForm &child);
+    /// Whether it is the child in front; it stays so behind a dialog or another program.
+    bool isInFront(const ChildForm &child) const;
     /// For a window in front that has nothing to print.
     void disablePrint();
     /// Text of panel 1 of the status bar.
@@ -96,7 +100,8 @@ public:
 protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    /// F1, in whatever window of the program.
+    bool event(QEvent *event) override;
+    /// Of the whole program: presses in children, and F1 in whatever window.
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
@@ -104,6 +109,8 @@ private:
     void makeStatusBar();
     void fillWindowList();
     void subWindowActivated(QMdiSubWindow *window);
+    void bringToFront(const QWidget &pressed);
+    bool helpKey(const QKeyEvent &key);
     void cbo_Reminders_Click();
     /// Sets gDbVersion; upgrades a database of an earlier version.
     void CheckDatabaseVersion();

@@ -36,7 +36,7 @@ frm_TankAddNew::frm_TankAddNew(Globals &globals, QWidget *parent) : DialogForm(g
     for (const WaterType &type : waterTypes) {
         connect(this->*type.option, &QRadioButton::toggled, this, [this, code = type.code](bool chosen) {
             if (chosen)
-                g.gTankWaterType = QLatin1String(code);
+                m_waterType = QLatin1String(code);
         });
     }
     m_checks.watch(txt_tanksize, [this] { return txt_tanksize_LostFocus(); });
@@ -55,15 +55,15 @@ QRadioButton *frm_TankAddNew::waterTypeOption(const QString &code)
 
 void frm_TankAddNew::AddNewTank()
 {
-    g.gRecordset = g.gDatabase->OpenForAppend(QStringLiteral("Tanklst"));
-    g.gRecordset.AddNew();
+    m_tank = g.gDatabase->OpenForAppend(QStringLiteral("Tanklst"));
+    m_tank.AddNew();
     if (g.gDefaultWaterType == u"SALT")
         opt_Saltwater->setChecked(true);
     else if (g.gDefaultWaterType == u"FRESH")
         opt_Freshwater->setChecked(true);
     ud_tanksize->setValue(55);
     txt_tanksize->setText(QStringLiteral("55"));
-    g.tankDialog.DialogMode = QStringLiteral("add");
+    DialogMode = QStringLiteral("add");
     Form<frm_OMKMDIMain>().disablePrint();
     ShowModal();
 }
@@ -72,18 +72,18 @@ void frm_TankAddNew::ChangeTank(const QString &tankName)
 {
     g.gTankName = tankName;
     txt_tankname->setText(tankName);
-    g.gRecordset = g.gDatabase->OpenRecordset(tankByName, {tankName});
-    g.gRecordset.MoveFirst();
-    g.gRecordset.Edit();
-    g.gTankWaterType = g.gRecordset[QStringLiteral("TankWaterType")].text();
-    if (auto *option = waterTypeOption(g.gTankWaterType))
+    m_tank = g.gDatabase->OpenRecordset(tankByName, {tankName});
+    m_tank.MoveFirst();
+    m_tank.Edit();
+    m_waterType = m_tank[QStringLiteral("TankWaterType")].text(); // a code without an option stays as it is
+    if (auto *option = waterTypeOption(m_waterType))
         option->setChecked(true);
-    txt_tanknotes->setPlainText(g.gRecordset[QStringLiteral("tanknotes")].text());
-    txt_long_desc->setText(g.gRecordset[QStringLiteral("Tankdesc")].text());
-    const QString size = g.gRecordset[QStringLiteral("tanksize")].text();
+    txt_tanknotes->setPlainText(m_tank[QStringLiteral("tanknotes")].text());
+    txt_long_desc->setText(m_tank[QStringLiteral("Tankdesc")].text());
+    const QString size = m_tank[QStringLiteral("tanksize")].text();
     ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), biggestTank))); // it starts at the size shown
     txt_tanksize->setText(size);
-    g.tankDialog.DialogMode = QStringLiteral("edit");
+    DialogMode = QStringLiteral("edit");
     setWindowTitle(u"Change Tank Info for " + tankName);
     Form<frm_OMKMDIMain>().disablePrint();
     ShowModal();
@@ -127,19 +127,18 @@ QString frm_TankAddNew::newTankId()
 
 void frm_TankAddNew::store()
 {
-    Recordset &tank = g.gRecordset;
-    tank[QStringLiteral("tanksize")].setValue(Val(txt_tanksize->text()));
-    tank[QStringLiteral("tankname")].setValue(txt_tankname->Text());
-    tank[QStringLiteral("Tankdesc")].setValue(txt_long_desc->Text());
-    tank[QStringLiteral("tanknotes")].setValue(txt_tanknotes->toPlainText());
-    tank[QStringLiteral("TankWaterType")].setValue(g.gTankWaterType);
-    if (g.tankDialog.DialogMode == u"add") {
+    m_tank[QStringLiteral("tanksize")].setValue(Val(txt_tanksize->text()));
+    m_tank[QStringLiteral("tankname")].setValue(txt_tankname->Text());
+    m_tank[QStringLiteral("Tankdesc")].setValue(txt_long_desc->Text());
+    m_tank[QStringLiteral("tanknotes")].setValue(txt_tanknotes->toPlainText());
+    m_tank[QStringLiteral("TankWaterType")].setValue(m_waterType);
+    if (DialogMode == u"add") {
         const QString id = newTankId();
-        tank[QStringLiteral("tankid")].setValue(id);
-        tank.Update();
+        m_tank[QStringLiteral("tankid")].setValue(id);
+        m_tank.Update();
         g.gTankId = id;
     } else {
-        tank.Update();
+        m_tank.Update();
     }
     g.gTankName = txt_tankname->Text();
 }

@@ -1,6 +1,5 @@
-// The one dialog for adding and for changing a tank. The row in progress waits in gRecordset while the dialog is up; OK
-// writes the controls into it. Only gTankWaterType is stored for the water type: the options set it as they are
-// clicked.
+// The one dialog for adding and for changing a tank. It keeps the row in progress; OK writes the controls into it. The
+// water type that is stored is that of the option clicked last, or the row's own, which may have no option.
 #pragma once
 
 #include "platform/LeavingChecks.h"
@@ -19,6 +18,8 @@ public:
     /// none.
     void ChangeTank(const QString &tankName);
 
+    QString DialogMode; ///< "add" or "edit"
+
 private:
     void Cancel() override { cmd_Cancel_Click(); }
     /// The option of a water type's code; null for a code that is none.
@@ -34,4 +35,6 @@ private:
     void cmd_Cancel_Click();
 
     LeavingChecks m_checks;
+    Recordset m_tank;    ///< the row that is being added or changed
+    QString m_waterType; ///< its water's code, of the option chosen last
 };

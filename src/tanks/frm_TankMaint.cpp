@@ -30,6 +30,7 @@ frm_TankMaint::frm_TankMaint(Globals &globals, QWidget *parent) : DialogForm(glo
         OnListKey(*lst_tanklist, key, *cmd_ChangeTank);
     OnListKey(*lst_tanklist, Qt::Key_Delete, *cmd_DeleteTank);
     OnListKey(*lst_tanklist, Qt::Key_Insert, *cmd_AddTank);
+    SelectWithFirstDown(*lst_tanklist);
     on(cmd_AddTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_AddTank_Click);
     on(cmd_ChangeTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_ChangeTank_Click);
     on(cmd_DeleteTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_DeleteTank_Click);
@@ -47,11 +48,8 @@ void frm_TankMaint::fillList()
 {
     lst_tanklist->clear();
     lst_tanklist_Click();
-    g.gRecordset = g.gDatabase->OpenRecordset(allTanks);
-    if (g.gRecordset.isEmpty())
-        return;
-    for (g.gRecordset.MoveFirst(); !g.gRecordset.EOF_(); g.gRecordset.MoveNext())
-        lst_tanklist->addItem(g.gRecordset[QStringLiteral("tankname")].text());
+    for (Recordset tanks = g.gDatabase->OpenRecordset(allTanks); !tanks.EOF_(); tanks.MoveNext())
+        lst_tanklist->addItem(tanks[QStringLiteral("tankname")].text());
 }
 
 QString frm_TankMaint::selection() const
@@ -85,7 +83,8 @@ void frm_TankMaint::DeleteTankInfo(const QString &tankName)
     g.gTankName = name;
     Recordset tank = g.gDatabase->OpenRecordset(tankByName, {name});
     tank.MoveFirst();
-    g.gTankId = tank[QStringLiteral("tankid")].text();
+    const QString id = tank[QStringLiteral("tankid")].text(); // another tank may come in hand while the box is up
+    g.gTankId = id;
     Beep();
     g.gMessage =
         u"Are you sure you want to delete the tank you named " + name +
@@ -98,7 +97,7 @@ void frm_TankMaint::DeleteTankInfo(const QString &tankName)
         Database::Transaction whole(*g.gDatabase);
         tank.Delete();
         for (const QString &statement : cascade)
-            g.gDatabase->Execute(statement, {g.gTankId});
+            g.gDatabase->Execute(statement, {id});
         whole.commit();
     }
     MsgBox(u"The tank named " + name + u" was successfully deleted.", vbInformation, QStringLiteral("Tank Deleted"));

@@ -37,6 +37,7 @@ public:
     std::deque<std::optional<PrintDialogAnswer>> printers;
     std::optional<PrintDialogAnswer> printedFromPreview; ///< what each preview is closed with
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
+    int secondsAReading = 0; ///< that the clock goes on when it is asked
     bool helpIsThere = true;
     std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< called while a box is on the screen
 
@@ -103,7 +104,7 @@ public:
         helps.push_back(request);
         return helpIsThere;
     }
-    QDateTime now() override { return clock; }
+    QDateTime now() override { return std::exchange(clock, clock.addSecs(secondsAReading)); }
     double random() override { return 0.5; }
     SettingsStore &settings() override { return *m_settings; }
 

@@ -272,8 +272,49 @@ TEST_P(Entries, DeletingReadsTheRowsDateMonthFirstAsAChangeOfMaintenanceDoes)
         });
     EXPECT_TRUE(remove(1, MsgBoxAnswer::OK).contains("05/04/26"));
     EXPECT_TRUE(remove(2, MsgBoxAnswer::OK).contains("04/15/26"));
-    EXPECT_EQ(remove(2, MsgBoxAnswer::OK), "0|failure 3021"); // there is none of the sixth of July
+    const QString none = "The date in this row, 07/06/26, is read as July 6, 2026 here, and there is no entry of that "
+                         "day at 09:30:00 am. Choose dates with the month first";
+    EXPECT_TRUE(remove(2, MsgBoxAnswer::OK).startsWith("1|Note!/64/Nothing was deleted. " + none, Qt::CaseInsensitive));
+    if (readsAsTyped) {
+        hand::clickRow(list(), 2);
+        push("changeentries");
+        EXPECT_TRUE(keeper.told().startsWith("1|Note!/64/Nothing was changed. " + none));
+    }
     EXPECT_EQ(moments(), "Same 2026-04-05 09:30:00, Same 2026-06-07 09:30:00");
+}
+
+TEST_P(Entries, ARowOpensTheEntryThatItShowsWhateverItsYearAndTheOrderOfTheList)
+{
+    insert("r1", {"2026-04-07", "2026-04-05", "2035-04-06"});
+    const QString none = ". The date in this row, 04/06/35, is read as April 6, 1935 here, and there is no entry of "
+                         "that day at 09:30:00 am.";
+    EXPECT_EQ(remove(3, MsgBoxAnswer::OK).toLower(), ("1|Note!/64/Nothing was deleted" + none).toLower());
+    hand::clickHeading(list(), log.tab == WaterTab ? 3 : 2);
+    if (readsAsTyped) {
+        hand::clickRow(list(), 2);
+        push("changeentries");
+        EXPECT_EQ(keeper.told(), "1|Note!/64/Nothing was changed" + none);
+        return;
+    }
+    give("changeentries", 2, [&](QWidget &w) {
+        EXPECT_EQ(shown(w, {names[0]}).toDouble(), 6);
+        fillAll(w);
+        fill(w, "04/06/26", "09:30:01 am");
+        hand::press(Qt::Key_Return);
+    });
+    EXPECT_EQ(moments(), "r1 2026-04-05 09:30:00, r1 2026-04-06 09:30:01, r1 2026-04-07 09:30:00");
+}
+
+TEST_P(Entries, AnEntryThatIsGoneIsToldAndLeavesTheList)
+{
+    insert("r1", {"2026-04-05", "2026-04-06"});
+    for (const char *button : {"changeentries", "deleteentries"}) {
+        execute(QString("DELETE FROM %1 WHERE rowid = (SELECT min(rowid) FROM %1)").arg(table));
+        hand::clickRow(list(), 1);
+        push(button);
+        EXPECT_TRUE(keeper.told().contains("This entry is no longer in the log as the list showed it.")) << button;
+    }
+    EXPECT_EQ(list().Count(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Logs, Entries, ::testing::ValuesIn(logs));

@@ -46,6 +46,9 @@ TEST_F(Logbook, TreeHoldsTheTanksOfNowInCaseBlindOrderAndARefreshEndsOnAllTanks)
     EXPECT_TRUE(root.isExpanded() && root.isSelected());
     EXPECT_EQ(commands(), 0);
     EXPECT_EQ(panel(), "Contents of Water Quality Log for 'All Tanks'");
+    mouse::click(list().viewport(), {}, Qt::RightButton);
+    hand::press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a menu with nothing to choose";
 }
 
 TEST_F(Logbook, EachTabShowsItsValuesInTheirPicturesAndGivesItsCommands)

@@ -61,3 +61,31 @@ TEST_F(Move, AnEntryOfTheTargetInThatSecondStandsInTheWayUntilAnotherTankIsChose
         keeper.stored("dateadded || timeadded || quantity || Comment AS x FROM LIVESTOCK WHERE tankname = 'Same'"),
         "2026-04-0509:30:002.0old");
 }
+
+TEST_F(Move, TheFirstDownChoosesTheFirstTankAndNowIsOneMoment)
+{
+    move(1, [&](frm_LivesMove &w) {
+        mouse::click(w.chk_ChangeDate, QPoint(8, 8));
+        w.lst_tanklist->setFocus();
+        hand::press(Qt::Key_Down);
+        ASSERT_EQ(w.lst_tanklist->selectedItems().size(), 1);
+        EXPECT_EQ(w.lst_tanklist->selectedItems()[0]->text(), "Bowl");
+        keeper.doors.clock = {QDate(2026, 3, 14), QTime(23, 59, 59)};
+        keeper.doors.secondsAReading = 1;
+        hand::press(Qt::Key_Return);
+    });
+    EXPECT_EQ(keeper.stored("dateadded || ' ' || timeadded AS x FROM LIVESTOCK WHERE tankname = 'b1'"),
+              "2026-03-14 23:59:59");
+}
+
+TEST_F(Move, AnEntryOfAYearThatTwoDigitsDoNotTellKeepsIt)
+{
+    add("r1", "2035-04-05 09:30:00", "'Eel', 2, 'old'");
+    hand::clickTank(*logbook, "Reef");
+    hand::clickHeading(list(), 2); // by name, so that the row's place is not that in the file
+    move(2, [&](frm_LivesMove &w) {
+        clickTank(w, "Bowl");
+        mouse::click(w.cmd_ok);
+    });
+    EXPECT_EQ(keeper.stored("dateadded || animalname AS x FROM LIVESTOCK WHERE tankname = 'b1'"), "2035-04-05Eel");
+}

@@ -1,0 +1,208 @@
+// What steps in: while a box or a window of a command is open, or while another child is in front, another tank comes
+// in hand and the main window is activated. Every command goes on with the tank that it began with, which is the one
+// that the logbook shows.
+#include "Desk.h"
+#include "logbook/frm_LivesAddEdit.h"
+#include "logbook/frm_LivesMove.h"
+#include "logbook/frm_MaintAddEdit.h"
+#include "logbook/frm_OMKLogPrint.h"
+#include "logbook/frm_WaterAddEdit.h"
+#include "tanks/frm_TankAddNew.h"
+#include "tanks/frm_TankMaint.h"
+
+/// "Reef" and "Bowl" have an entry in each log, at the same moment. The logbook shows the livestock of "Reef".
+class StepsIn : public Desk
+{
+protected:
+    StepsIn() : Desk(LivestockTab)
+    {
+        for (const char *id : {"r1", "b1"}) {
+            addEntry(WaterTab, id, "2026-04-05 09:30:00", "ph", "8");
+            addEntry(LivestockTab, id, "2026-04-05 09:30:00", "animalname, quantity",
+                     QString("'Fish of %1', 1").arg(id));
+            addEntry(MaintenanceTab, id, "2026-04-05 09:30:00", "maintlogtask, maintlogqty", "'Feeding', 1");
+        }
+        open("Reef");
+    }
+    void takeBowlInHand()
+    {
+        keeper.g().gTankId = "b1";
+        keeper.g().gTankName = "Bowl";
+        keeper.g().gTankWaterType = "1";
+    }
+    /// What may happen under a window or a box: some desktops let a keeper activate the main window.
+    void stepIn()
+    {
+        main->activateWindow();
+        EXPECT_TRUE(isInFront(*main));
+        takeBowlInHand();
+    }
+    /// How many entries a tank has in the water, the livestock and the maintenance log.
+    QString entriesOf(const QString &id)
+    {
+        QString counts;
+        for (const char *of : {"WATERLOG WHERE tankname", "LIVESTOCK WHERE tankname", "MAINTLOG WHERE mainttankname"})
+            counts += QString::number(keeper.count(QString(of) + " = '" + id + "'"));
+        return counts;
+    }
+    static void choose(QListWidget &tanks, const QString &tank)
+    {
+        mouse::click(tanks.viewport(), tanks.visualItemRect(tanks.findItems(tank, Qt::MatchExactly).at(0)).center());
+    }
+    /// How many commands of the File menu that are for the logbook alone can be given.
+    auto fileCommands() const
+    {
+        const MenuEntry *const all[] = {main->mnu_FileNew, main->mnu_FileOpen, main->mnu_FileDelete,
+                                        main->mnu_FileMoveEntry};
+        return std::ranges::count_if(all, &MenuEntry::isEnabled);
+    }
+};
+
+TEST_F(StepsIn, TheTankThatTheQuestionNamesIsDeletedAndNoOther)
+{
+    hand::clickTank(*logbook, "Bowl");
+    keeper.doors.answers = {MsgBoxAnswer::OK};
+    keeper.doors.whileBoxIsUp = [&](const MsgBoxRequest &box) {
+        if (box.buttons() != vbOKCancel)
+            return;
+        main->activateWindow();
+        EXPECT_TRUE(isInFront(*main));
+        EXPECT_EQ(keeper.g().gTankName, "Reef") << "the logbook took its own tank in hand under a box";
+        takeBowlInHand();
+    };
+    keeper.inNext<frm_TankMaint>([&](frm_TankMaint &w) {
+        choose(*w.lst_tanklist, "Reef");
+        mouse::click(w.cmd_DeleteTank);
+        mouse::click(w.cmd_ok);
+    });
+    hand::press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(entriesOf("r1") + ' ' + entriesOf("b1"), "000 111");
+    EXPECT_EQ(keeper.stored("group_concat(tankid) AS x FROM (SELECT * FROM TANKLST ORDER BY tankid)"), "Same,b1,k1,p1");
+}
+
+TEST_F(StepsIn, AnEntryIsStoredForTheTankWhoseWindowWasOpened)
+{
+    const auto stepInAndStore = [&](QWidget &w) {
+        stepIn();
+        EXPECT_EQ(main->mnu_FilePrint->text(), "&Print") << "the child was told under a dialog";
+        hand::click<QPushButton>(w, "cmd_OK");
+    };
+    const auto expectTold = [&] { // made up for once the dialog has closed
+        EXPECT_TRUE(QTest::qWaitFor([&] { return main->mnu_FilePrint->text() == "&Print Entries..."; }));
+    };
+    for (const char *button : {"addentries", "changeentries"}) {
+        const int row = button == QByteArray("addentries") ? 0 : 1;
+        hand::clickTab(*logbook->tab_logtype, LivestockTab);
+        give<frm_LivesAddEdit>(button, row, [&](frm_LivesAddEdit &w) {
+            hand::type(*w.lst_AnimalList, "Eel");
+            stepInAndStore(w);
+        });
+        expectTold();
+        hand::clickTab(*logbook->tab_logtype, MaintenanceTab);
+        give<frm_MaintAddEdit>(button, row, [&](frm_MaintAddEdit &w) {
+            hand::type(*w.lst_mainttasklist, "Cleaning");
+            stepInAndStore(w);
+        });
+        expectTold();
+        hand::clickTab(*logbook->tab_logtype, WaterTab);
+        give<frm_WaterAddEdit>(button, row, stepInAndStore);
+        expectTold();
+    }
+    EXPECT_EQ(entriesOf("r1") + ' ' + entriesOf("b1"), "222 111");
+}
+
+TEST_F(StepsIn, AnEntryIsMovedAndDeletedFromTheTankThatWasAskedAbout)
+{
+    give<frm_LivesMove>("moveentries", 1, [&](frm_LivesMove &w) {
+        choose(*w.lst_tanklist, "Pond");
+        stepIn();
+        mouse::click(w.cmd_ok);
+    });
+    EXPECT_EQ(entriesOf("r1") + ' ' + entriesOf("b1") + ' ' + entriesOf("p1"), "101 111 010");
+    hand::clickTank(*logbook, "Pond");
+    keeper.doors.answers = {MsgBoxAnswer::OK};
+    keeper.doors.whileBoxIsUp = [&](const MsgBoxRequest &) { stepIn(); };
+    hand::clickRow(list(), 1);
+    push("deleteentries");
+    EXPECT_EQ(entriesOf("b1") + ' ' + entriesOf("p1"), "111 000");
+}
+
+TEST_F(StepsIn, EveryCommandIsForTheTankThatTheLogbookShows)
+{
+    takeBowlInHand();
+    give<frm_LivesAddEdit>("addentries", 0, [](frm_LivesAddEdit &w) {
+        EXPECT_EQ(w.windowTitle(), " Livestock Detail for Reef");
+        EXPECT_TRUE(w.opt_Saltwater->isChecked()) << "of a reef";
+        hand::press(Qt::Key_Escape);
+    });
+    takeBowlInHand();
+    give<frm_LivesAddEdit>("changeentries", 1, [](frm_LivesAddEdit &w) {
+        EXPECT_EQ(w.lst_AnimalList->currentText(), "Fish of r1");
+        hand::press(Qt::Key_Escape);
+    });
+    takeBowlInHand();
+    give<frm_LivesMove>("moveentries", 1, [](frm_LivesMove &w) {
+        EXPECT_EQ(w.lbl_Move->text(), "Moving Fish of r1 to...");
+        hand::press(Qt::Key_Escape);
+    });
+    takeBowlInHand();
+    keeper.told();
+    hand::clickRow(list(), 1);
+    push("deleteentries");
+    EXPECT_TRUE(keeper.told().contains("Fish of r1 - 04/05/26, 09:30:00 AM entry for the Reef tank?"));
+    for (const char *button : {"printentries", "graphentries"}) {
+        takeBowlInHand();
+        if (button == QByteArray("printentries"))
+            give<frm_OMKLogPrint>(button, 0, [](frm_OMKLogPrint &) { hand::press(Qt::Key_Escape); });
+        else
+            push(button);
+        EXPECT_EQ(keeper.g().gTankId, "r1") << button;
+    }
+}
+
+TEST_F(StepsIn, DetailsThatAreCancelledLeaveNoWaterTypeBehind)
+{
+    keeper.g().gTankWaterType = "3";
+    keeper.inNext<frm_TankAddNew>([](frm_TankAddNew &w) {
+        mouse::click(w.opt_Pond, QPoint(8, 8));
+        hand::press(Qt::Key_Escape);
+    });
+    Form<frm_TankMaint>().ChangeTankInfo("Bowl");
+    EXPECT_EQ(keeper.g().gTankWaterType, "3");
+}
+
+TEST_F(StepsIn, TheCommandsOfTheFileMenuGoWithTheLogbookAndAPressAnywhereBringsItToTheFront)
+{
+    const auto putBehind = [&] {
+        hand::choose(*main, *main->mnu_Tools, "mnu_ToolsConversions");
+        main->mnu_WindowTileVertical_Click();
+        EXPECT_FALSE(main->isInFront(*logbook));
+        EXPECT_EQ(fileCommands(), 0);
+    };
+    EXPECT_EQ(fileCommands(), 4);
+    putBehind();
+    for (const int tab : {WaterTab, LivestockTab})
+        logbook->tab_logtype->setCurrentIndex(tab); // as the wheel over the tabs does
+    hand::clickTank(*logbook, "Reef");              // which makes it the one in front
+    EXPECT_EQ(fileCommands(), 4);
+    putBehind();
+    for (const int tab : {WaterTab, LivestockTab})
+        logbook->tab_logtype->setCurrentIndex(tab);
+    EXPECT_EQ(fileCommands(), 0) << "its lists were filled behind another child";
+    QWidget *const takeNoFocus[] = {control<QSplitter>(*logbook, "sp_splitter").handle(1),
+                                    list().horizontalHeader()->viewport(), logbook->sb_ListviewCaption};
+    for (QWidget *pressed : takeNoFocus) {
+        mouse::press(pressed);
+        mouse::release(pressed);
+        EXPECT_TRUE(main->isInFront(*logbook)) << pressed->metaObject()->className();
+        EXPECT_EQ(fileCommands(), 4);
+        putBehind();
+    }
+    takeBowlInHand();
+    give<frm_LivesAddEdit>("addentries", 0, [&](frm_LivesAddEdit &w) {
+        hand::type(*w.lst_AnimalList, "Eel");
+        mouse::click(w.cmd_OK);
+    });
+    EXPECT_TRUE(main->isInFront(*logbook));
+    EXPECT_EQ(entriesOf("r1") + ' ' + entriesOf("b1"), "121 111");
+}
