@@ -8,8 +8,7 @@
 
 std::vector<RecurrenceRule> LoadReminders(Globals &g)
 {
-    g.gRecordset = g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM maintsched "));
-    return ReadRules(*g.gRecordset.rows());
+    return ReadRules(*g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM maintsched ")).rows());
 }
 
 UndatedReminders RunReminders(Globals &g, const std::vector<RecurrenceRule> &rules, const ReminderRun &run)
@@ -28,7 +27,7 @@ UndatedReminders RunReminders(Globals &g, const std::vector<RecurrenceRule> &rul
         }
         if (const auto fault =
                 Walk(rule, run.run, range, g.options.DateOrder, [&](const QDate &date) { run.send(date, i); }))
-            undated.add(rule.TaskDescription, *fault);
+            undated.add(rule, *fault);
     }
     return undated;
 }

@@ -8,7 +8,6 @@
 #include <QString>
 
 #include "advisers/DiagnosisLog.h"
-#include "reminders/ReminderEditorMembers.h"
 #include "store/Database.h"
 
 /// Public members of frm_OMKOptions, filled by ReadOptions.
@@ -56,7 +55,6 @@ struct Globals
     Recordset gRecordset;
     Recordset gLivestockRecordset;
     Recordset gMoveRecordset;
-    Recordset gScheduleRecordset;
 
     QString gMessage;  ///< the message being built; the last one built stays
     QString gTankName; ///< `tankname` and `tankid` of the tank in hand, or "All Tanks" for both
@@ -76,7 +74,6 @@ struct Globals
     CalendarMembers calendar;
     TankDialogMembers tankDialog;
     LivesMoveMembers livesMove;
-    ReminderEditorMembers reminderEditor;
     DiagnosisLog diagnosisLog;
 
     /// How long the splash screen stays; tests set it to 0.
