@@ -1,6 +1,8 @@
 #include "common/DateBoxes.h"
 
 #include "common/frm_Caltool.h"
+#include "platform/Doors.h"
+#include "platform/FocusAtFault.h"
 #include "platform/MaskedBox.h"
 #include "text/Dates.h"
 
@@ -11,9 +13,27 @@ void UseDateOrder(MaskedBox &box, const OptionsMembers &options)
     box.setFixedWidth(box.fontMetrics().horizontalAdvance(u'0') * 12);
 }
 
-QDate AskCalendar(Globals &globals, const QString &monthFirst)
+std::optional<QDate> AskCalendar(Globals &globals, const std::optional<QDate> &shown)
 {
-    globals.calendar.SelectedDate = monthFirst;
-    Form<frm_Caltool>().ShowCalendar(0, 0);
-    return *ReadDate(globals.calendar.SelectedDate); // the picker always leaves a date there
+    globals.calendar.SelectedDate = shown ? Format(*shown, QStringLiteral("mm/dd/yyyy")) : QString();
+    return Form<frm_Caltool>().ShowCalendar(0, 0);
+}
+
+void PutDay(MaskedBox &box, const QDate &day, const DateConventions &dates)
+{
+    const QString text = Format(day, dates.picture);
+    if (ReadDate(NormalizeDateText(text, dates.order)) == day) {
+        box.setText(text);
+        return;
+    }
+    QString wholeYear = dates.picture;
+    wholeYear.replace(QStringLiteral("YY"), QStringLiteral("YYYY"));
+    const int last = lastTypedYear();
+    MsgBox(QStringLiteral("This date box cannot hold %1. It has two digits for the year, which mean a year from %2 to "
+                          "%3. The box keeps what it had.")
+               .arg(Format(day, wholeYear))
+               .arg(last - 99)
+               .arg(last),
+           vbInformation, QStringLiteral("Oops!"));
+    FocusAtFault(box);
 }

@@ -145,17 +145,19 @@ void frm_Caltool::arrange()
     all->addLayout(foot);
 }
 
-void frm_Caltool::ShowCalendar(int left, int top)
+std::optional<QDate> frm_Caltool::ShowCalendar(int left, int top)
 {
     const Forms::Pin pin(*this);
-    const QDate today = Now().date();
-    DateOnEntry = ReadDate(g.calendar.SelectedDate).value_or(today);
+    DateOnEntry = ReadDate(g.calendar.SelectedDate).value_or(Now().date());
+    m_picked = false;
     g.calendar.PickCancelled = true;
     select(DateOnEntry);
     moveTo(left, top);
     ShowModal();
-    if (g.calendar.PickCancelled)
-        g.calendar.SelectedDate = Format(DateOnEntry, datePicture);
+    if (m_picked)
+        return m_selected;
+    setSelected(DateOnEntry);
+    return std::nullopt;
 }
 
 void frm_Caltool::moveTo(int left, int top)
@@ -167,17 +169,18 @@ void frm_Caltool::moveTo(int left, int top)
         move(x(), screenArea.top() + top / twipsPerPixel);
 }
 
-QDate frm_Caltool::selected() const { return ReadDate(g.calendar.SelectedDate).value_or(DateOnEntry); }
-
-DayButton &frm_Caltool::selectedButton()
+void frm_Caltool::setSelected(const QDate &date)
 {
-    const QDate date = selected();
-    return *cmdDay[size_t(cellOfFirst(date) + date.day() - 1)];
+    m_selected = date;
+    g.calendar.SelectedDate = Format(date, datePicture);
+    lblReturnDate->setText(g.calendar.SelectedDate);
 }
+
+DayButton &frm_Caltool::selectedButton() { return *cmdDay[size_t(cellOfFirst(m_selected) + m_selected.day() - 1)]; }
 
 void frm_Caltool::select(const QDate &date)
 {
-    g.calendar.SelectedDate = Format(date, datePicture);
+    setSelected(date);
     scrYear->setValue(date.year()); // each draws the month where its value changes
     scrMonth->setValue(date.month());
     drawMonth();
@@ -185,7 +188,7 @@ void frm_Caltool::select(const QDate &date)
 
 void frm_Caltool::drawMonth()
 {
-    const QDate date = selected();
+    const QDate date = m_selected;
     const QDate today = Now().date();
     panMonth->setText(Format(date, QStringLiteral("mmmm")));
     panYear->setText(Format(date, QStringLiteral("YYYY")));
@@ -204,15 +207,14 @@ void frm_Caltool::drawMonth()
         cell.showDay(day, shown, &cell == &chosen, shown == today);
     }
     chosen.setDefault(true);
-    lblReturnDate->setText(g.calendar.SelectedDate);
 }
 
 void frm_Caltool::goTo(int month, int year)
 {
-    QDate date(year, month, selected().day());
+    QDate date(year, month, m_selected.day());
     if (!date.isValid())
         date = dayOfMonth(year, month, daysInMonth(QDate(year, month, 1)));
-    g.calendar.SelectedDate = Format(date, datePicture);
+    setSelected(date);
     drawMonth();
 }
 
@@ -227,12 +229,12 @@ void frm_Caltool::scrMonth_change()
         goTo(scrMonth->value(), scrYear->value());
 }
 
-void frm_Caltool::scrYear_change() { goTo(selected().month(), scrYear->value()); }
+void frm_Caltool::scrYear_change() { goTo(m_selected.month(), scrYear->value()); }
 
 void frm_Caltool::panMonth_MouseUp()
 {
     mnu_Month->popup(panMonth->mapToGlobal(panMonth->rect().bottomLeft()));
-    mnu_Month->setActiveAction(mnu_Month->actions().at(selected().month() - 1));
+    mnu_Month->setActiveAction(mnu_Month->actions().at(m_selected.month() - 1));
 }
 
 void frm_Caltool::panYear_MouseUp() { mnu_Year->popup(panYear->mapToGlobal(panYear->rect().bottomLeft())); }
@@ -240,11 +242,9 @@ void frm_Caltool::panYear_MouseUp() { mnu_Year->popup(panYear->mapToGlobal(panYe
 void frm_Caltool::cmdDay_Click(int Index)
 {
     const QString caption = cmdDay[size_t(Index)]->text();
-    if (!caption.isEmpty()) {
-        const QDate date = selected();
-        g.calendar.SelectedDate = Format(dayOfMonth(date.year(), date.month(), caption.toInt()), datePicture);
-        lblReturnDate->setText(g.calendar.SelectedDate);
-    }
+    if (!caption.isEmpty())
+        setSelected(dayOfMonth(m_selected.year(), m_selected.month(), caption.toInt()));
+    m_picked = true;
     g.calendar.PickCancelled = false;
     Unload(*this);
 }
@@ -266,7 +266,7 @@ void frm_Caltool::changeEvent(QEvent *event)
 
 void frm_Caltool::keyPressEvent(QKeyEvent *event)
 {
-    const QDate date = selected();
+    const QDate date = m_selected;
     const bool byYear = event->modifiers() & Qt::ControlModifier;
     QDate next;
     switch (event->key()) {

@@ -1,10 +1,11 @@
-// The calendar picker: a small modal window with one month, for every date box of the program. The date in hand goes in
-// and comes out by Globals::calendar. One click on a day is the choice; the button labelled OK, Esc and the title bar
-// leave without one, and the date that went in comes out again. So SelectedDate always is a date afterwards,
-// "mm/dd/yyyy", whatever was handed in.
+// The calendar picker: a small modal window with one month, for every date box of the program (DateBoxes.h). One click
+// on a day is the choice; the button labelled OK, Esc and the title bar leave without one. Globals::calendar says
+// meanwhile, and afterwards, which date the window is on: "mm/dd/yyyy", whatever was handed in, and without a choice
+// the date of entry.
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include <QDate>
 
@@ -23,9 +24,9 @@ public:
     frm_Caltool(Globals &globals, QWidget *parent);
 
     /// Shows the month of g.calendar.SelectedDate (month-first text; today where it is no date) and waits for the
-    /// choice. A left or top of at least 1 twip, and within the screen, moves the window there; 0 leaves it where it
-    /// is.
-    void ShowCalendar(int left, int top);
+    /// choice, which it gives; nothing where there was none. A left or top of at least 1 twip, and within the screen,
+    /// moves the window there; 0 leaves it where it is.
+    std::optional<QDate> ShowCalendar(int left, int top);
 
     QPushButton *panMonth;
     QPushButton *panYear;
@@ -55,8 +56,9 @@ private:
     void cmdDay_Click(int Index);
     void cmd_ok_Click();
 
-    QDate selected() const;
+    /// Makes it the date in hand, and shows its month.
     void select(const QDate &date);
+    void setSelected(const QDate &date);
     /// Goes to a month and keeps the day, or takes the last one where the month has no such day.
     void goTo(int month, int year);
     void moveTo(int left, int top);
@@ -64,4 +66,6 @@ private:
     DayButton &selectedButton();
 
     QDate DateOnEntry;
+    QDate m_selected; ///< the date in hand
+    bool m_picked = false;
 };

@@ -128,7 +128,10 @@ void EntryForm::setToNow(MaskedBox &date, MaskedBox &time) const
 
 void EntryForm::pickDate(MaskedBox &box)
 {
-    box.setText(Format(AskCalendar(g, NormalizeDateText(box.Text(), g.options.DateOrder)), g.options.DatePicture));
+    const DateConventions dates{g.options.DateOrder, g.options.DatePicture};
+    const auto held = ReadDate(NormalizeDateText(box.Text(), dates.order));
+    const auto chosen = AskCalendar(g, held);
+    PutDay(box, chosen.value_or(held.value_or(Now().date())), dates); // without a choice, too, an empty box gets a date
 }
 
 bool EntryForm::isDate(const MaskedBox &box) const

@@ -292,7 +292,7 @@ void ListView::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<ListView> alive = this;
     QTableView::mouseReleaseEvent(event);
     const bool clicked = event->button() == Qt::LeftButton && !std::exchange(m_doubleClicked, false) &&
-                         indexAt(event->position().toPoint()).isValid();
+                         viewport()->rect().contains(event->position().toPoint());
     if (clicked)
         emit Click();
     if (alive)
@@ -303,7 +303,7 @@ void ListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     QTableView::mouseDoubleClickEvent(event);
     m_doubleClicked = true;
-    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid())
+    if (event->button() == Qt::LeftButton)
         emit DblClick();
 }
 

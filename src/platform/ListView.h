@@ -82,8 +82,8 @@ public:
 
 signals:
     void ColumnClick(int index); ///< from 1
-    void Click();                ///< a row was clicked with the left button
-    void DblClick();             ///< double click on a row, or Enter
+    void Click();                ///< a click of the left button, on a row or beside the rows
+    void DblClick();             ///< a double click there, or Enter
     void MouseUp(Qt::MouseButton button,
                  const QPoint &globalPosition); ///< anywhere in the list, also by the menu key (right)
 

@@ -27,18 +27,23 @@ QString SettingsStore::value(const QString &key, const QString &defaultValue, Se
     return isList ? stored.toStringList().join(u", ") : stored.toString();
 }
 
-void SettingsStore::setValue(const QString &key, const QString &value, Section section)
+SettingsStore::Values SettingsStore::setValues(const Values &values, Section section)
 {
     QSettings file(m_settings.fileName(), QSettings::IniFormat);
     file.allKeys(); // reads all sections
-    const QVariant former = file.value(path(key, section));
-    file.setValue(path(key, section), value);
+    Values former;
+    for (const auto &[key, value] : values)
+        former.emplace_back(key, file.value(path(key, section)));
+    const auto put = [&](const Values &all) {
+        for (const auto &[key, value] : all)
+            value.isValid() ? file.setValue(path(key, section), value) : file.remove(path(key, section));
+    };
+    put(values);
     // A status keeps the first failure: of the past, or of a line in the file that is no setting. So another object
     // writes, as each does when it is made, and has a status of its own.
     if (QSettings(m_settings.fileName(), QSettings::IniFormat).status() == QSettings::NoError)
-        return;
-    // What is not in the file must not be read back as if it were.
-    former.isValid() ? file.setValue(path(key, section), former) : file.remove(path(key, section));
+        return former;
+    put(former); // what is not in the file must not be read back as if it were
     throw RuntimeFailure(Failure::PermissionDenied,
                          QStringLiteral("The settings could not be written to \"%1\".").arg(file.fileName()));
 }

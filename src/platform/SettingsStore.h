@@ -2,6 +2,9 @@
 // what the program remembers about its windows. Keys are case-sensitive, and every value is text.
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include <QSettings>
 #include <QString>
 
@@ -15,7 +18,15 @@ public:
 
     QString value(const QString &key, const QString &defaultValue, Section section = Section::Settings) const;
     /// Writes through to the file. Throws RuntimeFailure (PermissionDenied) where it cannot be written.
-    void setValue(const QString &key, const QString &value, Section section = Section::Settings);
+    void setValue(const QString &key, const QString &value, Section section = Section::Settings)
+    {
+        setValues({{key, value}}, section);
+    }
+    /// Keys and what is written there; an invalid value takes the key away.
+    using Values = std::vector<std::pair<QString, QVariant>>;
+    /// Writes all of them at once, or none. Returns what was there before, so that it can be put back. Throws as
+    /// setValue().
+    Values setValues(const Values &values, Section section = Section::Settings);
     QString fileName() const { return m_settings.fileName(); }
 
     /// Path of the current user's settings file: OMK.ini in the program's configuration folder.

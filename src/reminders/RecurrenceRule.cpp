@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "platform/RuntimeFailure.h"
-#include "store/Recordset.h"
+#include "store/Database.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"
 
@@ -16,6 +16,8 @@ constexpr const char *columnNames[ColumnCount] = {
     "SchedTask",  "SchedStartDate", "SchedEndDate",    "SchedInterval",
     "SchedRtype", "SchedRSubtype",  "SchedDetailText", "SchedEnglishDesc",
 };
+
+const QString onceRules = QStringLiteral("SELECT * FROM maintsched WHERE SchedRtype = ?");
 
 QDate dateOr(const Value &value)
 {
@@ -167,10 +169,27 @@ std::optional<qint16> ReadShort(const QString &text)
     return qint16(number);
 }
 
+QString OnceDetail(const QDate &date) { return Format(date, QStringLiteral("mm/dd/yyyy")); }
+
 std::optional<QDate> ReadOnceDetail(const QString &detail, const QString &dateOrder)
 {
     for (const QString &order : {dateOrder, QStringLiteral("DDMMYY"), QStringLiteral("YYMMDD")})
         if (const auto date = ReadTypedDate(detail, order))
             return date;
     return std::nullopt;
+}
+
+void KeepOnceDates(Database &database, const QString &dateOrder)
+{
+    const QString detailColumn = QLatin1String(columnNames[Detail]);
+    Recordset rows = database.OpenRecordset(onceRules, {int(Pattern::Once)});
+    for (; !rows.EOF_(); rows.MoveNext()) {
+        const QString detail = rows[detailColumn].text();
+        const auto date = ReadOnceDetail(detail, dateOrder);
+        if (!date || IsDate(detail))
+            continue;
+        rows.Edit();
+        rows[detailColumn].setValue(OnceDetail(*date));
+        rows.Update();
+    }
 }

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+class Database;
 class Recordset;
 class Rows;
 
@@ -76,6 +77,11 @@ int ReadMonthDetail(const QString &detail);
 /// does not fit.
 std::optional<qint16> ReadShort(const QString &text);
 
-/// Once: the date as typed. Month first, and where that is none, in the user's order; a date of another order, set when
-/// it was typed, is still understood.
+/// Once: the date, month first, here with its whole year, so that it is the same day in every order and century.
+QString OnceDetail(const QDate &date);
+/// What was typed may stand there instead, if it is a date month first. In rows of earlier versions it may stand in the
+/// order in which it was typed: the user's order is tried next, and then the others.
 std::optional<QDate> ReadOnceDetail(const QString &detail, const QString &dateOrder);
+/// Writes such dates month first, before the user leaves the order in which they are read, so that they remain the same
+/// days in every other order. The caller has begun a transaction. Throws RuntimeFailure.
+void KeepOnceDates(Database &database, const QString &dateOrder);

@@ -27,7 +27,7 @@ UndatedReminders RunReminders(Globals &g, const std::vector<RecurrenceRule> &rul
         }
         if (const auto fault =
                 Walk(rule, run.run, range, g.options.DateOrder, [&](const QDate &date) { run.send(date, i); }))
-            undated.add(rule.TaskDescription, *fault);
+            undated.add(rule, *fault);
     }
     return undated;
 }

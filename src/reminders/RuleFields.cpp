@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "platform/RuntimeFailure.h"
-#include "text/Dates.h"
 #include "text/Numbers.h"
 
 namespace {
@@ -115,22 +113,15 @@ template <class Fails> std::optional<EditorComplaint> firstOf(Fields fields, Fai
     return EditorComplaint{QLatin1String(test->message), QStringLiteral("Oops"), QLatin1String(test->control)};
 }
 
-/// The once date as it is stored: as the box has it. A date put in by the program, whose text would be read as another
-/// day, is written month first instead.
+/// The once date as it is stored: as it was typed, if that is the date month first.
 QString onceDetail(const DateBox &box, Dates dates)
 {
-    const auto date = ReadOnceDate(box, dates);
-    return ReadTypedDate(box.text, dates.order) == date ? box.text : Format(*date, QStringLiteral("mm/dd/yyyy"));
+    const QDate date = ReadOnceDate(box, dates).value_or(QDate());
+    return ReadDate(box.text) == date ? box.text : OnceDetail(date);
 }
 
-/// A position of the detail that the list must have.
-int inList(int position, const QStringList &list, const RecurrenceRule &rule)
-{
-    if (position < 0 || position >= list.size())
-        throw RuntimeFailure(Failure::TypeMismatch,
-                             u"The details of the reminder \"" + rule.TaskDescription + u"\" cannot be read.");
-    return position;
-}
+/// A position of the detail, if the list has it.
+int inList(int position, const QStringList &list) { return position < list.size() ? position : -1; }
 
 void showMonthly(const RecurrenceRule &rule, EditorFields &fields)
 {
@@ -141,8 +132,8 @@ void showMonthly(const RecurrenceRule &rule, EditorFields &fields)
     } else if (rule.RecurrenceSubtype == 1) {
         const MonthWeekday place = ReadMonthWeekday(rule.RecurrenceDetail);
         fields.Opt_MonthlyXWeekdayofEveryMonth = true;
-        fields.cbo_MonthlyXth = inList(place.ordinal, OrdinalNames(), rule);
-        fields.cbo_MonthlyWeekday = inList(place.weekday, WeekdayNames(), rule);
+        fields.cbo_MonthlyXth = std::min(place.ordinal, lastOrdinal);
+        fields.cbo_MonthlyWeekday = place.weekday;
     }
 }
 
@@ -151,13 +142,13 @@ void showYearly(const RecurrenceRule &rule, EditorFields &fields)
     if (rule.RecurrenceSubtype == 0) {
         fields.txt_YearlyDay = QString::number(rule.RecurrenceInterval);
         fields.opt_YearlyThe = false;
-        fields.cbo_YearlyMonth = inList(ReadMonthDetail(rule.RecurrenceDetail), FullMonthNames(), rule);
+        fields.cbo_YearlyMonth = inList(ReadMonthDetail(rule.RecurrenceDetail), FullMonthNames());
     } else if (rule.RecurrenceSubtype == 1) {
         const MonthWeekday place = ReadMonthWeekday(rule.RecurrenceDetail);
         fields.opt_YearlyThe = true;
-        fields.cbo_YearlyXth = inList(place.ordinal, OrdinalNames(), rule);
-        fields.cbo_YearlyWeekday = inList(place.weekday, WeekdayNames(), rule);
-        fields.cbo_YearlyMonth2 = inList(place.month, FullMonthNames(), rule);
+        fields.cbo_YearlyXth = std::min(place.ordinal, lastOrdinal);
+        fields.cbo_YearlyWeekday = place.weekday;
+        fields.cbo_YearlyMonth2 = inList(place.month, FullMonthNames());
     }
 }
 

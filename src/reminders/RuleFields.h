@@ -11,12 +11,7 @@
 
 #include "reminders/Occurrences.h"
 #include "reminders/RecurrenceRule.h"
-
-struct DateConventions
-{
-    QString order;   ///< "MMDDYY", "DDMMYY" or "YYMMDD"
-    QString picture; ///< such as "DD.MM.YY"
-};
+#include "text/Dates.h"
 
 /// A date box. A date that the program put in (of the stored rule, of the calendar) counts as that date as long as the
 /// text stands as it was put, in every order and century; any other text is read as typed.
@@ -72,7 +67,7 @@ QString EnglishSentence(const EditorFields &fields);
 void StoreRecurrence(const EditorFields &fields, const DateConventions &dates, RecurrenceRule &rule);
 
 /// Sets the fields of the rule's own pattern, the others stay; at last the stored sentence, or a new one where there is
-/// none. Throws TypeMismatch where the detail is not of its pattern.
+/// none. A list whose position the detail does not tell is left without a selection, for the keeper to choose.
 void ShowRecurrence(const RecurrenceRule &rule, const DateConventions &dates, EditorFields &fields);
 
 /// A box with an information icon and OK; then the focus goes to the control of that name.

@@ -13,7 +13,7 @@ struct Globals;
 class UndatedReminders
 {
 public:
-    void add(const QString &task, WalkFault fault);
+    void add(const RecurrenceRule &rule, WalkFault fault);
     /// Shows the box if there are any. True if the keeper had them deleted. Throws RuntimeFailure.
     bool tell(Globals &globals) const;
 
@@ -21,9 +21,8 @@ private:
     struct Entry
     {
         QString task;
-        WalkFault fault;
+        QString reason;
     };
-    QString line(const Entry &entry) const;
 
     std::vector<Entry> m_entries;
 };

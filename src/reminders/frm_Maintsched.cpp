@@ -13,7 +13,7 @@
 
 namespace {
 
-const QString reminderByTask = QStringLiteral("SELECT * FROM maintsched where schedtask = ?");
+const QString reminderByTask = QStringLiteral("SELECT * FROM maintsched where coalesce(schedtask, '') = ?");
 const QString twice =
     QStringLiteral("That identical task already exists. Make your new task unique by changing at least one letter.");
 
@@ -95,13 +95,13 @@ bool frm_Maintsched::stored(Recordset &row, const RecurrenceRule &rule)
 
 void frm_Maintsched::cmd_AddTask_Click()
 {
-    g.reminderEditor.rule = NewRule(Now().date());
-    Form<frm_SchedNewAddEdit>().AddNewTask([this](const RecurrenceRule &rule) {
-        Recordset row = g.gDatabase->OpenForAppend(QStringLiteral("maintsched"));
-        row.AddNew();
-        return stored(row, rule);
-    });
-    if (!g.reminderEditor.EditCancelled)
+    const bool added =
+        Form<frm_SchedNewAddEdit>().AddNewTask(NewRule(Now().date()), [this](const RecurrenceRule &rule) {
+            Recordset row = g.gDatabase->OpenForAppend(QStringLiteral("maintsched"));
+            row.AddNew();
+            return stored(row, rule);
+        });
+    if (added)
         FillTaskList();
 }
 
@@ -125,12 +125,12 @@ void frm_Maintsched::cmd_update_task_Click()
         MsgBox(QStringLiteral("Unable to retrieve detail for reminder message."));
         return;
     }
-    g.reminderEditor.rule = ReadRule(row);
-    Form<frm_SchedNewAddEdit>().ShowExistingTask([this, row](const RecurrenceRule &rule) mutable {
-        row.Edit();
-        return stored(row, rule);
-    });
-    if (!g.reminderEditor.EditCancelled)
+    const bool changed =
+        Form<frm_SchedNewAddEdit>().ShowExistingTask(ReadRule(row), [this, &row](const RecurrenceRule &rule) {
+            row.Edit();
+            return stored(row, rule);
+        });
+    if (changed)
         FillTaskList();
 }
 
@@ -140,18 +140,18 @@ void frm_Maintsched::cmd_Deletetask_Click()
         selectedTask(QStringLiteral("You must first select a maintenance task to delete by clicking on it."));
     if (!task)
         return;
-    Recordset row = g.gDatabase->OpenRecordset(reminderByTask, {*task});
-    const QString sentence = row.isEmpty() ? QString() : ReadRule(row).EnglishDescription;
+    Recordset asked = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    const QString sentence = asked.isEmpty() ? QString() : ReadRule(asked).EnglishDescription;
     g.gMessage = u"Are you sure you want to delete this entry?\n" + *task + u"\nscheduled for " + sentence +
                  u"?\n(Remember, you CANNOT \"undo\" a delete!)";
     Beep();
     if (MsgBox(g.gMessage, vbOKCancel + vbQuestion, QStringLiteral("Are you sure...")) != MsgBoxAnswer::OK)
         return;
-    row = g.gDatabase->OpenRecordset(reminderByTask, {*task});
-    if (row.isEmpty())
+    Recordset found = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    if (found.isEmpty())
         MsgBox(QStringLiteral("Unable to delete the task!"));
     else
-        row.Delete();
+        found.Delete();
     FillTaskList();
 }
 

@@ -6,7 +6,6 @@
 #include "platform/Icons.h"
 #include "reminders/OccurrenceRows.h"
 #include "reminders/RuleFields.h"
-#include "text/Dates.h"
 
 using Editor = frm_SchedNewAddEdit;
 
@@ -106,7 +105,6 @@ void frm_SchedNewAddEdit::connectControls()
 
 void frm_SchedNewAddEdit::Form_Load()
 {
-    g.reminderEditor.EditCancelled = true;
     FilltheStupidListBoxes();
     for (QRadioButton *first : {opt_DailyEveryXDays, opt_MonthlyXdayofEveryMonth, opt_YearlyEvery, opt_Daily})
         first->setChecked(true);
@@ -207,33 +205,35 @@ void frm_SchedNewAddEdit::show(const EditorFields &f)
     txt_EnglishDesc->setText(f.txt_EnglishDesc); // last: each control set above has made a sentence of its own
 }
 
-void frm_SchedNewAddEdit::AddNewTask(const Store &store)
+bool frm_SchedNewAddEdit::AddNewTask(const RecurrenceRule &start, const Store &store)
 {
-    const RecurrenceRule &rule = g.reminderEditor.rule;
+    m_rule = start;
     opt_Daily->setChecked(true);
-    put(*txt_StartDate, PutDate(rule.StartDate, dates()));
-    put(*txt_endDate, PutDate(rule.EndDate, dates()));
-    txt_TaskDescription->setText(rule.TaskDescription);
+    put(*txt_StartDate, PutDate(start.StartDate, dates()));
+    put(*txt_endDate, PutDate(start.EndDate, dates()));
+    txt_TaskDescription->setText(start.TaskDescription);
     UpdateEnglishDescription();
-    showUntilDone(store);
+    return showUntilDone(store);
 }
 
-void frm_SchedNewAddEdit::ShowExistingTask(const Store &store)
+bool frm_SchedNewAddEdit::ShowExistingTask(const RecurrenceRule &rule, const Store &store)
 {
+    m_rule = rule;
     EditorFields shown = fields();
-    ShowRecurrence(g.reminderEditor.rule, dates(), shown);
+    ShowRecurrence(rule, dates(), shown);
     show(shown);
-    showUntilDone(store);
+    return showUntilDone(store);
 }
 
-void frm_SchedNewAddEdit::showUntilDone(const Store &store)
+bool frm_SchedNewAddEdit::showUntilDone(const Store &store)
 {
     const Forms::Pin whileItWaits(*this);
     m_store = store;
-    g.reminderEditor.EditCancelled = true;
+    EditCancelled = true;
     txt_TaskDescription->setFocus();
     ShowModal();
     Unload(*this);
+    return !EditCancelled;
 }
 
 void frm_SchedNewAddEdit::opt_Pattern_Click(const PatternRow &row)
@@ -254,10 +254,9 @@ void frm_SchedNewAddEdit::UpdateEnglishDescription() { txt_EnglishDesc->setText(
 
 void frm_SchedNewAddEdit::cal_Click(MaskedBox &box)
 {
-    const auto date = ReadRangeDate(dateOf(box), dates());
-    const QDate chosen = AskCalendar(g, date ? Format(*date, QStringLiteral("mm/dd/yyyy")) : QString());
-    if (!g.calendar.PickCancelled)
-        put(box, PutDate(chosen, dates()));
+    // The day remains the one that was chosen, whatever its century: the box knows the date behind its text.
+    if (const auto chosen = AskCalendar(g, ReadRangeDate(dateOf(box), dates())))
+        put(box, PutDate(*chosen, dates()));
 }
 
 void frm_SchedNewAddEdit::cmd_PreviewSchedule_Click()
@@ -294,18 +293,18 @@ void frm_SchedNewAddEdit::cmd_OK_Click()
 {
     if (!EditForm())
         return;
-    RecurrenceRule rule = g.reminderEditor.rule; // what its new pattern does not need stays as it was
+    RecurrenceRule rule = m_rule;
     StoreRecurrence(fields(), dates(), rule);
     if (!m_store(rule)) {
         FocusAtFault(*txt_TaskDescription);
         return;
     }
-    g.reminderEditor = {rule, false};
+    EditCancelled = false;
     hide();
 }
 
 void frm_SchedNewAddEdit::cmd_Cancel_Click()
 {
-    g.reminderEditor.EditCancelled = true;
+    EditCancelled = true;
     hide();
 }

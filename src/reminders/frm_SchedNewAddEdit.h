@@ -1,11 +1,12 @@
 // The editor of one reminder: a task, a pattern with its values, a range of dates. It says the rule in one sentence as
-// it is composed, and shows its dates on demand. It knows no table: it takes the rule from Globals::reminderEditor,
-// hands the new one to whoever stores it, and leaves it there. The list of reminders opens it.
+// it is composed, and shows its dates on demand. It knows no table: it is given the rule, and hands the new one to
+// whoever stores it. The list of reminders opens it.
 #pragma once
 
 #include <array>
 #include <functional>
 
+#include "reminders/RecurrenceRule.h"
 #include "shell/DialogForm.h"
 #include "ui_frm_SchedNewAddEdit.h"
 
@@ -13,7 +14,6 @@ struct DateBox;
 struct DateConventions;
 struct EditorComplaint;
 struct EditorFields;
-struct RecurrenceRule;
 
 class frm_SchedNewAddEdit : public DialogForm, public Ui::frm_SchedNewAddEdit
 {
@@ -25,11 +25,12 @@ public:
     frm_SchedNewAddEdit(Globals &globals, QWidget *parent);
     void Form_Load();
 
-    /// Composes a new rule, which starts as a daily one with the task and the range of the members.
-    void AddNewTask(const Store &store);
-    /// Shows the members' rule to be changed. Throws TypeMismatch where its detail is not of its pattern.
-    void ShowExistingTask(const Store &store);
+    /// Composes a new rule, which starts as a daily one with the task and the range of that one. True if it was stored.
+    bool AddNewTask(const RecurrenceRule &start, const Store &store);
+    /// Shows a rule to be changed. True if it was stored.
+    bool ShowExistingTask(const RecurrenceRule &rule, const Store &store);
 
+    bool EditCancelled = true;                ///< until OK has been pressed on a rule that holds, and that was stored
     std::array<QCheckBox *, 7> chk_WeeklyDay; ///< from Sunday
 
 private:
@@ -57,8 +58,9 @@ private:
     /// Is the rule as composed good to be stored? If not, says why and puts the focus there.
     bool EditForm();
     void complain(const EditorComplaint &complaint);
-    void showUntilDone(const Store &store);
+    bool showUntilDone(const Store &store);
 
+    RecurrenceRule m_rule; ///< what its new pattern does not need stays as it was
     Store m_store;
     std::map<const MaskedBox *, QDate> m_put; ///< the date behind a text that the program put in
 };

@@ -10,11 +10,9 @@
 #include "platform/PrintJob.h"
 #include "reminders/OccurrenceRows.h"
 #include "reminders/ReminderRun.h"
-#include "reminders/RuleFields.h"
 #include "reminders/ScheduleReport.h"
 #include "shell/frm_OMKMDIMain.h"
 #include "shell/MenuEntry.h"
-#include "text/Dates.h"
 
 namespace {
 
@@ -43,9 +41,19 @@ frm_Schedule::frm_Schedule(Globals &globals, QWidget *parent) : ChildForm(global
 
 void frm_Schedule::Form_Load()
 {
-    for (MaskedBox *box : {txt_startdate, txt_enddate})
-        UseDateOrder(*box, g.options);
+    followDateOrder();
     opt_2years->setChecked(true);
+}
+
+void frm_Schedule::followDateOrder()
+{
+    if (!txt_startdate->ClipText().isEmpty() || !txt_enddate->ClipText().isEmpty())
+        return;
+    m_dates = {g.options.DateOrder, g.options.DatePicture};
+    for (MaskedBox *box : {txt_startdate, txt_enddate}) {
+        UseDateOrder(*box, g.options);
+        box->setToolTip(m_dates.picture);
+    }
 }
 
 void frm_Schedule::Form_Activate()
@@ -54,6 +62,7 @@ void frm_Schedule::Form_Activate()
     print.Enabled(true);
     print.setText(QStringLiteral("&Print"));
     SetListViewStyle(*lstv_Reminders);
+    followDateOrder();
 }
 
 void frm_Schedule::opt_range_Click()
@@ -65,19 +74,13 @@ void frm_Schedule::opt_range_Click()
 
 std::optional<QDate> frm_Schedule::dateIn(const MaskedBox &box) const
 {
-    const auto put = m_put.find(&box);
-    return ReadRangeDate({box.Text(), put == m_put.end() ? QDate() : put->second},
-                         {g.options.DateOrder, g.options.DatePicture});
+    return ReadDate(NormalizeDateText(box.Text(), m_dates.order));
 }
 
 void frm_Schedule::cal_Click(MaskedBox &box)
 {
-    const auto date = dateIn(box);
-    const QDate chosen = AskCalendar(g, date ? Format(*date, QStringLiteral("mm/dd/yyyy")) : QString());
-    if (g.calendar.PickCancelled)
-        return;
-    m_put[&box] = chosen;
-    box.setText(Format(chosen, g.options.DatePicture));
+    if (const auto chosen = AskCalendar(g, dateIn(box)))
+        PutDay(box, *chosen, m_dates);
 }
 
 std::optional<DateRange> frm_Schedule::askedRange()

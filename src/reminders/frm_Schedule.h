@@ -2,17 +2,15 @@
 // nothing; the list stands until it is generated again.
 #pragma once
 
-#include <map>
 #include <optional>
 
 #include <QDate>
 
 #include "shell/ChildForm.h"
+#include "text/Dates.h"
 #include "ui_frm_Schedule.h"
 
 class OccurrenceRows;
-struct DateBox;
-struct DateConventions;
 struct DateRange;
 struct RecurrenceRule;
 
@@ -27,6 +25,9 @@ public:
     void Print_Schedule();
 
 private:
+    /// Brings the date order in force to the two boxes while they are empty. Dates that are there keep the order in
+    /// which they were written: read in another, they would become other days.
+    void followDateOrder();
     void opt_range_Click();
     void cal_Click(MaskedBox &box);
     void cmd_Generate_Click();
@@ -36,5 +37,5 @@ private:
     std::optional<DateRange> askedRange();
     void generate(const std::vector<RecurrenceRule> &rules, const std::optional<DateRange> &range);
 
-    std::map<const MaskedBox *, QDate> m_put; ///< the date behind a text that the calendar put in
+    DateConventions m_dates; ///< of the two boxes
 };

@@ -8,7 +8,6 @@
 #include <QString>
 
 #include "advisers/DiagnosisLog.h"
-#include "reminders/ReminderEditorMembers.h"
 #include "store/Database.h"
 
 /// Public members of frm_OMKOptions, filled by ReadOptions.
@@ -65,7 +64,6 @@ struct Globals
     OptionsMembers options;
     CalendarMembers calendar;
     LivesMoveMembers livesMove;
-    ReminderEditorMembers reminderEditor;
     DiagnosisLog diagnosisLog;
 
     /// How long the splash screen stays; tests set it to 0.

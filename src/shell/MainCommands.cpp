@@ -194,8 +194,11 @@ void frm_OMKMDIMain::mnu_ToolsDisease_Click()
     // Without the keeper's own: the second click of a double click would open a second wizard behind the first.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     WizardCancelled = false;
-    while (!WizardCancelled)
-        Form<frm_DiagnosisQA>().Question_Disclaimer();
+    while (!WizardCancelled) {
+        const QPointer<frm_DiagnosisQA> wizard = &Form<frm_DiagnosisQA>();
+        wizard->Question_Disclaimer();
+        delete wizard; // its code has returned. A deletion that is put off would wait for the end of this loop.
+    }
 }
 
 void frm_OMKMDIMain::mnu_ToolsCompatibility_Click() { ShowChild(Form<frm_Compat>()); }

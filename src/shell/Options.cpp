@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "platform/Doors.h"
+#include "platform/RuntimeFailure.h"
+#include "platform/SettingsStore.h"
+#include "reminders/RecurrenceRule.h"
 #include "text/Dates.h"
 
 namespace {
@@ -100,8 +103,31 @@ Recordset ReadOptions(Globals &g)
     return config;
 }
 
-void SaveOptionSettings(const OptionsMembers &options)
+void StoreOptions(Globals &g, Recordset &config, const ConfigValues &values, const QString &formerOrder)
 {
+    Database::Transaction whole(*g.gDatabase);
+    config.Edit();
+    config[QStringLiteral("default_salt")].setValue(values.salt);
+    config[QStringLiteral("default_fresh")].setValue(!values.salt);
+    config[QStringLiteral("user_fieldname1")].setValue(values.user_fieldname1);
+    config[QStringLiteral("user_fieldname2")].setValue(values.user_fieldname2);
+    config.Update();
+    if (g.options.DateOrder != formerOrder)
+        KeepOnceDates(*g.gDatabase, formerOrder);
+
+    SettingsStore &store = Doors::current().settings();
+    SettingsStore::Values texts;
     for (const Setting &setting : settings)
-        SaveSetting(QLatin1String(setting.key), setting.text(options));
+        texts.emplace_back(QLatin1String(setting.key), setting.text(g.options));
+    const SettingsStore::Values former = store.setValues(texts);
+    try {
+        whole.commit();
+    } catch (const RuntimeFailure &) {
+        store.setValues(former);
+        throw;
+    }
+    g.options.DatePicture = MakeDatePicture(g.options.DateOrder, g.options.DateDelimiter);
+    g.gDefaultWaterType = values.salt ? QStringLiteral("SALT") : QStringLiteral("FRESH");
+    g.gUserFieldName1 = values.user_fieldname1;
+    g.gUserFieldName2 = values.user_fieldname2;
 }

@@ -135,42 +135,27 @@ void frm_OMKOptions::ShowOptions(int tab)
     Get_Initial_Properties();
     g.options.ActiveTab = qint16(tab);
     SSTab1->setCurrentIndex(g.options.ActiveTab);
+    m_inForce = g.options;
     Cancelled = true;
     ShowModal();
-    if (!Cancelled) {
-        g.options.DatePicture = MakeDatePicture(g.options.DateOrder, g.options.DateDelimiter);
-        Unload(*this);
-    } else if (!isEnding()) {
-        Get_Initial_Properties();
-    }
+    Unload(*this);
 }
 
 // Stores before the dialog goes: if that fails, it stays with what was entered, and nothing counts as stored.
 void frm_OMKOptions::cmdOK_Click()
 {
-    store();
+    g.options.GraphChecks = graphChecks();
+    StoreOptions(g, m_config, {opt_Salt->isChecked(), txt_username1->text(), txt_username2->text()},
+                 m_inForce.DateOrder);
     Cancelled = false;
     hide();
 }
 
-void frm_OMKOptions::store()
-{
-    const bool salt = opt_Salt->isChecked();
-    m_config.Edit();
-    g.options.GraphChecks = graphChecks();
-    SaveOptionSettings(g.options);
-    m_config[QStringLiteral("default_salt")].setValue(salt);
-    m_config[QStringLiteral("default_fresh")].setValue(!salt);
-    m_config[QStringLiteral("user_fieldname1")].setValue(txt_username1->text());
-    m_config[QStringLiteral("user_fieldname2")].setValue(txt_username2->text());
-    m_config.Update();
-    g.gDefaultWaterType = salt ? QStringLiteral("SALT") : QStringLiteral("FRESH");
-    g.gUserFieldName1 = txt_username1->text();
-    g.gUserFieldName2 = txt_username2->text();
-}
-
+// Takes back before the dialog goes what its clicks have changed: the window behind it reads the options when it comes
+// to the front. Nothing is read for that, so it succeeds whatever has become of the file.
 void frm_OMKOptions::cmdCancel_Click()
 {
+    g.options = m_inForce;
     Cancelled = true;
     hide();
 }

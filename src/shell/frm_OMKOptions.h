@@ -53,10 +53,9 @@ private:
     void showGraphSettings(const OptionsMembers &options);
     void showDateCaptions();
     QString graphChecks() const;
-    void store();
-
     /// The check boxes of the measurements, in the order of GraphChecks.
     std::array<QCheckBox *, 13> m_checks;
-    Recordset m_config; ///< the row of CONFIG, kept from the loading until OK changes it
+    Recordset m_config;       ///< the row of CONFIG, kept from the loading until OK changes it
+    OptionsMembers m_inForce; ///< what the dialog was opened on
     bool Cancelled = true;
 };

@@ -9,6 +9,13 @@
 #include <QString>
 #include <QTime>
 
+/// How the user writes a date.
+struct DateConventions
+{
+    QString order;   ///< "MMDDYY", "DDMMYY" or "YYMMDD"
+    QString picture; ///< such as "DD.MM.YY"
+};
+
 /// The picture that shows a date in the user's order: "MMDDYY" with "/" gives "MM/DD/YY".
 QString MakeDatePicture(const QString &dateOrder, const QString &delimiter);
 

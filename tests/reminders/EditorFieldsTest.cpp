@@ -107,7 +107,7 @@ TEST_F(EditorFieldsTest, InvalidNumbersAndChoicesAreRefused)
     }
 }
 
-TEST_F(EditorFieldsTest, ShowsAnUpgradedRuleAndRefusesStrangeDetails)
+TEST_F(EditorFieldsTest, ShowsAnUpgradedRuleAndAsksForWhatAStrangeDetailDoesNotTell)
 {
     const QDate start(1997, 3, 1), end(2047, 3, 1); // with two digits, its year would mean 1947
     RecurrenceRule old{"Old", start, end, 3, 0, 0, {}, {}};
@@ -121,9 +121,43 @@ TEST_F(EditorFieldsTest, ShowsAnUpgradedRuleAndRefusesStrangeDetails)
     EXPECT_EQ(fields.txt_MonthlyDay, "7");
     ShowRecurrence({"Once", start, end, 1, 4, 0, "one day", {}}, american, fields);
     EXPECT_EQ(refused(fields), "txt_OnceDate");
-    for (const auto &[type, subtype, detail] : {std::tuple{2, 1, "51"}, {2, 1, "0"}, {3, 0, "12"}, {3, 1, "00"}}) {
-        const RecurrenceRule strange{"Strange", start, end, 1, qint16(type), qint16(subtype), detail, {}};
-        EXPECT_THROW(ShowRecurrence(strange, american, fields), RuntimeFailure) << detail;
+    ShowRecurrence({"Beyond", start, end, 1, 2, 1, "51", {}}, american, fields);
+    EXPECT_EQ(fields.cbo_MonthlyXth, lastOrdinal) << "as the walk takes it";
+    for (const auto &[type, subtype, detail, asked] : {std::tuple{2, 1, "0", "cbo_MonthlyWeekday"},
+                                                       {2, 1, "x1", "cbo_MonthlyXth"},
+                                                       {3, 0, "12", "cbo_YearlyMonth"},
+                                                       {3, 0, "", "cbo_YearlyMonth"},
+                                                       {3, 1, "00", "cbo_YearlyMonth2"},
+                                                       {3, 1, "0812", "cbo_YearlyWeekday"}}) {
+        const RecurrenceRule strange{
+            "Strange", QDate(2026, 3, 1), QDate(2027, 3, 1), 1, qint16(type), qint16(subtype), detail, {}};
+        Fields shown = goodFields(Pattern::Daily);
+        ShowRecurrence(strange, american, shown);
+        EXPECT_EQ(refused(shown), asked) << detail;
+    }
+}
+
+TEST_F(EditorFieldsTest, AOnceDateIsStoredAsTypedWhereThatIsTheDateMonthFirstElseSoThatItStaysItsDay)
+{
+    const DateConventions german{"DDMMYY", "DD.MM.YY"}, iso{"YYMMDD", "YY-MM-DD"};
+    const std::tuple<DateConventions, DateBox, QString> rows[] = {
+        {american, {"07/04/26", {}}, "07/04/26"},
+        {german, {"04.07.26", {}}, "04.07.26"}, // the 7th of April, to everybody
+        {german, {"20.03.26", {}}, "03/20/2026"},
+        {iso, {"27-05-12", {}}, "05/12/2027"},
+        {iso, {"05-12-27", {}}, "05-12-27"},
+        {american, PutDate(QDate(2026, 7, 4), american), "07/04/26"},
+        {german, PutDate(QDate(2026, 7, 4), german), "07/04/2026"}, // chosen in the calendar
+        {american, PutDate(QDate(2030, 11, 16), american), "11/16/2030"},
+    };
+    for (const auto &[dates, box, detail] : rows) {
+        Fields fields = goodFields(Pattern::Once);
+        fields.txt_OnceDate = box;
+        RecurrenceRule rule;
+        StoreRecurrence(fields, dates, rule);
+        EXPECT_EQ(rule.RecurrenceDetail, detail) << box.text.toStdString();
+        for (const char *order : {"MMDDYY", "DDMMYY", "YYMMDD"})
+            EXPECT_EQ(ReadOnceDetail(rule.RecurrenceDetail, order), ReadOnceDate(box, dates)) << order;
     }
 }
 

@@ -1,6 +1,9 @@
 #include "common/CalendarControls.h"
+#include "common/DateBoxes.h"
 #include "common/frm_Caltool.h"
 #include "Keeper.h"
+#include "logbook/frm_WaterAddEdit.h"
+#include "platform/MaskedBox.h"
 
 namespace {
 
@@ -93,4 +96,48 @@ TEST(Calendar, AChosenDayComesOutWithItsCenturyAndEveryOtherWayBringsTheDateOfEn
         EXPECT_EQ(pick(keeper, in, moveAndChoose), out);
         EXPECT_EQ(keeper.g().calendar.PickCancelled, cancelled) << in;
     }
+}
+
+TEST(Calendar, ADayThatTheBoxWouldReadAsAnotherIsToldAndTheBoxKeepsWhatItHad)
+{
+    const std::tuple<const char *, const char *, QDate, const char *> rows[] = {
+        {"MMDDYY", "/", {2029, 12, 31}, "12/31/29"},
+        {"MMDDYY", "/", {2030, 1, 1}, "01/01/2030"}, // told with its whole year
+        {"DDMMYY", ".", {1930, 1, 31}, "31.01.30"},
+        {"DDMMYY", ".", {1929, 12, 31}, "31.12.1929"},
+        {"YYMMDD", "-", {2126, 3, 14}, "2126-03-14"},
+    };
+    Keeper keeper;
+    for (const auto &[order, delimiter, day, shown] : rows) {
+        MaskedBox box;
+        OptionsMembers options;
+        options.DateDelimiter = delimiter;
+        UseDateOrder(box, options);
+        const QString before = MakeDatePicture("010101", delimiter);
+        box.setText(before);
+        PutDay(box, day, {order, MakeDatePicture(order, delimiter)});
+        const bool held = strlen(shown) == 8;
+        EXPECT_EQ(box.Text(), held ? shown : before);
+        const QString told = keeper.told();
+        EXPECT_EQ(told == "0", held);
+        EXPECT_TRUE(held || told.startsWith(QString("0|Oops!/64/This date box cannot hold %1. ").arg(shown)));
+    }
+}
+
+TEST(Calendar, OfAnEntryLeavesItsBoxAloneWhenTheDayIsRefused)
+{
+    Keeper keeper;
+    keeper.addTank("Reef", "r1");
+    keeper.startProgram();
+    keeper.told();
+    auto &entry = Form<frm_WaterAddEdit>();
+    entry.txt_date->setText("03/14/26");
+    keeper.inNext<frm_Caltool>([](frm_Caltool &calendar) {
+        calendar.scrYear->setValue(2030);
+        day(20)(calendar);
+    });
+    entry.cmd_Caldate->click();
+    EXPECT_EQ(entry.txt_date->Text(), "03/14/26");
+    EXPECT_TRUE(keeper.told().startsWith("0|Oops!/64/This date box cannot hold 03/"));
+    Unload(entry);
 }

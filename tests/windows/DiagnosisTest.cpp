@@ -83,7 +83,12 @@ TEST_F(Wizard, ItsAnswersLeadToADiagnosisAndTheOneWithoutAdviceShowsWhateverWasS
 
 TEST_F(Wizard, AnyPageIsLeftByStartingOver)
 {
-    const Step startOver = [](frm_DiagnosisQA &w) { mouse::click(w.cmd_StartOver); };
+    const Step startOver = [](frm_DiagnosisQA &w) {
+        const auto windows = QApplication::topLevelWidgets();
+        EXPECT_EQ(std::ranges::count_if(windows, [](QWidget *one) { return qobject_cast<frm_DiagnosisQA *>(one); }), 1)
+            << "the window before it is gone";
+        mouse::click(w.cmd_StartOver);
+    };
     const Step nothingLeft = [&](frm_DiagnosisQA &w) {
         EXPECT_TRUE(w.AnswerIndex.isEmpty() && w.fra_Disclaimer->isVisible() && lineOf(3).isEmpty());
         w.close();

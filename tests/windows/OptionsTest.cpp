@@ -1,4 +1,5 @@
 #include "Hands.h"
+#include "platform/SettingsStore.h"
 #include "shell/frm_OMKOptions.h"
 
 constexpr const char *optionKeys[] = {"Graph_Checks", "Graph_Style", "Graph_SkipZeroes", "GraphPrintColor",
@@ -55,6 +56,27 @@ protected:
         click(*w.opt_UseSaltFile);
     }
 
+    /// Expects that OK is refused, and that neither it nor the Cancel after it leaves anything changed.
+    void expectRefused(const std::function<void()> &spoil, const std::function<void()> &mend)
+    {
+        const QString before = stored();
+        inDialog([&](frm_OMKOptions &w) {
+            keeper.told();
+            changeEverything(w);
+            spoil();
+            click(*w.cmdOK);
+            EXPECT_EQ(keeper.told(), "0|failure 70");
+            EXPECT_TRUE(w.isVisible());
+            click(*w.cmdCancel); // the file is still held
+            EXPECT_EQ(keeper.told(), "0");
+        });
+        mend();
+        EXPECT_EQ(inForce(), defaults);
+        EXPECT_EQ(stored(), before);
+        SettingsStore asInTheFile(keeper.doors.settings().fileName());
+        EXPECT_EQ(asInTheFile.value("Date_Order", "(none)"), "(none)");
+    }
+
     Keeper keeper;
     const QString defaults = "MMDDYY / MM/DD/YY, 0111000000000 1 0 0, 0 0 SALT";
     const QString changed = "DDMMYY . DD.MM.YY, 1111000000001 16 1 1, 1 1 FRESH";
@@ -93,6 +115,23 @@ TEST_F(Options, EveryOtherWayOutKeepsWhatWasStored)
         });
         EXPECT_EQ(inForce(), defaults);
         EXPECT_EQ(stored(), before);
+    }
+}
+
+TEST_F(Options, NothingOfARefusedOkIsKeptWhenAnotherProgramHoldsTheFile)
+{
+    Database::setBusyTimeout(10);
+    keeper.restart();
+    Database::setBusyTimeout(5000);
+    const auto other = Database::OpenDatabase(keeper.databaseFile());
+    for (const char *hold : {"BEGIN EXCLUSIVE", "BEGIN IMMEDIATE", "BEGIN"}) {
+        SCOPED_TRACE(hold);
+        expectRefused(
+            [&] {
+                other->Execute(hold);
+                other->OpenRecordset("SELECT * FROM CONFIG"); // who only reads lets all be written, but not committed
+            },
+            [&] { other->Execute("ROLLBACK"); });
     }
 }
 

@@ -5,6 +5,7 @@
 #include "reminders/frm_Maintsched.h"
 #include "reminders/frm_SchedNewAddEdit.h"
 #include "reminders/frm_Schedule.h"
+#include "shell/frm_OMKOptions.h"
 
 class Reminders : public Desk
 {
@@ -62,7 +63,7 @@ TEST_F(Reminders, OfEachPatternAreStoredShownOnTheToolbarAndUnchangedByASecondSa
              w.cbo_MonthlyXth->setFocus();
              hand::press(Qt::Key_End); // "Last"; today's weekday is set already
          }},
-        {"1|4|0|20.03.26|Only once on 20.03.26.", "Fri 20.03.26",
+        {"1|4|0|03/20/2026|Only once on 20.03.26.", "Fri 20.03.26",
          [](frm_SchedNewAddEdit &w) {
              click(*w.opt_Once);
              hand::type(*w.txt_OnceDate, "200326");
@@ -109,7 +110,7 @@ TEST_F(Reminders, ThatCannotBeStoredLeaveTheEditorWithAllThatWasSet)
         click(*w.chk_WeeklyDay[0]);
         mouse::click(w.cmd_OK);
         EXPECT_TRUE(keeper.told().startsWith("1|/0/That identical task already exists."));
-        EXPECT_TRUE(keeper.g().reminderEditor.EditCancelled && w.chk_WeeklyDay[0]->isChecked());
+        EXPECT_TRUE(w.EditCancelled && w.chk_WeeklyDay[0]->isChecked());
         hand::type(*w.txt_TaskDescription, "Feet");
         mouse::click(w.cmd_OK);
     });
@@ -152,12 +153,16 @@ TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
     insert("January", "'2026-01-01', '2027-12-31', 5, 3, 0, '0'");
     insert("Endless", "'2026-01-01', NULL, 1, 0, 0, ''");
     insert("Stuck", "'2026-01-01', '2027-12-31', 0, 0, 0, ''");
+    insert("Spring", "'2026-01-01', '2027-12-31', 30, 3, 0, '2'");
+    insert("Odd", "'2026-01-01', '2027-12-31', 5, 3, 0, 'x'");
     insert("Feed", "'2026-03-15', '2026-03-16', 2, 0, 0, ''");
     startWith("MMDDYY", "/"); // nobody is locked out
     EXPECT_EQ(upcoming(), "Sun 03/15/26 Feed");
     const QString told = keeper.told();
-    for (const char *line : {"Reminders without dates/55/", "January (its month cannot be read)",
-                             "Endless (it has no end date)", "Stuck (its interval is not above 0)"})
+    for (const char *line :
+         {"Reminders without dates/55/", "January (no list can show a yearly reminder of that date; make",
+          "Spring (no list can show a yearly reminder of that date; make", "Odd (its month cannot be read)",
+          "Endless (it has no end date)", "Stuck (its interval is not above 0)"})
         EXPECT_TRUE(told.contains(line)) << told.toStdString();
     hand::press(Qt::Key_S, Qt::ControlModifier);
     auto &schedule = Form<frm_Schedule>();
@@ -165,12 +170,78 @@ TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
     EXPECT_EQ(hand::column(*schedule.lstv_Reminders, 1), "Feed");
     EXPECT_EQ(keeper.told().count("Reminders without dates/55/"), 1);
     openList();
-    EXPECT_EQ(list->lstv_MaintSched->Count(), 4);
+    EXPECT_EQ(list->lstv_MaintSched->Count(), 6);
     hand::press(Qt::Key_S, Qt::ControlModifier);
     keeper.doors.answers = {MsgBoxAnswer::Delete};
     mouse::click(schedule.cmd_Generate);
     EXPECT_EQ(hand::column(*list->lstv_MaintSched, 0), "Feed") << "an open list follows";
     EXPECT_EQ(keeper.count("MAINTSCHED"), 1);
+}
+
+TEST_F(Reminders, WithDetailsThatCannotBeReadAreOpenedAndPutRight)
+{
+    insert("Odd", "'2026-01-01', '2027-12-31', 1, 2, 1, 'x'");
+    openList();
+    hand::clickRow(*list->lstv_MaintSched, 1);
+    keeper.told();
+    keeper.doors.answers = {MsgBoxAnswer::Skip};
+    inEditor(list->cmd_update_task, [this](frm_SchedNewAddEdit &w) {
+        mouse::click(w.cmd_OK);
+        EXPECT_EQ(keeper.told(), "0|Oops/64/Choose a frequency from the list.");
+        hand::press(Qt::Key_Home);
+        w.cbo_MonthlyWeekday->setCurrentIndex(6);
+        mouse::click(w.cmd_OK);
+    });
+    EXPECT_EQ(upcoming().section('|', 0, 0), "Sat 04/04/26 Odd");
+    EXPECT_EQ(keeper.told(), "0");
+}
+
+TEST_F(Reminders, AskForARowWhenTheClickIsBesideTheRows)
+{
+    insert("Feed", "'2026-01-01', '2027-12-31', 1, 0, 0, ''");
+    openList();
+    ListView &rows = *list->lstv_MaintSched;
+    const QPoint beside(20, rows.viewport()->height() - 4);
+    hand::clickRow(rows, 1);
+    mouse::click(rows.viewport(), beside);
+    EXPECT_EQ(rows.SelectedItem(), 0);
+    mouse::click(list->cmd_DeleteTask); // which the click has left enabled
+    EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a maintenance task to delete by clicking on it.");
+    mouse::doubleClick(rows.viewport(), beside);
+    EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a maintenance task to change by clicking on it.");
+}
+
+TEST_F(Reminders, StayTheirDaysWhenAnotherDateOrderIsChosen)
+{
+    startWith("YYMMDD", "/");
+    insert("Old", "'2026-01-01', '2027-12-31', 1, 4, 0, '27/05/12'"); // as earlier versions stored it
+    insert("Feed", "'2027-02-01', '2027-12-31', 1, 0, 0, ''");
+    hand::press(Qt::Key_S, Qt::ControlModifier);
+    auto &schedule = Form<frm_Schedule>();
+    click(*schedule.opt_DateRange);
+    const auto choose = [this](QRadioButton *frm_OMKOptions::*order) {
+        keeper.inNext<frm_OMKOptions>([order](frm_OMKOptions &w) {
+            mouse::click(w.*order);
+            mouse::click(w.cmdOK);
+        });
+        hand::choose(*main, *main->mnu_View, "mnu_ViewOptions");
+        EXPECT_TRUE(isInFront(*main));
+    };
+    const auto range = [&]() -> QString {
+        mouse::click(schedule.cmd_Generate);
+        const ListView &dates = *schedule.lstv_Reminders;
+        return dates.Text(1) + ' ' + dates.Text(dates.Count());
+    };
+    choose(&frm_OMKOptions::opt_Dateform_MMDDYY); // the boxes are empty, and follow
+    hand::type(*schedule.txt_startdate, "020327");
+    hand::type(*schedule.txt_enddate, "051227");
+    const QString days = "Wednesday %1 Wednesday %2";
+    EXPECT_EQ(range(), days.arg("02/03/27", "05/12/27"));
+    choose(&frm_OMKOptions::opt_Dateform_ddmmyy);
+    EXPECT_EQ(schedule.txt_startdate->Text(), "02/03/27");
+    EXPECT_EQ(range(), days.arg("03/02/27", "12/05/27")) << "what is filled in stays as it was meant";
+    EXPECT_EQ(hand::column(*schedule.lstv_Reminders, 1).count("Old"), 1);
+    EXPECT_EQ(keeper.stored("SchedDetailText AS x FROM MAINTSCHED WHERE SchedTask = 'Old'"), "05/12/2027");
 }
 
 TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
