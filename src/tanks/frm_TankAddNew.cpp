@@ -71,18 +71,21 @@ void frm_TankAddNew::AddNewTank()
 void frm_TankAddNew::ChangeTank(const QString &tankName)
 {
     g.gTankName = tankName;
-    txt_tankname->setText(tankName);
     g.gRecordset = g.gDatabase->OpenRecordset(tankByName, {tankName});
     g.gRecordset.MoveFirst();
     g.gRecordset.Edit();
     g.gTankWaterType = g.gRecordset[QStringLiteral("TankWaterType")].text();
     if (auto *option = waterTypeOption(g.gTankWaterType))
         option->setChecked(true);
-    txt_tanknotes->setPlainText(g.gRecordset[QStringLiteral("tanknotes")].text());
-    txt_long_desc->setText(g.gRecordset[QStringLiteral("Tankdesc")].text());
     const QString size = g.gRecordset[QStringLiteral("tanksize")].text();
     ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), biggestTank))); // it starts at the size shown
-    txt_tanksize->setText(size);
+    ShowWhole(*txt_tanksize, size);
+    ShowWhole(*txt_tankname, tankName);
+    ShowWhole(*txt_long_desc, g.gRecordset[QStringLiteral("Tankdesc")].text());
+    txt_tanknotes->setPlainText(g.gRecordset[QStringLiteral("tanknotes")].text());
+    for (const QWidget *box :
+         std::initializer_list<QWidget *>{txt_tanksize, txt_tankname, txt_long_desc, txt_tanknotes})
+        m_shown.remember(*box);
     g.tankDialog.DialogMode = QStringLiteral("edit");
     setWindowTitle(u"Change Tank Info for " + tankName);
     Form<frm_OMKMDIMain>().disablePrint();
@@ -93,17 +96,22 @@ bool frm_TankAddNew::fieldsAreGood()
 {
     const QString size = txt_tanksize->text();
     const QString name = txt_tankname->Text();
+    // A file from elsewhere may hold more than can be typed. It is no fault of the keeper, who has not edited it.
+    const bool tooBig = Val(size) > biggestTank && m_shown.isEdited(*txt_tanksize);
+    const auto tooLong = [this](const MaskedBox &box) {
+        return box.Text().size() > longestName && m_shown.isEdited(box);
+    };
     if (size.isEmpty())
         return refuse(QStringLiteral("The tank size must be a number less than 10,000 gallons."), txt_tanksize);
-    if (Val(size) > biggestTank)
+    if (tooBig)
         return refuse(QStringLiteral("The tank size must be less than 10,000 gallons."), txt_tanksize);
-    if (name.size() > longestName) // exactly 50 pass, whatever the words say
+    if (tooLong(*txt_tankname)) // exactly 50 pass, whatever the words say
         return refuse(QStringLiteral("The tank name must be less than 50 characters."), txt_tankname);
     if (name.isEmpty())
         return refuse(QStringLiteral("You must enter a name for your tank."), txt_tankname);
     if (name.contains(u'"'))
         return refuse(QStringLiteral("The tank name cannot contain a quote(\") character."), txt_tankname);
-    if (txt_long_desc->Text().size() > longestName)
+    if (tooLong(*txt_long_desc))
         return refuse(QStringLiteral("The long description must be less than 50 characters."), txt_long_desc);
     return true;
 }
@@ -125,13 +133,23 @@ QString frm_TankAddNew::newTankId()
     }
 }
 
+void frm_TankAddNew::put(Recordset &tank, const char *column, const QWidget &box, const Value &value) const
+{
+    if (m_shown.isEdited(box))
+        tank[QLatin1String(column)].setValue(value);
+}
+
 void frm_TankAddNew::store()
 {
     Recordset &tank = g.gRecordset;
-    tank[QStringLiteral("tanksize")].setValue(Val(txt_tanksize->text()));
-    tank[QStringLiteral("tankname")].setValue(txt_tankname->Text());
-    tank[QStringLiteral("Tankdesc")].setValue(txt_long_desc->Text());
-    tank[QStringLiteral("tanknotes")].setValue(txt_tanknotes->toPlainText());
+    if (g.tankDialog.DialogMode == u"add") // begun once more: nothing stays of a try that was refused
+        tank.AddNew();
+    else
+        tank.Edit();
+    put(tank, "tanksize", *txt_tanksize, Val(txt_tanksize->text()));
+    put(tank, "tankname", *txt_tankname, txt_tankname->Text());
+    put(tank, "Tankdesc", *txt_long_desc, txt_long_desc->Text());
+    put(tank, "tanknotes", *txt_tanknotes, txt_tanknotes->toPlainText());
     tank[QStringLiteral("TankWaterType")].setValue(g.gTankWaterType);
     if (g.tankDialog.DialogMode == u"add") {
         const QString id = newTankId();
