@@ -206,7 +206,7 @@ constexpr auto waterRow = "DELETE FROM WATERLOG WHERE tankname = 'Same' AND logd
 constexpr auto animalRow = "DELETE FROM LIVESTOCK WHERE tankname = 'Same' AND dateadded = '2026-03-01'";
 constexpr auto workRow = "DELETE FROM MAINTLOG WHERE mainttankname = 'Same' AND maintlogdate = '2026-03-01'";
 constexpr auto tankRow = "DELETE FROM TANKLST WHERE tankname = 'Same'";
-constexpr auto reminderRow = "DELETE FROM MAINTSCHED WHERE SchedTask = 'Clean'"; // the first of the list
+constexpr auto reminderRow = "DELETE FROM MAINTSCHED WHERE SchedTask = 'Feed'"; // the first of the list
 
 const Scene scenes[] = {
     {"AddWater", WaterTab, nullptr, [](Bench &d) { enter<frm_WaterAddEdit>(d, "addentries", "txt_nitrate"); }},
