@@ -139,6 +139,26 @@ bool EntryForm::isDate(const MaskedBox &box) const
     return IsDate(NormalizeDateText(box.Text(), g.options.DateOrder));
 }
 
+void EntryForm::beginAgain(Recordset &row)
+{
+    if (row.isEmpty()) // opened for adding
+        row.AddNew();
+    else
+        row.Edit();
+}
+
+void EntryForm::put(Recordset &row, const char *column, const QWidget &box) const
+{
+    if (m_shown.isEdited(box))
+        row[QLatin1String(column)].setValue(BoxText(box));
+}
+
+void EntryForm::putDate(Recordset &row, const char *column, const MaskedBox &box) const
+{
+    if (m_shown.isEdited(box))
+        row[QLatin1String(column)].setValue(NormalizeDateText(box.Text(), g.options.DateOrder));
+}
+
 bool EntryForm::stored(const std::function<void()> &store, const QString &ifTaken, QWidget *box)
 {
     try {

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "platform/LeavingChecks.h"
+#include "platform/ShownTexts.h"
 #include "shell/DialogForm.h"
 
 class MaskedBox;
@@ -46,10 +47,17 @@ protected:
     /// on.
     bool stored(const std::function<void()> &store, const QString &ifTaken, QWidget *box);
 
+    /// Begins the row once more, so that nothing stays of a try that was refused.
+    static void beginAgain(Recordset &row);
+    /// Writes a box's text into the row, unless the box still shows what it was filled with from there.
+    void put(Recordset &row, const char *column, const QWidget &box) const;
+    void putDate(Recordset &row, const char *column, const MaskedBox &box) const;
+
     /// Shows the window with the focus in that box. `row` is what OK writes, begun by AddNew or Edit.
     void showFor(const Recordset &row, const QString &tankId, QWidget *first);
 
     LeavingChecks m_checks;
+    ShownTexts m_shown;
     Recordset m_row;
     QString m_tankId;
 };

@@ -89,6 +89,11 @@ const std::array<LogReport, 3> reports = {{
 
 constexpr double gap = 1 / 160.; ///< of the page's width, kept free between two columns
 
+bool isNumber(const Value &value)
+{
+    return std::holds_alternative<qint64>(value.variant()) || std::holds_alternative<double>(value.variant());
+}
+
 void setFont(Printer &page, const char *name, double size, bool bold = false, bool italic = false)
 {
     page.Font = {QLatin1String(name), size, bold, italic, false};
@@ -172,8 +177,17 @@ private:
     QString cellText(const ReportColumn &column)
     {
         const Value value = m_rows->value(QLatin1String(column.column));
-        return column.picture && !value.isNull() ? Format(value.toDouble(), QLatin1String(column.picture))
+        return column.picture && isNumber(value) ? Format(value.toDouble(), QLatin1String(column.picture))
                                                  : value.text();
+    }
+
+    /// The date and time of an entry. One that is missing leaves its place empty, one that is none stands as it is.
+    QString momentText()
+    {
+        const Value date = m_rows->value(QLatin1String(m_report.dateColumn));
+        const Value time = m_rows->value(QLatin1String(m_report.timeColumn));
+        const auto *day = std::get_if<QDate>(&date.variant());
+        return (day ? Format(*day, m_datePicture) : date.text()) + (m_log == WaterTab ? u" -\n" : u" - ") + time.text();
     }
 
     void printEntry(Printer &page)
@@ -186,10 +200,7 @@ private:
             }
             // Date and time stand whole in their column: in the narrow one of the water log on two lines, smaller if
             // need be.
-            const QString date = Format(m_rows->value(QLatin1String(m_report.dateColumn)).toDate(), m_datePicture);
-            const QString time =
-                Format(m_rows->value(QLatin1String(m_report.timeColumn)).toTime(), QStringLiteral("hh:mm:ss AM/PM"));
-            cells.push_back(cell(page, i, date + (m_log == WaterTab ? u" -\n" : u" - ") + time));
+            cells.push_back(cell(page, i, momentText()));
             cells.back().shrink = true;
         }
         page.PrintRow(cells);

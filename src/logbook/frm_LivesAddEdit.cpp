@@ -1,5 +1,7 @@
 #include "logbook/frm_LivesAddEdit.h"
 
+#include <cmath>
+
 #include <QComboBox>
 #include <QCompleter>
 #include <QGridLayout>
@@ -26,6 +28,7 @@ namespace {
 constexpr int longestName = 50;
 constexpr int longestStatus = 30;
 constexpr double mostAnimals = 32000;
+constexpr double beyondPrices = 1e12; ///< of any currency; up to here a hundredth is exact
 
 const QString note = QStringLiteral("Note!");
 const QString badDate = QStringLiteral("You must enter a valid date to add a livestock entry to the log.");
@@ -183,6 +186,10 @@ void frm_LivesAddEdit::load(Recordset &row)
         txt_datelost->setText(Format(lost.toDate(), g.options.DatePicture));
     txt_pricesold->setText(row[QStringLiteral("price_sold")].text());
     lst_where->setEditText(row[QStringLiteral("where_purch")].text());
+    for (const QWidget *box :
+         std::initializer_list<QWidget *>{lst_AnimalList, txt_DateAdded, txt_timeadded, txt_quantity, txt_Comment,
+                                          lst_Status, txt_pricepaid, txt_pricesold, txt_datelost, lst_where})
+        m_shown.remember(*box);
 }
 
 void frm_LivesAddEdit::ShowWindow(const Recordset &row, const QString &tankId) { showFor(row, tankId, lst_AnimalList); }
@@ -200,10 +207,19 @@ bool frm_LivesAddEdit::datesAndPricesAreGood()
         return refuse(badLost, txt_DateAdded);
     if (!txt_datelost->ClipText().isEmpty() && !isDate(*txt_datelost))
         return refuse(badLost, txt_datelost);
-    if (!txt_pricepaid->text().isEmpty() && !IsNumeric(txt_pricepaid->text()))
-        return refuse(QStringLiteral("Price Paid must be a number."), txt_pricepaid);
-    if (!txt_pricesold->text().isEmpty() && !IsNumeric(txt_pricesold->text()))
-        return refuse(QStringLiteral("Price Sold must be a number."), txt_pricesold);
+    return priceIsGood(*txt_pricepaid, QStringLiteral("Price Paid")) &&
+           priceIsGood(*txt_pricesold, QStringLiteral("Price Sold"));
+}
+
+bool frm_LivesAddEdit::priceIsGood(QLineEdit &box, const QString &name)
+{
+    if (box.text().isEmpty() || !m_shown.isEdited(box))
+        return true;
+    const std::optional<double> price = ReadNumber(box.text());
+    if (!price)
+        return refuse(name + u" must be a number.", &box);
+    if (std::abs(*price) >= beyondPrices)
+        return refuse(name + u" must have at most 12 digits before the decimal point.", &box);
     return true;
 }
 
@@ -230,7 +246,7 @@ bool frm_LivesAddEdit::fieldsAreGood()
                 "Your quantity must be less than 32,000. (Besides, what size tank do you hold 32,000 fish in?)"),
             txt_quantity, note);
     // What only the store would refuse is told here, in the words of the other windows.
-    if (!IsNumeric(txt_quantity->Text()))
+    if (!ReadNumber(txt_quantity->Text()))
         return refuse(QStringLiteral("Quantity entries must be a number."), txt_quantity);
     if (!IsBoxTime(txt_timeadded->Text()))
         return refuse(QStringLiteral(
@@ -242,26 +258,22 @@ bool frm_LivesAddEdit::fieldsAreGood()
 void frm_LivesAddEdit::store()
 {
     Recordset &row = m_row;
-    // Begun afresh: a price or date of a try that was refused must not stay when its box is empty now.
-    if (row.isEmpty())
-        row.AddNew();
-    else
-        row.Edit();
+    beginAgain(row);
     row[QStringLiteral("tankname")].setValue(m_tankId);
-    row[QStringLiteral("dateadded")].setValue(NormalizeDateText(txt_DateAdded->Text(), g.options.DateOrder));
-    row[QStringLiteral("timeadded")].setValue(txt_timeadded->Text());
-    row[QStringLiteral("animalname")].setValue(lst_AnimalList->currentText());
-    row[QStringLiteral("quantity")].setValue(txt_quantity->Text());
-    row[QStringLiteral("Comment")].setValue(txt_Comment->toPlainText());
-    row[QStringLiteral("Status")].setValue(lst_Status->currentText());
+    putDate(row, "dateadded", *txt_DateAdded);
+    put(row, "timeadded", *txt_timeadded);
+    put(row, "animalname", *lst_AnimalList);
+    put(row, "quantity", *txt_quantity);
+    put(row, "Comment", *txt_Comment);
+    put(row, "Status", *lst_Status);
     // An empty price or date writes nothing: what was there stays.
     if (!txt_pricepaid->text().isEmpty())
-        row[QStringLiteral("price_paid")].setValue(txt_pricepaid->text());
+        put(row, "price_paid", *txt_pricepaid);
     if (!txt_pricesold->text().isEmpty())
-        row[QStringLiteral("price_sold")].setValue(txt_pricesold->text());
+        put(row, "price_sold", *txt_pricesold);
     if (!txt_datelost->ClipText().isEmpty())
-        row[QStringLiteral("datelost")].setValue(NormalizeDateText(txt_datelost->Text(), g.options.DateOrder));
-    row[QStringLiteral("where_purch")].setValue(lst_where->currentText());
+        putDate(row, "datelost", *txt_datelost);
+    put(row, "where_purch", *lst_where);
     row.Update();
 }
 

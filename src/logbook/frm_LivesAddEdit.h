@@ -63,6 +63,7 @@ private:
     /// Checks in their order; false, after its box, at the first fault.
     bool fieldsAreGood();
     bool datesAndPricesAreGood();
+    bool priceIsGood(QLineEdit &box, const QString &name);
     bool txt_dateadded_LostFocus();
     void txt_dateadded_ValidationError();
     void store();

@@ -33,8 +33,6 @@ const QString tasks = QStringLiteral("SELECT maintlogtask FROM (SELECT animalnam
                                      "order by maintlogtask COLLATE CASEBLIND");
 constexpr const char *units[] = {"c.c.", "drops", "gallons", "litres", "ml", "oz.", "percent", "ppm"};
 
-QString orBlank(const QString &text) { return text.isEmpty() ? QStringLiteral(" ") : text; }
-
 } // namespace
 
 frm_MaintAddEdit::frm_MaintAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
@@ -144,6 +142,9 @@ void frm_MaintAddEdit::load(Recordset &row)
     txt_description->setText(row[QStringLiteral("maintlogdesc")].text());
     lst_unit->setEditText(row[QStringLiteral("maintlogunit")].text());
     txt_quantity->setText(row[QStringLiteral("maintlogqty")].text());
+    for (const QWidget *box : std::initializer_list<QWidget *>{txt_logtime, txt_maintlognotes, lst_mainttasklist,
+                                                               txt_description, lst_unit, txt_quantity})
+        m_shown.remember(*box);
 }
 
 void frm_MaintAddEdit::ShowWindow(const Recordset &row, const QString &tankId) { showFor(row, tankId, txt_logdate); }
@@ -165,7 +166,7 @@ void frm_MaintAddEdit::txt_logtime_ValidationError() { refuse(badTime, txt_logti
 
 bool frm_MaintAddEdit::txt_quantity_LostFocus()
 {
-    return txt_quantity->Text().isEmpty() || IsNumeric(txt_quantity->Text()) || refuse(badQuantity, txt_quantity);
+    return txt_quantity->Text().isEmpty() || IsStorable(txt_quantity->Text()) || refuse(badQuantity, txt_quantity);
 }
 
 void frm_MaintAddEdit::ud_quantity_Change() { txt_quantity->setText(QString::number(ud_quantity->Value())); }
@@ -173,30 +174,34 @@ void frm_MaintAddEdit::ud_quantity_Change() { txt_quantity->setText(QString::num
 bool frm_MaintAddEdit::store()
 {
     Recordset &row = m_row;
+    beginAgain(row);
     row[QStringLiteral("mainttankname")].setValue(m_tankId);
     const auto date = ReadTypedDate(txt_logdate->Text(), g.options.DateOrder);
     row[QStringLiteral("maintlogdate")].setValue(date ? Value(*date) : Value(txt_logdate->Text()));
-    row[QStringLiteral("maintlogtime")].setValue(txt_logtime->Text());
+    put(row, "maintlogtime", *txt_logtime);
     const QString task = lst_mainttasklist->currentText();
     if (task.isEmpty())
         return refuse(QStringLiteral("You must enter a task for your entry"), lst_mainttasklist, note);
     if (task.size() > longestTask) // 50 pass
         return refuse(QStringLiteral("Your task description must be less than 50 characters."), lst_mainttasklist,
                       note);
-    row[QStringLiteral("maintlogtask")].setValue(task);
+    put(row, "maintlogtask", *lst_mainttasklist);
     if (txt_quantity->Text().isEmpty())
         txt_quantity->setText(QStringLiteral("0"));
-    row[QStringLiteral("maintlogqty")].setValue(txt_quantity->Text());
     if (Val(txt_quantity->Text()) > mostQuantity)
         return refuse(QStringLiteral("Your quantity must be less than 10,000."), txt_quantity, note);
-    txt_description->setText(orBlank(txt_description->text()));
+    put(row, "maintlogqty", *txt_quantity);
+    if (txt_description->text().isEmpty())
+        txt_description->setText(QStringLiteral(" "));
     if (txt_description->text().size() > longestTask)
         return refuse(QStringLiteral("Your description must be 50 characters or less."), txt_description, note);
-    row[QStringLiteral("maintlogdesc")].setValue(txt_description->text());
+    put(row, "maintlogdesc", *txt_description);
     if (lst_unit->currentText().size() > longestUnit)
         return refuse(QStringLiteral("Your \"unit of measure\" entry must be 10 characters or less."), lst_unit, note);
-    row[QStringLiteral("maintlogunit")].setValue(lst_unit->currentText());
-    row[QStringLiteral("maintlognote")].setValue(orBlank(txt_maintlognotes->toPlainText()));
+    put(row, "maintlogunit", *lst_unit);
+    if (txt_maintlognotes->toPlainText().isEmpty())
+        txt_maintlognotes->setPlainText(QStringLiteral(" "));
+    put(row, "maintlognote", *txt_maintlognotes);
     row.Update();
     return true;
 }

@@ -176,13 +176,18 @@ void frm_WaterAddEdit::load(Recordset &row)
         const Value value = row[QLatin1String(column)].value();
         if (isComment(column)) {
             txt_Comment->setPlainText(value.text());
+            m_shown.remember(*txt_Comment);
             continue;
         }
         const Measurement &measurement = *line(column).measurement;
         const double number = value.toDoubleOr(0); // a row of elsewhere may lack one
         const double position = qBound(0.0, std::round(number * measurement.positionsPerUnit), double(highestPosition));
         set(column, static_cast<int>(position), Format(number, QLatin1String(measurement.rowPicture)));
+        if (!value.isNull())
+            m_shown.remember(*line(column).box);
     }
+    m_shown.remember(*txt_date);
+    m_shown.remember(*txt_time);
 }
 
 void frm_WaterAddEdit::ShowWindow(const Recordset &row, const QString &tankId) { showFor(row, tankId, txt_date); }
@@ -192,7 +197,7 @@ bool frm_WaterAddEdit::numberIsGood(const Line &line)
     const Measurement &measurement = *line.measurement;
     const QString text = line.box->Text();
     bool good = true;
-    if (!IsNumeric(text)) {
+    if (!IsStorable(text)) {
         g.gMessage = nameOf(measurement) + u" entries must be a number.";
         good = refuse(g.gMessage, line.box);
     }
@@ -231,10 +236,11 @@ void frm_WaterAddEdit::upDown_Change(const Line &line)
 void frm_WaterAddEdit::store()
 {
     Recordset &row = m_row;
-    row[QStringLiteral("logdate")].setValue(NormalizeDateText(txt_date->Text(), g.options.DateOrder));
-    row[QStringLiteral("logtime")].setValue(txt_time->Text());
+    beginAgain(row);
+    putDate(row, "logdate", *txt_date);
+    put(row, "logtime", *txt_time);
     for (const char *column : writeOrder)
-        row[QLatin1String(column)].setValue(isComment(column) ? txt_Comment->toPlainText() : line(column).box->Text());
+        put(row, column, isComment(column) ? static_cast<QWidget &>(*txt_Comment) : *line(column).box);
     row[QStringLiteral("tankname")].setValue(m_tankId);
     row.Update();
 }

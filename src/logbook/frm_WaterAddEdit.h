@@ -22,7 +22,7 @@ public:
     void setDateOrder() { UseDateOrder(*txt_date, g.options); }
     /// The values that a new test starts with, by the default water type and not by the tank's.
     void setDefaults(const QString &waterType);
-    /// The current row's measurements and comment.
+    /// The current row's measurements and comment; the logbook has set its date and time.
     void load(Recordset &row);
     void ShowWindow(const Recordset &row, const QString &tankId);
 

@@ -2,9 +2,11 @@
 
 #include <optional>
 
+#include <QLineEdit>
 #include <QLocale>
 
 #include "platform/Guarded.h"
+#include "platform/OneLine.h"
 #include "platform/Style.h"
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
@@ -19,6 +21,9 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 
 bool Application::notify(QObject *receiver, QEvent *event)
 {
+    if (event->type() == QEvent::Polish) // every widget gets it before it is shown
+        if (auto *box = qobject_cast<QLineEdit *>(receiver))
+            KeepToOneLine(*box);
     std::optional<RuntimeFailure> failure;
     try {
         return QApplication::notify(receiver, event);

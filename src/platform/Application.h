@@ -1,4 +1,5 @@
-// The application object: the last net for a failure that no guard caught, and the looks that all windows share.
+// The application object: the last net for a failure that no guard caught, and what all windows share: the looks, and
+// that a box of one line takes one line.
 #pragma once
 
 #include <QApplication>

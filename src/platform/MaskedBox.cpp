@@ -4,13 +4,15 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QSignalBlocker>
-#include <QValidator>
 
+#include "platform/OneLine.h"
 #include "text/Numbers.h"
 
 namespace {
@@ -43,14 +45,16 @@ QString shaped(const QString &mask, const QString &text)
 }
 
 /// The last net: drops, the selection clipboard and editing keys of the platform may not move a delimiter either.
-class ShapeValidator : public QValidator
+class ShapeValidator : public OneLineValidator
 {
 public:
-    explicit ShapeValidator(MaskedBox *box) : QValidator(box), m_box(box) {}
-    State validate(QString &text, int &) const override
+    explicit ShapeValidator(MaskedBox *box) : OneLineValidator(box), m_box(box) {}
+    State validate(QString &text, int &cursor) const override
     {
         const QString mask = m_box->Mask();
-        return mask.isEmpty() || shaped(mask, text) == text ? Acceptable : Invalid;
+        if (mask.isEmpty())
+            return OneLineValidator::validate(text, cursor);
+        return shaped(mask, text) == text ? Acceptable : Invalid;
     }
 
 private:
@@ -171,6 +175,19 @@ void MaskedBox::contextMenuEvent(QContextMenuEvent *event)
     menu->popup(event->globalPos());
 }
 
+/// A mask takes a dropped text as it takes a pasted one. It is copied: where the mask refuses it, nothing is lost.
+void MaskedBox::dropEvent(QDropEvent *event)
+{
+    if (m_mask.isEmpty() || isReadOnly()) {
+        QLineEdit::dropEvent(event);
+        return;
+    }
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    enter(FirstLine(event->mimeData()->text()));
+}
+
 void MaskedBox::focusInEvent(QFocusEvent *event)
 {
     if (m_typed)
@@ -220,7 +237,7 @@ void MaskedBox::enter(const QString &characters)
     replace(content, int(i));
 }
 
-void MaskedBox::paste() { enter(QGuiApplication::clipboard()->text().trimmed()); }
+void MaskedBox::paste() { enter(FirstLine(QGuiApplication::clipboard()->text())); }
 
 void MaskedBox::cut()
 {

@@ -13,6 +13,7 @@
 #include <QWheelEvent>
 
 #include "platform/MaskedBox.h"
+#include "platform/ShownTexts.h"
 #include "text/Numbers.h"
 
 namespace {
@@ -37,12 +38,6 @@ int stepsOfKey(int key)
     case Qt::Key_PageDown: return -10;
     default: return 0;
     }
-}
-
-QString content(const QLineEdit *box)
-{
-    const auto *masked = qobject_cast<const MaskedBox *>(box);
-    return masked ? masked->Text() : box->text();
 }
 
 void write(QLineEdit *box, const QString &text)
@@ -94,12 +89,12 @@ void UpDown::stepBy(int steps)
 {
     double from = m_value;
     if (m_boundBox) { // between two whole numbers a step goes to the next one
-        const double held = Val(content(m_boundBox));
+        const double held = Val(BoxText(*m_boundBox));
         from = steps > 0 ? std::floor(held) : std::ceil(held);
     }
     const int value = clamped(from + double(steps) * m_increment);
     // A box that was typed in may come back to the value that was held all the time.
-    const bool mended = m_boundBox && value == m_value && content(m_boundBox) != PlainText(value);
+    const bool mended = m_boundBox && value == m_value && BoxText(*m_boundBox) != PlainText(value);
     if (m_boundBox)
         write(m_boundBox, PlainText(value));
     setValue(value);

@@ -4,6 +4,7 @@
 #include "platform/FocusAtFault.h"
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
+#include "platform/ShownTexts.h"
 #include "reminders/OccurrenceRows.h"
 #include "reminders/RuleFields.h"
 
@@ -177,7 +178,7 @@ EditorFields frm_SchedNewAddEdit::fields() const
 
 void frm_SchedNewAddEdit::show(const EditorFields &f)
 {
-    txt_TaskDescription->setText(f.txt_TaskDescription);
+    ShowWhole(*txt_TaskDescription, f.txt_TaskDescription);
     put(*txt_StartDate, f.txt_StartDate);
     put(*txt_endDate, f.txt_endDate);
     put(*txt_OnceDate, f.txt_OnceDate);
@@ -185,20 +186,20 @@ void frm_SchedNewAddEdit::show(const EditorFields &f)
         if (row.pattern == f.pattern)
             (this->*row.option)->setChecked(true);
     (f.opt_DailyEveryWeekday ? opt_DailyEveryWeekday : opt_DailyEveryXDays)->setChecked(true);
-    txt_DailyDays->setText(f.txt_DailyDays);
-    txt_WeeklyWeeks->setText(f.txt_WeeklyWeeks);
+    ShowWhole(*txt_DailyDays, f.txt_DailyDays);
+    ShowWhole(*txt_WeeklyWeeks, f.txt_WeeklyWeeks);
     for (std::size_t i = 0; i < chk_WeeklyDay.size(); ++i)
         chk_WeeklyDay[i]->setChecked(f.chk_WeeklyDay[i]);
     (f.Opt_MonthlyXWeekdayofEveryMonth ? Opt_MonthlyXWeekdayofEveryMonth : opt_MonthlyXdayofEveryMonth)
         ->setChecked(true);
-    txt_MonthlyDay->setText(f.txt_MonthlyDay);
-    txt_MonthlyNumofMonths->setText(f.txt_MonthlyNumofMonths);
+    ShowWhole(*txt_MonthlyDay, f.txt_MonthlyDay);
+    ShowWhole(*txt_MonthlyNumofMonths, f.txt_MonthlyNumofMonths);
     cbo_MonthlyXth->setCurrentIndex(f.cbo_MonthlyXth);
     cbo_MonthlyWeekday->setCurrentIndex(f.cbo_MonthlyWeekday);
-    txt_MonthlyNumofMonths2->setText(f.txt_MonthlyNumofMonths2);
+    ShowWhole(*txt_MonthlyNumofMonths2, f.txt_MonthlyNumofMonths2);
     (f.opt_YearlyThe ? opt_YearlyThe : opt_YearlyEvery)->setChecked(true);
     cbo_YearlyMonth->setCurrentIndex(f.cbo_YearlyMonth);
-    txt_YearlyDay->setText(f.txt_YearlyDay);
+    ShowWhole(*txt_YearlyDay, f.txt_YearlyDay);
     cbo_YearlyXth->setCurrentIndex(f.cbo_YearlyXth);
     cbo_YearlyWeekday->setCurrentIndex(f.cbo_YearlyWeekday);
     cbo_YearlyMonth2->setCurrentIndex(f.cbo_YearlyMonth2);

@@ -6,6 +6,7 @@
 #include "platform/Doors.h"
 #include "platform/FocusAtFault.h"
 #include "platform/Guarded.h"
+#include "platform/ShownTexts.h"
 #include "shell/Options.h"
 #include "text/Dates.h"
 
@@ -90,8 +91,8 @@ void frm_OMKOptions::fillLists()
 void frm_OMKOptions::showGeneral(const OptionsMembers &options)
 {
     (options.DefaultWaterType == u"SALT" ? opt_Salt : opt_Fresh)->setChecked(true);
-    txt_username1->setText(g.gUserFieldName1);
-    txt_username2->setText(g.gUserFieldName2);
+    ShowWhole(*txt_username1, g.gUserFieldName1);
+    ShowWhole(*txt_username2, g.gUserFieldName2);
     QRadioButton *option = options.DateOrder == u"DDMMYY"   ? opt_Dateform_ddmmyy
                            : options.DateOrder == u"YYMMDD" ? opt_Dateform_YYMMDD
                                                             : opt_Dateform_MMDDYY;

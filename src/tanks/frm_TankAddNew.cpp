@@ -71,18 +71,21 @@ void frm_TankAddNew::AddNewTank()
 void frm_TankAddNew::ChangeTank(const QString &tankName)
 {
     g.gTankName = tankName;
-    txt_tankname->setText(tankName);
     m_tank = g.gDatabase->OpenRecordset(tankByName, {tankName});
     m_tank.MoveFirst();
     m_tank.Edit();
     m_waterType = m_tank[QStringLiteral("TankWaterType")].text(); // a code without an option stays as it is
     if (auto *option = waterTypeOption(m_waterType))
         option->setChecked(true);
-    txt_tanknotes->setPlainText(m_tank[QStringLiteral("tanknotes")].text());
-    txt_long_desc->setText(m_tank[QStringLiteral("Tankdesc")].text());
     const QString size = m_tank[QStringLiteral("tanksize")].text();
     ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), biggestTank))); // it starts at the size shown
-    txt_tanksize->setText(size);
+    ShowWhole(*txt_tanksize, size);
+    ShowWhole(*txt_tankname, tankName);
+    ShowWhole(*txt_long_desc, m_tank[QStringLiteral("Tankdesc")].text());
+    txt_tanknotes->setPlainText(m_tank[QStringLiteral("tanknotes")].text());
+    for (const QWidget *box :
+         std::initializer_list<QWidget *>{txt_tanksize, txt_tankname, txt_long_desc, txt_tanknotes})
+        m_shown.remember(*box);
     DialogMode = QStringLiteral("edit");
     setWindowTitle(u"Change Tank Info for " + tankName);
     Form<frm_OMKMDIMain>().disablePrint();
@@ -93,17 +96,22 @@ bool frm_TankAddNew::fieldsAreGood()
 {
     const QString size = txt_tanksize->text();
     const QString name = txt_tankname->Text();
+    // A file from elsewhere may hold more than can be typed. It is no fault of the keeper, who has not edited it.
+    const bool tooBig = Val(size) > biggestTank && m_shown.isEdited(*txt_tanksize);
+    const auto tooLong = [this](const MaskedBox &box) {
+        return box.Text().size() > longestName && m_shown.isEdited(box);
+    };
     if (size.isEmpty())
         return refuse(QStringLiteral("The tank size must be a number less than 10,000 gallons."), txt_tanksize);
-    if (Val(size) > biggestTank)
+    if (tooBig)
         return refuse(QStringLiteral("The tank size must be less than 10,000 gallons."), txt_tanksize);
-    if (name.size() > longestName) // exactly 50 pass, whatever the words say
+    if (tooLong(*txt_tankname)) // exactly 50 pass, whatever the words say
         return refuse(QStringLiteral("The tank name must be less than 50 characters."), txt_tankname);
     if (name.isEmpty())
         return refuse(QStringLiteral("You must enter a name for your tank."), txt_tankname);
     if (name.contains(u'"'))
         return refuse(QStringLiteral("The tank name cannot contain a quote(\") character."), txt_tankname);
-    if (txt_long_desc->Text().size() > longestName)
+    if (tooLong(*txt_long_desc))
         return refuse(QStringLiteral("The long description must be less than 50 characters."), txt_long_desc);
     return true;
 }
@@ -125,12 +133,22 @@ QString frm_TankAddNew::newTankId()
     }
 }
 
+void frm_TankAddNew::put(const char *column, const QWidget &box, const Value &value)
+{
+    if (m_shown.isEdited(box))
+        m_tank[QLatin1String(column)].setValue(value);
+}
+
 void frm_TankAddNew::store()
 {
-    m_tank[QStringLiteral("tanksize")].setValue(Val(txt_tanksize->text()));
-    m_tank[QStringLiteral("tankname")].setValue(txt_tankname->Text());
-    m_tank[QStringLiteral("Tankdesc")].setValue(txt_long_desc->Text());
-    m_tank[QStringLiteral("tanknotes")].setValue(txt_tanknotes->toPlainText());
+    if (DialogMode == u"add") // begun once more: nothing stays of a try that was refused
+        m_tank.AddNew();
+    else
+        m_tank.Edit();
+    put("tanksize", *txt_tanksize, Val(txt_tanksize->text()));
+    put("tankname", *txt_tankname, txt_tankname->Text());
+    put("Tankdesc", *txt_long_desc, txt_long_desc->Text());
+    put("tanknotes", *txt_tanknotes, txt_tanknotes->toPlainText());
     m_tank[QStringLiteral("TankWaterType")].setValue(m_waterType);
     if (DialogMode == u"add") {
         const QString id = newTankId();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/LeavingChecks.h"
+#include "platform/ShownTexts.h"
 #include "shell/DialogForm.h"
 #include "ui_frm_TankAddNew.h"
 
@@ -29,12 +30,15 @@ private:
     bool txt_tanksize_LostFocus();
     /// A new tank's identity: the date and time of its making; a tank made in the same second gets the next free one.
     QString newTankId();
+    /// Writes the box into the row, if the keeper has edited it.
+    void put(const char *column, const QWidget &box, const Value &value);
     void store();
 
     void cmd_OK_Click();
     void cmd_Cancel_Click();
 
     LeavingChecks m_checks;
+    ShownTexts m_shown;
     Recordset m_tank;    ///< the row that is being added or changed
     QString m_waterType; ///< its water's code, of the option chosen last
 };

@@ -227,6 +227,8 @@ std::optional<double> ReadNumber(const QString &text)
     return valueOf(number);
 }
 
+bool IsStorable(const QString &text) { return ReadNumber(text) || (IsNumeric(text) && Val(text) > 0); }
+
 double Val(const QString &text)
 {
     const QStringView trimmed = QStringView(text).trimmed();

@@ -17,6 +17,9 @@ double Val(const QString &text);
 /// The value of the whole text. Returns nothing if IsNumeric() is false or the value does not fit into a double.
 std::optional<double> ReadNumber(const QString &text);
 
+/// IsNumeric(), and not below every double. A number above all of them is left to the upper limit of its box.
+bool IsStorable(const QString &text);
+
 /// Shows a number with a picture of 0, #, "." and ",", such as "##0.000" or "###,##0.00": rounded to the picture's
 /// decimal places, halves away from zero, based on the number's decimal form (2.675 with "0.00" is "2.68"). A picture
 /// never cuts off digits before the decimal point.

@@ -42,6 +42,23 @@ TEST_F(LogReports, WaterLogHasEachValueInItsColumn)
     EXPECT_LT(page.find("09:30:05 PM")->right, page.find("Ammonia")->x) << "date and time stay in their column";
 }
 
+TEST_F(LogReports, ARowWithoutItsMomentOrItsNumbersStopsNoReport)
+{
+    for (const char *moment : {"NULL, '21:30:05'", "'2026-04-03', NULL", "'soon', 'at noon'"}) {
+        db->Execute(QString("INSERT INTO LIVESTOCK (tankname, dateadded, timeadded) VALUES ('r1', %1)").arg(moment));
+        db->Execute(
+            QString("INSERT INTO WATERLOG (tankname, logdate, logtime, ph) VALUES ('r1', %1, 'low')").arg(moment));
+        db->Execute(
+            QString("INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime) VALUES ('r1', %1)").arg(moment));
+    }
+    for (const LogTab log : {WaterTab, LivestockTab, MaintenanceTab}) {
+        const PrintedPage &page = print(log, "r1").back().pages.at(0);
+        for (const char *part : {"09:30:05 PM", "03.04.26", "soon", "at noon"})
+            EXPECT_EQ(std::ranges::count_if(page.texts, [&](const PrintedText &t) { return t.text.contains(part); }), 1)
+                << log << ' ' << part;
+    }
+}
+
 TEST_F(LogReports, FootStandsBelowEveryRowAndALongTankRunsOnWithoutHeadings)
 {
     for (int i = 0; i < 300; ++i)

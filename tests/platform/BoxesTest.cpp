@@ -3,8 +3,11 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDialog>
+#include <QDropEvent>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -148,6 +151,52 @@ TEST_F(BoxesTest, ANumberIsFormattedWhileTheFocusIsElsewhere)
     m_box->setFocus();
     play(m_box, QStringLiteral("6~~~"));
     EXPECT_EQ(m_box->Text(), QStringLiteral("8.12345")) << "undo gives no picture for content";
+}
+
+TEST_F(BoxesTest, OneLineIsTakenOfATextOfSeveralHoweverItComes)
+{
+    auto *list = new QComboBox;
+    list->setEditable(true);
+    auto *date = new MaskedBox;
+    date->setMask(QStringLiteral("##/##/##"));
+    m_window.layout()->addWidget(list);
+    m_window.layout()->addWidget(date);
+    QCoreApplication::processEvents();
+    const auto paste = [](QLineEdit &box, const QString &text) {
+        QGuiApplication::clipboard()->setText(text);
+        play(&box, QStringLiteral("@"));
+    };
+    const auto drop = [](QLineEdit &box, const QString &text) {
+        QMimeData data;
+        data.setText(text);
+        QDragEnterEvent enters({1, box.height() / 2}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&box, &enters); // the drop goes to whoever takes this
+        QDropEvent event(QPointF(1, box.height() / 2), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&box, &event);
+    };
+    const std::pair<const char *, const char *> texts[] = {{"Reef\n", "Reef"},
+                                                           {" Reef tank \r\nsecond\nthird", "Reef tank"},
+                                                           {"\n\nReef", "Reef"},
+                                                           {"Reef\u2028second", "Reef"},
+                                                           {" a  b ", " a  b "}};
+    const std::initializer_list<std::function<void(QLineEdit &, const QString &)>> ways = {paste, drop};
+    for (const auto &enter : ways) {
+        for (QLineEdit *box : {m_other, list->lineEdit(), static_cast<QLineEdit *>(m_box)}) {
+            for (const auto &[text, line] : texts) {
+                box->clear();
+                enter(*box, QString::fromUtf8(text));
+                EXPECT_EQ(box->text(), QLatin1String(line));
+            }
+            box->setText(QStringLiteral("tank"));
+            box->setCursorPosition(0);
+            enter(*box, QStringLiteral("my \nyour"));
+            EXPECT_EQ(box->text(), QStringLiteral("mytank"));
+            EXPECT_TRUE(box->hasAcceptableInput()) << "or Return would do nothing";
+        }
+        date->setText({});
+        enter(*date, QStringLiteral(" 03/14/26\r\n03/15/26"));
+        EXPECT_EQ(date->Text(), QStringLiteral("03/14/26"));
+    }
 }
 
 TEST_F(BoxesTest, AnUpDownStepsWithinItsBoundsByArrowKeyAndWheelAndTellsEachChangeOnce)

@@ -51,6 +51,8 @@ const Log logs[] = {
       {"txt_ph", "99.001", "Ph entries", "99", true},
       {"txt_sg", "10", "Specific Gravity entries", "9.999", true},
       {"txt_temp", "999.001", "Temperature entries", "999", true},
+      {"txt_copper", "1e309", "Copper entries must less than 1000.", "9", true},
+      {"txt_user1", "-1e309", "User Field 1 entries must be a number.", "-1e3", true},
       {"txt_orp", "", "Orp entries must be a number.", {}, true},
       {"txt_orp", "1.2.3", "Orp", "-1", true},
       {"txt_date", "02/29/26", "You must enter a valid date", "02/29/24", true},
@@ -68,10 +70,14 @@ const Log logs[] = {
      {{"lst_AnimalList", "", "You must enter an animal name"},
       {"lst_AnimalList", QString(51, 'a'), "Your animal description must", QString(50, 'a')},
       {"txt_datelost", "02/30/26", "You must enter a valid date in MM/DD/YY", "05/06/26"},
-      {"txt_pricepaid", "abc", "Price Paid must", "1,234.5"},
+      {"txt_pricepaid", "abc", "Price Paid must be a number."},
+      {"txt_pricepaid", "1e309", "Price Paid must be a number.", "1,234.5"},
+      {"txt_pricesold", "1e308", "Price Sold must have at most 12 digits before the decimal point."},
+      {"txt_pricesold", "-1000000000000", "Price Sold must have at most 12 digits", "999,999,999,999.99"},
       {"lst_Status", QString(31, 's'), "Your status description must", QString(30, 's')},
       {"txt_quantity", "32,001", "Your quantity must be less than 32,000."},
       {"txt_quantity", "99999x", "Your quantity must be less than 32,000."},
+      {"txt_quantity", "-1e309", "Quantity entries must be a number."},
       {"txt_quantity", "", "Quantity entries must be a number.", "32,000"},
       {"txt_timeadded", "13:00:00 PM", "You must enter a valid time", "12:00:01 AM"}}},
     {MaintenanceTab,
@@ -84,8 +90,10 @@ const Log logs[] = {
      "Feeding| |0.0|| ",
      "Oops/48/That identical combination of Date and Time already exists for this task. Make your new time unique by "
      "changing at least one number.",
-     {{"lst_mainttasklist", "", "You must enter a task"},
+     {{"txt_quantity", "-1e309", "Quantity entries must be a number.", "1", true},
+      {"lst_mainttasklist", "", "You must enter a task"},
       {"lst_mainttasklist", QString(51, 't'), "Your task description must be", QString(50, 't')},
+      {"txt_quantity", "1e309", "Your quantity must be less than 10,000."},
       {"txt_quantity", "9,999.5", "Your quantity must be less than 10,000.", "9,999"},
       {"txt_description", QString(51, 'd'), "Your description must be 50", QString(50, 'd')},
       {"lst_unit", QString(11, 'u'), "Your \"unit of measure\"", QString(10, 'u')},
@@ -183,6 +191,46 @@ TEST_P(Entries, ValuesLandInTheirColumnsAndAChangeRewritesItsRowAlone)
     });
     EXPECT_EQ(moments(), "Same 2026-05-16 09:30:00, r1 2026-05-17 09:30:00, r1 2026-05-18 21:05:07");
     EXPECT_EQ(values("2026-05-18"), log.left);
+    EXPECT_EQ(keeper.told(), "0");
+}
+
+TEST_P(Entries, WhatABoxShowsRoundedOrCutIsKeptUntilItIsEdited)
+{
+    const QString fine[] = {
+        "Ammonia = 1/3.0 AND nitrite = 1/3.0 AND nitrate = 1/3.0 AND ph = 1/3.0 AND sg = 1/3.0 AND "
+        "temp = 1/3.0 AND oxygen = 1/3.0 AND dkh = 1/3.0 AND calcium = 1/3.0 AND copper = 1/3.0 AND "
+        "orp = 1/3.0 AND custom1 = 1/3.0 AND custom2 = 1/3.0 AND Comment = 'a' || x'0d0a' || 'b'",
+        "quantity = 2.5 AND price_paid = 1/3.0 AND price_sold = 1e20/3 AND "
+        "datelost = '2041-05-06' AND animalname = 'Tang' AND Comment = 'a' || x'0d0a' || 'b'",
+        "maintlogqty = 1/3.0 AND maintlogtask = 'Feeding' AND maintlogdesc = 'b' AND "
+        "maintlognote = 'a' || x'0d0a' || 'b'"};
+    const char *const numberBoxes[] = {"txt_nitrate", "txt_quantity", "txt_quantity"};
+    insert("r1", {"2026-12-25"});
+    const QString values = fine[log.tab];
+    execute(QString("UPDATE %1 SET %2").arg(table, QString(values).replace(" AND ", ", ")));
+    const auto expectUnchanged = [&](const char *time) {
+        for (const QString &value : values.split(" AND "))
+            EXPECT_EQ(keeper.count(QString("%1 WHERE %2 = '%3' AND %4").arg(table, timeColumn, time, value)), 1)
+                << value.toStdString();
+    };
+    expectUnchanged("09:30:00");
+    addEntry(log.tab, "r1", "2026-12-25 09:30:01", qPrintable(firstColumn()), "'Tang'"); // stands in the way once
+    hand::clickTank(*logbook, "Reef");
+    give("changeentries", 1, [&](QWidget &w) {
+        for (const QString &box : names) // shown in its picture, and again as it is edited
+            mouse::click(&control<QWidget>(w, box));
+        const QString box = numberBoxes[log.tab];
+        const QString before = control<MaskedBox>(w, box).Text();
+        hand::type(control<QWidget>(w, box), "5");
+        hand::type(control<QWidget>(w, log.moment[1]), "09:30:01 am");
+        hand::press(Qt::Key_Return);
+        EXPECT_TRUE(w.isVisible() && keeper.told().contains(" already "));
+        hand::type(control<QWidget>(w, box), before); // the 5 is not to be, and is forgotten
+        hand::type(control<QWidget>(w, log.moment[1]), "10:00:00 am");
+        hand::press(Qt::Key_Return);
+    });
+    expectUnchanged("10:00:00");
+    EXPECT_EQ(moments(), "r1 2026-12-25 09:30:01, r1 2026-12-25 10:00:00");
     EXPECT_EQ(keeper.told(), "0");
 }
 

@@ -69,6 +69,32 @@ TEST_F(Tanks, OkChecksOneFaultAtATimeAndExactlyFiftyCharactersPass)
     EXPECT_EQ(ofTanks("length(tankname) || length(Tankdesc) || tanksize"), "50509999.0");
 }
 
+TEST_F(Tanks, WhatIsLongerThanItsBoxIsShownWholeAndKeptUntilItIsEdited)
+{
+    const QString sizes[] = {"0.125", "1500.5", "12345"}, longer(60, 'd');
+    for (const QString &size : sizes)
+        keeper.g().gDatabase->Execute(
+            "INSERT INTO TANKLST (tankname, tankid, tanksize, Tankdesc, tanknotes) VALUES (?1, ?1, ?2, ?3, ?4)",
+            {size, size.toDouble(), longer, QString("two\r\nlines")});
+    const auto stored = [&] {
+        return ofTanks("tanksize || length(tankname) || length(Tankdesc) || length(tanknotes)");
+    };
+    for (const QString &size : sizes)
+        inTank(size, [&](frm_TankAddNew &w) {
+            EXPECT_TRUE(held(w).startsWith(size + '|' + longer + '|' + size)) << held(w).toStdString();
+            hand::type(*w.txt_tankname, size + "*");
+            mouse::click(w.txt_tanksize);
+            mouse::click(w.cmd_OK);
+        });
+    EXPECT_EQ(stored(), "0.12566010,12345.066010,1500.576010");
+    inTank("12345*", [](frm_TankAddNew &w) { // the limit on typing holds again
+        hand::type(*w.txt_tanksize, "99999");
+        mouse::click(w.cmd_OK);
+    });
+    EXPECT_TRUE(stored().contains(",9999.066010,")) << stored().toStdString();
+    EXPECT_EQ(keeper.told(), "0");
+}
+
 TEST_F(Tanks, LeavingWithoutOkStoresNothingAndOkKeepsAForeignWaterType)
 {
     keeper.addTank("Reef", "1", "9");

@@ -1,0 +1,226 @@
+// A few journeys with a real mouse and keyboard, on a real X server under a window manager.
+#include <QMdiArea>
+
+#include "graph/frm_WaterGraph.h"
+#include "logbook/frm_LivesAddEdit.h"
+#include "logbook/frm_WaterAddEdit.h"
+#include "platform/DesktopDoors.h"
+#include "RealHands.h"
+#include "tanks/frm_TankMaint.h"
+#include "windows/Desk.h"
+
+/// The script of the tests, but for message boxes, which are the desktop's.
+class RealBoxes : public ScriptedDoors
+{
+public:
+    using ScriptedDoors::ScriptedDoors;
+    MsgBoxAnswer msgBox(const MsgBoxRequest &request) override
+    {
+        boxes.push_back(request);
+        return m_desktop.msgBox(request);
+    }
+
+private:
+    DesktopDoors m_desktop;
+};
+
+/// The logbook on the tank "Reef". Each of the tanks "Reef" and "Same" has two water tests and an animal, all of the
+/// same moments: what works on the wrong tank finds something there.
+class Desktop : public Desk
+{
+protected:
+    explicit Desktop(LogTab tab = LivestockTab) : Desk(tab)
+    {
+        for (const char *tank : {"r1", "Same"}) {
+            for (const char *day : {"2026-03-01", "2026-03-02"})
+                addEntry(WaterTab, tank, QString(day) + " 09:30:00", "ph, temp",
+                         QString(tank) == "Same" ? "7, 70" : "8, 80");
+            addEntry(LivestockTab, tank, "2026-03-01 09:30:00", "animalname, quantity",
+                     QString("'of %1', 1").arg(tank));
+        }
+        hand::clickTank(*logbook, "Reef");
+    }
+    QMdiSubWindow *front() const { return main->findChild<QMdiArea *>()->activeSubWindow(); }
+    bool isChildInFront(const QWidget &child) const { return front() && front()->widget() == &child; }
+
+    void chooseInMenu(QMenu &menu, MenuEntry &entry)
+    {
+        real::click(*main->menuBar(), main->menuBar()->actionGeometry(menu.menuAction()).center());
+        EXPECT_TRUE(real::happens([&menu] { return menu.isVisible(); }));
+        real::click(menu, menu.actionGeometry(&entry).center());
+        EXPECT_TRUE(real::happens([&menu] { return !menu.isVisible(); }));
+    }
+    /// Opens the graph beside the logbook, and chooses the tank "Same" there: the graph is in front.
+    void graphAnotherTankBeside()
+    {
+        if (!graph) {
+            pushReally("graphentries");
+            EXPECT_TRUE(real::happens([] { return Forms::current().loaded<frm_WaterGraph>() != nullptr; }));
+            graph = &Form<frm_WaterGraph>();
+            EXPECT_TRUE(real::happens([this] { return isChildInFront(*graph); }));
+            chooseInMenu(*main->mnu_Window, *main->mnu_WindowTileVertical);
+        }
+        real::click(*graph->tanklistbox);
+        EXPECT_TRUE(real::happens([this] { return graph->tanklistbox->view()->isVisible(); }));
+        real::press("End");
+        real::press("Return");
+        EXPECT_TRUE(real::happens([this] { return !graph->tanklistbox->view()->isVisible(); }));
+        EXPECT_EQ(graph->tanklistbox->currentText(), "Same");
+        EXPECT_TRUE(isChildInFront(*graph));
+    }
+    void pushReally(const char *button) { real::click(control<QToolButton>(*logbook, button)); }
+    void selectRow(int row)
+    {
+        real::clickItem(list(), list().model()->index(row - 1, 0));
+        EXPECT_TRUE(real::happens([&] { return list().SelectedItem() == row; }));
+    }
+    QString animals()
+    {
+        return keeper.stored("group_concat(animalname || printf(' %d', quantity)) AS x FROM LIVESTOCK");
+    }
+
+    RealBoxes doors{keeper.folder.filePath("OMK.ini")};
+    frm_WaterGraph *graph = nullptr;
+};
+
+TEST_F(Desktop, TheLogbooksButtonsWorkOnItsTankThoughTheGraphOfAnotherIsInFront)
+{
+    selectRow(1);
+    graphAnotherTankBeside();
+    bool done = false;
+    real::inNext<frm_LivesAddEdit>([&](frm_LivesAddEdit &window) {
+        EXPECT_EQ(window.lst_AnimalList->currentText(), "of r1");
+        EXPECT_EQ(window.windowTitle(), " Livestock Detail for Reef");
+        real::click(*window.txt_quantity);
+        real::press("ctrl+a");
+        real::write("5");
+        real::press("Return");
+        done = true;
+    });
+    pushReally("changeentries");
+    EXPECT_TRUE(real::happens([&] { return done && isInFront(*main); }));
+    EXPECT_EQ(animals(), "of r1 5,of Same 1");
+    EXPECT_TRUE(isChildInFront(*logbook)) << "a press on its tool button brings the logbook to the front";
+
+    selectRow(1);
+    graphAnotherTankBeside();
+    done = false;
+    real::inNext<QMessageBox>([&](QMessageBox &box) {
+        EXPECT_TRUE(box.text().contains("of r1") && box.text().contains("the Reef tank")) << box.text().toStdString();
+        real::press("Return");
+        done = true;
+    });
+    pushReally("deleteentries");
+    EXPECT_TRUE(real::happens([&] { return done && isInFront(*main); }));
+    EXPECT_EQ(animals(), "of Same 1");
+
+    graphAnotherTankBeside();
+    done = false;
+    real::inNext<frm_LivesAddEdit>([&](frm_LivesAddEdit &window) {
+        real::click(*window.lst_AnimalList->lineEdit());
+        real::write("Crab");
+        real::press("Tab"); // and the list of suggestions goes
+        real::press("alt+o");
+        done = true;
+    });
+    pushReally("addentries");
+    EXPECT_TRUE(real::happens([&] { return done && isInFront(*main); }));
+    EXPECT_EQ(keeper.stored("group_concat(tankname || animalname) AS x FROM LIVESTOCK"), "Sameof Same,r1Crab");
+}
+
+TEST_F(Desktop, TheWheelOverTheLogbooksTabsGivesNoCommandsWhileAnotherChildIsInFront)
+{
+    graphAnotherTankBeside();
+    const int tab = logbook->tab_logtype->currentIndex();
+    QTabBar &tabs = *logbook->tab_logtype->tabBar();
+    real::click(tabs, tabs.tabRect(tab).center(), 4);
+    EXPECT_TRUE(real::happens([&] { return logbook->tab_logtype->currentIndex() == tab - 1; }));
+    for (const MenuEntry *entry :
+         {main->mnu_FileNew, main->mnu_FileOpen, main->mnu_FileDelete, main->mnu_FileMoveEntry})
+        EXPECT_EQ(entry->isEnabled(), isChildInFront(*logbook)) << entry->objectName().toStdString();
+    if (isChildInFront(*graph)) {
+        const real::NoWindowComes none;
+        real::press("ctrl+n");
+        real::press("alt+w"); // once the menu is there, the key before it has been dealt with
+        EXPECT_TRUE(real::happens([&] { return main->mnu_Window->isVisible(); }));
+        real::press("Escape");
+        real::press("Escape");
+        EXPECT_TRUE(real::happens([&] { return !main->mnu_Window->isVisible(); }));
+    }
+}
+
+TEST_F(Desktop, ATankIsDeletedAloneThoughTheMainWindowIsActivatedMeanwhile)
+{
+    bool done = false;
+    real::inNext<frm_TankMaint>([&](frm_TankMaint &tanks) {
+        real::clickItem(*tanks.lst_tanklist, tanks.lst_tanklist->model()->index(4, 0));
+        real::inNext<QMessageBox>([&](QMessageBox &box) {
+            EXPECT_TRUE(box.text().contains("the tank you named Same"));
+            // A window manager may let a keeper do it, or give the focus back to the box.
+            real::xdotool({"windowactivate", QString::number(main->winId())});
+            real::xdotool({"windowfocus", QString::number(main->winId())});
+            main->activateWindow();
+            real::happens([&] { return main->isActiveWindow() || box.isActiveWindow(); });
+            real::inNext<QMessageBox>([](QMessageBox &) { real::press("Return"); }); // "successfully deleted"
+            real::click(*box.button(QMessageBox::Ok));
+        });
+        real::click(*tanks.cmd_DeleteTank);
+        EXPECT_TRUE(real::happens([&] { return tanks.lst_tanklist->count() == 4; }));
+        real::click(*tanks.cmd_ok);
+        done = true;
+    });
+    real::click(*main->findChild<QToolButton *>("tanksetup"));
+    EXPECT_TRUE(real::happens([&] { return done && isInFront(*main); }));
+    for (const char *rows : {"WATERLOG WHERE tankname = 'r1'", "LIVESTOCK WHERE tankname = 'r1'"})
+        EXPECT_GT(keeper.count(rows), 0) << rows;
+    EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same'") + keeper.count("LIVESTOCK WHERE tankname = 'Same'"), 0);
+}
+
+class DesktopTests : public Desktop
+{
+protected:
+    DesktopTests() : Desktop(WaterTab) {}
+};
+
+TEST_F(DesktopTests, AnEntryIsMadeChangedAndDeletedByMenuKeysAndMouse)
+{
+    const auto &splitter = control<QSplitter>(*logbook, "sp_splitter");
+    const int width = splitter.sizes().front();
+    real::drag(*splitter.handle(1), QPoint(80, 0));
+    EXPECT_TRUE(real::happens([&] { return std::abs(splitter.sizes().front() - width - 80) < 8; }))
+        << width << ' ' << splitter.sizes().front();
+
+    const auto found = logbook->TreeView1->findItems("Same", Qt::MatchExactly | Qt::MatchRecursive);
+    real::click(*logbook->TreeView1->viewport(), logbook->TreeView1->visualItemRect(found.front()).center());
+    EXPECT_TRUE(real::happens([&] { return keeper.g().gTankName == "Same"; }));
+
+    bool done = false;
+    real::inNext<frm_WaterAddEdit>([&](frm_WaterAddEdit &window) {
+        real::click(control<QLineEdit>(window, "txt_ph"));
+        real::press("ctrl+a");
+        real::inNext<QMessageBox>([](QMessageBox &) { real::press("Escape"); });
+        real::write("abc");
+        real::press("Tab"); // told as the box is left, and the focus is back
+        EXPECT_TRUE(real::happens([&] { return doors.boxes.size() == 1 && isInFront(window); }));
+        EXPECT_TRUE(control<QLineEdit>(window, "txt_ph").hasFocus());
+        real::write("7.25");
+        real::press("Return");
+        done = true;
+    });
+    chooseInMenu(*main->mnu_File, *main->mnu_FileNew);
+    EXPECT_TRUE(real::happens([&] { return done && isInFront(*main); }));
+    EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same' AND ph = 7.25 AND logdate = '2026-03-14'"), 1);
+
+    for (const auto &[key, left] : {std::pair("Escape", 3), {"Return", 2}}) {
+        selectRow(1);
+        done = false;
+        real::inNext<QMessageBox>([&, key = key](QMessageBox &) {
+            real::press(key);
+            done = true;
+        });
+        real::press("Delete");
+        EXPECT_TRUE(real::happens([&] { return done && isInFront(*main); }));
+        EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same'"), left) << key;
+    }
+    EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'r1'"), 2);
+}

@@ -1,0 +1,107 @@
+// A keeper's hands from outside: xdotool moves the pointer and presses buttons and keys of the X server, and what then
+// comes to which window is the affair of the server, the window manager and Qt. Events that a test sends straight to a
+// control go another way, and miss what depends on it. Nothing here waits for a time: each wait is for something to
+// happen, and fails if it does not.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QtWidgets>
+
+namespace real {
+
+inline bool happens(const std::function<bool()> &what) { return QTest::qWaitFor(what, 20000); }
+
+inline void xdotool(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral("xdotool"), arguments);
+    EXPECT_TRUE(happens([&process] { return process.state() == QProcess::NotRunning; }) && process.exitCode() == 0)
+        << arguments.join(u' ').toStdString() << process.readAllStandardError().toStdString();
+}
+
+/// The place is in the widget's coordinates; its middle where none is given. A window that has just come may still be
+/// on its way.
+inline void moveTo(const QWidget &widget, std::optional<QPoint> place = {})
+{
+    const auto pointerIsThere = [&] {
+        const QPoint target = widget.mapToGlobal(place.value_or(widget.rect().center()));
+        if (QCursor::pos() != target)
+            xdotool({"mousemove", QString::number(target.x()), QString::number(target.y())});
+        return QCursor::pos() == widget.mapToGlobal(place.value_or(widget.rect().center()));
+    };
+    EXPECT_TRUE(happens(pointerIsThere)) << widget.objectName().toStdString();
+}
+
+/// Buttons 1 to 3 are those of the mouse, 4 and 5 the wheel up and down.
+inline void click(const QWidget &widget, std::optional<QPoint> place = {}, int button = 1)
+{
+    moveTo(widget, place);
+    xdotool({"click", QString::number(button)});
+}
+
+inline void drag(const QWidget &widget, const QPoint &by)
+{
+    moveTo(widget);
+    xdotool({"mousedown", "1"});
+    for (int step = 1; step <= 4; ++step)
+        xdotool({"mousemove_relative", "--", QString::number(by.x() / 4), QString::number(by.y() / 4)});
+    xdotool({"mouseup", "1"});
+}
+
+/// "Return", "ctrl+n", "alt+o".
+inline void press(const QString &key) { xdotool({"key", key}); }
+
+inline void write(const QString &text) { xdotool({"type", "--delay", "1", text}); }
+
+inline void clickItem(QAbstractItemView &view, const QModelIndex &index)
+{
+    view.scrollTo(index);
+    click(*view.viewport(), view.visualRect(index).center());
+}
+
+/// What the keeper does once another window of that kind is in front and takes the keys. To be said before the key or
+/// click that brings it.
+template <class T> void inNext(std::function<void(T &)> action)
+{
+    auto *watch = new QTimer(qApp);
+    const QPointer<QWidget> before = QApplication::activeModalWidget();
+    QObject::connect(watch, &QTimer::timeout, watch, [watch, before, action = std::move(action)] {
+        const QPointer<T> window = qobject_cast<T *>(QApplication::activeModalWidget());
+        if (!window || window == before || !window->isActiveWindow())
+            return;
+        watch->stop();
+        watch->deleteLater();
+        action(*window);
+        if (!happens([&window] { return !window || !window->isVisible(); })) {
+            ADD_FAILURE() << window->windowTitle().toStdString() << " is still open.";
+            window->close();
+        }
+    });
+    watch->start(5);
+}
+
+/// While it lives, a modal window that comes is a failure, and is closed: nothing waits for it.
+class NoWindowComes
+{
+public:
+    NoWindowComes()
+    {
+        QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [] {
+            if (QWidget *window = QApplication::activeModalWidget()) {
+                ADD_FAILURE() << window->windowTitle().toStdString() << " has come.";
+                window->close();
+            }
+        });
+        m_watch.start(5);
+    }
+
+private:
+    QTimer m_watch;
+};
+
+} // namespace real
