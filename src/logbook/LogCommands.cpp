@@ -20,6 +20,7 @@ const QString tanksByName = QStringLiteral("SELECT * FROM TANKLST ORDER BY [tank
 const QString waterTypeByName = QStringLiteral("SELECT TankWaterType FROM TANKLST where tankname = ?");
 const QString sortSetting = QStringLiteral("WQ_Sort");
 const QString ascending = QStringLiteral("ascending");
+const QString printCaption = QStringLiteral("&Print Entries...");
 
 QTreeWidgetItem *makeNode(const QString &key, const QString &text)
 {
@@ -89,7 +90,6 @@ void frm_Waterlog::Refresh_Listview(const QString &order)
 {
     if (!TreeView1->currentItem())
         return; // a command before the first activation: the tree is not there yet
-    Form<frm_OMKMDIMain>().mnu_FilePrint->Enabled(true);
     switch (tab()) {
     case WaterTab: LoadWaterList(order); break;
     case LivestockTab: LoadLivestockList(order); break;
@@ -144,7 +144,7 @@ void frm_Waterlog::Update_Menu_Captions()
     button(QStringLiteral("moveentries")).Enabled(livestock);
 
     const bool tank = isTankSelected();
-    main.mnu_FilePrint->Enabled(tank);
+    main.offerPrint(*this, tank, printCaption);
     if (tank)
         CurrentTankText = TreeView1->currentItem()->text(0);
     else
@@ -202,8 +202,6 @@ void frm_Waterlog::TreeView1_MouseUp(const QPoint &position)
 
 void frm_Waterlog::Form_Activate()
 {
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FilePrint->setText(QStringLiteral("&Print Entries..."));
     if (FirstActivation) {
         for (ListView *list : m_lists)
             SetListViewStyle(*list);
@@ -213,7 +211,7 @@ void frm_Waterlog::Form_Activate()
     }
     if (TreeView1->currentItem())
         takeTankInHand(); // the graph may have taken another, and an entry is for the tank that is shown here
-    main.mnu_FilePrint->Enabled(isTankSelected());
+    Form<frm_OMKMDIMain>().offerPrint(*this, isTankSelected(), printCaption);
     enableLogCommands(); // with "All Tanks" in hand they stay disabled
 }
 

@@ -5,6 +5,7 @@
 #include <QLocale>
 
 #include "platform/Guarded.h"
+#include "platform/OptionFocus.h"
 #include "platform/Style.h"
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
@@ -21,7 +22,7 @@ bool Application::notify(QObject *receiver, QEvent *event)
 {
     std::optional<RuntimeFailure> failure;
     try {
-        return QApplication::notify(receiver, event);
+        return PassesFocusToSetOption(*receiver, *event) || QApplication::notify(receiver, event);
     } catch (const RuntimeFailure &e) {
         failure = e;
     } catch (const std::bad_alloc &) {

@@ -13,7 +13,6 @@
 #include "reminders/RuleFields.h"
 #include "reminders/ScheduleReport.h"
 #include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 #include "text/Dates.h"
 
 namespace {
@@ -50,9 +49,7 @@ void frm_Schedule::Form_Load()
 
 void frm_Schedule::Form_Activate()
 {
-    MenuEntry &print = *Form<frm_OMKMDIMain>().mnu_FilePrint;
-    print.Enabled(true);
-    print.setText(QStringLiteral("&Print"));
+    Form<frm_OMKMDIMain>().offerPrint(*this, true);
     SetListViewStyle(*lstv_Reminders);
 }
 

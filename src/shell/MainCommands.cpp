@@ -55,6 +55,13 @@ frm_Waterlog *visibleLogbook()
     return logbook && logbook->isShown() ? logbook : nullptr;
 }
 
+/// The graph offers the tanks that there are now.
+void followTanksInGraph()
+{
+    if (auto *graph = Forms::current().loaded<frm_WaterGraph>())
+        graph->Follow_Tanks();
+}
+
 void tellNoBackup(const RuntimeFailure &failure)
 {
     Beep();
@@ -164,8 +171,7 @@ void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
     CheckTanks();
     if (auto *logbook = visibleLogbook())
         logbook->Follow_Tanks(); // an entry for a tank that is gone would be lost to sight
-    if (auto *graph = Forms::current().loaded<frm_WaterGraph>())
-        graph->Follow_Tanks();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>()); }
@@ -242,18 +248,21 @@ void frm_OMKMDIMain::mnu_TankAddNew_Click()
 {
     Form<frm_TankAddNew>().AddNewTank();
     Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_TankDelete_Click()
 {
     Form<frm_TankMaint>().DeleteTankInfo(Form<frm_Waterlog>().CurrentTankText);
     Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_TankProperties_Click()
 {
     Form<frm_TankMaint>().ChangeTankInfo(Form<frm_Waterlog>().CurrentTankText);
     Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_GraphOptions_Click()

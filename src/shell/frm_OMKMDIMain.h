@@ -38,7 +38,10 @@ public:
 
     /// Shows a window among the children and gives it the focus.
     void ShowChild(ChildForm &child);
-    /// For a window in front that has nothing to print.
+    /// Called by a child that has something to print, when it comes to the front and whenever that changes. One that is
+    /// not in front has no say: its lists are filled behind others, too.
+    void offerPrint(const ChildForm &child, bool enabled, const QString &caption = QStringLiteral("&Print"));
+    /// There is nothing to print: no child in front offers it, or a dialog is.
     void disablePrint();
     /// Text of panel 1 of the status bar.
     void setPanel(const QString &text);
