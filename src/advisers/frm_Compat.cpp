@@ -48,6 +48,7 @@ frm_Compat::frm_Compat(Globals &globals, QWidget *parent) : ChildForm(globals, p
                     but_fresh_click();
             }));
     on(lst_Select, &QComboBox::currentIndexChanged, this, &frm_Compat::lst_select_Click);
+    beginWith(lst_Select);
 }
 
 void frm_Compat::Form_Load()
@@ -57,8 +58,6 @@ void frm_Compat::Form_Load()
     Beep();
     MsgBox(reminderText, vbExclamation, QStringLiteral("Please NOTE!"));
 }
-
-void frm_Compat::Form_Activate() { Form<frm_OMKMDIMain>().disablePrint(); }
 
 void frm_Compat::but_salt_click()
 {

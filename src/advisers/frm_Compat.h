@@ -13,7 +13,6 @@ public:
 
     /// Shows itself, and the reminder over it.
     void Form_Load();
-    void Form_Activate() override;
 
 private:
     void but_salt_click();

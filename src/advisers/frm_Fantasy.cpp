@@ -71,6 +71,7 @@ frm_Fantasy::frm_Fantasy(Globals &globals, QWidget *parent) : ChildForm(globals,
     on(lst_Fantank, &QListWidget::itemSelectionChanged, this, &frm_Fantasy::lst_Fantank_Click);
     on(cmd_AddAnimal, &QPushButton::clicked, this, &frm_Fantasy::cmd_AddAnimal_Click);
     on(cmd_RemoveAnimal, &QPushButton::clicked, this, &frm_Fantasy::cmd_RemoveAnimal_Click);
+    beginWith(lst_select);
 }
 
 void frm_Fantasy::Form_Load()
@@ -80,8 +81,6 @@ void frm_Fantasy::Form_Load()
     Beep();
     MsgBox(reminderText, vbExclamation, QStringLiteral("Please NOTE!"));
 }
-
-void frm_Fantasy::Form_Activate() { Form<frm_OMKMDIMain>().disablePrint(); }
 
 /// A double click counts on the blank part of a list, too: there it tells that nothing is selected.
 bool frm_Fantasy::eventFilter(QObject *object, QEvent *event)

@@ -16,7 +16,6 @@ public:
 
     /// Shows itself, and the reminder over it.
     void Form_Load();
-    void Form_Activate() override;
     /// Empties the tank after a question. Nothing calls it so far: it waits for a command of its own.
     void ConfirmResetFantasyTank();
 

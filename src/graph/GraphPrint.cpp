@@ -43,7 +43,7 @@ void frm_WaterGraph::PrintGraph()
     const Forms::Pin whileItPrints(*this);
     if (!mayPrintAsItIs())
         return;
-    Chart1->setTitleText(QStringLiteral("Ostrelmark Graph for Tank: ") + g.gTankName); // and so it stays
+    titleChart(); // and it keeps its title
     RunReport({QStringLiteral("Print Water Quality Graph"), QStringLiteral("Ostrelmark Water Quality Graph"), true,
                [] { return true; }, [this](Printer &page) { printPage(page); }},
               PrintTo::Printer);

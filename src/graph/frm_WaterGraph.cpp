@@ -1,5 +1,8 @@
 #include "graph/frm_WaterGraph.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QFrame>
@@ -8,7 +11,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 #include "platform/chart/Chart.h"
@@ -16,13 +18,14 @@
 #include "platform/Guarded.h"
 #include "platform/Icons.h"
 #include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 #include "text/Dates.h"
 
 namespace {
 
 const QString tanksByName = QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC");
-const QString tankByName = QStringLiteral("SELECT * FROM TANKLST where tankname = ?");
+const QString firstWithAGraph = QStringLiteral(
+    "SELECT tankid FROM TANKLST WHERE (SELECT count(*) FROM WATERLOG WHERE WATERLOG.tankname = TANKLST.tankid) >= 2 "
+    "ORDER BY [tankname] COLLATE CASEBLIND ASC LIMIT 1");
 
 const QString allTanks = QStringLiteral("All Tanks");
 const QString noTanksTitle = QStringLiteral("No Tanks Set Up Yet");
@@ -116,96 +119,130 @@ void frm_WaterGraph::arrange()
 
 void frm_WaterGraph::Form_Load()
 {
-    const QScopedValueRollback<bool> loading(m_loading, true);
-    Form<frm_OMKMDIMain>().mnu_FilePrint->Enabled(true);
-    Follow_Tanks();
+    refillList();
     Chart1->setChartType(g.options.GraphStyle);
+    cmd_Next->setEnabled(false); // until a page is drawn
     cmd_Previous->setEnabled(false);
     m_paging.restart();
 }
 
-/// As it is wherever the tanks are as they were: a pick in the list that is open is not lost.
-void frm_WaterGraph::Follow_Tanks()
+void frm_WaterGraph::Form_Activate() { Form<frm_OMKMDIMain>().offerPrint(*this, true); }
+
+/// The list stays as it is where the tanks do: a pick in the list that is open is not lost.
+void frm_WaterGraph::refillList()
 {
-    QStringList shown, present;
+    std::vector<std::pair<QString, QString>> shown, present; // name and id
     for (int line = 0; line < tanklistbox->count(); ++line)
-        shown << tanklistbox->itemText(line);
+        shown.emplace_back(tanklistbox->itemText(line), tanklistbox->itemData(line).toString());
     for (Recordset tanks = g.gDatabase->OpenRecordset(tanksByName); !tanks.EOF_(); tanks.MoveNext())
-        present << tanks[QStringLiteral("tankname")].text();
+        present.emplace_back(tanks[QStringLiteral("tankname")].text(), tanks[QStringLiteral("tankid")].text());
     if (shown == present)
         return;
-    const QString selected = tanklistbox->currentText();
+    const QVariant selected = tanklistbox->currentData();
     tanklistbox->clear();
-    tanklistbox->addItems(present);
-    tanklistbox->setCurrentIndex(int(present.indexOf(selected)));
+    for (const auto &[name, id] : present)
+        tanklistbox->addItem(name, id);
+    tanklistbox->setCurrentIndex(tanklistbox->findData(selected)); // by its id: it may have been renamed
+    if (m_drawnTank.isEmpty())
+        return;
+    if (tanklistbox->findData(m_drawnTank) < 0)
+        clearChart();
+    else
+        nameChart();
 }
 
-void frm_WaterGraph::Form_Activate()
+void frm_WaterGraph::Follow_Tanks()
 {
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FilePrint->Enabled(true);
-    main.mnu_FilePrint->setText(QStringLiteral("&Print"));
+    refillList();
+    if (tanklistbox->currentIndex() >= 0)
+        return;
+    tanklistbox->setCurrentIndex(std::max(0, firstLineWithAGraph()));
+    m_paging.restart();
+    drawPage(); // nobody asked for a drawing, so no box tells where there is none
+}
+
+/// -1 where no tank has tests enough.
+int frm_WaterGraph::firstLineWithAGraph()
+{
+    Recordset tank = g.gDatabase->OpenRecordset(firstWithAGraph);
+    return tank.isEmpty() ? -1 : tanklistbox->findData(tank[QStringLiteral("tankid")].text());
+}
+
+/// Line of the tank in hand; with none in hand, or all of them, the graph goes on with the one that it shows.
+int frm_WaterGraph::lineInHand()
+{
+    const bool all = g.gTankName == allTanks && g.gTankId == allTanks;
+    if (!all && !g.gTankName.isEmpty())
+        return tanklistbox->findText(g.gTankName, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    if (tanklistbox->currentIndex() >= 0)
+        return tanklistbox->currentIndex();
+    return all ? std::max(0, firstLineWithAGraph()) : 0;
 }
 
 void frm_WaterGraph::GraphChart()
 {
-    if (m_loading)
-        return;
     const Forms::Pin whileBoxesAreUp(*this);
-    Follow_Tanks();
+    refillList();
     if (tanklistbox->count() == 0) {
         MsgBox(noTanksText, vbExclamation, noTanksTitle);
         return;
     }
-    if (g.gTankName.isEmpty() || (g.gTankName == allTanks && g.gTankId == allTanks)) {
-        selectLine(0); // which draws it
-        return;
-    }
-    if (!tankIsThere()) {
+    const int line = lineInHand();
+    if (line < 0) {
         MsgBox(noEntriesText, vbExclamation, noTanksTitle);
         return;
     }
-    m_currentTank = g.gTankName;
-    if (m_currentTank != tanklistbox->currentText() && selectTankInHand())
-        return; // which has drawn it
-    const auto columns = GraphColumns(g.options.GraphChecks, g.gUserFieldName1, g.gUserFieldName2);
-    if (columns.empty()) {
+    takeInHand(line);
+    if (columns().empty())
         MsgBox(nothingSelectedText, vbInformation, QStringLiteral("Note!"));
-        return;
-    }
-    const auto rows = m_paging.read(*g.gDatabase, g.gTankId, g.gGraphPageSize);
-    if (!rows) {
+    else if (drawPage())
+        takeFocus();
+    else
         tellNotEnough();
-        return;
-    }
-    draw(columns, *rows);
-    cmd_Next->setEnabled(m_paging.hasNext());
-    cmd_Previous->setEnabled(m_paging.hasPrevious());
-    takeFocus();
 }
 
-bool frm_WaterGraph::tankIsThere()
+/// Another tank than the one selected begins with its first page.
+void frm_WaterGraph::takeInHand(int line)
 {
-    Recordset tank = g.gDatabase->OpenRecordset(tankByName, {g.gTankName});
-    if (tank.isEmpty())
+    g.gTankName = tanklistbox->itemText(line);
+    g.gTankId = tanklistbox->itemData(line).toString();
+    if (line == tanklistbox->currentIndex())
+        return;
+    tanklistbox->setCurrentIndex(line);
+    m_paging.restart();
+}
+
+std::vector<GraphColumn> frm_WaterGraph::columns() const
+{
+    return GraphColumns(g.options.GraphChecks, g.gUserFieldName1, g.gUserFieldName2);
+}
+
+/// The page of the tank selected; false where it makes no graph, and then the chart stays as it is.
+bool frm_WaterGraph::drawPage()
+{
+    const QString tank = tanklistbox->currentData().toString();
+    const auto drawn = columns();
+    const auto rows = drawn.empty() ? nullptr : m_paging.read(*g.gDatabase, tank, g.gGraphPageSize);
+    if (!rows)
         return false;
-    g.gTankName = tank[QStringLiteral("tankname")].text();
-    g.gTankId = tank[QStringLiteral("tankid")].text();
+    draw(drawn, *rows);
+    m_drawnTank = tank;
+    nameChart();
+    cmd_Next->setEnabled(m_paging.hasNext());
+    cmd_Previous->setEnabled(m_paging.hasPrevious());
     return true;
 }
 
-bool frm_WaterGraph::selectTankInHand()
+void frm_WaterGraph::clearChart()
 {
-    const int line = tanklistbox->findText(m_currentTank, Qt::MatchFixedString | Qt::MatchCaseSensitive);
-    if (line >= 0)
-        selectLine(line);
-    return line >= 0;
-}
-
-void frm_WaterGraph::selectLine(int index)
-{
-    tanklistbox->setCurrentIndex(index);
-    tanklistbox_Click();
+    Chart1->setRowCount(0);
+    Chart1->setColumnCount(0);
+    Chart1->setTitleText({});
+    Chart1->setAccessibleName(windowTitle());
+    Chart1->setAccessibleDescription({});
+    m_drawnTank.clear();
+    cmd_Next->setEnabled(false);
+    cmd_Previous->setEnabled(false);
 }
 
 void frm_WaterGraph::draw(const std::vector<GraphColumn> &columns, const Rows &rows)
@@ -227,10 +264,25 @@ void frm_WaterGraph::draw(const std::vector<GraphColumn> &columns, const Rows &r
         }
         Chart1->setRowLabel(Format(rows.date(row, dates), QStringLiteral("m/d")));
     }
-    Chart1->setAccessibleName(QStringLiteral("Water quality graph of ") + m_currentTank);
     Chart1->setAccessibleDescription(
         QStringLiteral("Page %1, %2 of %3 entries").arg(m_paging.page()).arg(rows.count()).arg(m_paging.total()));
 }
+
+/// The tank selected may have no graph, and then the chart is still that of another.
+QString frm_WaterGraph::drawnName() const
+{
+    const int line = tanklistbox->findData(m_drawnTank);
+    return line < 0 ? tanklistbox->currentText() : tanklistbox->itemText(line);
+}
+
+void frm_WaterGraph::nameChart()
+{
+    Chart1->setAccessibleName(QStringLiteral("Water quality graph of ") + drawnName());
+    if (!Chart1->TitleText().isEmpty()) // it keeps a title from its first printing on
+        titleChart();
+}
+
+void frm_WaterGraph::titleChart() { Chart1->setTitleText(QStringLiteral("Ostrelmark Graph for Tank: ") + drawnName()); }
 
 void frm_WaterGraph::tellNotEnough()
 {
@@ -249,7 +301,7 @@ void frm_WaterGraph::takeFocus()
 
 void frm_WaterGraph::tanklistbox_Click()
 {
-    g.gTankName = m_currentTank = tanklistbox->currentText();
+    g.gTankName = tanklistbox->currentText();
     m_paging.restart();
     GraphChart();
 }

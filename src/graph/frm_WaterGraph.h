@@ -23,7 +23,8 @@ public:
     /// Draws the tank in hand, its page and the options as they are now. Where that makes no graph, a box says why and
     /// the chart stays as it stands.
     void GraphChart();
-    /// Offers the tanks that there are now; the one selected stays so.
+    /// Offers the tanks that there are now. The one selected stays so; where it is gone, the first one that makes a
+    /// graph is drawn in its place. The tank in hand stays as it is.
     void Follow_Tanks();
     /// Prints the chart on a landscape page, once for each copy; each time the clipboard gets its picture too.
     void PrintGraph();
@@ -42,10 +43,17 @@ protected:
 
 private:
     void arrange();
-    bool tankIsThere();
-    bool selectTankInHand();
-    void selectLine(int index);
+    void refillList();
+    int firstLineWithAGraph();
+    int lineInHand();
+    void takeInHand(int line);
+    std::vector<GraphColumn> columns() const;
+    bool drawPage();
+    void clearChart();
     void draw(const std::vector<GraphColumn> &columns, const Rows &rows);
+    QString drawnName() const;
+    void nameChart();
+    void titleChart();
     void tellNotEnough();
     void takeFocus();
     bool mayPrintAsItIs();
@@ -57,6 +65,5 @@ private:
     void Chart1_MouseUp(Qt::MouseButton button, const QPoint &position);
 
     GraphPaging m_paging;
-    QString m_currentTank; ///< name of the tank drawn
-    bool m_loading = false;
+    QString m_drawnTank; ///< id of the tank whose tests the chart shows; empty where nothing was drawn
 };

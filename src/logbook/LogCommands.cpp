@@ -20,6 +20,7 @@ const QString tanksByName = QStringLiteral("SELECT * FROM TANKLST ORDER BY [tank
 const QString waterTypeByName = QStringLiteral("SELECT TankWaterType FROM TANKLST where tankname = ?");
 const QString sortSetting = QStringLiteral("WQ_Sort");
 const QString ascending = QStringLiteral("ascending");
+const QString printCaption = QStringLiteral("&Print Entries...");
 
 QTreeWidgetItem *makeNode(const QString &key, const QString &text)
 {
@@ -150,7 +151,7 @@ void frm_Waterlog::Update_Menu_Captions()
     button(QStringLiteral("moveentries")).Enabled(livestock);
 
     const bool tank = isTankSelected();
-    main.mnu_FilePrint->Enabled(tank);
+    main.offerPrint(*this, tank, printCaption);
     if (tank)
         CurrentTankText = TreeView1->currentItem()->text(0);
     else
@@ -211,8 +212,6 @@ void frm_Waterlog::TreeView1_MouseUp(const QPoint &position)
 
 void frm_Waterlog::Form_Activate()
 {
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_FilePrint->setText(QStringLiteral("&Print Entries..."));
     if (FirstActivation) {
         for (ListView *list : m_lists)
             SetListViewStyle(*list);
@@ -221,7 +220,7 @@ void frm_Waterlog::Form_Activate()
         return;
     }
     takeTankInHand(); // the graph may have taken another
-    main.mnu_FilePrint->Enabled(isTankSelected());
+    Form<frm_OMKMDIMain>().offerPrint(*this, isTankSelected(), printCaption);
     enableLogCommands(); // with "All Tanks" in hand they stay disabled
 }
 

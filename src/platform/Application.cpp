@@ -7,6 +7,7 @@
 
 #include "platform/Guarded.h"
 #include "platform/OneLine.h"
+#include "platform/OptionFocus.h"
 #include "platform/Style.h"
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
@@ -26,7 +27,7 @@ bool Application::notify(QObject *receiver, QEvent *event)
             KeepToOneLine(*box);
     std::optional<RuntimeFailure> failure;
     try {
-        return QApplication::notify(receiver, event);
+        return PassesFocusToSetOption(*receiver, *event) || QApplication::notify(receiver, event);
     } catch (const RuntimeFailure &e) {
         failure = e;
     } catch (const std::bad_alloc &) {

@@ -15,7 +15,6 @@
 #include "platform/ListView.h"
 #include "platform/Progress.h"
 #include "platform/RuntimeFailure.h"
-#include "shell/frm_OMKMDIMain.h"
 
 namespace {
 
@@ -106,7 +105,6 @@ void frm_LatintoCommon::Form_Load()
 
 void frm_LatintoCommon::Form_Activate()
 {
-    Form<frm_OMKMDIMain>().disablePrint();
     lstv_Names->setToolTip(QStringLiteral("Click column headings to sort"));
     SetListViewStyle(*lstv_Names);
 }

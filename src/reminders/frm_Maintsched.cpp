@@ -8,7 +8,6 @@
 #include "reminders/ReminderRun.h"
 #include "shell/ErrorHandler.h"
 #include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 #include "text/Dates.h"
 
 namespace {
@@ -53,9 +52,7 @@ void frm_Maintsched::Form_Load()
 
 void frm_Maintsched::Form_Activate()
 {
-    MenuEntry &print = *Form<frm_OMKMDIMain>().mnu_FilePrint;
-    print.Enabled(true); // though there is nothing to print here
-    print.setText(QStringLiteral("&Print"));
+    Form<frm_OMKMDIMain>().offerPrint(*this, true); // though there is nothing to print here
     SetListViewStyle(*lstv_MaintSched);
 }
 

@@ -12,7 +12,6 @@
 #include "reminders/ReminderRun.h"
 #include "reminders/ScheduleReport.h"
 #include "shell/frm_OMKMDIMain.h"
-#include "shell/MenuEntry.h"
 
 namespace {
 
@@ -58,9 +57,7 @@ void frm_Schedule::followDateOrder()
 
 void frm_Schedule::Form_Activate()
 {
-    MenuEntry &print = *Form<frm_OMKMDIMain>().mnu_FilePrint;
-    print.Enabled(true);
-    print.setText(QStringLiteral("&Print"));
+    Form<frm_OMKMDIMain>().offerPrint(*this, true);
     SetListViewStyle(*lstv_Reminders);
     followDateOrder();
 }

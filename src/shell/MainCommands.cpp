@@ -66,6 +66,13 @@ QString withBackup(const RuntimeFailure &notOpened, const std::optional<RuntimeF
         .arg(outcome, notOpened.description().section(u'\n', 1));
 }
 
+/// The graph offers the tanks that there are now.
+void followTanksInGraph()
+{
+    if (auto *graph = Forms::current().loaded<frm_WaterGraph>())
+        graph->Follow_Tanks();
+}
+
 void tellNoBackup(const RuntimeFailure &failure)
 {
     Beep();
@@ -179,8 +186,7 @@ void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
     CheckTanks();
     if (auto *logbook = visibleLogbook())
         logbook->Follow_Tanks(); // an entry for a tank that is gone would be lost to sight
-    if (auto *graph = Forms::current().loaded<frm_WaterGraph>())
-        graph->Follow_Tanks();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>()); }
@@ -260,18 +266,21 @@ void frm_OMKMDIMain::mnu_TankAddNew_Click()
 {
     Form<frm_TankAddNew>().AddNewTank();
     Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_TankDelete_Click()
 {
     Form<frm_TankMaint>().DeleteTankInfo(Form<frm_Waterlog>().CurrentTankText);
     Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_TankProperties_Click()
 {
     Form<frm_TankMaint>().ChangeTankInfo(Form<frm_Waterlog>().CurrentTankText);
     Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
 }
 
 void frm_OMKMDIMain::mnu_GraphOptions_Click()

@@ -109,6 +109,8 @@ private:
                                                           : Geometry{m_window.size(), m_window.pos()};
     }
 
+    /// The main window's are those of its children, which keep them themselves.
+    QList<ListView *> lists() const { return isMain() ? QList<ListView *>() : m_window.findChildren<ListView *>(); }
     QString keyOf(const ListView &list) const { return m_window.objectName() + u'.' + list.objectName(); }
 
     State state() const
@@ -116,7 +118,7 @@ private:
         State state;
         if (const auto present = geometry())
             state[m_window.objectName()] = textOf(*present);
-        for (const ListView *list : m_window.findChildren<ListView *>())
+        for (const ListView *list : lists())
             state[keyOf(*list)] = list->columnLayout();
         return state;
     }
@@ -130,7 +132,7 @@ private:
     {
         if (const auto geometry = geometryIn(remembered(m_window.objectName())))
             restore(*geometry);
-        for (ListView *list : m_window.findChildren<ListView *>())
+        for (ListView *list : lists())
             list->setColumnLayout(remembered(keyOf(*list)));
     }
 

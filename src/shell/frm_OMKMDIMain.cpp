@@ -264,6 +264,8 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
         // and those before that one are never reached.
         frame->setFocusPolicy(Qt::NoFocus);
         frame->setWindowIcon(child.windowIcon());
+        // However small the main window is: controls without any room would paint on empty pictures.
+        frame->setMinimumSize(frame->minimumSizeHint());
         frame->resize(size.boundedTo(m_area->viewport()->size()));
         m_area->addSubWindow(frame); // of its own size already, so that it gets a place where it is seen whole
     }
@@ -278,6 +280,14 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
 
 bool frm_OMKMDIMain::isInFront(const ChildForm &child) const { return m_activeChild == &child; }
 
+void frm_OMKMDIMain::offerPrint(const ChildForm &child, bool enabled, const QString &caption)
+{
+    if (!isInFront(child))
+        return;
+    mnu_FilePrint->Enabled(enabled);
+    mnu_FilePrint->setText(caption);
+}
+
 void frm_OMKMDIMain::disablePrint()
 {
     mnu_FilePrint->Enabled(false);
@@ -289,11 +299,14 @@ void frm_OMKMDIMain::setPanel(const QString &text) { ShowProgress(*m_panel, text
 void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
 {
     auto *child = window ? dynamic_cast<ChildForm *>(window->widget()) : nullptr;
+    if (!m_area->currentSubWindow())
+        disablePrint(); // the last child has closed; a dialog in front leaves the current one
     if (!child || child == m_activeChild)
         return; // nothing in front, for now: a dialog or another program is no loss of focus
     if (m_activeChild)
         m_activeChild->Form_LostFocus();
     m_activeChild = child;
+    disablePrint(); // unless the child says otherwise
     child->Form_Activate();
 }
 
@@ -303,6 +316,7 @@ void frm_OMKMDIMain::MDIForm_Activate()
     // that waits for the box; the child is told when it has closed.
     if (QApplication::activeModalWidget())
         return;
+    disablePrint(); // unless the child says otherwise
     if (m_activeChild && m_activeChild->isShown())
         m_activeChild->Form_Activate();
 }

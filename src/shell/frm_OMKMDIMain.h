@@ -42,7 +42,10 @@ public:
     void ShowChild(ChildForm &child);
     /// Whether it is the child in front; it stays so behind a dialog or another program.
     bool isInFront(const ChildForm &child) const;
-    /// For a window in front that has nothing to print.
+    /// Called by a child that has something to print, when it comes to the front and whenever that changes. One that is
+    /// not in front has no say: its lists are filled behind others, too.
+    void offerPrint(const ChildForm &child, bool enabled, const QString &caption = QStringLiteral("&Print"));
+    /// There is nothing to print: no child in front offers it, or a dialog is.
     void disablePrint();
     /// Text of panel 1 of the status bar.
     void setPanel(const QString &text);

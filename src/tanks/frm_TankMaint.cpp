@@ -24,7 +24,6 @@ const QString cascade[] = {
 frm_TankMaint::frm_TankMaint(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
 {
     setupUi(this);
-    on(lst_tanklist, &QListWidget::itemSelectionChanged, this, &frm_TankMaint::lst_tanklist_Click);
     on(lst_tanklist, &QListWidget::itemDoubleClicked, this, &frm_TankMaint::cmd_ChangeTank_Click);
     for (const Qt::Key key : enterKeys)
         OnListKey(*lst_tanklist, key, *cmd_ChangeTank);
@@ -47,7 +46,6 @@ void frm_TankMaint::Show_List()
 void frm_TankMaint::fillList()
 {
     lst_tanklist->clear();
-    lst_tanklist_Click();
     for (Recordset tanks = g.gDatabase->OpenRecordset(allTanks); !tanks.EOF_(); tanks.MoveNext())
         lst_tanklist->addItem(tanks[QStringLiteral("tankname")].text());
 }
@@ -103,13 +101,6 @@ void frm_TankMaint::DeleteTankInfo(const QString &tankName)
     MsgBox(u"The tank named " + name + u" was successfully deleted.", vbInformation, QStringLiteral("Tank Deleted"));
     g.gTankName.clear();
     g.gTankId.clear();
-}
-
-void frm_TankMaint::lst_tanklist_Click()
-{
-    const bool selected = !lst_tanklist->selectedItems().isEmpty();
-    cmd_ChangeTank->setEnabled(selected);
-    cmd_DeleteTank->setEnabled(selected);
 }
 
 void frm_TankMaint::cmd_AddTank_Click()

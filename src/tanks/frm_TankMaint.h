@@ -26,7 +26,6 @@ private:
     QString nameOrSelection(const QString &tankName);
     QString selection() const;
 
-    void lst_tanklist_Click();
     void cmd_AddTank_Click();
     void cmd_ChangeTank_Click();
     void cmd_DeleteTank_Click();

@@ -274,7 +274,7 @@ const Scene scenes[] = {
      }},
     {"PrintLog", WaterTab, nullptr,
      [](Bench &d) {
-         d.keeper.doors.printers = {PrintDialogAnswer{1, 0, 0, "Laser", {}}};
+         d.keeper.doors.printers = {PrintDialogAnswer{1}};
          d.inWindow<frm_OMKLogPrint>([](frm_OMKLogPrint &window) { mouse::click(window.cmd_ok); });
          d.push("printentries");
          ASSERT_EQ(d.keeper.doors.documents.size(), 1u);

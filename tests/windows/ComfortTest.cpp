@@ -1,4 +1,5 @@
 // What every window owes to a keeper without a mouse, without eyes, or with a desktop of his own arrangement.
+#include <algorithm>
 #include <map>
 
 #include "advisers/frm_Compat.h"
@@ -69,6 +70,39 @@ QStringList nameless(const QWidget &window)
     return names;
 }
 
+/// An option in sight, not set, while another of its group is.
+bool isNotTheOneSet(const QWidget &control)
+{
+    const auto *option = qobject_cast<const QRadioButton *>(&control);
+    const auto siblings = control.parent()->findChildren<QRadioButton *>(Qt::FindDirectChildrenOnly);
+    return option && !option->isChecked() && std::ranges::any_of(siblings, [option](const QRadioButton *other) {
+               return other->isChecked() && other->group() == option->group();
+           });
+}
+
+/// Sets the last option of each group in sight, which Tab comes to last.
+void setLastOptions(QWidget &window)
+{
+    for (QRadioButton *option : window.findChildren<QRadioButton *>())
+        if (option->isVisible() && option->isEnabled())
+            option->setChecked(true);
+}
+
+/// Options that the focus comes to by Tab, though another is set.
+QStringList wrongOptions(QWidget &window)
+{
+    QStringList names;
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        setLastOptions(window);
+        for (int i = 0; i < 40; ++i) {
+            hand::press(key);
+            if (isNotTheOneSet(*QApplication::focusWidget()))
+                names << QApplication::focusWidget()->objectName();
+        }
+    }
+    return names;
+}
+
 /// Controls that Tab, pressed until it is back where it began, does not come to once.
 QStringList unreached(QWidget &window)
 {
@@ -104,6 +138,8 @@ void examine(QWidget &window)
 {
     SCOPED_TRACE(window.objectName().toStdString());
     EXPECT_TRUE(isInFront(*window.window()));
+    EXPECT_TRUE(takesTab(*QApplication::focusWidget()) && !isNotTheOneSet(*QApplication::focusWidget()))
+        << QApplication::focusWidget()->objectName().toStdString() << " has the focus";
     EXPECT_EQ(nameless(window).join(u' '), "");
     auto *tabs = window.findChild<QTabWidget *>();
     QString twice;
@@ -111,6 +147,7 @@ void examine(QWidget &window)
         if (tabs)
             tabs->setCurrentIndex(page);
         EXPECT_EQ(unreached(window).join(u' '), "") << page;
+        EXPECT_EQ(wrongOptions(window).join(u' '), "") << page;
         twice += colliding(window);
     }
     const auto known = knownTwice.find(window.objectName());
@@ -214,6 +251,8 @@ TEST_F(Memory, BringsWindowsBackAsTheyWereLeft)
     QSize dialog;
     inTankList([&](frm_TankMaint &tanks) { tanks.resize(dialog = tanks.size() + QSize(50, 70)); });
     main->close();
+    const QSettings kept(keeper.doors.settings().fileName(), QSettings::IniFormat);
+    EXPECT_EQ(kept.allKeys().filter("frm_OMKMDIMain.").join(u' '), "") << "the lists are its children's";
     EXPECT_EQ(next(), left);
     inTankList([&](frm_TankMaint &tanks) { EXPECT_EQ(tanks.size(), dialog); });
 }

@@ -2,6 +2,7 @@
 #include "graph/frm_WaterGraph.h"
 #include "platform/chart/Chart.h"
 #include "shell/frm_OMKOptions.h"
+#include "tanks/frm_TankAddNew.h"
 
 /// The tank "Reef" is in hand in the logbook.
 class Graph : public Desk
@@ -139,7 +140,7 @@ TEST_F(Graph, BothWaysIntoItDrawTheTankInHand)
     hand::openLogbook(*main);
     hand::clickTank(*logbook, "All Tanks");
     hand::click<QToolButton>(*main, "graphing");
-    EXPECT_EQ(window.tanklistbox->currentText(), "Bowl") << "the first";
+    EXPECT_EQ(window.tanklistbox->currentText(), "Reef") << "the one that it shows";
     execute("DELETE FROM TANKLST");
     window.close();
     keeper.told();
@@ -149,6 +150,97 @@ TEST_F(Graph, BothWaysIntoItDrawTheTankInHand)
     hand::openLogbook(*main);
     hand::press(Qt::Key_G, Qt::ControlModifier);
     EXPECT_EQ(graph().tanklistbox->currentText(), "Nano") << "set up since";
+}
+
+TEST_F(Graph, WithAllTanksInHandItBeginsWithTheFirstThatHasAGraphAndStaysThere)
+{
+    addTests(1, "b1");
+    addTests(30, "k1"); // "Marsh" comes second
+    const auto allTanks = [&] {
+        hand::openLogbook(*main);
+        hand::clickTank(*logbook, "All Tanks");
+        main->ShowChild(graph());
+    };
+    hand::clickTank(*logbook, "All Tanks");
+    keeper.g().options.GraphChecks = "0000000000000";
+    hand::press(Qt::Key_G, Qt::ControlModifier);
+    EXPECT_TRUE(keeper.told().startsWith("0|Note!/"));
+    EXPECT_EQ(graph().tanklistbox->currentText() + ' ' + page(), "Marsh none") << "nothing to go on to";
+    keeper.g().options.GraphChecks = "0111000000000";
+    allTanks();
+    graph().GraphChart();
+    EXPECT_EQ(page(), "5/1 No3: 1 - 5/20 No3: 20 >");
+    allTanks();
+    mouse::click(graph().cmd_Next);
+    EXPECT_EQ(page(), "5/21 No3: 21 - 5/30 No3: 30 <");
+    allTanks();
+    keeper.inNext<frm_OMKOptions>([](frm_OMKOptions &w) { mouse::click(w.cmdOK); });
+    clickEntry(*main->mnu_GraphPopup, "mnu_GraphOptions");
+    EXPECT_EQ(page(), "5/21 No3: 21 - 5/30 No3: 30 <");
+    allTanks();
+    mouse::click(graph().cmd_Previous);
+    EXPECT_EQ(page(), "5/1 No3: 1 - 5/20 No3: 20 >");
+    EXPECT_EQ(graph().tanklistbox->currentText() + keeper.told(), "Marsh0");
+    execute("DELETE FROM WATERLOG");
+    graph().close();
+    allTanks();
+    graph().GraphChart();
+    EXPECT_TRUE(keeper.told().contains("Not Enough Entries")) << "no tank has a graph";
+}
+
+TEST_F(Graph, ItsListFollowsTheTanksAndAChartGoesWithItsTank)
+{
+    addTests(3, "b1");
+    addTests(2);
+    openGraph();
+    choose("Bowl");
+    const auto shows = [&]() -> QString { return graph().tanklistbox->currentText() + ' ' + page(); };
+    const auto ofTheTree = [&](const QString &tank, const char *entry) {
+        hand::openLogbook(*main);
+        hand::clickTank(*logbook, tank, Qt::RightButton);
+        clickEntry(*main->mnu_tankPopup, entry);
+    };
+    keeper.inNext<frm_TankAddNew>([](frm_TankAddNew &w) {
+        hand::type(*w.txt_tankname, "Vase");
+        mouse::click(w.cmd_OK);
+    });
+    ofTheTree("Bowl", "mnu_TankProperties");
+    EXPECT_EQ(shows(), "Vase 5/1 No3: 1 - 5/3 No3: 3") << "renamed";
+    EXPECT_EQ(graph().Chart1->accessibleName(), "Water quality graph of Vase");
+    keeper.inNext<frm_TankAddNew>([](frm_TankAddNew &w) {
+        hand::type(*w.txt_tankname, "Nano");
+        mouse::click(w.cmd_OK);
+    });
+    ofTheTree("Same", "mnu_TankAddNew");
+    EXPECT_EQ(lines(*graph().tanklistbox->model()), "Marsh|Nano|Pond|Reef|Same|Vase");
+    keeper.doors.answers = {MsgBoxAnswer::OK, MsgBoxAnswer::OK, MsgBoxAnswer::OK, MsgBoxAnswer::OK};
+    ofTheTree("Vase", "mnu_TankDelete");
+    EXPECT_EQ(shows(), "Reef 5/1 No3: 1 - 5/2 No3: 2") << "the first with a graph";
+    EXPECT_EQ(keeper.g().gTankId, "All Tanks") << "the logbook is in front";
+    ofTheTree("Reef", "mnu_TankDelete");
+    EXPECT_EQ(shows(), "Marsh none");
+}
+
+TEST_F(Graph, ItsPrintedTitleNamesTheTankDrawn)
+{
+    addTests(2, "b1");
+    addTests(3);
+    openGraph();
+    const auto printed = [&] {
+        keeper.doors.answers = {MsgBoxAnswer::No};
+        keeper.doors.printers = {std::nullopt};
+        hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
+        return graph().Chart1->TitleText();
+    };
+    choose("Bowl");
+    hand::openLogbook(*main); // which takes "Reef" in hand
+    main->ShowChild(graph());
+    EXPECT_EQ(printed(), "Ostrelmark Graph for Tank: Bowl");
+    choose("Pond"); // has no graph, so that the chart stands
+    EXPECT_EQ(printed(), "Ostrelmark Graph for Tank: Bowl");
+    choose("Reef");
+    EXPECT_EQ(graph().Chart1->TitleText(), "Ostrelmark Graph for Tank: Reef") << "the title stays, and is true";
+    keeper.told();
 }
 
 TEST_F(Graph, PrintsALandscapePageForEachCopy)

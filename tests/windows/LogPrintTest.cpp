@@ -49,7 +49,10 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
         hand::clickTab(*logbook->tab_logtype, tab);
         const QString document = "Ostrelmark " + logs[tab];
         keeper.doors.printers = {PrintDialogAnswer{2}};
-        keeper.inNext<frm_OMKLogPrint>([](frm_OMKLogPrint &w) { mouse::click(w.cmd_ok); });
+        keeper.inNext<frm_OMKLogPrint>([](frm_OMKLogPrint &w) {
+            hand::press(Qt::Key_Space); // the focus is on the log on show
+            mouse::click(w.cmd_ok);
+        });
         hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
         EXPECT_TRUE(isInFront(*main));
         EXPECT_EQ(printedTanks(), document + ":Reef|" + document + ":Reef");

@@ -1,5 +1,9 @@
+#include "advisers/frm_DiagDiagnosis.h"
 #include "Desk.h"
+#include "graph/frm_WaterGraph.h"
 #include "logbook/frm_WaterAddEdit.h"
+#include "reference/frm_Conversions.h"
+#include "reminders/frm_Schedule.h"
 #include "support/TestFiles.h"
 #include "tanks/frm_TankMaint.h"
 
@@ -114,4 +118,64 @@ TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
     hand::openLogbook(*main);
     EXPECT_TRUE(canAdd());
     EXPECT_EQ(logbook->TreeView1->currentItem()->text(0), "Reef") << "only the first activation builds the tree";
+}
+
+TEST_F(MainWindow, PrintIsWhatTheChildInFrontOffers)
+{
+    const auto print = [&]() -> QString {
+        return main->mnu_FilePrint->text() + (main->mnu_FilePrint->isEnabled() ? "" : " (off)");
+    };
+    const auto show = [&](ChildForm &child) {
+        main->ShowChild(child);
+        return print();
+    };
+    EXPECT_EQ(print(), "&Print Entries...");
+    EXPECT_EQ(show(Form<frm_Conversions>()), "&Print (off)");
+    for (ChildForm *child :
+         {static_cast<ChildForm *>(&Form<frm_WaterGraph>()), static_cast<ChildForm *>(&Form<frm_Schedule>())}) {
+        EXPECT_EQ(show(*child), "&Print");
+        hand::choose(*main, *main->mnu_View, "mnu_ViewRefresh"); // of the logbook behind
+        EXPECT_EQ(print(), "&Print") << child->objectName().toStdString();
+    }
+    EXPECT_EQ(show(*logbook), "&Print Entries... (off)") << "with all tanks in hand";
+    for (ChildForm *child : {static_cast<ChildForm *>(logbook), static_cast<ChildForm *>(&Form<frm_Conversions>()),
+                             static_cast<ChildForm *>(&Form<frm_WaterGraph>())})
+        child->close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(print(), "&Print") << "the schedule is left";
+    Form<frm_Schedule>().close();
+    EXPECT_EQ(print(), "&Print (off)");
+    // With no child, a dialog that can print leaves nothing behind.
+    keeper.inNext<frm_DiagDiagnosis>([&](frm_DiagDiagnosis &w) {
+        EXPECT_EQ(print(), "&Print");
+        w.close();
+    });
+    Form<frm_DiagDiagnosis>().Showdiagnosis();
+    EXPECT_TRUE(isInFront(*main));
+    EXPECT_EQ(print(), "&Print (off)");
+}
+
+TEST_F(MainWindow, ChildrenOfAVerySmallWindowKeepTheRoomThatTheyNeed)
+{
+    main->resize(1, 1);
+    const auto paint = [&] { // a warning of the toolkit fails the test
+        QCoreApplication::processEvents();
+        main->grab();
+    };
+    for (ChildForm *child :
+         {static_cast<ChildForm *>(logbook), static_cast<ChildForm *>(&Form<frm_WaterGraph>()),
+          static_cast<ChildForm *>(&Form<frm_Schedule>()), static_cast<ChildForm *>(&Form<frm_Conversions>())}) {
+        SCOPED_TRACE(child->objectName().toStdString());
+        main->ShowChild(*child);
+        paint();
+        EXPECT_TRUE(child->height() >= child->minimumSizeHint().height() &&
+                    child->width() >= child->minimumSizeHint().width());
+        child->parentWidget()->showMaximized();
+        paint();
+        child->parentWidget()->showNormal();
+    }
+    for (const char *entry : {"mnu_WindowCascade", "mnu_WindowTileHorizontal", "mnu_WindowTileVertical"}) {
+        control<QAction>(*main, entry).trigger();
+        paint();
+    }
 }

@@ -198,3 +198,16 @@ TEST_F(Tanks, DeletingTakesTheTankWithAllItsEntriesOrNothing)
     });
     Form<frm_TankMaint>().Show_List();
 }
+
+TEST_F(Tanks, TheListSaysWhatItsButtonsNeed)
+{
+    keeper.addTank("Reef", "1");
+    keeper.inNext<frm_TankMaint>([&](frm_TankMaint &list) {
+        mouse::click(list.cmd_ChangeTank);
+        EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a tank entry to change.");
+        mouse::click(list.cmd_DeleteTank);
+        EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a tank to delete.");
+        mouse::click(list.cmd_ok);
+    });
+    Form<frm_TankMaint>().Show_List();
+}
