@@ -10,30 +10,15 @@ const QString earlier = QStringLiteral(" AND logdate < ? or logdate = ? And logt
 
 constexpr int fewest = 2;
 
-struct Position
-{
-    const char *field;
-    const char *label; ///< null: the user's name for it
-};
-
-constexpr Position positions[] = {
-    {"ph", "ph"},     {"Ammonia", "Nh3"},   {"nitrite", "No2"},   {"nitrate", "No3"},     {"sg", "S.G."},
-    {"temp", "temp"}, {"oxygen", "o2"},     {"dkh", "dkh"},       {"calcium", "calcium"}, {"copper", "cu"},
-    {"orp", "Redox"}, {"custom1", nullptr}, {"custom2", nullptr},
-};
-
 } // namespace
 
-std::vector<GraphColumn> GraphColumns(const QString &checks, const QString &userName1, const QString &userName2)
+std::vector<GraphColumn> GraphColumns(const QString &checks, const UserFieldNames &names)
 {
     std::vector<GraphColumn> columns;
-    qsizetype place = 0;
-    for (const Position &position : positions) {
-        if (checks.mid(place++, 1) != u"1")
-            continue;
-        const bool second = QLatin1String(position.field) == QLatin1String("custom2");
-        const QString label = position.label ? QString::fromLatin1(position.label) : second ? userName2 : userName1;
-        columns.push_back({QString::fromLatin1(position.field), label});
+    for (std::size_t place = 0; place < listOrder.size(); ++place) {
+        const MeasurementRow &row = RowOf(listOrder[place]);
+        if (checks.mid(qsizetype(place), 1) == u"1")
+            columns.push_back({QString::fromLatin1(row.column), NameOf(row, row.graph.label, names)});
     }
     return columns;
 }

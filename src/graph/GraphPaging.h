@@ -12,6 +12,7 @@
 #include <QString>
 #include <QTime>
 
+#include "common/Measurements.h"
 #include "store/Database.h"
 
 struct GraphColumn
@@ -20,8 +21,8 @@ struct GraphColumn
     QString label;
 };
 
-/// The measurements whose place in `checks` holds "1", in the order of the graph.
-std::vector<GraphColumn> GraphColumns(const QString &checks, const QString &userName1, const QString &userName2);
+/// The measurements that have a "1" at their place in `checks`, in listOrder.
+std::vector<GraphColumn> GraphColumns(const QString &checks, const UserFieldNames &names);
 
 class GraphPaging
 {

@@ -214,7 +214,7 @@ void frm_WaterGraph::takeInHand(int line)
 
 std::vector<GraphColumn> frm_WaterGraph::columns() const
 {
-    return GraphColumns(g.options.GraphChecks, g.gUserFieldName1, g.gUserFieldName2);
+    return GraphColumns(g.options.GraphChecks, g.userFieldNames());
 }
 
 /// The page of the tank selected; false where it makes no graph, and then the chart stays as it is.

@@ -1,40 +1,31 @@
 #include "logbook/LogKinds.h"
 
+#include "common/Measurements.h"
 #include "logbook/RowKey.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"
 
-// Headings stand as they are: "price_sold" in lower case, and the user's two columns under their own names whatever he
-// calls them. Both of those show custom1; custom2 is saved and graphed, but this list does not show it.
+namespace {
+
+std::vector<LogColumn> waterColumns()
+{
+    std::vector<LogColumn> columns{{"Date", "Date", false, nullptr, nullptr, 170}};
+    for (const Measurement measurement : listOrder) {
+        const MeasurementInList &list = RowOf(measurement).list;
+        columns.push_back({list.key, list.heading, true, RowOf(list.shown).column, list.picture, list.width});
+    }
+    columns.push_back({"Comments", "Comments", false, "Comment", nullptr, 260});
+    return columns;
+}
+
+} // namespace
+
+// The heading "price_sold" in lower case is settled, and so are the fixed headings of the measurements that the user
+// names.
 const std::array<LogKind, 3> logKinds = {{
-    {"Water Quality Log",
-     "lstv_WaterLog",
-     "Contents of Water Quality Log for '%1'",
-     "waterquality",
-     "SELECT * FROM waterlog where tankname = ? ORDER BY ",
-     "LogDate, Logtime ",
-     "LogDate desc, Logtime desc ",
-     "logdate",
-     "logtime",
-     "hh:mm:ss am/pm",
-     nullptr,
-     {
-         {"Date", "Date", false, nullptr, nullptr, 170},
-         {"Ph", "ph", true, "ph", "0.00", 60},
-         {"Ammonia", "Nh3 - Ammonia", true, "Ammonia", "###0.000", 110},
-         {"Nitrite", "No2 - Nitrite", true, "nitrite", "###0.000", 95},
-         {"Nitrate", "No3 - Nitrate", true, "nitrate", "###0.000", 100},
-         {"sg", "S.G. - Specific Gravity", true, "sg", "###0.000", 150},
-         {"Temperature", "Temperature", true, "temp", "##0.00", 90},
-         {"o2", "o2 - Oxygen", true, "oxygen", "##0.000", 90},
-         {"dkh", "dKh", true, "dkh", "##0.000", 70},
-         {"Calcium", "Calcium", true, "calcium", "###0.000", 75},
-         {"Copper", "Cu - Copper", true, "copper", "##0.000", 90},
-         {"Orp", "Orp ", true, "orp", "##0.000", 75},
-         {"Custom1", "Custom1", true, "custom1", nullptr, 75},
-         {"Custom2", "Custom2", true, "custom1", nullptr, 75},
-         {"Comments", "Comments", false, "Comment", nullptr, 260},
-     }},
+    {"Water Quality Log", "lstv_WaterLog", "Contents of Water Quality Log for '%1'", "waterquality",
+     "SELECT * FROM waterlog where tankname = ? ORDER BY ", "LogDate, Logtime ", "LogDate desc, Logtime desc ",
+     "logdate", "logtime", "hh:mm:ss am/pm", nullptr, waterColumns()},
     {"Livestock Log",
      "lstv_Livestock",
      "Contents of Livestock Log for '%1'",

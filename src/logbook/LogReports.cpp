@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "common/Measurements.h"
 #include "platform/Doors.h"
 #include "platform/Printer.h"
 #include "store/Database.h"
@@ -24,49 +25,53 @@ struct LogReport
     const char *title;
     const char *empty;
     bool landscape;
-    const char *select; ///< up to the tank filter
+    QString select; ///< up to the tank filter
     const char *orderBy;
     const char *dateColumn;
     const char *timeColumn;
     std::vector<ReportColumn> columns;
 };
 
-constexpr auto water = "###0.000";
 constexpr auto tankFilter = " and t.tankid = ? ";
 
-// By LogTab. The heads "Custom1" and "Custom2" are fixed: the keeper's names for these two do not reach this report.
+constexpr auto waterPicture = "###0.000";
+
+QString waterSelect()
+{
+    QString columns;
+    for (const MeasurementRow &row : measurements)
+        columns += u"w." + QLatin1String(row.column) + u", ";
+    return u"SELECT t.Tankname as tankname, t.Tankdesc, t.Tanksize, w.logdate, w.logtime, " + columns +
+           u"w.Comment FROM Tanklst t, waterlog w where w.tankname = t.tankid ";
+}
+
+/// The heads of the measurements that the user names are fixed: his own names do not appear on paper.
+std::vector<ReportColumn> waterColumns()
+{
+    constexpr int dateSpan = 1;
+    int whole = dateSpan;
+    for (const MeasurementRow &row : measurements)
+        whole += row.report.span;
+    std::vector<ReportColumn> columns{{"Date /Time Added", 0, nullptr, nullptr}};
+    int left = dateSpan;
+    for (const MeasurementRow &row : measurements) {
+        columns.push_back({row.report.head, double(left) / whole, row.column, waterPicture});
+        left += row.report.span;
+    }
+    return columns;
+}
+
+// In the order of LogTab.
 const std::array<LogReport, 3> reports = {{
-    {"Print Water Quality Log",
-     "Ostrelmark Water Quality Log",
-     "No water quality entries were found for this tank. No log was printed.",
-     true,
-     "SELECT t.Tankname as tankname, t.Tankdesc, t.Tanksize, w.logdate, w.logtime, w.ph, w.Ammonia, w.nitrite, "
-     "w.nitrate, "
-     "w.sg, w.temp, w.oxygen, w.dkh, w.calcium, w.copper, w.orp, w.custom1, w.custom2, w.Comment "
-     "FROM Tanklst t, waterlog w where w.tankname = t.tankid ",
-     " ORDER BY t.Tankname COLLATE CASEBLIND, w.logdate, w.logtime",
-     "logdate",
-     "logtime",
-     {{"Date /Time Added", 0, nullptr, nullptr},
-      {"Ammonia", 1 / 15., "Ammonia", water},
-      {"Nitrite", 3 / 15., "nitrite", water},
-      {"Nitrate", 4 / 15., "nitrate", water},
-      {"ph", 5 / 15., "ph", water},
-      {"s.g.", 6 / 15., "sg", water},
-      {"Temp", 7 / 15., "temp", water},
-      {"o2", 8 / 15., "oxygen", water},
-      {"dkh", 9 / 15., "dkh", water},
-      {"Calcium", 10 / 15., "calcium", water},
-      {"Copper", 11 / 15., "copper", water},
-      {"Redox", 12 / 15., "orp", water},
-      {"Custom1", 13 / 15., "custom1", water},
-      {"Custom2", 14 / 15., "custom2", water}}},
+    {"Print Water Quality Log", "Ostrelmark Water Quality Log",
+     "No water quality entries were found for this tank. No log was printed.", true, waterSelect(),
+     " ORDER BY t.Tankname COLLATE CASEBLIND, w.logdate, w.logtime", "logdate", "logtime", waterColumns()},
     {"Print Livestock Log",
      "Ostrelmark Livestock Log",
      "No Livestock entries were found for this tank. No log was printed.",
      false,
-     "SELECT t.Tankname, t.Tankdesc, t.Tanksize, l.Dateadded, l.Timeadded, l.animalname, l.status, l.quantity "
-     "FROM Tanklst t, livestock L where l.tankname = t.tankid ",
+     QStringLiteral("SELECT t.Tankname, t.Tankdesc, t.Tanksize, l.Dateadded, l.Timeadded, l.animalname, l.status, "
+                    "l.quantity FROM Tanklst t, livestock L where l.tankname = t.tankid "),
      " ORDER BY t.Tankname COLLATE CASEBLIND, l.DateAdded, l.Timeadded",
      "Dateadded",
      "Timeadded",
@@ -78,9 +83,9 @@ const std::array<LogReport, 3> reports = {{
      "Ostrelmark Maintenance Log",
      "No Maintenance entries were found for this tank. No log was printed.",
      false,
-     "SELECT t.Tankname, t.Tankdesc, t.Tanksize, m.maintlogdate, m.maintlogtime, m.maintlogtask, m.maintlogqty, "
-     "m.maintlogunit, "
-     "m.maintlogdesc, m.maintlognote FROM Tanklst t, maintlog m where m.mainttankname = t.tankid ",
+     QStringLiteral("SELECT t.Tankname, t.Tankdesc, t.Tanksize, m.maintlogdate, m.maintlogtime, m.maintlogtask, "
+                    "m.maintlogqty, m.maintlogunit, m.maintlogdesc, m.maintlognote FROM Tanklst t, maintlog m "
+                    "where m.mainttankname = t.tankid "),
      " ORDER BY t.Tankname COLLATE CASEBLIND, m.maintlogdate, m.maintlogtime",
      "maintlogdate",
      "maintlogtime",
@@ -110,8 +115,8 @@ public:
 
     bool open()
     {
-        const QString sql = QLatin1String(m_report.select) + QLatin1String(m_tankId ? tankFilter : "") +
-                            QLatin1String(m_report.orderBy);
+        const QString sql =
+            m_report.select + QLatin1String(m_tankId ? tankFilter : "") + QLatin1String(m_report.orderBy);
         m_rows.reset();
         m_rows.reset(new RowStream(m_database.OpenForwardOnly(sql, m_tankId ? Parameters{*m_tankId} : Parameters{})));
         return !m_rows->EOF_();

@@ -27,14 +27,6 @@ constexpr int highestPosition = 10000;
 const QString badTime =
     QStringLiteral("You must enter a valid time in \"HH:MM:SS am\" format to add a water quality entry to the log.");
 
-// The order in which a row is written, and the order in which it is read.
-constexpr const char *writeOrder[] = {"Ammonia", "nitrite", "nitrate", "ph",     "orp",     "Comment", "temp",
-                                      "oxygen",  "dkh",     "calcium", "copper", "custom1", "custom2", "sg"};
-constexpr const char *readOrder[] = {"Ammonia", "nitrite", "nitrate", "ph", "orp", "temp",    "oxygen",
-                                     "calcium", "copper",  "Comment", "sg", "dkh", "custom1", "custom2"};
-
-bool isComment(const char *column) { return QLatin1String(column) == QLatin1String("Comment"); }
-
 } // namespace
 
 frm_WaterAddEdit::frm_WaterAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
@@ -80,24 +72,24 @@ QWidget *frm_WaterAddEdit::makeDateRow()
 
 void frm_WaterAddEdit::makeMeasurement(size_t index, QGridLayout &grid)
 {
-    const Measurement &measurement = measurements[index];
+    const MeasurementEntry &entry = measurements[index].entry;
     Line &line = m_lines[index];
-    line.measurement = &measurement;
-    line.label = new QLabel(QLatin1String(measurement.label));
-    line.label->setObjectName(QLatin1String(measurement.labelName));
+    line.measurement = &measurements[index];
+    line.label = new QLabel(QLatin1String(entry.label));
+    line.label->setObjectName(QLatin1String(entry.labelName));
     line.label->setTextFormat(Qt::PlainText);
     line.label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     line.box = new MaskedBox;
-    line.box->setObjectName(QLatin1String(measurement.box));
-    line.box->setFormat(QLatin1String(measurement.boxPicture));
+    line.box->setObjectName(QLatin1String(entry.box));
+    line.box->setFormat(QLatin1String(entry.boxPicture));
     line.box->setMaxLength(longestNumber);
     line.box->setMinimumWidth(line.box->fontMetrics().horizontalAdvance(u'0') * digitsInSight);
-    line.box->setToolTip(QLatin1String(measurement.toolTip));
-    line.box->setAccessibleDescription(QLatin1String(measurement.toolTip));
+    line.box->setToolTip(QLatin1String(entry.toolTip));
+    line.box->setAccessibleDescription(QLatin1String(entry.toolTip));
     line.box->setAlignment(Qt::AlignRight);
     line.label->setBuddy(line.box);
     line.upDown = new UpDown;
-    line.upDown->setObjectName(QLatin1String(measurement.upDown));
+    line.upDown->setObjectName(QLatin1String(entry.upDown));
     line.upDown->setMin(0);
     line.upDown->setMax(highestPosition);
     line.upDown->setIncrement(1);
@@ -137,72 +129,58 @@ void frm_WaterAddEdit::Form_Load()
             line.label->setText(Caption(nameOf(*line.measurement)));
 }
 
-QString frm_WaterAddEdit::nameOf(const Measurement &measurement) const
+QString frm_WaterAddEdit::nameOf(const MeasurementRow &measurement) const
 {
-    switch (measurement.userField) {
-    case 1: return g.gUserFieldName1;
-    case 2: return g.gUserFieldName2;
-    default: return QLatin1String(measurement.name);
-    }
+    return NameOf(measurement, measurement.entry.name, g.userFieldNames());
 }
 
-frm_WaterAddEdit::Line &frm_WaterAddEdit::line(const char *column)
+/// Sets the up-down before the box, because its Change writes into the box.
+void frm_WaterAddEdit::set(const Line &line, int position, const QString &text)
 {
-    return m_lines[static_cast<size_t>(&MeasurementOf(QLatin1String(column)) - measurements.data())];
-}
-
-/// The up-down first and the box after it, or its Change would overwrite the text.
-void frm_WaterAddEdit::set(const char *column, int position, const QString &text)
-{
-    line(column).upDown->setValue(position);
-    line(column).box->setText(text);
+    line.upDown->setValue(position);
+    line.box->setText(text);
 }
 
 void frm_WaterAddEdit::setDefaults(const QString &waterType)
 {
     setToNow(*txt_date, *txt_time);
-    for (const Line &line : m_lines)
-        line.box->setText(QStringLiteral("0"));
-    const bool salt = waterType == u"SALT";
-    set("ph", salt ? 84 : 78, Format(salt ? 8.4 : 7.8, QStringLiteral("#0.00")));
-    set("sg", salt ? 1023 : 0, salt ? QStringLiteral("1.023") : QStringLiteral("0"));
-    set("temp", 780, QStringLiteral("78"));
+    for (const Line &line : m_lines) {
+        const MeasurementEntry &entry = line.measurement->entry;
+        const StartValue &start = waterType == u"SALT" ? entry.salt : entry.fresh;
+        set(line, start.position, QLatin1String(start.text));
+    }
     txt_Comment->setPlainText(QStringLiteral(" "));
 }
 
 void frm_WaterAddEdit::load(Recordset &row)
 {
-    for (const char *column : readOrder) {
-        const Value value = row[QLatin1String(column)].value();
-        if (isComment(column)) {
-            txt_Comment->setPlainText(value.text());
-            m_shown.remember(*txt_Comment);
-            continue;
-        }
-        const Measurement &measurement = *line(column).measurement;
-        const double number = value.toDoubleOr(0); // a row of elsewhere may lack one
-        const double position = qBound(0.0, std::round(number * measurement.positionsPerUnit), double(highestPosition));
-        set(column, static_cast<int>(position), Format(number, QLatin1String(measurement.rowPicture)));
+    for (const Line &line : m_lines) {
+        const MeasurementEntry &entry = line.measurement->entry;
+        const Value value = row[QLatin1String(line.measurement->column)].value();
+        const double number = value.toDoubleOr(0); // another program may have left it out
+        const double position = qBound(0.0, std::round(number * entry.positionsPerUnit), double(highestPosition));
+        set(line, static_cast<int>(position), Format(number, QLatin1String(entry.rowPicture)));
         if (!value.isNull())
-            m_shown.remember(*line(column).box);
+            m_shown.remember(*line.box);
     }
-    m_shown.remember(*txt_date);
-    m_shown.remember(*txt_time);
+    txt_Comment->setPlainText(row[QStringLiteral("Comment")].text());
+    for (const QWidget *box : std::initializer_list<QWidget *>{txt_Comment, txt_date, txt_time})
+        m_shown.remember(*box);
 }
 
 void frm_WaterAddEdit::ShowWindow(const Recordset &row, const QString &tankId) { showFor(row, tankId, txt_date); }
 
 bool frm_WaterAddEdit::numberIsGood(const Line &line)
 {
-    const Measurement &measurement = *line.measurement;
+    const MeasurementRow &measurement = *line.measurement;
     const QString text = line.box->Text();
     bool good = true;
     if (!IsStorable(text)) {
         g.gMessage = nameOf(measurement) + u" entries must be a number.";
         good = refuse(g.gMessage, line.box);
     }
-    if (Val(text) > measurement.limit) {
-        g.gMessage = nameOf(measurement) + u" entries " + QLatin1String(measurement.tooLarge);
+    if (Val(text) > measurement.entry.limit) {
+        g.gMessage = nameOf(measurement) + u" entries " + QLatin1String(measurement.entry.tooLarge);
         good = refuse(g.gMessage, line.box);
     }
     return good;
@@ -225,10 +203,9 @@ void frm_WaterAddEdit::txt_time_ValidationError() { refuse(badTime, txt_time); }
 
 void frm_WaterAddEdit::upDown_Change(const Line &line)
 {
-    const double number = double(line.upDown->Value()) / line.measurement->positionsPerUnit;
-    // pH alone has a picture here.
-    const bool isPh = QLatin1String(line.measurement->column) == QLatin1String("ph");
-    line.box->setText(isPh ? Format(number, QLatin1String(line.measurement->boxPicture)) : PlainText(number));
+    const MeasurementEntry &entry = line.measurement->entry;
+    const double number = double(line.upDown->Value()) / entry.positionsPerUnit;
+    line.box->setText(entry.upDownPicture ? Format(number, QLatin1String(entry.upDownPicture)) : PlainText(number));
     if (isVisible())
         m_checks.suspect(line.box);
 }
@@ -239,8 +216,9 @@ void frm_WaterAddEdit::store()
     beginAgain(row);
     putDate(row, "logdate", *txt_date);
     put(row, "logtime", *txt_time);
-    for (const char *column : writeOrder)
-        put(row, column, isComment(column) ? static_cast<QWidget &>(*txt_Comment) : *line(column).box);
+    for (const Line &line : m_lines)
+        put(row, line.measurement->column, *line.box);
+    put(row, "Comment", *txt_Comment);
     row[QStringLiteral("tankname")].setValue(m_tankId);
     row.Update();
 }

@@ -1,4 +1,4 @@
-// One water test: thirteen measurements, date, time and comment. The logbook opens the row, fills the controls and
+// One water test: its measurements, date, time and comment. The logbook opens the row, fills the controls and
 // shows the window; OK writes the controls into that row, so the window does not know whether it adds or changes. A
 // number is tested when the focus leaves its box, and once more before OK stores.
 #pragma once
@@ -36,7 +36,7 @@ public:
 private:
     struct Line
     {
-        const Measurement *measurement;
+        const MeasurementRow *measurement;
         QLabel *label;
         MaskedBox *box;
         UpDown *upDown;
@@ -46,9 +46,8 @@ private:
     void makeMeasurement(size_t index, QGridLayout &grid);
     QWidget *makeDateRow();
     void connectAll();
-    Line &line(const char *column);
-    QString nameOf(const Measurement &measurement) const;
-    void set(const char *column, int position, const QString &text);
+    QString nameOf(const MeasurementRow &measurement) const;
+    static void set(const Line &line, int position, const QString &text);
 
     /// Leaving a number box: one bad text can bring up both boxes.
     bool numberIsGood(const Line &line);
@@ -64,5 +63,5 @@ private:
     void cmd_Exit_Click();
     void cmd_Caldate_Click();
 
-    std::array<Line, 13> m_lines;
+    std::array<Line, measurementCount> m_lines;
 };

@@ -8,13 +8,14 @@
 #include <QString>
 
 #include "advisers/DiagnosisLog.h"
+#include "common/Measurements.h"
 #include "store/Database.h"
 
 /// Public members of frm_OMKOptions, filled by ReadOptions.
 struct OptionsMembers
 {
-    QString GraphChecks = QStringLiteral("0111000000000"); ///< one "0" or "1" a measurement
-    qint16 GraphStyle = 1;                                 ///< chart type code
+    QString GraphChecks = GraphChecksAtFirst(); ///< one "0" or "1" a measurement, in listOrder
+    qint16 GraphStyle = 1;                      ///< chart type code
     qint16 GraphSkipZeroes = 0;
     qint16 GraphPrintColor = 0;
     qint16 ActiveTab = 0;
@@ -54,6 +55,7 @@ struct Globals
     QString gDefaultWaterType; ///< "SALT" or "FRESH"
     QString gUserFieldName1;
     QString gUserFieldName2;
+    UserFieldNames userFieldNames() const { return {gUserFieldName1, gUserFieldName2}; }
     QString gDbVersion; ///< four characters, blank-padded
     QString gNoTanks;   ///< "Y" or "N"
     bool gSplashMode = false;

@@ -30,9 +30,28 @@ bool isBlank(const QString &name) { return name.isEmpty() || name.startsWith(u' 
 frm_OMKOptions::frm_OMKOptions(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
 {
     setupUi(this);
-    m_checks = {chk_ph,  chk_ammonia, chk_nitrite, chk_nitrate, chk_sg,    chk_temp, chk_o2,
-                chk_dkh, chk_calcium, chk_Copper,  chk_orp,     chk_User1, chk_user2};
+    makeChecks();
     connectControls();
+}
+
+/// Four check boxes a column; those of the user's measurements start a column of their own.
+void frm_OMKOptions::makeChecks()
+{
+    constexpr int perColumn = 4;
+    QWidget *before = chk_SkipZeroValues;
+    int place = 0;
+    for (std::size_t i = 0; i < m_checks.size(); ++i) {
+        const MeasurementRow &row = RowOf(listOrder[i]);
+        if (row.userField == 1)
+            place = (place + perColumn - 1) / perColumn * perColumn;
+        auto *check = new QCheckBox(QString::fromLatin1(row.graph.checkCaption));
+        check->setObjectName(QLatin1String(row.graph.check));
+        lay_Frame3->addWidget(check, place % perColumn, place / perColumn);
+        setTabOrder(before, check);
+        before = check;
+        m_checks[i] = check;
+        ++place;
+    }
 }
 
 void frm_OMKOptions::connectOption(QRadioButton *option, Handler handler)
@@ -113,10 +132,12 @@ void frm_OMKOptions::showDateCaptions()
 
 void frm_OMKOptions::showGraphSettings(const OptionsMembers &options)
 {
-    chk_User1->setText(Caption(g.gUserFieldName1));
-    chk_user2->setText(Caption(g.gUserFieldName2));
-    for (size_t i = 0; i < m_checks.size(); ++i)
+    for (std::size_t i = 0; i < m_checks.size(); ++i) {
+        const MeasurementRow &row = RowOf(listOrder[i]);
+        if (row.userField)
+            m_checks[i]->setText(Caption(NameOf(row, nullptr, g.userFieldNames())));
         m_checks[i]->setChecked(options.GraphChecks[qsizetype(i)] == u'1');
+    }
     cbo_GraphType->setCurrentIndex(cbo_GraphType->findData(options.GraphStyle)); // none for an unknown code
     chk_SkipZeroValues->setChecked(options.GraphSkipZeroes == 1);
     (options.GraphPrintColor == 1 ? opt_ColorPrinting : opt_BWPrinting)->setChecked(true);

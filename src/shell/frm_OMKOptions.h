@@ -27,6 +27,7 @@ protected:
 
 private:
     using Handler = void (frm_OMKOptions::*)();
+    void makeChecks();
     void connectControls();
     void connectOption(QRadioButton *option, Handler handler);
 
@@ -54,7 +55,7 @@ private:
     void showDateCaptions();
     QString graphChecks() const;
     /// The check boxes of the measurements, in the order of GraphChecks.
-    std::array<QCheckBox *, 13> m_checks;
+    std::array<QCheckBox *, measurementCount> m_checks;
     Recordset m_config;       ///< the row of CONFIG, kept from the loading until OK changes it
     OptionsMembers m_inForce; ///< what the dialog was opened on
     bool Cancelled = true;

@@ -107,8 +107,8 @@ TEST_F(Graph, TheOptionsSayWhatIsDrawnAndTheRightButtonOpensThem)
     EXPECT_EQ(window.Chart1->RowCount(), 3) << "two of one day";
     keeper.inNext<frm_OMKOptions>([](frm_OMKOptions &w) {
         w.chk_SkipZeroValues->setChecked(true);
-        w.chk_nitrite->setChecked(false);
-        w.chk_User1->setChecked(true);
+        control<QCheckBox>(w, "chk_nitrite").setChecked(false);
+        control<QCheckBox>(w, "chk_User1").setChecked(true);
         w.txt_username1->setText("Iodine");
         w.cbo_GraphType->setCurrentIndex(w.cbo_GraphType->findData(14));
         mouse::click(w.cmdOK);

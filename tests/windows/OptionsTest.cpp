@@ -48,8 +48,8 @@ protected:
         hand::type(*w.txt_username2, "keeper's");
         w.SSTab1->setCurrentIndex(1);
         w.cbo_GraphType->setCurrentText("2D XY");
-        for (QWidget *button :
-             std::initializer_list<QWidget *>{w.chk_SkipZeroValues, w.chk_ph, w.chk_user2, w.opt_ColorPrinting})
+        for (QWidget *button : std::initializer_list<QWidget *>{w.chk_SkipZeroValues, &control<QWidget>(w, "chk_ph"),
+                                                                &control<QWidget>(w, "chk_user2"), w.opt_ColorPrinting})
             click(*button);
         w.SSTab1->setCurrentIndex(2);
         click(*w.opt_UseFreshFile);
