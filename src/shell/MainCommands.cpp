@@ -155,8 +155,10 @@ void frm_OMKMDIMain::mnu_FilePrint_Click()
 {
     if (!m_activeChild)
         return;
+    const QString inFront =
+        m_activeChild->objectName().toUpper(); // while it prints, another child may come to the front
     for (const PrintRow &row : printRows)
-        if (m_activeChild->objectName().toUpper() == QLatin1String(row.child))
+        if (inFront == QLatin1String(row.child))
             row.print();
 }
 

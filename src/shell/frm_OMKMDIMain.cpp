@@ -264,8 +264,8 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
         // and those before that one are never reached.
         frame->setFocusPolicy(Qt::NoFocus);
         frame->setWindowIcon(child.windowIcon());
-        // However small the main window is: controls without any room would paint on empty pictures.
-        frame->setMinimumSize(frame->minimumSizeHint());
+        // However small the main window is, which scrolls: controls without any room would paint on empty pictures.
+        frame->setMinimumSize(child.minimumSizeHint().expandedTo(child.minimumSize()) + childFrame);
         frame->resize(size.boundedTo(m_area->viewport()->size()));
         m_area->addSubWindow(frame); // of its own size already, so that it gets a place where it is seen whole
     }

@@ -124,7 +124,7 @@ TEST(Calendar, ADayThatTheBoxWouldReadAsAnotherIsToldAndTheBoxKeepsWhatItHad)
     }
 }
 
-TEST(Calendar, OfAnEntryLeavesItsBoxAloneWhenTheDayIsRefused)
+TEST(Calendar, OfAnEntryLeavesItsBoxAloneWhenTheDayIsRefusedAndFillsAnEmptyOne)
 {
     Keeper keeper;
     keeper.addTank("Reef", "r1");
@@ -139,5 +139,9 @@ TEST(Calendar, OfAnEntryLeavesItsBoxAloneWhenTheDayIsRefused)
     entry.cmd_Caldate->click();
     EXPECT_EQ(entry.txt_date->Text(), "03/14/26");
     EXPECT_TRUE(keeper.told().startsWith("0|Oops!/64/This date box cannot hold 03/"));
+    entry.txt_date->setText("");
+    keeper.inNext<frm_Caltool>(leave);
+    entry.cmd_Caldate->click();
+    EXPECT_EQ(entry.txt_date->Text(), "03/14/26") << "without a choice, an empty box gets the date of today";
     Unload(entry);
 }

@@ -140,10 +140,9 @@ TEST_F(MainWindow, PrintIsWhatTheChildInFrontOffers)
     EXPECT_EQ(show(*logbook), "&Print Entries... (off)") << "with all tanks in hand";
     for (ChildForm *child : {static_cast<ChildForm *>(logbook), static_cast<ChildForm *>(&Form<frm_Conversions>()),
                              static_cast<ChildForm *>(&Form<frm_WaterGraph>())})
-        child->close();
-    QCoreApplication::processEvents();
+        child->parentWidget()->close();
     EXPECT_EQ(print(), "&Print") << "the schedule is left";
-    Form<frm_Schedule>().close();
+    Form<frm_Schedule>().parentWidget()->close();
     EXPECT_EQ(print(), "&Print (off)");
     // With no child, a dialog that can print leaves nothing behind.
     keeper.inNext<frm_DiagDiagnosis>([&](frm_DiagDiagnosis &w) {
@@ -168,8 +167,7 @@ TEST_F(MainWindow, ChildrenOfAVerySmallWindowKeepTheRoomThatTheyNeed)
         SCOPED_TRACE(child->objectName().toStdString());
         main->ShowChild(*child);
         paint();
-        EXPECT_TRUE(child->height() >= child->minimumSizeHint().height() &&
-                    child->width() >= child->minimumSizeHint().width());
+        EXPECT_GT(child->height(), main->centralWidget()->height()) << "it is scrolled, not squeezed";
         child->parentWidget()->showMaximized();
         paint();
         child->parentWidget()->showNormal();

@@ -120,9 +120,8 @@ TEST_F(Options, EveryOtherWayOutKeepsWhatWasStored)
 
 TEST_F(Options, NothingOfARefusedOkIsKeptWhenAnotherProgramHoldsTheFile)
 {
-    Database::setBusyTimeout(10);
-    keeper.restart();
-    Database::setBusyTimeout(5000);
+    Database::setBusyTimeout(10); // each start of the program opens the file anew
+    const auto asUsual = qScopeGuard([] { Database::setBusyTimeout(5000); });
     const auto other = Database::OpenDatabase(keeper.databaseFile());
     for (const char *hold : {"BEGIN EXCLUSIVE", "BEGIN IMMEDIATE", "BEGIN"}) {
         SCOPED_TRACE(hold);
