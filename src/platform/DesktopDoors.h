@@ -26,7 +26,7 @@ public:
     SettingsStore &settings() override { return *m_settings; }
 
 private:
-    /// The dialog of a printer that is set up so far; where the machine has none, that of a PDF.
+    /// Shows the print dialog for this printer, or asks for the name of a PDF if the machine has no printer.
     std::optional<PrintDialogAnswer> askWhere(const PrintDialogRequest &request,
                                               const std::shared_ptr<QPrinter> &printer);
 

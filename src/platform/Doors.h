@@ -52,7 +52,7 @@ struct SaveDialogRequest
     bool askOverwrite = true;
 };
 
-/// The dialog that names a PDF.
+/// The request for a dialog that asks for the name of a PDF.
 SaveDialogRequest AskForPdf(const QString &title, const QString &documentName);
 
 struct PrintDialogRequest
@@ -62,12 +62,12 @@ struct PrintDialogRequest
     QString documentName; ///< offered as the name of a PDF where there is no printer
 };
 
-/// Where printed pages go: to a printer, or to a PDF where a file name is given.
+/// Where printed pages go: to a PDF if there is a file name, else to a printer.
 struct PageTarget
 {
-    std::shared_ptr<QPrinter> printer; ///< as the dialog left it; null: the one that is the default
-    QString pdfFileName;               ///< its pages lie as those of the printer, where there is one
-    bool keepsOrientation = false;     ///< the keeper saw in a preview how the pages lie, and so they are printed
+    std::shared_ptr<QPrinter> printer; ///< as the dialog has set it up; null: the default printer
+    QString pdfFileName;               ///< its paper and orientation are those of `printer`, if there is one
+    bool keepsOrientation = false;     ///< as seen in the preview, whatever the report itself asks for
 };
 
 struct PrintDialogAnswer
@@ -80,7 +80,7 @@ struct PrintDialogAnswer
 
 struct PreviewRequest
 {
-    PrintDialogRequest printing; ///< what the preview shows, and is asked where the keeper prints it from there
+    PrintDialogRequest printing; ///< used if the keeper prints from the preview
     /// Prints the whole document; may be called again and again.
     std::function<void(PageSink &)> print;
 };
@@ -106,8 +106,8 @@ public:
     virtual std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) = 0;
     /// Opens pages to print on. A PDF file appears only when its document has ended, and is complete then.
     virtual std::unique_ptr<PageSink> openPages(const PageTarget &target) = 0;
-    /// Shows a document on the screen, its pages as the request says until the keeper turns them, and waits until it is
-    /// closed. An answer where the keeper then wants it printed.
+    /// Shows a document on the screen and waits until the keeper closes it. The pages have the requested orientation
+    /// until the keeper changes it. Returns an answer if the document is to be printed.
     virtual std::optional<PrintDialogAnswer> preview(const PreviewRequest &request) = 0;
     /// Opens the help beside whatever is in front, and does not wait. False where there is no help file; throws
     /// RuntimeFailure where it cannot be shown.

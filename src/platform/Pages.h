@@ -27,7 +27,7 @@ class PageSink
 public:
     virtual ~PageSink() = default;
 
-    /// Outside of a document: the pages' orientation, which width() and height() follow.
+    /// Sets the orientation of the pages; width() and height() follow. Not to be called within a document.
     virtual void setLandscape(bool landscape) = 0;
     virtual double width() const = 0;
     virtual double height() const = 0;

@@ -31,7 +31,7 @@ QPageLayout usualLayout()
                        QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
 }
 
-/// What a file met. It keeps the system's words, but not the number that they stand for.
+/// The failure for an error of a file. Qt keeps the system's message, but not its error number.
 Failure failureOf(const QFileDevice &file)
 {
     if (!QFileInfo(file.fileName()).absoluteDir().exists())
@@ -63,7 +63,7 @@ public:
         PaintedPages::endDocument();
         const bool isWritten = m_file.flush();
         if (!isWritten)
-            m_file.flush(); // a write that was only cut short gives no reason; the next one does
+            m_file.flush(); // a write that was cut short gives no reason, the next one does
         if (!isWritten || m_file.error() != QFileDevice::NoError || !m_file.commit())
             throw failure();
     }

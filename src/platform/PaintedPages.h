@@ -36,6 +36,6 @@ private:
     QFontMetricsF metrics(const PageFont &font) const;
 };
 
-/// Pages in a PDF file, there when its document has ended; of the usual paper where no layout is given. Throws
-/// PermissionDenied, PathNotFound or DiskFull, as endDocument().
+/// Pages in a PDF file, which is there when its document has ended. Without a layout they have the usual paper. This
+/// and endDocument() throw PermissionDenied, PathNotFound or DiskFull.
 std::unique_ptr<PageSink> PagesInPdf(const QString &fileName, const std::optional<QPageLayout> &layout = {});

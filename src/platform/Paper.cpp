@@ -31,8 +31,8 @@ private:
     std::shared_ptr<QPrinter> m_printer;
 };
 
-/// The toolkit's own way would ask for a PDF by a name that has not got its suffix yet, and print copies as one
-/// document.
+/// Replaces what the preview's "Print" button does. Qt asks about an existing PDF before it adds the suffix to the
+/// name, and prints all copies as one document.
 void replacePrint(QPrintPreviewDialog &dialog, const std::function<void()> &print)
 {
     for (QAction *action : dialog.findChildren<QAction *>()) {

@@ -11,16 +11,16 @@ class QPrinter;
 class QWidget;
 
 bool HasPrinters();
-/// A printer that is set up as a document asks for: its name and how its pages lie.
+/// A printer with the name and the orientation of the document.
 std::shared_ptr<QPrinter> PrinterFor(const PrintDialogRequest &request);
-/// The system's dialog. The printer keeps what is chosen there, but for the number of copies, each of which is a
-/// document of its own.
+/// Shows the system's dialog. The printer keeps all that is chosen there except the number of copies, because each copy
+/// is a document of its own.
 std::optional<PrintDialogAnswer> AskPrinter(QWidget *parent, const PrintDialogRequest &request,
                                             std::shared_ptr<QPrinter> printer);
-/// Pages on a printer as it is set up; on the one that is the default where none is given.
+/// Pages on a printer as it is set up; null is the default printer.
 std::unique_ptr<PageSink> PagesOnPrinter(std::shared_ptr<QPrinter> printer);
 
 using AskWhere = std::function<std::optional<PrintDialogAnswer>(const std::shared_ptr<QPrinter> &)>;
-/// Until its window is closed; its "Print" button asks `where`, and closes it with that answer. What `print` of the
-/// request throws must not come out of it.
+/// Returns when the preview is closed. Its "Print" button calls `where`; an answer closes the preview and is returned.
+/// `request.print` must not throw.
 std::optional<PrintDialogAnswer> ShowPreview(QWidget *parent, const PreviewRequest &request, const AskWhere &where);

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Of the pages that a report makes, those that the keeper wants. What is printed on the others is let go.
+/// Passes on only the pages that the keeper has chosen, and drops what a report prints on the others.
 class ChosenPages : public PageSink
 {
 public:

@@ -1,6 +1,6 @@
 // What all printouts share: the print dialog under its title, copies as documents of their own, each from a fresh
-// query and of the pages that were chosen; or the preview, from which it can be printed as well, or a PDF. A printout is a Report: it opens its rows, tells whether there are any, and prints
-// them.
+// query and of the pages that were chosen; or the preview, which can print as well; or a PDF. A printout is a Report:
+// it opens its rows, tells whether there are any, and prints them.
 #pragma once
 
 #include <functional>

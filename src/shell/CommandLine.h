@@ -9,7 +9,7 @@
 
 struct CommandLine
 {
-    QString folder;            ///< as given; empty: see KeepersFolder::choose
+    QString folder;            ///< as given; may be empty (see KeepersFolder::choose)
     std::optional<int> status; ///< there is nothing more to do: the status to end with
     QString text;              ///< to be printed then: on stdout where the status is 0, else on stderr
     bool namesDisplay = false; ///< an option of the toolkit says where the windows go

@@ -18,12 +18,12 @@ namespace {
 
 const QString databaseName = QStringLiteral("OM.MDB");
 
-/// What a logbook leaves in its folder beside the database: name files, copies, the file from before an upgrade, and a
-/// journal, whose pages must not come into a new database. In any case of letters.
+/// Files and folders that show that a folder was used before: name files, copies, the old file of an upgrade, and a
+/// journal, which must never be applied to a new database. The case of the letters does not matter.
 const QStringList tracesOfUse{QStringLiteral("NAMES?W.TXT"), QStringLiteral("copies"), QStringLiteral("OM-*.MDB"),
                               QStringLiteral("OM.MDB-journal")};
 
-/// Only where nothing shows that there was a database before: an empty one in its place would look like lost data.
+/// Fails if the folder had a database before: an empty one in its place would look as if all data were lost.
 void makeDatabase(const QDir &folder)
 {
     const QString name = folder.filePath(databaseName);
@@ -83,7 +83,7 @@ bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
                vbInformation);
         return false;
     }
-    makeDatabase(place); // first: name files without a database tell of one that was lost
+    makeDatabase(place); // first, because name files without a database mean that it was lost
     copyNameFiles(QDir(dataFolder), place);
     if (!QDir::setCurrent(place.path()))
         throw RuntimeFailure(Failure::PermissionDenied,

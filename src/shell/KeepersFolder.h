@@ -14,8 +14,8 @@ public:
     KeepersFolder(const KeepersFolder &) = delete;
     KeepersFolder &operator=(const KeepersFolder &) = delete;
 
-    /// The folder given as argument; without one the current directory, if it holds a database; else the keeper's usual
-    /// one, ~/.local/share/ostrelmark, or in $XDG_DATA_HOME.
+    /// The argument, if it is not empty; else the current directory, if it holds a database; else the usual folder,
+    /// ostrelmark in $XDG_DATA_HOME or in ~/.local/share.
     static QString choose(const QString &argument);
 
     /// Makes what is missing, the name files from `dataFolder`, and goes into the folder. False where another program

@@ -55,14 +55,14 @@ frm_Waterlog *visibleLogbook()
     return logbook && logbook->isShown() ? logbook : nullptr;
 }
 
-/// Why the database could not be opened after a backup, and what became of the backup.
+/// What happened to the backup, and why the database could not be opened again after it.
 QString withBackup(const RuntimeFailure &notOpened, const std::optional<RuntimeFailure> &failure, const QString &target)
 {
     const QString outcome = failure ? QStringLiteral("not backed up: ") + failure->description()
                                     : QStringLiteral("backed up to %1.").arg(QDir::toNativeSeparators(target));
     return QStringLiteral(
                "The database was %1\n\nIt could not be opened again afterwards. Each command from now on tries it "
-               "once more, so mend what is told here and go on:\n%2")
+               "once more, so remove the cause and continue:\n%2")
         .arg(outcome, notOpened.description().section(u'\n', 1));
 }
 

@@ -90,12 +90,12 @@ public:
 private:
     Database() = default;
     void connect(const QString &fileName);
-    /// The open one; opens the file again where it was let go.
+    /// The open connection; opens the file again after LetGo().
     std::shared_ptr<Connection> connection();
     QString tableName(const QString &table);
 
     std::shared_ptr<Connection> m_connection;
     QString m_fileName;
     Access m_access = Access::Shared;
-    bool m_opensAgain = false; ///< it was let go, not closed
+    bool m_opensAgain = false; ///< by the next use, after LetGo()
 };
