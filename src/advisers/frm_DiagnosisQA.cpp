@@ -206,5 +206,5 @@ void frm_DiagnosisQA::cmd_Cancel_Click()
 
 void frm_DiagnosisQA::PrintQuestionsandAnswers()
 {
-    RunReport(MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::Wizard), PrintTo::Printer);
+    RunReport(MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::Wizard), PrintTarget::Printer);
 }

@@ -46,7 +46,7 @@ void frm_WaterGraph::PrintGraph()
     titleChart(); // and it keeps its title
     RunReport({QStringLiteral("Print Water Quality Graph"), QStringLiteral("Ostrelmark Water Quality Graph"), true,
                [] { return true; }, [this](Printer &page) { printPage(page); }},
-              PrintTo::Printer);
+              PrintTarget::Printer);
 }
 
 // The chart fills the page below its first tenth, but for the line at the foot.

@@ -25,9 +25,9 @@ void frm_OMKLogPrint::ShowFor(LogTab log, const QString &tankId)
 void frm_OMKLogPrint::printLog(LogTab log)
 {
     const auto tank = chk_PrintForAllTanks->isChecked() ? std::nullopt : std::optional<QString>(m_tankId);
-    const PrintTo target = opt_Window->isChecked() ? PrintTo::Window
-                           : opt_File->isChecked() ? PrintTo::File
-                                                   : PrintTo::Printer;
+    const PrintTarget target = opt_Window->isChecked() ? PrintTarget::Window
+                               : opt_File->isChecked() ? PrintTarget::File
+                                                       : PrintTarget::Printer;
     const Report report = MakeLogReport(log, *g.gDatabase, g.options.DatePicture, tank);
     if (RunReport(report, target) == PrintOutcome::Empty)
         MsgBox(EmptyLogText(log), vbInformation, QStringLiteral("Note!"));

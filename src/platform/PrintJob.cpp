@@ -122,10 +122,11 @@ PrintOutcome showOnScreen(const Report &report)
 
 } // namespace
 
-PrintOutcome RunReport(const Report &report, PrintTo target)
+PrintOutcome RunReport(const Report &report, PrintTarget target)
 {
-    if (target == PrintTo::Window)
+    if (target == PrintTarget::Window)
         return showOnScreen(report);
-    const auto choice = target == PrintTo::File ? askFile(report) : Doors::current().printDialog(requestFor(report));
+    const auto choice =
+        target == PrintTarget::File ? askFile(report) : Doors::current().printDialog(requestFor(report));
     return choice ? printCopies(report, *choice) : PrintOutcome::Cancelled;
 }

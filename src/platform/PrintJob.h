@@ -9,7 +9,7 @@
 
 class Printer;
 
-enum class PrintTo { Printer, Window, File };
+enum class PrintTarget { Printer, Window, File };
 
 struct Report
 {
@@ -23,4 +23,4 @@ struct Report
 enum class PrintOutcome { Printed, Cancelled, Empty };
 
 /// Runs a report. Nothing is printed where it is cancelled or empty.
-PrintOutcome RunReport(const Report &report, PrintTo target);
+PrintOutcome RunReport(const Report &report, PrintTarget target);

@@ -156,5 +156,5 @@ void frm_Schedule::Print_Schedule()
     const Forms::Pin whileItPrints(*this);
     RunReport(MakeScheduleReport(lstv_Reminders->Count(),
                                  [this](int item, int subItem) { return lstv_Reminders->Text(item, subItem); }),
-              PrintTo::Printer);
+              PrintTarget::Printer);
 }

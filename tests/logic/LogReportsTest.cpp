@@ -22,7 +22,7 @@ struct LogReports : StoreTest
     const std::vector<PrintedDocument> &print(LogTab log, const std::optional<QString> &tank)
     {
         doors.printers = {PrintDialogAnswer{1}};
-        RunReport(MakeLogReport(log, *db, "DD.MM.YY", tank), PrintTo::Printer);
+        RunReport(MakeLogReport(log, *db, "DD.MM.YY", tank), PrintTarget::Printer);
         return doors.documents;
     }
 };

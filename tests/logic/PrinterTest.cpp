@@ -73,7 +73,7 @@ TEST(PrintJob, EachCopyHasTheChosenPagesAlone)
     for (const auto &[answer, pages, told] : cases) {
         SCOPED_TRACE(pages.toStdString());
         doors.printers = {answer};
-        const bool isPrinted = RunReport(threePages, PrintTo::Printer) == PrintOutcome::Printed;
+        const bool isPrinted = RunReport(threePages, PrintTarget::Printer) == PrintOutcome::Printed;
         EXPECT_EQ(isPrinted, !pages.isEmpty());
         EXPECT_EQ(printed(doors), pages);
         EXPECT_EQ(doors.told(), told);
@@ -83,10 +83,10 @@ TEST(PrintJob, EachCopyHasTheChosenPagesAlone)
 TEST(PrintJob, APreviewBeginsAsTheReportLiesAndIsPrintedAsItWasSeen)
 {
     ScriptedDoors doors;
-    RunReport(threePages, PrintTo::Window);
+    RunReport(threePages, PrintTarget::Window);
     EXPECT_EQ(printed(doors), "landscape 123");
     doors.printedFromPreview = {2, 2, 3, {{}, {}, true}}; // turned to portrait there
-    RunReport(threePages, PrintTo::Window);
+    RunReport(threePages, PrintTarget::Window);
     EXPECT_EQ(printed(doors), "landscape 123|portrait 23|portrait 23");
     EXPECT_TRUE(doors.printDialogs.empty()) << "the preview has asked";
 }

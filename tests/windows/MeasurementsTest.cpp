@@ -74,8 +74,8 @@ protected:
 TEST_F(Measurements, EachIsStoredAndListedAndPrintedInItsOwnColumn)
 {
     addTest();
-    keeper.doors.printers = {PrintDialogAnswer{1, 0, 0, "Laser", {}}};
-    RunReport(MakeLogReport(WaterTab, *keeper.g().gDatabase, "MM/DD/YY", QString("r1")), PrintTo::Printer);
+    keeper.doors.printers = {PrintDialogAnswer{1}};
+    RunReport(MakeLogReport(WaterTab, *keeper.g().gDatabase, "MM/DD/YY", QString("r1")), PrintTarget::Printer);
     const PrintedPage &page = keeper.doors.documents.at(0).pages.at(0);
     QStringList headings;
     for (int i = 0; i < list().model()->columnCount(); ++i)
