@@ -329,7 +329,8 @@ void Copy::tellLeftOut()
         const auto target =
             std::ranges::find_if(m_targets, [&](const Target &t) { return isSame(t.name, table.name); });
         if (target == m_targets.end()) {
-            m_outcome.changed << QStringLiteral("The table %1 (rows: %2) is not one of Ostrelmark and was left out.")
+            m_outcome.changed << QStringLiteral(
+                                     "The table \"%1\" (rows: %2) is not one of Ostrelmark and was left out.")
                                      .arg(table.name)
                                      .arg(table.rows);
             continue;
@@ -337,7 +338,7 @@ void Copy::tellLeftOut()
         for (const OldColumn &column : table.columns)
             if (std::ranges::none_of(target->columns, [&](const Column &c) { return isSame(c.name, column.name); }))
                 m_outcome.changed << QStringLiteral(
-                                         "The column %1 of the table %2 is not one of Ostrelmark and was left out.")
+                                         "The column \"%1\" of the table %2 is not one of Ostrelmark and was left out.")
                                          .arg(column.name, target->name);
     }
 }

@@ -8,8 +8,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProcess>
-#include <QSet>
 
 #include "oldengine/OldFile.h"
 #include "oldengine/OldOutcome.h"
@@ -169,9 +169,8 @@ void tellOutcome(const OldOutcome &outcome, const QString &kept)
     for (const auto &row : rowWords)
         for (const OldCount &count : outcome.counts)
             if (count.table == QLatin1String(row.table))
-                counts += QStringLiteral("\n%1 %2")
-                              .arg(count.rows)
-                              .arg(QLatin1String(count.rows == 1 ? row.one : row.several));
+                counts += QStringLiteral("\n%1 %2").arg(QLocale(QLocale::English).toString(count.rows),
+                                                        QLatin1String(count.rows == 1 ? row.one : row.several));
     QStringList notes = outcome.changed;
     for (const QString &line : outcome.unread)
         notes << QStringLiteral("Could not be read: %1").arg(line);

@@ -177,8 +177,8 @@ TEST_F(OldCopyTest, NamesAreMatchedInAnyCaseAndWhatIsUnknownIsLeftOutAndTold)
     source.add("Switchboard", {{"Id", OldType::Long, 0}}, {});
     const OldOutcome outcome = copy();
     EXPECT_EQ(outcome.changed.join(' '),
-              "The column Photo of the table TANKLST is not one of Ostrelmark and was left out. "
-              "The table Switchboard (rows: 0) is not one of Ostrelmark and was left out.");
+              "The column \"Photo\" of the table TANKLST is not one of Ostrelmark and was left out. "
+              "The table \"Switchboard\" (rows: 0) is not one of Ostrelmark and was left out.");
 }
 
 TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)

@@ -1,6 +1,6 @@
 // The files of the old engine through the program that reads them: every row of each, and each cut off and damaged. A
 // few copies where nothing is said; omk_tests_oldengine --copies=1000 --cuts=all is the long run, whose table
-// docs/RELIABILITY.md shows.
+// docs/RELIABILITY.md shows. --reader=PROGRAM takes that of another build, --seed=2 other bytes.
 #include <cstdio>
 #include <random>
 
@@ -35,7 +35,7 @@ struct OldFilesTest : testing::Test
         QFile::remove(draft());
         writeFile(draft(), {});
         QProcess reader;
-        reader.start(PrivateProgram("ostrelmark-read-old"), {path, draft()});
+        reader.start(argument("--reader=", PrivateProgram("ostrelmark-read-old")), {path, draft()});
         EXPECT_TRUE(reader.waitForFinished(120'000)) << path.toStdString();
         expectNoFaultOfOurs(reader.readAllStandardError());
         std::optional<OldLine> last;

@@ -67,7 +67,7 @@ TEST_F(OpenOldFileTest, TheOldFileIsReadAndKeptAndTheUpgradeFollows)
                             "over:\n\n3 tanks\n200 water tests\n20 livestock entries\n67 maintenance entries\n3 "
                             "reminders\n\n"))
             << told.toStdString();
-        EXPECT_EQ(told.contains("table Table"), file.name.contains("jet3"));
+        EXPECT_EQ(told.contains("table \"Table\""), file.name.contains("jet3"));
         EXPECT_TRUE(told.contains("\n" + path("OM-old-engine.MDB"))) << told.toStdString();
         EXPECT_EQ(contentOf(folder.path())["OM-old-engine.MDB"], file.bytes());
         expectEveryRow(file, false);
