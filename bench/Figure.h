@@ -51,5 +51,7 @@ Figure pdfFigure(const QString &folder);
 /// A page of 20 tests with 13 measurements, drawn as a picture of 1000 x 700, beside QCustomPlot alone.
 Figure barChartFigure();
 Figure lineChartFigure();
+/// A file of the old engine read into a new database, beside mdb-export of its water tests alone.
+Figure oldFileFigure(const QString &folder);
 /// On a desk where the tank is in hand, from the menu to the painted window, beside two statements of bare SQL.
 Figure openGraphFigure(const QString &databaseFile, const QString &tankId);

@@ -47,6 +47,7 @@ bool measureIn(const QString &folder, int argc, char **argv)
                                 chooseAnimalFigure(),
                                 dropAnimalFigure(),
                                 pdfFigure(folder),
+                                oldFileFigure(folder),
                                 barChartFigure(),
                                 lineChartFigure(),
                                 openGraphFigure(file, tank)};

@@ -1,5 +1,6 @@
 #include <cstdio>
 
+#include "oldengine/OpenOldFile.h"
 #include "platform/Application.h"
 #include "platform/DesktopDoors.h"
 #include "platform/Files.h"
@@ -31,7 +32,7 @@ int main(int argc, char **argv)
             globals.gDatabase->Close();
     });
     try {
-        if (!folder.open(KeepersFolder::choose(line.folder), DataFolder()))
+        if (!folder.open(KeepersFolder::choose(line.folder), DataFolder()) || !OpenOldFile(QStringLiteral("OM.MDB")))
             return 1;
         Form<frm_OMKMDIMain>().MDIForm_Load();
     } catch (const RuntimeFailure &failure) {

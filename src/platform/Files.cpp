@@ -20,3 +20,13 @@ QString DataFolder()
 {
     return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(OMK_DATA_FROM_BIN));
 }
+
+QString PrivateProgram(const QString &name)
+{
+    const QDir bin(QCoreApplication::applicationDirPath());
+    const QString installed = QStringLiteral(OMK_PRIVATE_FROM_BIN "/");
+    for (const QString &place : QStringList{installed, u"../" + installed}) // a test of the build lies one folder deeper
+        if (const QString file = bin.filePath(place + name); QFileInfo(file).isExecutable())
+            return QDir::cleanPath(file);
+    return QDir::cleanPath(bin.filePath(installed + name));
+}

@@ -9,3 +9,6 @@ QString FindFile(const QString &fileName);
 
 /// The folder of the data files that are installed with the program (name files and help). The program only reads it.
 QString DataFolder();
+
+/// A program that only this one starts, where its installation or its build has it; it may be missing.
+QString PrivateProgram(const QString &name);

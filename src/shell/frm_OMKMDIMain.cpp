@@ -28,6 +28,7 @@
 #include "shell/MenuEntry.h"
 #include "shell/Options.h"
 #include "store/frm_OMKupgrade.h"
+#include "store/UpgradeDatabase.h"
 #include "store/Version.h"
 
 namespace {
@@ -177,7 +178,7 @@ void frm_OMKMDIMain::CheckDatabaseVersion()
     g.gDbVersion = ReadDatabaseVersion(*g.gDatabase);
     if (g.gDbVersion == presentDatabaseVersion)
         return;
-    frm_OMKupgrade(g.gDatabase, g.gDatabaseName, g.gDbVersion).Upgrade();
+    frm_OMKupgrade(UpgradeWork(g.gDatabase, g.gDatabaseName, g.gDbVersion)).Run();
 }
 
 void frm_OMKMDIMain::Top20List()

@@ -63,6 +63,37 @@ private:
     std::vector<char> m_piece = std::vector<char>(1 << 20);
 };
 
+/// A file that is not a database of ours, while it is copied.
+class PlainSource
+{
+public:
+    PlainSource(const QString &path, const QString &doing) : m_file(path), m_doing(doing)
+    {
+        check(m_file.open(QIODevice::ReadOnly));
+    }
+    template <class Take> bool read(Take take)
+    {
+        check(m_file.seek(0));
+        for (QByteArray piece; !m_file.atEnd();) {
+            piece = m_file.read(1 << 20);
+            check(!piece.isEmpty());
+            if (!take(piece.constData(), std::size_t(piece.size())))
+                return false;
+        }
+        return true;
+    }
+    qint64 size() const { return m_file.size(); }
+
+private:
+    void check(bool good) const
+    {
+        if (!good)
+            throw RuntimeFailure(Failure::DeviceError, QStringLiteral("%1\n(%2)").arg(m_doing, m_file.errorString()));
+    }
+    QFile m_file;
+    QString m_doing;
+};
+
 /// A file that is being written, without a buffer, so that a full or broken disk fails the very call that meets it.
 class Output
 {
@@ -106,7 +137,7 @@ private:
     QString m_doing;
 };
 
-void copyInto(const Draft &draft, Source &source, const QString &database, const QString &doing)
+template <class From> void copyInto(const Draft &draft, From &source, const QString &database, const QString &doing)
 {
     Output output(draft.path(), doing);
     source.read([&output](const char *bytes, std::size_t count) {
@@ -117,7 +148,7 @@ void copyInto(const Draft &draft, Source &source, const QString &database, const
     output.sync();
 }
 
-bool isSame(Source &source, const QString &path)
+template <class From> bool isSame(From &source, const QString &path)
 {
     QFile copy(path);
     if (!copy.open(QIODevice::ReadOnly) || copy.size() != source.size())
@@ -125,6 +156,24 @@ bool isSame(Source &source, const QString &path)
     return source.read([&copy](const char *bytes, std::size_t count) {
         return copy.read(qint64(count)) == QByteArrayView(bytes, qsizetype(count));
     });
+}
+
+/// Copies to a new file beside `path`: its name gets `ending` and, if such a file exists already, a number.
+template <class From> QString keepBeside(From &source, const QString &path, const QString &ending, const QString &doing)
+{
+    const QFileInfo file(path);
+    for (int number = 1;; ++number) {
+        const QString last = (number > 1 ? u'-' + QString::number(number) : QString()) + u'.' + file.suffix();
+        const QString copy = file.absoluteDir().filePath(file.completeBaseName() + ending + last);
+        if (isSame(source, copy))
+            return copy;
+        if (QFileInfo::exists(copy) || QFileInfo(copy).isSymLink())
+            continue;
+        Draft draft(copy, doing);
+        copyInto(draft, source, path, doing);
+        draft.giveName();
+        return copy;
+    }
 }
 
 /// The target itself if the path is a link to it.
@@ -151,6 +200,11 @@ bool belongsTo(const QString &database, const QString &target)
         if (path == realPath(database) + QLatin1String(ending))
             return true;
     return false;
+}
+
+QString doingKeep(const QString &path)
+{
+    return QStringLiteral("Keeping a copy of the old database \"%1\" beside it.").arg(path);
 }
 
 } // namespace
@@ -182,21 +236,12 @@ void BackUpDatabase(const QString &database, const QString &target)
 QString KeepOldDatabase(const QString &database, const QString &version)
 {
     const QString path = FindFile(database);
-    const QString doing = QStringLiteral("Keeping a copy of the old database \"%1\" beside it.").arg(path);
-    const QFileInfo file(path);
-    const QDir folder = file.absoluteDir();
-    const QString name = file.completeBaseName() + u"-version-" + version;
-    Source source(path, doing);
-    for (int number = 1;; ++number) {
-        const QString ending = (number > 1 ? u'-' + QString::number(number) : QString()) + u'.' + file.suffix();
-        const QString copy = folder.filePath(name + ending);
-        if (isSame(source, copy))
-            return copy;
-        if (QFileInfo::exists(copy) || QFileInfo(copy).isSymLink())
-            continue;
-        Draft draft(copy, doing);
-        copyInto(draft, source, path, doing);
-        draft.giveName();
-        return copy;
-    }
+    Source source(path, doingKeep(path));
+    return keepBeside(source, path, u"-version-" + version, doingKeep(path));
+}
+
+QString KeepOldFile(const QString &path, const QString &ending)
+{
+    PlainSource source(path, doingKeep(path));
+    return keepBeside(source, path, ending, doingKeep(path));
 }

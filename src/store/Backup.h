@@ -18,3 +18,6 @@ void BackUpDatabase(const QString &database, const QString &target);
 /// "OM-version-1.0.MDB", or "OM-version-1.0-2.MDB" and so on if that name is taken. An older copy is never overwritten.
 /// An identical copy, left by an interrupted upgrade, is used again.
 QString KeepOldDatabase(const QString &database, const QString &version);
+
+/// The same of a file that is no database of ours: OM.MDB with the ending "-old-engine" becomes "OM-old-engine.MDB".
+QString KeepOldFile(const QString &path, const QString &ending);

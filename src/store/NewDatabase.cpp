@@ -9,9 +9,7 @@
 #include "store/Version.h"
 #include "store/WordList.h"
 
-namespace {
-
-void writeTables(Connection &connection, const QString &doing)
+void WriteEmptyTables(Connection &connection, const QString &doing)
 {
     for (const schema::Table &table : schema::tables()) {
         connection.run(table.create, doing);
@@ -22,6 +20,8 @@ void writeTables(Connection &connection, const QString &doing)
                               .arg(schema::userVersion);
     connection.run(marks.toLatin1().constData(), doing);
 }
+
+namespace {
 
 void writeRows(const std::shared_ptr<Connection> &connection, const QString &doing)
 {
@@ -55,7 +55,7 @@ void CreateDatabase(const QString &fileName)
     Draft draft(path, doing);
     const auto connection = std::make_shared<Connection>(draft.path());
     connection->run("PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA; BEGIN", doing);
-    writeTables(*connection, doing);
+    WriteEmptyTables(*connection, doing);
     writeRows(connection, doing);
     connection->run("COMMIT", doing);
     connection->close();

@@ -4,6 +4,12 @@
 
 #include <QString>
 
+class Connection;
+
 /// Throws RuntimeFailure: PermissionDenied if a file of that name exists (in any case of letters) or the folder cannot
 /// be written, PathNotFound if there is no such folder, DiskFull. Either the complete file is created or none.
 void CreateDatabase(const QString &fileName);
+
+/// The tables alone, in an empty file, and the numbers that mark it as one of ours. `doing` is what a failure says was
+/// being done.
+void WriteEmptyTables(Connection &connection, const QString &doing);

@@ -108,6 +108,11 @@ constexpr UpgradeStep steps[] = {
      }},
 };
 
+std::span<const Line> linesOf(const UpgradeStep &step)
+{
+    return &step == &steps[0] ? std::span<const Line>(toVersion11) : std::span<const Line>(toVersion20);
+}
+
 } // namespace
 
 std::span<const UpgradeStep> UpgradeSteps(const QString &version)
@@ -116,6 +121,19 @@ std::span<const UpgradeStep> UpgradeSteps(const QString &version)
     if (version.trimmed() == u"1.1")
         return all.subspan(1);
     return version == u"0.0 " ? all : all.first(0); // "0.0" without the blank is not one of our versions
+}
+
+bool IsOfLaterVersion(const QString &version, const QString &table, const QString &column)
+{
+    const auto isSame = [](const char *one, const QString &other) {
+        return other.compare(QLatin1String(one), Qt::CaseInsensitive) == 0;
+    };
+    for (const UpgradeStep &step : UpgradeSteps(version))
+        if (std::ranges::any_of(linesOf(step), [&](const Line &line) {
+                return line.table && isSame(line.table, table) && isSame(line.text, column);
+            }))
+            return true;
+    return false;
 }
 
 void AddFreshAnimal(Database &database, const QString &name) { addWord(database, name, "1"); }

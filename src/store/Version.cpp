@@ -15,3 +15,11 @@ QString ReadDatabaseVersion(Database &database)
     }
     return version;
 }
+
+int NumberOfVersion(const QString &version)
+{
+    if (version == u"0.0 ")
+        return 10;
+    const QString trimmed = version.trimmed();
+    return trimmed == u"1.1" ? 11 : trimmed == u"2.0" ? 20 : 0;
+}

@@ -1,15 +1,14 @@
-// The window of the upgrade, shown at the start before any other where the database is of an earlier version: it keeps
-// a copy of the old file, runs the steps of Upgrade.h, and shows how far they are. It cannot be closed by hand. It
-// knows nothing of the program above: the main window hands it the database and its version.
+// The window of the start's long work, shown before any other: the upgrade of a database of an earlier version, and the
+// reading of a file of the old engine. It says what is being done and how far it is, and cannot be closed by hand. It
+// knows nothing of the work, which is handed in.
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <optional>
 
 #include <QDialog>
 
 #include "platform/RuntimeFailure.h"
-#include "store/Database.h"
 
 class QLabel;
 class QProgressBar;
@@ -19,12 +18,15 @@ class frm_OMKupgrade : public QDialog
 {
     Q_OBJECT
 public:
-    /// The database is closed and opened again by its name, the version follows each step; both are the caller's.
-    frm_OMKupgrade(std::unique_ptr<Database> &database, const QString &databaseName, QString &version);
+    using Work = std::function<void(frm_OMKupgrade &)>;
+    explicit frm_OMKupgrade(Work work);
 
-    /// Shows the window and waits until all is done. Throws the RuntimeFailure that ended it: the file is then whole,
-    /// of the version that it had or of the step that was done, and the upgrade can be tried again.
-    void Upgrade();
+    /// Shows the window, does the work once it is on the screen, and closes. Throws the RuntimeFailure that ended the
+    /// work.
+    void Run();
+    /// What is being done, and how far it is, 0 to 100; painted at once.
+    void Show(const QString &text, int bar);
+    void Show(int bar);
     void reject() override {} // nobody leaves in the middle
 
     QLabel *Label1;
@@ -34,12 +36,7 @@ public:
 private:
     void Form_Load();
     void Timerx_Timer();
-    void runSteps();
-    void reopen(Database::Access access);
-    void repaintAll();
 
-    std::unique_ptr<Database> &m_database;
-    QString m_databaseName;
-    QString &m_version;
+    Work m_work;
     std::optional<RuntimeFailure> m_failure;
 };

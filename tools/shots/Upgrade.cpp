@@ -5,6 +5,7 @@
 #include "shots/Plays.h"
 #include "store/Database.h"
 #include "store/frm_OMKupgrade.h"
+#include "store/UpgradeDatabase.h"
 #include "store/Version.h"
 
 /// Runs the upgrade of an old database and photographs it half way.
@@ -14,10 +15,10 @@ void playUpgrade(Album &album, const QString &folder)
     WriteOldDatabase(file, QStringLiteral("1.0"), 500);
     auto database = Database::OpenDatabase(file);
     QString version = ReadDatabaseVersion(*database);
-    frm_OMKupgrade window(database, file, version);
+    frm_OMKupgrade window(UpgradeWork(database, file, version));
     QObject::connect(window.ProgressBar1, &QProgressBar::valueChanged, &window, [&](int bar) {
         if (bar == 50)
             album.take(window, u"upgrade-" + version.left(1));
     });
-    window.Upgrade();
+    window.Run();
 }

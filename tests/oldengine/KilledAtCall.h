@@ -1,0 +1,108 @@
+// A program that is killed, with every program that it has started, before its n-th call that changes a file of a
+// folder: by the system's own means for debuggers, so that no write can be missed.
+#pragma once
+
+#include <set>
+
+#include <fcntl.h>
+#include <sys/ptrace.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QString>
+
+class KilledAtCall
+{
+public:
+    explicit KilledAtCall(const QString &folder) : m_folder(folder) {}
+
+    /// False where the program came to its end before.
+    bool run(int call, const QString &program, const QString &argument)
+    {
+        const QByteArray name = QFile::encodeName(program), with = QFile::encodeName(argument);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+            ::raise(SIGSTOP);
+            ::execl(name.constData(), name.constData(), with.constData(), nullptr);
+            ::_exit(127);
+        }
+        m_processes = {child};
+        m_left = call;
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_EQ(::ptrace(PTRACE_SETOPTIONS, child, nullptr,
+                           PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACEFORK | PTRACE_O_TRACEVFORK | PTRACE_O_TRACECLONE |
+                               PTRACE_O_EXITKILL),
+                  0)
+            << "this system does not let a test watch a process";
+        ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+        bool isKilled = false;
+        while (!m_processes.empty()) {
+            const pid_t process = ::waitpid(-1, &status, __WALL);
+            if (process < 0)
+                break;
+            if (WIFEXITED(status) || WIFSIGNALED(status)) {
+                m_processes.erase(process);
+            } else {
+                m_processes.insert(process);
+                if (isKilled) // one that was just being started
+                    ::kill(process, SIGKILL);
+                else
+                    isKilled = goOn(process, status);
+            }
+        }
+        return isKilled;
+    }
+
+private:
+    /// True where that was the call, and all are killed.
+    bool goOn(pid_t process, int status)
+    {
+        const int signal = WSTOPSIG(status);
+        if (signal == (SIGTRAP | 0x80) && changesFile(process) && m_left-- == 0) {
+            for (const pid_t each : m_processes)
+                ::kill(each, SIGKILL);
+            return true;
+        }
+        // A stop of ours is no signal of theirs, and so is the first of a new process.
+        const bool isOurs = signal == SIGTRAP || signal == (SIGTRAP | 0x80) || signal == SIGSTOP;
+        ::ptrace(PTRACE_SYSCALL, process, nullptr, isOurs ? 0 : signal);
+        return false;
+    }
+    bool changesFile(pid_t process) const
+    {
+        __ptrace_syscall_info info = {};
+        if (::ptrace(PTRACE_GET_SYSCALL_INFO, process, sizeof info, &info) <= 0 || info.op != PTRACE_SYSCALL_INFO_ENTRY)
+            return false;
+        switch (info.entry.nr) {
+        case SYS_write:
+        case SYS_pwrite64:
+        case SYS_ftruncate:
+        case SYS_fsync:
+        case SYS_fdatasync:
+        case SYS_fchmod: {
+            const QString name = QString("/proc/%1/fd/%2").arg(process).arg(info.entry.args[0]);
+            return QFile::symLinkTarget(name).startsWith(m_folder);
+        }
+        case SYS_openat: return (info.entry.args[2] & O_CREAT) != 0;
+        case SYS_rename:
+        case SYS_renameat:
+        case SYS_renameat2:
+        case SYS_link:
+        case SYS_linkat:
+        case SYS_unlink:
+        case SYS_unlinkat:
+        case SYS_chmod:
+        case SYS_fchmodat: return true;
+        default: return false;
+        }
+    }
+
+    QString m_folder;
+    std::set<pid_t> m_processes;
+    int m_left = 0;
+};

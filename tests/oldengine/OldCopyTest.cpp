@@ -1,0 +1,269 @@
+// What is ours of the reading, without the library and without a file: values, the head of a file, tables and columns,
+// entries at the same second, what is refused and what is told.
+#include <cmath>
+#include <limits>
+
+#include "FakeSource.h"
+#include "OldFiles.h"
+
+namespace {
+
+QByteArray decimal(bool isNegative, quint32 number)
+{
+    return QByteArray(1, isNegative ? '\x80' : '\0') + QByteArray(12, '\0') + bytesOf(number);
+}
+
+} // namespace
+
+TEST(OldValues, EveryTypeOfTheEngineBecomesAValueOfOurs)
+{
+    const double never = std::numeric_limits<double>::quiet_NaN();
+    const struct
+    {
+        OldType type;
+        QByteArray bytes;
+        ColumnKind as;
+        QString text; ///< "none" where the bytes are no value
+    } rows[] = {
+        {OldType::Single, bytesOf(7.8F), ColumnKind::Double, textOf(7.8)},
+        {OldType::Single, bytesOf(-0.1F), ColumnKind::Double, textOf(-0.1)},
+        {OldType::Single, bytesOf(3.4028235e38F), ColumnKind::Double, textOf(3.4028235e38)},
+        {OldType::Single, bytesOf(float(never)), ColumnKind::Double, "none"},
+        {OldType::Single, bytesOf(7.8F).first(3), ColumnKind::Double, "none"},
+        {OldType::Double, bytesOf(1.021), ColumnKind::Double, textOf(1.021)},
+        {OldType::Double, bytesOf(never), ColumnKind::Double, "none"},
+        {OldType::Double, bytesOf(14.0), ColumnKind::Integer, "14"},
+        {OldType::Byte, "\xff", ColumnKind::Double, "255"},
+        {OldType::Integer, bytesOf(qint16(-32768)), ColumnKind::Integer, "-32768"},
+        {OldType::Long, bytesOf(qint32(70000)), ColumnKind::Double, "70000"},
+        {OldType::Currency, bytesOf(qint64(199500)), ColumnKind::Double, textOf(19.95)},
+        {OldType::Currency, bytesOf(qint64(-1)), ColumnKind::Double, textOf(-0.0001)},
+        {OldType::Decimal, decimal(true, 1234), ColumnKind::Double, textOf(-12.34)},
+        {OldType::Boolean, "\1", ColumnKind::Boolean, "1"},
+        {OldType::Boolean, QByteArray(1, '\0'), ColumnKind::Boolean, "0"},
+        {OldType::Integer, bytesOf(qint16(-1)), ColumnKind::Boolean, "1"},
+        {OldType::Byte, "\3", ColumnKind::Text, "3"},
+        {OldType::Date, bytesOf(35801.0), ColumnKind::Date, "1998-01-06"},
+        {OldType::Date, bytesOf(35801.9999999), ColumnKind::Date, "1998-01-06"},
+        {OldType::Date, bytesOf(-1.25), ColumnKind::Date, "1899-12-29"},
+        {OldType::Date, bytesOf(-1.25), ColumnKind::Time, "06:00:00"},
+        {OldType::Date, bytesOf(0.50011574), ColumnKind::Time, "12:00:10"},
+        {OldType::Date, bytesOf(35801.5), ColumnKind::Time, "12:00:00"},
+        {OldType::Date, bytesOf((86399 + 0.4) / 86400), ColumnKind::Time, "23:59:59"},
+        {OldType::Date, bytesOf((86399 + 0.7) / 86400), ColumnKind::Time, "23:59:59"},
+        {OldType::Date, bytesOf((86398 + 0.7) / 86400), ColumnKind::Time, "23:59:59"},
+        {OldType::Date, bytesOf(1e300), ColumnKind::Date, "none"},
+        {OldType::Date, bytesOf(never), ColumnKind::Time, "none"},
+        {OldType::Text, utf16("Café €"), ColumnKind::Text, "Café €"},
+        {OldType::Text,
+         "\xff\xfe"
+         "Caf\xe9",
+         ColumnKind::Text, "Café"},
+        {OldType::Memo,
+         QByteArray("\xff\xfe"
+                    "a\0\xac\x20"
+                    "\0b",
+                    8),
+         ColumnKind::Text, "a€b"},
+        {OldType::Text, "abc", ColumnKind::Text, "none"},
+        {OldType::Text, "", ColumnKind::Text, ""},
+    };
+    const OldTextReader texts(0);
+    for (const auto &row : rows) {
+        const auto value = ReadOldValue(row.bytes, row.type, 2, row.as, texts);
+        EXPECT_TRUE(CanBeRead(row.type, row.as));
+        EXPECT_EQ(value ? textOf(*value) : "none", row.text) << "row " << &row - rows;
+    }
+    EXPECT_FALSE(CanBeRead(OldType::Text, ColumnKind::Double));
+    EXPECT_FALSE(CanBeRead(OldType::Long, ColumnKind::Date));
+    EXPECT_FALSE(CanBeRead(OldType(11), ColumnKind::Text)) << "a picture";
+}
+
+TEST(OldValues, TextsInACodePage)
+{
+    const struct
+    {
+        int page;
+        QByteArray bytes;
+        QString text;
+    } rows[] = {{1252, "plain", "plain"},          {1252, "caf\xe9 \x80 \x85", "café € …"},
+                {1252, "a\x81z", "a\u0081z"},      {1251, "\xcf\xf0\xf3\xe4", "Пруд"},
+                {932, "\x8b\xe0\x8b\x9b", "金魚"}, {9999, "\xbd inch", "½ inch"}};
+    for (const auto &row : rows)
+        EXPECT_EQ(OldTextReader(row.page).read(row.bytes), row.text) << row.page;
+}
+
+TEST(OldFile, TheHeadTellsFormatCodePageAndPassword)
+{
+    for (const OldFile &file : oldFiles) {
+        EXPECT_TRUE(IsOldEngineFile(file.path()));
+        QByteArray head = file.bytes().first(oldHeaderSize);
+        EXPECT_EQ(ReadOldHeader(head).codePage, file.name.contains("jet3") ? 1252 : 0);
+        EXPECT_FALSE(ReadOldHeader(head).hasPassword);
+        EXPECT_EQ(numberOf([&] { ReadOldHeader(head.chopped(1)); }), int(Failure::UnrecognizedFormat));
+        head[0x44] = char(head[0x44] ^ 'x');
+        EXPECT_TRUE(ReadOldHeader(head).hasPassword);
+        head[20] = 2; // a later engine
+        EXPECT_EQ(numberOf([&] { ReadOldHeader(head); }), int(Failure::UnrecognizedFormat));
+    }
+    EXPECT_FALSE(IsOldEngineFile(OMK_OLD_FILES "/rows-1.0/CONFIG.csv"));
+}
+
+TEST(OldOutcome, ALineComesBackAsItWent)
+{
+    const OldOutcome outcome{{{"WATERLOG", 5'000'000'000}}, {"a\nb"}, {"\"é\""}};
+    const auto back = std::get<OldOutcome>(*ReadOldLine(WriteOldLine(outcome)));
+    EXPECT_EQ(back.counts[0].rows, 5'000'000'000);
+    EXPECT_EQ(back.changed + back.unread, QStringList({"a\nb", "\"é\""}));
+    const RuntimeFailure failure(Failure::DiskFull, "Line one.\nLine two.");
+    const auto failed = std::get<RuntimeFailure>(*ReadOldLine(WriteOldLine(failure)));
+    EXPECT_EQ(failed.description(), failure.description());
+    EXPECT_FALSE(ReadOldLine("Segmentation fault\n"));
+}
+
+struct OldCopyTest : testing::Test
+{
+    QString path() const { return folder.filePath("draft"); }
+    OldOutcome copy()
+    {
+        QFile::remove(path());
+        writeFile(path(), {});
+        return CopyOldDatabase(source, path(),
+                               [this](const OldProgress &p) { percent = std::max(percent, p.percent); });
+    }
+    /// The failure's number and the words after the standard ones.
+    QString refusal()
+    {
+        const auto failure = failureOf([this] { copy(); });
+        return failure ? QString::number(int(failure->number())) + ' ' + failure->description().section('\n', 1)
+                       : QString();
+    }
+    QString asked(const QString &sql) { return OtherProgram(path()).run(sql); }
+    static FakeSource::FakeRow test(double moment, const QString &tank = "R")
+    {
+        return {{"tankname", utf16(tank)},
+                {"logdate", bytesOf(std::trunc(moment))},
+                {"logtime", bytesOf(moment - std::trunc(moment))}};
+    }
+
+    QTemporaryDir folder;
+    FakeSource source;
+    int percent = 0;
+};
+
+TEST_F(OldCopyTest, ADatabaseOfTheSameVersionComesOut)
+{
+    for (const auto &[version, number] : {std::pair{"0.0 ", "10"}, {"1.1 ", "11"}, {"2.0 ", "20"}}) {
+        source = FakeSource(version);
+        source.row("TANKLST", {{"tankname", utf16("Reef")}, {"tanksize", bytesOf(120.1F)}});
+        const OldOutcome outcome = copy();
+        EXPECT_EQ(outcome.changed + outcome.unread, QStringList());
+        EXPECT_EQ(asked("PRAGMA user_version"), number);
+        EXPECT_EQ(asked("SELECT count(*) FROM pragma_table_info('CONFIG') WHERE name = 'db_version'"),
+                  *version == '0' ? "0" : "1");
+        EXPECT_EQ(asked("SELECT count(*) FROM pragma_table_info('MAINTSCHED')"), *version == '2' ? "11" : "6");
+        EXPECT_EQ(asked("SELECT tanksize FROM TANKLST"), "120.1");
+        EXPECT_EQ(percent, 100);
+        Database::OpenDatabase(path());
+    }
+}
+
+TEST_F(OldCopyTest, NamesAreMatchedInAnyCaseAndWhatIsUnknownIsLeftOutAndTold)
+{
+    source.table("WATERLOG").columns[0].name = "TANKNAME";
+    source.row("WATERLOG", {{"TANKNAME", utf16("R")}, {"ph", bytesOf(8.1F)}});
+    source.table("WATERLOG").name = "waterlog";
+    source.addColumn("TANKLST Photo", OldType(11));
+    source.add("Switchboard", {{"Id", OldType::Long, 0}}, {});
+    const OldOutcome outcome = copy();
+    EXPECT_EQ(outcome.changed.join(' '),
+              "The column \"Photo\" of the table TANKLST is not one of Ostrelmark and was left out. "
+              "The table \"Switchboard\" (rows: 0) is not one of Ostrelmark and was left out.");
+}
+
+TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
+{
+    const struct
+    {
+        std::function<void(FakeSource &)> spoil;
+        QString says;
+    } rows[] = {
+        {[](FakeSource &s) { s.removeTable("MAINTLOG"); },
+         "3265 The file has no table MAINTLOG. It is damaged, or of another program."},
+        {[](FakeSource &s) { s.table("MAINTLOG").columns.clear(); },
+         "3343 The description of the table MAINTLOG cannot be read."},
+        {[](FakeSource &s) { s.removeColumn("WATERLOG ph"); }, "3265 The table WATERLOG has no column ph."},
+        {[](FakeSource &s) { s.removeColumn("MAINTSCHED SchedRtype"); },
+         "3265 The table MAINTSCHED has no column SchedRtype."},
+        {[](FakeSource &s) {
+             s.removeColumn("WATERLOG ph");
+             s.addColumn("WATERLOG ph", OldType::Text);
+         },
+         "13 The column ph of the table WATERLOG holds another kind of values than this program stores there."},
+        {[](FakeSource &s) { s.clearRows("CONFIG"); }, "3343 The table CONFIG has no row."},
+        {[](FakeSource &s) {
+             s.clearRows("CONFIG");
+             s.row("CONFIG", {{"db_version", utf16("3.0 ")}});
+         },
+         "3343 The file is of version \"3.0 \", which this program does not know."},
+    };
+    for (const auto &row : rows) {
+        source = FakeSource();
+        row.spoil(source);
+        EXPECT_EQ(refusal(), row.says);
+    }
+    source = FakeSource("1.1 ");
+    source.addColumn("MAINTSCHED SchedRtype", OldType::Integer); // an upgrade of long ago was cut off
+    EXPECT_EQ(refusal(), "");
+}
+
+TEST_F(OldCopyTest, EntriesOfOneSecondAllComeOverTheLaterOnesAtTheNextFreeSecond)
+{
+    const double nine = 35801 + 9 / 24.0, second = 1 / 86400.0;
+    for (const double moment : {nine, nine, nine + second, nine, 35801 + 86399 * second, 35801 + 86399 * second})
+        source.row("WATERLOG", test(moment));
+    source.row("WATERLOG", test(nine, "S")); // another tank's
+    source.row("LIVESTOCK", {{"tankname", utf16("R")}, {"dateadded", bytesOf(9.0)}, {"timeadded", bytesOf(0.5)}});
+    source.row("LIVESTOCK", {{"tankname", utf16("R")},
+                             {"dateadded", bytesOf(9.0)},
+                             {"timeadded", bytesOf(0.5)},
+                             {"animalname", utf16("Betta")}});
+    const OldOutcome outcome = copy();
+    EXPECT_EQ(asked("SELECT group_concat(m, ' ') FROM (SELECT logdate || 'T' || logtime AS m FROM WATERLOG "
+                    "WHERE tankname = 'R' ORDER BY rowid)"),
+              "1998-01-06T09:00:00 1998-01-06T09:00:01 1998-01-06T23:59:59 1998-01-06T09:00:02 1998-01-06T09:00:03 "
+              "1998-01-07T00:00:00");
+    EXPECT_EQ(asked("SELECT count(*) FROM LIVESTOCK WHERE timeadded = '12:00:00'"), "2");
+    EXPECT_EQ(outcome.changed.join(' '),
+              "3 water tests had the date and time of others; each was moved to the next free second.");
+    source = FakeSource();
+    for (int i = 0; i < 3000; ++i)
+        source.row("WATERLOG", test(nine));
+    copy();
+    EXPECT_EQ(asked("SELECT max(logtime) FROM WATERLOG"), "09:49:59");
+}
+
+TEST_F(OldCopyTest, NamesThatStandTwiceGetANumber)
+{
+    for (const char *id : {"1", "2", "2"})
+        source.row("TANKLST", {{"tankname", utf16("Reef")}, {"tankid", utf16(id)}});
+    const OldOutcome outcome = copy();
+    EXPECT_EQ(asked("SELECT group_concat(tankname || '/' || tankid, ' ') FROM TANKLST"),
+              "Reef/1 Reef (2)/2 Reef (3)/2 (2)");
+    EXPECT_EQ(outcome.changed[0], "Two tanks had the same tankname, \"Reef\"; the later one has \"Reef (2)\" now.");
+    EXPECT_EQ(outcome.changed.size(), 3);
+}
+
+TEST_F(OldCopyTest, WhatCannotBeReadIsCountedAndTheRestComesOver)
+{
+    for (int i = 0; i < 4; ++i)
+        source.row("WATERLOG", test(100 + i));
+    source.row("WATERLOG", {{"tankname", utf16("R")}, {"Comment", "?"}, {"ph", bytesOf(8.0F)}});
+    source.table("WATERLOG").rows = 8;
+    source.lost["ANIMALLIST"] = 1;
+    const OldOutcome outcome = copy();
+    EXPECT_EQ(outcome.unread.join(' '),
+              "WATERLOG: 3 of 8 rows WATERLOG: the column Comment in 1 of 5 rows ANIMALLIST: 1 of 1 rows");
+    EXPECT_EQ(asked("SELECT count(*) FROM WATERLOG"), "5");
+    EXPECT_EQ(asked("SELECT ph FROM WATERLOG WHERE Comment IS NULL AND ph = 8"), "8.0");
+}

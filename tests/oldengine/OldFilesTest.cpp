@@ -1,0 +1,182 @@
+// The files of the old engine through the program that reads them: every row of each, and each cut off and damaged. A
+// few copies where nothing is said; omk_tests_oldengine --copies=1000 --cuts=all is the long run, whose table
+// docs/RELIABILITY.md shows. --reader=PROGRAM takes that of another build, --seed=2 other bytes.
+#include <cstdio>
+#include <random>
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include "oldengine/OldOutcome.h"
+#include "OldFiles.h"
+#include "platform/Files.h"
+#include "store/schema.h"
+
+namespace {
+
+QString argument(const QString &name, const QString &otherwise)
+{
+    for (const QString &argument : QCoreApplication::arguments())
+        if (argument.startsWith(name))
+            return argument.mid(name.size());
+    return otherwise;
+}
+
+/// What came of reading a file.
+enum Result { Opened, OpenedWithAnotherValue, Told, Refused, Crashed, Results };
+
+struct OldFilesTest : testing::Test
+{
+    QString draft() const { return folder.filePath("draft"); }
+
+    /// Reads a file into a new draft; the last line that the program wrote, if any.
+    std::optional<OldLine> read(const QString &path)
+    {
+        QFile::remove(draft());
+        writeFile(draft(), {});
+        QProcess reader;
+        reader.start(argument("--reader=", PrivateProgram("ostrelmark-read-old")), {path, draft()});
+        EXPECT_TRUE(reader.waitForFinished(120'000)) << path.toStdString();
+        expectNoFaultOfOurs(reader.readAllStandardError());
+        std::optional<OldLine> last;
+        while (reader.canReadLine())
+            if (auto line = ReadOldLine(reader.readLine()))
+                last.emplace(std::move(*line));
+        return last;
+    }
+    /// The sanitizers tell a fault of the library, too, as it ends there.
+    static void expectNoFaultOfOurs(const QByteArray &words)
+    {
+        if (!words.contains("Sanitizer") && !words.contains("runtime error:"))
+            return;
+        for (const QByteArray &line : words.split('\n')) {
+            const bool isLibrarys = line.contains("mdb_") || line.contains("libmdb");
+            if (isLibrarys)
+                return;
+            if (line.contains("/src/")) {
+                ADD_FAILURE() << words.toStdString();
+                return;
+            }
+        }
+    }
+    /// The draft of an outcome is a database that opens, whole, and as long as it was said.
+    void expectWhole(const OldOutcome &outcome)
+    {
+        EXPECT_EQ(OtherProgram(draft()).run("PRAGMA integrity_check"), "ok");
+        const auto database = Database::OpenDatabase(draft());
+        EXPECT_EQ(outcome.counts.size(), schema::tables().size());
+        for (const OldCount &count : outcome.counts)
+            EXPECT_EQ(database->OpenRecordset("SELECT * FROM " + count.table).RecordCount(), count.rows);
+    }
+    bool hasEveryRow(const OldFile &file)
+    {
+        const auto database = Database::OpenDatabase(draft());
+        return std::ranges::all_of(tableNames, [&](const QString &table) {
+            const BothRows rows = rowsOf(*database, file, table);
+            return rows.ours == rows.expected;
+        });
+    }
+    /// Reads bytes as a file of their own.
+    Result resultOf(const OldFile &file, const QByteArray &bytes)
+    {
+        const QString path = folder.filePath("OM.MDB");
+        QFile::remove(path);
+        writeFile(path, bytes);
+        const auto last = read(path);
+        EXPECT_EQ(contentOf(folder.path()).at("OM.MDB"), bytes);
+        const auto *outcome = last ? std::get_if<OldOutcome>(&*last) : nullptr;
+        if (!outcome)
+            return last && std::holds_alternative<RuntimeFailure>(*last) ? Refused : Crashed;
+        expectWhole(*outcome);
+        return !outcome->unread.empty() ? Told : hasEveryRow(file) ? Opened : OpenedWithAnotherValue;
+    }
+    static void print(const OldFile &file, const char *what, const std::array<int, Results> &times)
+    {
+        std::printf("| %s, %s |", qPrintable(file.name), what);
+        for (const int count : times)
+            std::printf(" %d |", count);
+        std::printf("\n");
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(OldFilesTest, EveryRowComesOverCellByCell)
+{
+    for (const OldFile &file : oldFiles) {
+        SCOPED_TRACE(file.name.toStdString());
+        const auto last = read(file.path());
+        ASSERT_TRUE(last && std::holds_alternative<OldOutcome>(*last));
+        const auto &outcome = std::get<OldOutcome>(*last);
+        EXPECT_EQ(outcome.unread, QStringList());
+        EXPECT_EQ(outcome.changed.size(), file.name.contains("jet3")); // which has a table of some other use
+        expectWhole(outcome);
+        const auto database = Database::OpenDatabase(draft());
+        for (const QString &table : tableNames)
+            expectSame(rowsOf(*database, file, table), table);
+    }
+}
+
+TEST_F(OldFilesTest, CutOffAtAPageItIsOpenedRightOrToldOrRefused)
+{
+    const bool all = argument("--cuts=", {}) == "all";
+    for (const OldFile &file : oldFiles) {
+        SCOPED_TRACE(file.name.toStdString());
+        const QByteArray bytes = file.bytes();
+        std::array<int, Results> times{};
+        const qsizetype pages = bytes.size() / file.pageSize();
+        for (qsizetype page = all ? 0 : 5; page < pages; page += all ? 1 : 17) {
+            const Result result = resultOf(file, bytes.first(page * file.pageSize()));
+            ++times[result];
+            EXPECT_NE(result, OpenedWithAnotherValue) << "cut off at page " << page;
+        }
+        print(file, "cut off", times);
+    }
+}
+
+TEST_F(OldFilesTest, WithRandomBytesItIsOpenedOrToldOrRefused)
+{
+    const int copies = argument("--copies=", "3").toInt();
+    std::minstd_rand random(std::uint_fast32_t(argument("--seed=", "1").toInt()));
+    for (const OldFile &file : oldFiles) {
+        SCOPED_TRACE(file.name.toStdString());
+        const QByteArray bytes = file.bytes();
+        std::array<int, Results> times{};
+        for (int copy = 0; copy < copies && !HasFailure(); ++copy) {
+            QByteArray damaged = bytes;
+            for (auto changes = 1 + random() % 64; changes > 0; --changes)
+                damaged[qsizetype(random() % std::size_t(bytes.size()))] = char(random());
+            ++times[resultOf(file, damaged)];
+        }
+        print(file, "random bytes", times);
+    }
+}
+
+TEST_F(OldFilesTest, ARowThatMovedToAnotherPageIsFollowedAndADeletedOneIsNot)
+{
+    const OldFile &file = oldFiles[1];
+    QByteArray bytes = file.bytes();
+    const int from = 47, to = 61, row = 3; // two pages of water tests; the last has room
+    const auto page = [&](int number) { return bytes.data() + qsizetype(number) * file.pageSize(); };
+    const auto rowCount = [&](int number) { return page(number) + 12; };
+    const auto slot = [&](int number, int of) { return rowCount(number) + 2 + 2 * of; };
+    const auto start = [&](int number, int of) { return qFromLittleEndian<quint16>(slot(number, of)); };
+    const int size = start(from, row - 1) - start(from, row), last = qFromLittleEndian<quint16>(rowCount(to));
+    const int moved = start(to, last - 1) - size;
+    ASSERT_GT(page(to) + moved, slot(to, last + 1));
+    std::memcpy(page(to) + moved, page(from) + start(from, row), std::size_t(size));
+    qToLittleEndian(quint16(moved | 0x8000), slot(to, last)); // no row by itself
+    qToLittleEndian(quint16(last + 1), rowCount(to));
+    qToLittleEndian(quint32(to << 8 | last), page(from) + start(from, row));
+    qToLittleEndian(quint16(start(from, row) | 0x4000), slot(from, row));
+    const auto rows = [&] {
+        writeFile(folder.filePath("OM.MDB"), bytes);
+        EXPECT_TRUE(std::holds_alternative<OldOutcome>(read(folder.filePath("OM.MDB")).value()));
+        return rowsOf(*Database::OpenDatabase(draft()), file, "WATERLOG");
+    };
+    expectSame(rows(), "WATERLOG");
+    qToLittleEndian(quint16(start(from, row) | 0xc000), slot(from, row)); // deleted
+    EXPECT_EQ(rows().ours.size(), 199);
+}
+
+} // namespace
