@@ -193,12 +193,6 @@ int ListView::SourceRow(int item) const
     return m_model->sourceRow(item - 1);
 }
 
-bool ListView::Selected(int item) const
-{
-    checkRow(item);
-    return SelectedItem() == item;
-}
-
 void ListView::Select(int item)
 {
     if (item == 0) {

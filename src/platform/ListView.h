@@ -61,7 +61,6 @@ public:
     QString Key(int item) const;
     /// The row of the source, from 0, that a row shows in whatever order.
     int SourceRow(int item) const;
-    bool Selected(int item) const;
     void Select(int item); ///< scrolls to the row as well; 0 selects nothing
     /// The selected row, from 1; 0 if none is selected.
     int SelectedItem() const;

@@ -193,7 +193,7 @@ std::optional<WalkFault> walkRecurring(const RecurrenceRule &rule, const Occurre
 
 } // namespace
 
-DateRange TwoYearsFrom(const QDate &today) { return {today, AddYears(today, 2)}; }
+DateRange TwoYearsFrom(const QDate &today) { return {today, today.addYears(2)}; }
 
 std::optional<WalkFault> Walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRange &range,
                               const QString &dateOrder, const std::function<void(const QDate &)> &send)

@@ -75,7 +75,7 @@ RecurrenceRule NewRule(const QDate &today)
 {
     RecurrenceRule rule;
     rule.StartDate = today;
-    rule.EndDate = AddYears(today, 2);
+    rule.EndDate = today.addYears(2);
     return rule;
 }
 

@@ -68,8 +68,6 @@ RecordsetState &Recordset::writable() const
     return s;
 }
 
-bool Recordset::isSet() const { return m_state && m_state->isOpen(); }
-
 bool Recordset::BOF() const { return RecordCount() == 0; }
 
 bool Recordset::EOF_() const
@@ -96,16 +94,6 @@ void Recordset::MoveFirst()
 {
     RecordsetState &s = state();
     s.moveTo(0);
-    requireCurrent(s);
-}
-
-void Recordset::MoveLast()
-{
-    RecordsetState &s = state();
-    qsizetype last = s.rows->count() - 1;
-    while (last > 0 && s.deleted.contains(last))
-        --last;
-    s.moveTo(std::max<qsizetype>(last, 0));
     requireCurrent(s);
 }
 
@@ -165,8 +153,6 @@ void Recordset::Update()
     s.lapse();
 }
 
-void Recordset::CancelUpdate() { state().lapse(); }
-
 void Recordset::Delete()
 {
     RecordsetState &s = writable();
@@ -174,8 +160,6 @@ void Recordset::Delete()
     requireCurrent(s);
     s.deleteRow();
 }
-
-bool Recordset::isEditing() const { return state().buffer != Buffer::None; }
 
 bool Recordset::FindFirst(const QString &condition, const std::vector<Value> &parameters)
 {

@@ -39,7 +39,6 @@ class Recordset
 public:
     /// Not set: every use throws ObjectNotSet.
     Recordset();
-    bool isSet() const;
 
     bool BOF() const;  ///< there is no row
     bool EOF_() const; ///< past the last row; "EOF" is a macro of the C library
@@ -48,9 +47,8 @@ public:
     qsizetype RecordCount() const;
     /// Number of the current row, from 0; -1 if there is none.
     qsizetype AbsolutePosition() const;
-    void MoveFirst(); ///< throws NoCurrentRecord if there are no rows, as does MoveLast
-    void MoveLast();
-    void MoveNext(); ///< after the last row there is no current row; another call then throws NoCurrentRecord
+    void MoveFirst(); ///< throws NoCurrentRecord if there are no rows
+    void MoveNext();  ///< after the last row there is no current row; another call then throws NoCurrentRecord
 
     /// The column of that name; its case does not matter. Throws NoSuchColumn, or NoCurrentRecord if there is neither a
     /// row nor a buffer.
@@ -68,8 +66,6 @@ public:
     /// no longer exists.
     void Update();
     void Delete(); ///< deletes the current row; afterwards there is no current row until a move
-    void CancelUpdate();
-    bool isEditing() const;
 
     /// Moves to the first of the rows read that meets the condition, and returns whether there is one; otherwise there
     /// is no current row. The values are bound to the "?" of the condition.

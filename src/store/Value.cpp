@@ -47,16 +47,6 @@ double Value::toDouble() const
     throwNotA(*this, "number");
 }
 
-qint64 Value::toInteger() const
-{
-    if (const auto *number = std::get_if<qint64>(&m_value))
-        return *number;
-    const double number = std::round(toDouble());
-    if (!(std::abs(number) < 9.2e18))
-        throw RuntimeFailure(Failure::Overflow, QStringLiteral("%1 is beyond a whole number.").arg(text()));
-    return qint64(number);
-}
-
 QDate Value::toDate() const
 {
     if (const auto *date = std::get_if<QDate>(&m_value))

@@ -28,8 +28,6 @@ public:
     /// for a text that is not a number.
     double toDouble() const;
     double toDoubleOr(double ifNull) const { return isNull() ? ifNull : toDouble(); }
-    /// Rounds to the nearest whole number.
-    qint64 toInteger() const;
     bool toBool() const { return !isNull() && toDouble() != 0; }
     QDate toDate() const;
     QTime toTime() const;

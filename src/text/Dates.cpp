@@ -229,10 +229,6 @@ QString Format(const QTime &time, const QString &picture)
     return text;
 }
 
-QDate AddMonths(const QDate &date, int months) { return date.addMonths(months); }
-
-QDate AddYears(const QDate &date, int years) { return date.addYears(years); }
-
 bool IsBoxTime(const QString &text)
 {
     const QStringView marker = QStringView(text).mid(9);

@@ -48,10 +48,6 @@ QString Format(const QDate &date, const QString &picture);
 /// Shows a time with a picture: hh:mm:ss and "am/pm" or "AM/PM" (the case of the marker follows the picture).
 QString Format(const QTime &time, const QString &picture);
 
-/// A date plus whole months or years; a day past the end of the new month falls back to its last day.
-QDate AddMonths(const QDate &date, int months);
-QDate AddYears(const QDate &date, int years);
-
 /// Whether the text is a complete time of a time box, "HH:MM:SS am": hour 1 to 12, minutes and seconds up to 59, marker
 /// AM, PM, am or pm.
 bool IsBoxTime(const QString &text);

@@ -84,8 +84,8 @@ private:
         result.failed = !first;
         QDate d = first.value_or(r.EndDate.addDays(1));
         if (d < r.StartDate)
-            d = AddMonths(d, toFirst);
-        for (; d <= r.EndDate; d = AddMonths(d, toNext))
+            d = d.addMonths(toFirst);
+        for (; d <= r.EndDate; d = d.addMonths(toNext))
             result.dates.push_back(d);
     }
     /// A weekday by its ordinal, where 4 and above mean the last one of the month.
@@ -95,10 +95,10 @@ private:
         result.failed = w > 6 || month < 1 || month > 12; // looking for a weekday 7 would never end
         for (QDate d = r.StartDate; !result.failed && d <= r.EndDate;) {
             const QDate first(d.year(), eachYear ? month : d.month(), 1);
-            d = x < 4 ? seek(first, w, 1).addDays(7 * x) : seek(AddMonths(first, 1).addDays(-1), w, -1);
+            d = x < 4 ? seek(first, w, 1).addDays(7 * x) : seek(first.addMonths(1).addDays(-1), w, -1);
             if (d >= r.StartDate)
                 result.dates.push_back(d);
-            d = AddMonths(QDate(d.year(), d.month(), 1), toNext);
+            d = QDate(d.year(), d.month(), 1).addMonths(toNext);
         }
     }
 

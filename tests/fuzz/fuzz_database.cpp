@@ -86,13 +86,14 @@ void writeWater(Database &database)
     set.AddNew();
     set[QStringLiteral("logdate")].setValue(QDate(2004, 2, 29));
     const bool added = attempt([&set] { set.Update(); });
-    FUZZ_REQUIRE(set.isEditing() != added, QStringLiteral("after adding"));
+    FUZZ_REQUIRE(added || set[QStringLiteral("logdate")].value() == Value(QDate(2004, 2, 29)),
+                 QStringLiteral("after adding"));
     const qsizetype before = set.RecordCount();
     set.MoveFirst();
     set.Edit();
     set[QStringLiteral("Comment")].setValue(QString(5000, u'c'));
     const bool changed = attempt([&set] { set.Update(); });
-    FUZZ_REQUIRE(set.isEditing() != changed, QStringLiteral("after changing"));
+    FUZZ_REQUIRE(changed || set[QStringLiteral("Comment")].text().startsWith(u'c'), QStringLiteral("after changing"));
     const bool deleted = attempt([&set] { set.Delete(); });
     FUZZ_REQUIRE(set.RecordCount() == before - deleted, QStringLiteral("after deleting"));
 }

@@ -70,10 +70,4 @@ TEST_F(Dates, TimesAreReadBackAsShown)
         EXPECT_FALSE(ReadTime(text) || IsBoxTime(text)) << text;
 }
 
-TEST_F(Dates, AddedMonthsAndYearsEndOnAnExistingDay)
-{
-    EXPECT_EQ(AddMonths(QDate(2003, 10, 31), 4), QDate(2004, 2, 29));
-    EXPECT_EQ(AddYears(QDate(2004, 2, 29), 1), QDate(2005, 2, 28));
-}
-
 } // namespace
