@@ -75,14 +75,13 @@ void requireWritable(const QString &path)
     const QFileInfo file(
         QFileInfo(path).canonicalFilePath()); // the journal is created beside the file that a link points to
     if (!isWritable(file.filePath(), R_OK | W_OK))
-        throw RuntimeFailure(
-            Failure::PermissionDenied,
-            QStringLiteral("The database %1 is read-only. Make it writable and start again.").arg(path));
+        throw RuntimeFailure(Failure::PermissionDenied,
+                             QStringLiteral("The database %1 is read-only. Make it writable and try again.").arg(path));
     if (!isWritable(file.path(), W_OK | X_OK))
         throw RuntimeFailure(
             Failure::PermissionDenied,
             QStringLiteral("The folder %1 of the database is read-only, so nothing could be stored. Make it "
-                           "writable and start again.")
+                           "writable and try again.")
                 .arg(file.path()));
 }
 
