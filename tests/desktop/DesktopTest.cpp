@@ -31,6 +31,7 @@ class Desktop : public Desk
 protected:
     explicit Desktop(LogTab tab = LivestockTab) : Desk(tab)
     {
+        QApplication::setDoubleClickInterval(1); // two clicks of a quick hand are two clicks
         for (const char *tank : {"r1", "Same"}) {
             for (const char *day : {"2026-03-01", "2026-03-02"})
                 addEntry(WaterTab, tank, QString(day) + " 09:30:00", "ph, temp",
