@@ -31,7 +31,6 @@ class Desktop : public Desk
 protected:
     explicit Desktop(LogTab tab = LivestockTab) : Desk(tab)
     {
-        QApplication::setDoubleClickInterval(1); // two clicks of a quick hand are two clicks
         for (const char *tank : {"r1", "Same"}) {
             for (const char *day : {"2026-03-01", "2026-03-02"})
                 addEntry(WaterTab, tank, QString(day) + " 09:30:00", "ph, temp",
@@ -72,7 +71,8 @@ protected:
     void pushReally(const char *button) { real::click(control<QToolButton>(*logbook, button)); }
     void selectRow(int row)
     {
-        real::clickItem(list(), list().model()->index(row - 1, 0));
+        if (list().SelectedItem() != row) // a quick second click would be a double click
+            real::clickItem(list(), list().model()->index(row - 1, 0));
         EXPECT_TRUE(real::happens([&] { return list().SelectedItem() == row; }));
     }
     QString animals()
