@@ -12,18 +12,19 @@ leave() {
 }
 trap leave EXIT
 trap 'exit 1' HUP INT TERM
-mkfifo "$work/ready"
+# A pipe each: the server may still hold its own open when the manager's is read, and its end would be taken for the manager's.
+mkfifo "$work/server" "$work/manager"
 
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/ready" 2>"$work/server.log" &
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/server" 2>"$work/server.log" &
 server=$!
-read -r display <"$work/ready" || { echo "The X server did not start:" >&2; cat "$work/server.log" >&2; exit 1; }
+read -r display <"$work/server" || { echo "The X server did not start:" >&2; cat "$work/server.log" >&2; exit 1; }
 
 export DISPLAY=":$display" HOME="$work" XDG_CONFIG_HOME="$work" XDG_CACHE_HOME="$work" XDG_DATA_HOME="$work" LC_ALL=C.UTF-8
 export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
 unset WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS XMODIFIERS QT_IM_MODULE QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
-openbox --startup "sh -c 'echo >\"$work/ready\"'" 3>"$work/ready" >"$work/manager.log" 2>&1 &
+openbox --startup "sh -c 'echo >\"$work/manager\"'" 3>"$work/manager" >"$work/manager.log" 2>&1 &
 manager=$!
-read -r _ <"$work/ready" || { echo "The window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
+read -r _ <"$work/manager" || { echo "The window manager did not start:" >&2; cat "$work/manager.log" >&2; exit 1; }
 
 "$@" &
 program=$!
