@@ -80,7 +80,7 @@ void frm_OMKOptions::connectControls()
     on(cbo_GraphType, &QComboBox::currentIndexChanged, this, &frm_OMKOptions::cbo_GraphType_Click);
     on(cmdOK, &QPushButton::clicked, this, &frm_OMKOptions::cmdOK_Click);
     on(cmdCancel, &QPushButton::clicked, this, &frm_OMKOptions::cmdCancel_Click);
-    on(cmdApply, &QPushButton::clicked, this, &frm_OMKOptions::cmdApply_Click);
+    // cmdApply does nothing: only OK stores.
 }
 
 void frm_OMKOptions::Get_Initial_Properties()
@@ -158,7 +158,6 @@ void frm_OMKOptions::ShowOptions(int tab)
     g.options.ActiveTab = qint16(tab);
     SSTab1->setCurrentIndex(g.options.ActiveTab);
     m_inForce = g.options;
-    Cancelled = true;
     ShowModal();
     Unload(*this);
 }
@@ -169,7 +168,6 @@ void frm_OMKOptions::cmdOK_Click()
     g.options.GraphChecks = graphChecks();
     StoreOptions(g, m_config, {opt_Salt->isChecked(), txt_username1->text(), txt_username2->text()},
                  m_inForce.DateOrder);
-    Cancelled = false;
     hide();
 }
 
@@ -178,11 +176,8 @@ void frm_OMKOptions::cmdOK_Click()
 void frm_OMKOptions::cmdCancel_Click()
 {
     g.options = m_inForce;
-    Cancelled = true;
     hide();
 }
-
-void frm_OMKOptions::cmdApply_Click() { Cancelled = false; } // stores nothing; the dialog stays
 
 bool frm_OMKOptions::CheckUserFieldNames()
 {

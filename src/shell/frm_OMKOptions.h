@@ -47,7 +47,6 @@ private:
     void opt_UseSaltFile_Click();
     void cmdOK_Click();
     void cmdCancel_Click();
-    void cmdApply_Click();
 
     void fillLists();
     void showGeneral(const OptionsMembers &options);
@@ -58,5 +57,4 @@ private:
     std::array<QCheckBox *, measurementCount> m_checks;
     Recordset m_config;       ///< the row of CONFIG, kept from the loading until OK changes it
     OptionsMembers m_inForce; ///< what the dialog was opened on
-    bool Cancelled = true;
 };
