@@ -23,17 +23,17 @@ namespace {
 /// second, or its texts get a number.
 struct Key
 {
-    const char *table, *one, *several; ///< words for its rows
-    const char *date, *time;           ///< null: none
-    std::vector<const char *> texts;   ///< each unique by itself where there is no date
+    const char *table;
+    const char *date, *time;         ///< null: none
+    std::vector<const char *> texts; ///< each unique by itself where there is no date
 };
 
 const std::vector<Key> keys{
-    {"TANKLST", "tank", "tanks", nullptr, nullptr, {"tankname", "tankid"}},
-    {"WATERLOG", "water test", "water tests", "logdate", "logtime", {"tankname"}},
-    {"LIVESTOCK", "livestock entry", "livestock entries", "dateadded", "timeadded", {"tankname", "animalname"}},
-    {"MAINTLOG", "maintenance entry", "maintenance entries", "maintlogdate", "maintlogtime", {"mainttankname"}},
-    {"MAINTSCHED", "reminder", "reminders", nullptr, nullptr, {"SchedTask"}},
+    {"TANKLST", nullptr, nullptr, {"tankname", "tankid"}},
+    {"WATERLOG", "logdate", "logtime", {"tankname"}},
+    {"LIVESTOCK", "dateadded", "timeadded", {"tankname", "animalname"}},
+    {"MAINTLOG", "maintlogdate", "maintlogtime", {"mainttankname"}},
+    {"MAINTSCHED", nullptr, nullptr, {"SchedTask"}},
 };
 
 const Key *keyOf(const QString &table)
@@ -226,11 +226,11 @@ void Copy::copyRows(Target &target)
         m_outcome.changed << (again.size() == 1
                                   ? QStringLiteral("1 %1 had the date and time of another; it was moved to the next "
                                                    "free second.")
-                                        .arg(QLatin1String(key->one))
+                                        .arg(WordsForRows(target.name, 1))
                                   : QStringLiteral("%1 %2 had the date and time of others; each was moved to the next "
                                                    "free second.")
                                         .arg(again.size())
-                                        .arg(QLatin1String(key->several)));
+                                        .arg(WordsForRows(target.name, 2)));
     m_outcome.counts.push_back({target.name, rows});
     tellUnread(target, lost, rows);
 }
@@ -300,7 +300,7 @@ void Copy::insertNumbered(const Target &target, const Key &key, Row row)
             value = QStringLiteral("%1 (%2)").arg(text).arg(number);
         if (value.text() != text)
             m_outcome.changed << QStringLiteral("Two %1 had the same %2, \"%3\"; the later one has \"%4\" now.")
-                                     .arg(QLatin1String(key.several), QLatin1String(name), text, value.text());
+                                     .arg(WordsForRows(target.name, 2), QLatin1String(name), text, value.text());
     }
     insert(target, row);
 }

@@ -34,6 +34,14 @@ QStringList textsOf(const QJsonValue &array)
 
 } // namespace
 
+QString WordsForRows(const QString &table, qint64 rows)
+{
+    for (const OldRowWords &words : oldRowWords)
+        if (table == QLatin1String(words.table))
+            return QLatin1String(rows == 1 ? words.one : words.several);
+    return table;
+}
+
 QByteArray WriteOldLine(const OldLine &line)
 {
     const QJsonObject object = std::visit([](const auto &what) { return objectOf(what); }, line);

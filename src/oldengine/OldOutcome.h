@@ -18,6 +18,24 @@ struct OldProgress
     int percent = 0; ///< of all rows of the file
 };
 
+/// What a keeper calls the rows of a table.
+struct OldRowWords
+{
+    const char *table, *one, *several;
+};
+
+/// The tables with a keeper's rows, in the order in which they are listed for the keeper.
+inline constexpr OldRowWords oldRowWords[] = {
+    {"TANKLST", "tank", "tanks"},
+    {"WATERLOG", "water test", "water tests"},
+    {"LIVESTOCK", "livestock entry", "livestock entries"},
+    {"MAINTLOG", "maintenance entry", "maintenance entries"},
+    {"MAINTSCHED", "reminder", "reminders"},
+};
+
+/// The words for that many rows of a table; the table's name if it is not one of those.
+QString WordsForRows(const QString &table, qint64 rows);
+
 /// How many rows of a table came over.
 struct OldCount
 {

@@ -28,18 +28,6 @@ const QString boxTitle = QStringLiteral("Old Database");
 constexpr int pollMilliseconds = 50;
 constexpr int mostNotesInBox = 8;
 
-/// What a keeper calls the rows of a table, as the lists of the boxes name them.
-constexpr struct
-{
-    const char *table, *one, *several;
-} rowWords[] = {
-    {"TANKLST", "tank", "tanks"},
-    {"WATERLOG", "water test", "water tests"},
-    {"LIVESTOCK", "livestock entry", "livestock entries"},
-    {"MAINTLOG", "maintenance entry", "maintenance entries"},
-    {"MAINTSCHED", "reminder", "reminders"},
-};
-
 /// The engine of today would play such a journal into the new file.
 void requireNoJournal(const QString &path)
 {
@@ -95,19 +83,13 @@ private:
             return;
         if (const auto *progress = std::get_if<OldProgress>(&*line)) {
             m_percent = progress->percent;
-            window.Show(QStringLiteral("Reading the old database: %1").arg(wordsFor(progress->table)), m_percent);
+            window.Show(QStringLiteral("Reading the old database: %1").arg(WordsForRows(progress->table, 2)),
+                        m_percent);
         } else if (const auto *failure = std::get_if<RuntimeFailure>(&*line)) {
             m_failure = *failure;
         } else {
             m_outcome = std::get<OldOutcome>(*line);
         }
-    }
-    static QString wordsFor(const QString &table)
-    {
-        for (const auto &row : rowWords)
-            if (table == QLatin1String(row.table))
-                return QLatin1String(row.several);
-        return table;
     }
 
     QString m_from, m_draft;
@@ -166,11 +148,11 @@ QString exchange(Draft &draft, const QString &path)
 void tellOutcome(const OldOutcome &outcome, const QString &kept)
 {
     QString counts;
-    for (const auto &row : rowWords)
+    for (const OldRowWords &words : oldRowWords)
         for (const OldCount &count : outcome.counts)
-            if (count.table == QLatin1String(row.table))
+            if (count.table == QLatin1String(words.table))
                 counts += QStringLiteral("\n%1 %2").arg(QLocale(QLocale::English).toString(count.rows),
-                                                        QLatin1String(count.rows == 1 ? row.one : row.several));
+                                                        WordsForRows(count.table, count.rows));
     QStringList notes = outcome.changed;
     for (const QString &line : outcome.unread)
         notes << QStringLiteral("Could not be read: %1").arg(line);
