@@ -4,7 +4,6 @@
 #pragma once
 
 #include <array>
-#include <string_view>
 
 #include <QString>
 
@@ -24,7 +23,7 @@ enum class Measurement {
     User2
 };
 
-/// What a new test starts with. The up-down stands at `position`, whatever the text says.
+/// The value of a new test: the position of the up-down, and the text of the box.
 struct StartValue
 {
     int position;
@@ -34,7 +33,7 @@ struct StartValue
 /// The box of a measurement in the entry window, with its up-down.
 struct MeasurementEntry
 {
-    const char *label;     ///< caption; empty where it is the user's name for the measurement
+    const char *label;     ///< caption; the user's own name replaces it when the window opens
     const char *labelName; ///< object name of the label; empty where no window asks for it
     const char *box;       ///< object names of the box and of its up-down
     const char *upDown;
@@ -44,7 +43,7 @@ struct MeasurementEntry
     const char *rowPicture;    ///< applied when a stored value is loaded
     const char *upDownPicture; ///< applied when the up-down moves; null for the plain number
     double limit;              ///< the greatest value that is accepted
-    const char *name;          ///< in the messages; null where it is the user's name
+    const char *name;          ///< in the messages; null if it is the user's name
     const char *tooLarge;      ///< follows the name in the message for a value beyond the limit
     StartValue salt, fresh;    ///< by the keeper's default water type
 };
@@ -56,23 +55,23 @@ struct MeasurementInList
     const char *heading;
     const char *picture; ///< null for the plain number
     int width;           ///< pixels at first
-    Measurement shown;   ///< whose value stands in this column
+    Measurement shown;   ///< the measurement whose value the column shows
 };
 
 /// The column of the printed log.
 struct MeasurementInReport
 {
     const char *head;
-    int span; ///< width, where a plain column has 1
+    int span; ///< width; most columns have 1
 };
 
 /// The series of the graph, and the check box that includes it.
 struct MeasurementInGraph
 {
-    const char *label; ///< null where it is the user's name, as the next
-    const char *checkCaption;
-    const char *check; ///< object name
-    bool atFirst;      ///< drawn until the keeper chooses
+    const char *label;        ///< null if it is the user's name
+    const char *checkCaption; ///< likewise
+    const char *check;        ///< object name
+    bool atFirst;             ///< drawn by default
 };
 
 struct MeasurementRow
@@ -97,14 +96,14 @@ extern const MeasurementOrder listOrder;
 
 inline const MeasurementRow &RowOf(Measurement measurement) { return measurements[std::size_t(measurement)]; }
 
-/// The user's names for the measurements that are his to name.
+/// The names that the user has given to the two measurements of his own.
 struct UserFieldNames
 {
     QString first, second;
 };
 
-/// `fixed`, or the user's name where the measurement is the user's.
+/// The user's name for a measurement of his own; `fixed` for all others.
 QString NameOf(const MeasurementRow &row, const char *fixed, const UserFieldNames &names);
 
-/// One character a measurement, in listOrder: "1" where it is drawn until the keeper chooses.
+/// One character per measurement, in listOrder: "1" if the graph draws it by default.
 QString GraphChecksAtFirst();
