@@ -11,12 +11,12 @@
 #include <QTest>
 #include <QTimer>
 
-#include "advisers/frm_Compat.h"
-#include "advisers/frm_FantAddAnimal.h"
-#include "advisers/frm_Fantasy.h"
 #include "Desk.h"
 #include "OwnProcess.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "windows/advisers/frm_Compat.h"
+#include "windows/advisers/frm_FantAddAnimal.h"
+#include "windows/advisers/frm_Fantasy.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <map>
 #include <vector>
 
-#include "reminders/Occurrences.h"
-#include "reminders/RecurrenceRule.h"
+#include "logic/reminders/Occurrences.h"
+#include "logic/reminders/RecurrenceRule.h"
 
 class Database;
 

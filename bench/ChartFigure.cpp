@@ -10,10 +10,10 @@
 #include <sqlite3.h>
 
 #include "Desk.h"
-#include "graph/frm_WaterGraph.h"
 #include "OwnProcess.h"
 #include "platform/chart/Chart.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "logbook/frm_Waterlog.h"
-#include "platform/ListView.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "platform/controls/ListView.h"
+#include "windows/logbook/frm_Waterlog.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 PaintWatch::PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
 

@@ -7,8 +7,8 @@
 #include <QObject>
 #include <QString>
 
-#include "platform/DesktopDoors.h"
-#include "shell/Forms.h"
+#include "platform/desktop/DesktopDoors.h"
+#include "windows/shell/Forms.h"
 
 class frm_Waterlog;
 class ListView;

@@ -13,10 +13,10 @@
 #include <QListView>
 
 #include "Desk.h"
-#include "logbook/frm_LivesAddEdit.h"
 #include "OwnProcess.h"
-#include "platform/ListView.h"
-#include "reference/frm_LatintoCommon.h"
+#include "platform/controls/ListView.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/reference/frm_LatintoCommon.h"
 
 namespace {
 

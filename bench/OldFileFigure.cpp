@@ -7,7 +7,7 @@
 
 #include "BigOldFile.h"
 #include "OwnProcess.h"
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 
 namespace {
 

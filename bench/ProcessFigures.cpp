@@ -5,8 +5,8 @@
 #include <QCoreApplication>
 #include <QProcess>
 
-#include "logbook/LogKinds.h"
 #include "OwnProcess.h"
+#include "windows/logbook/LogKinds.h"
 
 namespace {
 

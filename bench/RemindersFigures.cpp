@@ -9,10 +9,10 @@
 #include "BareReminders.h"
 #include "Desk.h"
 #include "OwnProcess.h"
-#include "platform/ListView.h"
-#include "reminders/frm_Schedule.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "platform/controls/ListView.h"
 #include "store/NewDatabase.h"
+#include "windows/reminders/frm_Schedule.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 

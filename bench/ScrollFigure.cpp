@@ -10,9 +10,9 @@
 #include <QTest>
 
 #include "Desk.h"
-#include "logbook/LogKinds.h"
 #include "OwnProcess.h"
-#include "platform/ListView.h"
+#include "platform/controls/ListView.h"
+#include "windows/logbook/LogKinds.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 
 #include "Desk.h"
 #include "OwnProcess.h"
-#include "platform/ListView.h"
+#include "platform/controls/ListView.h"
 
 namespace {
 

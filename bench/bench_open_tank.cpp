@@ -2,8 +2,8 @@
 // painted list.
 #include "Desk.h"
 #include "OwnProcess.h"
-#include "platform/Application.h"
-#include "platform/ListView.h"
+#include "platform/controls/ListView.h"
+#include "platform/desktop/Application.h"
 
 int main(int argc, char **argv)
 {

@@ -3,12 +3,12 @@
 #include <fstream>
 #include <string>
 
-#include "logbook/LogReports.h"
+#include "logic/logbook/LogReports.h"
 #include "OwnProcess.h"
-#include "platform/Application.h"
-#include "platform/DesktopDoors.h"
-#include "platform/PaintedPages.h"
-#include "platform/Printer.h"
+#include "platform/core/Printer.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/DesktopDoors.h"
+#include "platform/desktop/PaintedPages.h"
 #include "SampleData.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"

@@ -5,11 +5,11 @@
 #include <QDir>
 
 #include "FirstPaint.h"
-#include "platform/Application.h"
-#include "platform/DesktopDoors.h"
-#include "platform/Guarded.h"
-#include "shell/Forms.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "platform/controls/Guarded.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/DesktopDoors.h"
+#include "windows/shell/Forms.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 int main(int argc, char **argv)
 {

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 
 #include "Desk.h"
-#include "platform/Application.h"
+#include "platform/desktop/Application.h"
 #include "SampleData.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"

@@ -13,12 +13,24 @@ if(OMK_FUZZ) # the instrumentation that guides the fuzzer; a fuzz target links t
     target_compile_options(omk_options INTERFACE -fsanitize=fuzzer-no-link,float-cast-overflow -fno-sanitize-recover=float-cast-overflow)
 endif()
 
-# omk_library(NAME SOURCES ... LINK ...): builds one layer as a static library. It may include only what it links.
+# omk_library(NAME SOURCES ... LINK ...): builds a static library.
 function(omk_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE omk_options)
+endfunction()
+
+# omk_layer(NAME SOURCES ... LINK ...): builds the layer that is in the current folder. Its headers are included by their path below
+# src/, for example "text/Dates.h". Each layer has an include folder of its own with only a link to its sources, so that a file finds
+# the headers of the layers that it links and no others.
+function(omk_layer name)
+    omk_library(${name} ${ARGN})
+    file(RELATIVE_PATH layer ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+    set(root ${PROJECT_BINARY_DIR}/include/${name})
+    cmake_path(GET layer PARENT_PATH above)
+    file(MAKE_DIRECTORY ${root}/${above})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${layer} SYMBOLIC)
+    target_include_directories(${name} PUBLIC ${root})
 endfunction()
 
 # omk_program(NAME SOURCES ... LINK ...): builds a program.

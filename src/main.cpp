@@ -1,14 +1,14 @@
 #include <cstdio>
 
-#include "oldengine/OpenOldFile.h"
-#include "platform/Application.h"
-#include "platform/DesktopDoors.h"
-#include "platform/Files.h"
-#include "platform/Guarded.h"
-#include "shell/CommandLine.h"
-#include "shell/Forms.h"
-#include "shell/frm_OMKMDIMain.h"
-#include "shell/KeepersFolder.h"
+#include "logic/shell/CommandLine.h"
+#include "logic/shell/KeepersFolder.h"
+#include "platform/controls/Guarded.h"
+#include "platform/core/Files.h"
+#include "platform/desktop/Application.h"
+#include "platform/desktop/DesktopDoors.h"
+#include "upgrade/OpenOldFile.h"
+#include "windows/shell/Forms.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 int main(int argc, char **argv)
 {

@@ -3,7 +3,7 @@
 
 #include <QCoreApplication>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/NewDatabase.h"
 
 int main(int argc, char **argv)

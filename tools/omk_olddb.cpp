@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 
 #include "OldDatabase.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 
 int main(int argc, char **argv)
 {

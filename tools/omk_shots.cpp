@@ -7,12 +7,12 @@
 #include <QPalette>
 #include <QTemporaryDir>
 
-#include "logbook/frm_Waterlog.h"
-#include "platform/Application.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "platform/desktop/Application.h"
 #include "shots/Album.h"
 #include "shots/Plays.h"
 #include "store/NewDatabase.h"
+#include "windows/logbook/frm_Waterlog.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <QtEndian>
 
 #include "oldengine/OldFile.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 
 namespace {
 

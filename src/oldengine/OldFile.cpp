@@ -9,7 +9,7 @@
 #include <QFile>
 #include <QtEndian>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 
 namespace {
 

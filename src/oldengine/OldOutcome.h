@@ -10,7 +10,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 
 struct OldProgress
 {

@@ -12,8 +12,8 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "platform/Files.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/core/Files.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Connection.h"
 #include "store/DatabaseFile.h"
 #include "store/Draft.h"

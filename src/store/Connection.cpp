@@ -3,7 +3,7 @@
 #include <QFile>
 #include <sqlite3.h>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Collation.h"
 #include "store/Iso.h"
 

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"
 

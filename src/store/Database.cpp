@@ -6,8 +6,8 @@
 #include <QFileInfo>
 #include <sqlite3.h>
 
-#include "platform/Files.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/core/Files.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Connection.h"
 #include "store/DatabaseFile.h"
 #include "store/RecordsetState.h"

@@ -10,7 +10,7 @@
 #include <QtEndian>
 #include <sqlite3.h>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Connection.h"
 #include "store/schema.h"
 

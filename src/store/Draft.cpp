@@ -10,7 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "store/NewDatabase.h"
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 
 #include <QFileInfo>
 

@@ -4,7 +4,7 @@
 
 #include <sqlite3.h>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Conversion.h"
 #include "store/RecordsetState.h"
 

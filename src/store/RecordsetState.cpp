@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 
 namespace {
 

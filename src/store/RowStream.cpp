@@ -1,6 +1,6 @@
 #include "store/RowStream.h"
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Connection.h"
 
 RowStream::RowStream(std::shared_ptr<Connection> connection, const QString &sql, const std::vector<Value> &parameters) :

@@ -5,7 +5,7 @@
 
 #include <sqlite3.h>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Connection.h"
 #include "store/Iso.h"
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Iso.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"

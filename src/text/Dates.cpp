@@ -5,7 +5,7 @@
 
 #include <QStringView>
 
-#include "platform/Doors.h"
+#include "platform/core/Doors.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 // A few journeys with a real mouse and keyboard, on a real X server under a window manager.
 #include <QMdiArea>
 
-#include "graph/frm_WaterGraph.h"
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "platform/DesktopDoors.h"
+#include "platform/desktop/DesktopDoors.h"
 #include "RealHands.h"
-#include "tanks/frm_TankMaint.h"
 #include "windows/Desk.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/tanks/frm_TankMaint.h"
 
 /// The script of the tests, but for message boxes, which are the desktop's.
 class RealBoxes : public ScriptedDoors

@@ -5,21 +5,21 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-#include "common/frm_Caltool.h"
-#include "graph/frm_WaterGraph.h"
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_LivesMove.h"
-#include "logbook/frm_MaintAddEdit.h"
-#include "logbook/frm_OMKLogPrint.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "platform/Guarded.h"
-#include "reminders/frm_Maintsched.h"
-#include "reminders/frm_SchedNewAddEdit.h"
-#include "shell/frm_OMKOptions.h"
+#include "platform/controls/Guarded.h"
 #include "store/StoreFixture.h"
-#include "tanks/frm_TankAddNew.h"
-#include "tanks/frm_TankMaint.h"
+#include "windows/common/frm_Caltool.h"
 #include "windows/Desk.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_LivesMove.h"
+#include "windows/logbook/frm_MaintAddEdit.h"
+#include "windows/logbook/frm_OMKLogPrint.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/reminders/frm_Maintsched.h"
+#include "windows/reminders/frm_SchedNewAddEdit.h"
+#include "windows/shell/frm_OMKOptions.h"
+#include "windows/tanks/frm_TankAddNew.h"
+#include "windows/tanks/frm_TankMaint.h"
 
 namespace {
 

@@ -5,13 +5,13 @@
 #include <map>
 #include <random>
 
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_LivesMove.h"
-#include "logbook/frm_MaintAddEdit.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "platform/Guarded.h"
-#include "platform/MaskedBox.h"
+#include "platform/controls/Guarded.h"
+#include "platform/controls/MaskedBox.h"
 #include "windows/Hands.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_LivesMove.h"
+#include "windows/logbook/frm_MaintAddEdit.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
 
 /// The expected entries: "kind|tank|moment" with the number in the entry, and "T|tank|" with 0 for each tank. The kinds
 /// are W, L and M, in the order of the tabs of the logbook.

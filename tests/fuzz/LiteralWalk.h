@@ -7,7 +7,7 @@
 
 #include <QRegularExpression>
 
-#include "reminders/RecurrenceRule.h"
+#include "logic/reminders/RecurrenceRule.h"
 #include "text/Dates.h"
 
 struct Walked

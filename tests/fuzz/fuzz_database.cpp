@@ -3,9 +3,9 @@
 #include <QFileInfo>
 
 #include "Fuzzing.h"
+#include "logic/reminders/RecurrenceRule.h"
 #include "OldDatabase.h"
-#include "platform/RuntimeFailure.h"
-#include "reminders/RecurrenceRule.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Database.h"
 #include "store/schema.h"
 #include "store/Upgrade.h"

@@ -1,6 +1,6 @@
 // Fuzzes the reading of name files with any bytes.
-#include "common/NameFile.h"
 #include "Fuzzing.h"
+#include "logic/common/NameFile.h"
 
 namespace {
 

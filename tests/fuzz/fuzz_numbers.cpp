@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 
 #include "Fuzzing.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Conversion.h"
 #include "text/Numbers.h"
 

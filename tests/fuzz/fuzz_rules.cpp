@@ -4,9 +4,9 @@
 
 #include "Fuzzing.h"
 #include "LiteralWalk.h"
-#include "platform/RuntimeFailure.h"
-#include "reminders/Occurrences.h"
-#include "reminders/RuleFields.h"
+#include "logic/reminders/Occurrences.h"
+#include "logic/reminders/RuleFields.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"
 

@@ -1,7 +1,7 @@
 // Fuzzes the settings file with any bytes: it must be readable, every setting must be text, and what is written must be
 // read back.
 #include "Fuzzing.h"
-#include "platform/SettingsStore.h"
+#include "platform/core/SettingsStore.h"
 
 namespace {
 

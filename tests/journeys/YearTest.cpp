@@ -4,16 +4,16 @@
 // dates.
 #include <algorithm>
 
-#include "common/CalendarControls.h"
-#include "common/frm_Caltool.h"
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_LivesMove.h"
-#include "logbook/frm_MaintAddEdit.h"
-#include "logbook/frm_OMKLogPrint.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "shell/frm_OMKOptions.h"
 #include "text/Dates.h"
+#include "windows/common/CalendarControls.h"
+#include "windows/common/frm_Caltool.h"
 #include "windows/Desk.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_LivesMove.h"
+#include "windows/logbook/frm_MaintAddEdit.h"
+#include "windows/logbook/frm_OMKLogPrint.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/shell/frm_OMKOptions.h"
 
 /// What was done, as the keeper would tell it: the cells of a row after its date and time, without empty ones at its
 /// end: "Tang 4|3|Active".

@@ -5,13 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include "advisers/Compatibility.h"
-#include "advisers/Diagnoses.h"
-#include "advisers/DiagnosisLog.h"
-#include "advisers/DiagnosisSheet.h"
-#include "advisers/FantasyPlan.h"
-#include "advisers/QuestionTree.h"
-#include "platform/Printer.h"
+#include "logic/advisers/Compatibility.h"
+#include "logic/advisers/Diagnoses.h"
+#include "logic/advisers/DiagnosisLog.h"
+#include "logic/advisers/DiagnosisSheet.h"
+#include "logic/advisers/FantasyPlan.h"
+#include "logic/advisers/QuestionTree.h"
+#include "platform/core/Printer.h"
 #include "support/ScriptedDoors.h"
 
 namespace {

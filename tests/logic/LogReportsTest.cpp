@@ -1,6 +1,6 @@
 // Tests of the printed logs: what is printed where, and on which page.
-#include "logbook/LogReports.h"
-#include "platform/Printer.h"
+#include "logic/logbook/LogReports.h"
+#include "platform/core/Printer.h"
 #include "store/StoreFixture.h"
 
 /// Three tanks, and a printer whose pages are read back.

@@ -1,8 +1,8 @@
 // The verbs of a report: pages that feed themselves, cells that wrap. And its run: copies, chosen pages, the preview.
 #include <gtest/gtest.h>
 
-#include "platform/Printer.h"
-#include "platform/PrintJob.h"
+#include "platform/core/Printer.h"
+#include "platform/core/PrintJob.h"
 #include "support/ScriptedDoors.h"
 
 namespace {

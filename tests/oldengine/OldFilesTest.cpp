@@ -9,7 +9,7 @@
 
 #include "oldengine/OldOutcome.h"
 #include "OldFiles.h"
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 #include "store/schema.h"
 
 namespace {

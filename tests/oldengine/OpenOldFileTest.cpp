@@ -1,6 +1,6 @@
 // The start on a file of the old engine: what is in the folder afterwards, what was told, and that nothing is lost
 // where it fails or is killed.
-#include "oldengine/OpenOldFile.h"
+#include "upgrade/OpenOldFile.h"
 
 #include <QLabel>
 #include <QTimer>
@@ -8,9 +8,9 @@
 
 #include "KilledAtCall.h"
 #include "OldFiles.h"
-#include "store/frm_OMKupgrade.h"
-#include "store/UpgradeDatabase.h"
 #include "store/Version.h"
+#include "upgrade/frm_OMKupgrade.h"
+#include "upgrade/UpgradeDatabase.h"
 
 struct OpenOldFileTest : testing::Test
 {

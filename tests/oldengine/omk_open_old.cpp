@@ -1,9 +1,9 @@
 // omk_open_old FILE: the start's step on a file of the old engine, alone, to be killed by a test.
 #include <cstdlib>
 
-#include "oldengine/OpenOldFile.h"
-#include "platform/Application.h"
+#include "platform/desktop/Application.h"
 #include "support/ScriptedDoors.h"
+#include "upgrade/OpenOldFile.h"
 
 int main(int argc, char **argv)
 {

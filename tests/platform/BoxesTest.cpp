@@ -13,8 +13,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include "platform/MaskedBox.h"
-#include "platform/UpDown.h"
+#include "platform/controls/MaskedBox.h"
+#include "platform/controls/UpDown.h"
 #include "support/Mouse.h"
 #include "support/ScriptedDoors.h"
 

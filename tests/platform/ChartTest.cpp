@@ -5,7 +5,7 @@
 #include "platform/chart/Chart.h"
 #include "platform/chart/ChartLook.h"
 #include "platform/chart/ChartScale.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "support/Mouse.h"
 
 namespace {

@@ -12,7 +12,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "platform/LeavingChecks.h"
+#include "platform/controls/LeavingChecks.h"
 #include "support/Mouse.h"
 #include "support/ScriptedDoors.h"
 

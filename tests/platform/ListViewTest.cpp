@@ -4,7 +4,7 @@
 #include <QHeaderView>
 #include <QSignalSpy>
 
-#include "platform/ListView.h"
+#include "platform/controls/ListView.h"
 #include "support/Mouse.h"
 #include "support/ScriptedDoors.h"
 

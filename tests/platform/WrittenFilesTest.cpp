@@ -18,13 +18,13 @@
 #include <QTest>
 #include <QTimer>
 
-#include "platform/DesktopDoors.h"
-#include "platform/Doors.h"
+#include "platform/core/Doors.h"
+#include "platform/desktop/DesktopDoors.h"
 
-#include "platform/PaintedPages.h"
-#include "platform/Paper.h"
-#include "platform/RuntimeFailure.h"
-#include "platform/SettingsStore.h"
+#include "platform/core/RuntimeFailure.h"
+#include "platform/core/SettingsStore.h"
+#include "platform/desktop/PaintedPages.h"
+#include "platform/desktop/Paper.h"
 #include "support/TestFiles.h"
 
 struct WrittenFiles : testing::Test

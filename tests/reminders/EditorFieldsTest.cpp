@@ -2,7 +2,7 @@
 // of the preview, and a rule that is opened and stored again.
 #include <gtest/gtest.h>
 
-#include "reminders/RuleFields.h"
+#include "logic/reminders/RuleFields.h"
 #include "support/ScriptedDoors.h"
 #include "text/Dates.h"
 

@@ -4,8 +4,8 @@
 
 #include <QMap>
 
-#include "reminders/Occurrences.h"
-#include "reminders/RecurrenceRule.h"
+#include "logic/reminders/Occurrences.h"
+#include "logic/reminders/RecurrenceRule.h"
 #include "store/StoreFixture.h"
 #include "text/Dates.h"
 

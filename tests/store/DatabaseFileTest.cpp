@@ -1,7 +1,7 @@
 // Tests which files are opened and which are refused, and that a refusal changes no file.
 #include <sys/stat.h>
 
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 #include "StoreFixture.h"
 
 struct DatabaseFileTest : StoreTest

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"
 #include "support/ScriptedDoors.h"

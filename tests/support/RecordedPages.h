@@ -6,7 +6,7 @@
 
 #include <QRectF>
 
-#include "platform/Pages.h"
+#include "platform/core/Pages.h"
 
 struct PrintedText
 {

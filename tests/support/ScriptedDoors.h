@@ -11,9 +11,9 @@
 
 #include <QTemporaryDir>
 
-#include "platform/Doors.h"
-#include "platform/RuntimeFailure.h"
-#include "platform/SettingsStore.h"
+#include "platform/core/Doors.h"
+#include "platform/core/RuntimeFailure.h"
+#include "platform/core/SettingsStore.h"
 #include "support/RecordedPages.h"
 
 inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }

@@ -6,7 +6,7 @@
 
 #include <QTemporaryDir>
 
-#include "platform/Application.h"
+#include "platform/desktop/Application.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The backup as a keeper makes it from the File menu, with the logbook open.
 #include "Desk.h"
-#include "logbook/frm_WaterAddEdit.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
 
 class Backup : public Desk
 {

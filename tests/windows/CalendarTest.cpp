@@ -1,9 +1,9 @@
-#include "common/CalendarControls.h"
-#include "common/DateBoxes.h"
-#include "common/frm_Caltool.h"
 #include "Keeper.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "platform/MaskedBox.h"
+#include "platform/controls/MaskedBox.h"
+#include "windows/common/CalendarControls.h"
+#include "windows/common/DateBoxes.h"
+#include "windows/common/frm_Caltool.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "Hands.h"
-#include "logbook/LogTab.h"
-#include "platform/MaskedBox.h"
+#include "logic/logbook/LogTab.h"
+#include "platform/controls/MaskedBox.h"
 
 class Desk : public ::testing::Test
 {

@@ -1,8 +1,8 @@
-#include "advisers/Diagnoses.h"
-#include "advisers/frm_DiagDiagnosis.h"
-#include "advisers/frm_DiagnosisQA.h"
-#include "advisers/QuestionTree.h"
 #include "Desk.h"
+#include "logic/advisers/Diagnoses.h"
+#include "logic/advisers/QuestionTree.h"
+#include "windows/advisers/frm_DiagDiagnosis.h"
+#include "windows/advisers/frm_DiagnosisQA.h"
 
 /// The wizard over the open logbook, gone through page by page.
 class Wizard : public Desk

@@ -2,9 +2,9 @@
 #include <ranges>
 
 #include "Desk.h"
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_MaintAddEdit.h"
-#include "logbook/frm_WaterAddEdit.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_MaintAddEdit.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
 
 using Action = std::function<void(QWidget &)>;
 

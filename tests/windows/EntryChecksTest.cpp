@@ -1,9 +1,9 @@
 // What each of the entry windows does in its own way.
 #include "Desk.h"
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_MaintAddEdit.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "platform/UpDown.h"
+#include "platform/controls/UpDown.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_MaintAddEdit.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
 
 const QString oops = "1|Oops!/48/";
 

@@ -1,8 +1,8 @@
 #include "Desk.h"
-#include "graph/frm_WaterGraph.h"
 #include "platform/chart/Chart.h"
-#include "shell/frm_OMKOptions.h"
-#include "tanks/frm_TankAddNew.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/shell/frm_OMKOptions.h"
+#include "windows/tanks/frm_TankAddNew.h"
 
 /// The tank "Reef" is in hand in the logbook.
 class Graph : public Desk

@@ -2,11 +2,11 @@
 // shown.
 #pragma once
 
-#include "logbook/frm_Waterlog.h"
-#include "platform/ListView.h"
-#include "shell/MenuEntry.h"
+#include "platform/controls/ListView.h"
 #include "support/Mouse.h"
 #include "windows/Keeper.h"
+#include "windows/logbook/frm_Waterlog.h"
+#include "windows/shell/MenuEntry.h"
 
 namespace hand {
 

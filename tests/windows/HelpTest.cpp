@@ -1,6 +1,6 @@
 #include "Desk.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "platform/HelpViewer.h"
+#include "platform/desktop/HelpViewer.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
 
 namespace {
 

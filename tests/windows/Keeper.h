@@ -12,12 +12,12 @@
 #include <QTest>
 #include <QtWidgets>
 
-#include "shell/Forms.h"
-#include "shell/frm_OMKMDIMain.h"
-#include "shell/frm_OMKtod.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"
 #include "support/ScriptedDoors.h"
+#include "windows/shell/Forms.h"
+#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/frm_OMKtod.h"
 
 /// Waits until a window itself is in front, and no dialog of it that is just going.
 inline bool isInFront(const QWidget &window)

@@ -1,5 +1,5 @@
 #include "Desk.h"
-#include "logbook/frm_OMKLogPrint.h"
+#include "windows/logbook/frm_OMKLogPrint.h"
 
 /// "Reef" and "Bowl" have an entry in each log.
 class LogPrint : public Desk

@@ -1,6 +1,6 @@
 #include "Desk.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "tanks/frm_TankAddNew.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/tanks/frm_TankAddNew.h"
 
 /// "Reef" has three water tests, a fish and a task.
 class Logbook : public Desk

@@ -1,11 +1,11 @@
-#include "advisers/frm_DiagDiagnosis.h"
 #include "Desk.h"
-#include "graph/frm_WaterGraph.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "reference/frm_Conversions.h"
-#include "reminders/frm_Schedule.h"
 #include "support/TestFiles.h"
-#include "tanks/frm_TankMaint.h"
+#include "windows/advisers/frm_DiagDiagnosis.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/reference/frm_Conversions.h"
+#include "windows/reminders/frm_Schedule.h"
+#include "windows/tanks/frm_TankMaint.h"
 
 /// A child of the main window that is not the logbook.
 class OtherChild : public ChildForm

@@ -1,11 +1,11 @@
 // Each measurement on its way through the program: typed in the entry window, read in the list, printed, drawn, chosen
 // in the options. The expected texts stand here once more, so that two exchanged columns or a wrong limit show.
 #include "Desk.h"
-#include "graph/frm_WaterGraph.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "logbook/LogReports.h"
+#include "logic/logbook/LogReports.h"
 #include "platform/chart/Chart.h"
-#include "shell/frm_OMKOptions.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/shell/frm_OMKOptions.h"
 
 namespace {
 

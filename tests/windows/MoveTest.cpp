@@ -1,5 +1,5 @@
 #include "Desk.h"
-#include "logbook/frm_LivesMove.h"
+#include "windows/logbook/frm_LivesMove.h"
 
 /// "Reef" has a tang of April and a crab of May.
 class Move : public Desk

@@ -1,6 +1,6 @@
 #include "Hands.h"
-#include "platform/SettingsStore.h"
-#include "shell/frm_OMKOptions.h"
+#include "platform/core/SettingsStore.h"
+#include "windows/shell/frm_OMKOptions.h"
 
 constexpr const char *optionKeys[] = {"Graph_Checks", "Graph_Style", "Graph_SkipZeroes", "GraphPrintColor",
                                       "Date_Order",   "Date_Delim",  "UseFile_Fresh",    "UseFile_Salt"};

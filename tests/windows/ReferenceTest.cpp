@@ -1,9 +1,9 @@
 // The reference tools: names of animals and the conversion calculator.
 #include "Desk.h"
-#include "reference/Conversions.h"
-#include "reference/frm_Conversions.h"
-#include "reference/frm_LatintoCommon.h"
+#include "logic/reference/Conversions.h"
 #include "support/TestFiles.h"
+#include "windows/reference/frm_Conversions.h"
+#include "windows/reference/frm_LatintoCommon.h"
 
 class Reference : public Desk
 {

@@ -1,11 +1,11 @@
 // Reminders through their windows: composed, listed, scheduled, printed, changed and deleted by hand, and what the
 // toolbar says meanwhile. Today is Saturday, 14 March 2026.
-#include "common/frm_Caltool.h"
 #include "Desk.h"
-#include "reminders/frm_Maintsched.h"
-#include "reminders/frm_SchedNewAddEdit.h"
-#include "reminders/frm_Schedule.h"
-#include "shell/frm_OMKOptions.h"
+#include "windows/common/frm_Caltool.h"
+#include "windows/reminders/frm_Maintsched.h"
+#include "windows/reminders/frm_SchedNewAddEdit.h"
+#include "windows/reminders/frm_Schedule.h"
+#include "windows/shell/frm_OMKOptions.h"
 
 class Reminders : public Desk
 {

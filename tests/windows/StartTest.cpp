@@ -1,5 +1,5 @@
 #include "Keeper.h"
-#include "shell/KeepersFolder.h"
+#include "logic/shell/KeepersFolder.h"
 #include "support/TestFiles.h"
 
 namespace {

@@ -2,13 +2,13 @@
 // in hand and the main window is activated. Every command goes on with the tank that it began with, which is the one
 // that the logbook shows.
 #include "Desk.h"
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_LivesMove.h"
-#include "logbook/frm_MaintAddEdit.h"
-#include "logbook/frm_OMKLogPrint.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "tanks/frm_TankAddNew.h"
-#include "tanks/frm_TankMaint.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_LivesMove.h"
+#include "windows/logbook/frm_MaintAddEdit.h"
+#include "windows/logbook/frm_OMKLogPrint.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/tanks/frm_TankAddNew.h"
+#include "windows/tanks/frm_TankMaint.h"
 
 /// "Reef" and "Bowl" have an entry in each log, at the same moment. The logbook shows the livestock of "Reef".
 class StepsIn : public Desk

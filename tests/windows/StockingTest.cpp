@@ -1,8 +1,8 @@
-#include "advisers/frm_Compat.h"
-#include "advisers/frm_FantAddAnimal.h"
-#include "advisers/frm_Fantasy.h"
-#include "advisers/StockingBar.h"
 #include "Desk.h"
+#include "windows/advisers/frm_Compat.h"
+#include "windows/advisers/frm_FantAddAnimal.h"
+#include "windows/advisers/frm_Fantasy.h"
+#include "windows/advisers/StockingBar.h"
 
 /// The stocking adviser, opened by its shortcut.
 class Stocking : public Desk

@@ -1,6 +1,6 @@
 #include "Desk.h"
-#include "tanks/frm_TankAddNew.h"
-#include "tanks/frm_TankMaint.h"
+#include "windows/tanks/frm_TankAddNew.h"
+#include "windows/tanks/frm_TankMaint.h"
 
 /// The dialog of a tank, without a main window.
 class Tanks : public ::testing::Test

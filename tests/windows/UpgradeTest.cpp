@@ -1,8 +1,8 @@
 // The start on a database of an earlier version: the window of the upgrade before every other, its bar, its boxes.
 #include "Keeper.h"
 #include "OldDatabase.h"
-#include "platform/RuntimeFailure.h"
-#include "store/frm_OMKupgrade.h"
+#include "platform/core/RuntimeFailure.h"
+#include "upgrade/frm_OMKupgrade.h"
 
 TEST(Upgrade, EndsTheStartWhereItFailsAndElseRunsBeforeTheOtherWindowsAndTellsEachStep)
 {

@@ -12,8 +12,8 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "platform/DesktopDoors.h"
-#include "platform/SettingsStore.h"
+#include "platform/core/SettingsStore.h"
+#include "platform/desktop/DesktopDoors.h"
 
 class Album
 {

@@ -1,10 +1,10 @@
 #include <QRadioButton>
 
-#include "advisers/frm_DiagDiagnosis.h"
-#include "advisers/frm_DiagnosisQA.h"
-#include "shell/frm_OMKMDIMain.h"
 #include "shots/Album.h"
 #include "shots/Plays.h"
+#include "windows/advisers/frm_DiagDiagnosis.h"
+#include "windows/advisers/frm_DiagnosisQA.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 /// Goes from the disclaimer to a diagnosis, photographs each page before leaving it, and prints the sheet.
 void playDiagnosis(Album &album, frm_OMKMDIMain &main)

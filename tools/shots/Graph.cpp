@@ -2,12 +2,12 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include "graph/frm_WaterGraph.h"
 #include "platform/chart/Chart.h"
-#include "shell/frm_OMKMDIMain.h"
-#include "shell/frm_OMKOptions.h"
 #include "shots/Album.h"
 #include "shots/Plays.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/frm_OMKOptions.h"
 
 void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals)
 {

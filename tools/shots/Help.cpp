@@ -1,8 +1,8 @@
 #include <QDir>
 #include <QEventLoop>
 
-#include "platform/Files.h"
-#include "platform/HelpViewer.h"
+#include "platform/core/Files.h"
+#include "platform/desktop/HelpViewer.h"
 #include "shots/Album.h"
 #include "shots/Plays.h"
 

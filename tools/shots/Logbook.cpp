@@ -8,17 +8,17 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 
-#include "common/frm_Caltool.h"
-#include "logbook/frm_LivesAddEdit.h"
-#include "logbook/frm_LivesMove.h"
-#include "logbook/frm_MaintAddEdit.h"
-#include "logbook/frm_OMKLogPrint.h"
-#include "logbook/frm_WaterAddEdit.h"
-#include "logbook/frm_Waterlog.h"
-#include "logbook/LogTab.h"
-#include "platform/MaskedBox.h"
+#include "logic/logbook/LogTab.h"
+#include "platform/controls/MaskedBox.h"
 #include "SampleData.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "windows/common/frm_Caltool.h"
+#include "windows/logbook/frm_LivesAddEdit.h"
+#include "windows/logbook/frm_LivesMove.h"
+#include "windows/logbook/frm_MaintAddEdit.h"
+#include "windows/logbook/frm_OMKLogPrint.h"
+#include "windows/logbook/frm_WaterAddEdit.h"
+#include "windows/logbook/frm_Waterlog.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include <QFile>
 #include <QLineEdit>
 
-#include "reference/frm_Conversions.h"
-#include "reference/frm_LatintoCommon.h"
-#include "shell/frm_OMKMDIMain.h"
 #include "shots/Album.h"
 #include "shots/Plays.h"
+#include "windows/reference/frm_Conversions.h"
+#include "windows/reference/frm_LatintoCommon.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 void playReference(Album &album, frm_OMKMDIMain &main)
 {

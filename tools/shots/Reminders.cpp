@@ -1,10 +1,10 @@
 #include "shots/Album.h"
 #include "shots/Plays.h"
 
-#include "reminders/frm_Maintsched.h"
-#include "reminders/frm_SchedNewAddEdit.h"
-#include "reminders/frm_Schedule.h"
-#include "shell/frm_OMKMDIMain.h"
+#include "windows/reminders/frm_Maintsched.h"
+#include "windows/reminders/frm_SchedNewAddEdit.h"
+#include "windows/reminders/frm_Schedule.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 #include <QCheckBox>
 #include <QTabWidget>
 
-#include "shell/frm_OMKaboutbox.h"
-#include "shell/frm_OMKCredits.h"
-#include "shell/frm_OMKMDIMain.h"
-#include "shell/frm_OMKOptions.h"
-#include "shell/frm_OMKtod.h"
+#include "windows/shell/frm_OMKaboutbox.h"
+#include "windows/shell/frm_OMKCredits.h"
+#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/frm_OMKOptions.h"
+#include "windows/shell/frm_OMKtod.h"
 
 void playOptions(Album &album, frm_OMKMDIMain &main)
 {

@@ -3,12 +3,12 @@
 #include <QListWidget>
 #include <QRadioButton>
 
-#include "advisers/frm_Compat.h"
-#include "advisers/frm_FantAddAnimal.h"
-#include "advisers/frm_Fantasy.h"
-#include "shell/frm_OMKMDIMain.h"
 #include "shots/Album.h"
 #include "shots/Plays.h"
+#include "windows/advisers/frm_Compat.h"
+#include "windows/advisers/frm_FantAddAnimal.h"
+#include "windows/advisers/frm_Fantasy.h"
+#include "windows/shell/frm_OMKMDIMain.h"
 
 void playCompatibility(Album &album, frm_OMKMDIMain &main)
 {

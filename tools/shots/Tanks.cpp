@@ -3,8 +3,8 @@
 
 #include <QRadioButton>
 
-#include "tanks/frm_TankAddNew.h"
-#include "tanks/frm_TankMaint.h"
+#include "windows/tanks/frm_TankAddNew.h"
+#include "windows/tanks/frm_TankMaint.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include "shots/Album.h"
 #include "shots/Plays.h"
 #include "store/Database.h"
-#include "store/frm_OMKupgrade.h"
-#include "store/UpgradeDatabase.h"
 #include "store/Version.h"
+#include "upgrade/frm_OMKupgrade.h"
+#include "upgrade/UpgradeDatabase.h"
 
 /// Runs the upgrade of an old database and photographs it half way.
 void playUpgrade(Album &album, const QString &folder)

@@ -8,7 +8,7 @@
 #include <QToolTip>
 
 #include "platform/chart/ChartPlot.h"
-#include "platform/RuntimeFailure.h"
+#include "platform/core/RuntimeFailure.h"
 
 namespace {
 

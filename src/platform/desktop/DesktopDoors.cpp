@@ -1,0 +1,195 @@
+#include "platform/desktop/DesktopDoors.h"
+
+#include <map>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRandomGenerator>
+
+#include "platform/controls/Guarded.h"
+#include "platform/core/Files.h"
+#include "platform/core/RuntimeFailure.h"
+#include "platform/core/SettingsStore.h"
+#include "platform/desktop/HelpViewer.h"
+#include "platform/desktop/PaintedPages.h"
+#include "platform/desktop/Paper.h"
+
+namespace {
+
+/// Gives the activity back to the window that had it before a box came up; without a window manager nobody else does.
+/// Takes the hourglass away meanwhile: it is the program that waits.
+class ActivityKeeper
+{
+public:
+    ActivityKeeper() : m_window(QApplication::activeWindow()), m_waits(QApplication::overrideCursor() != nullptr)
+    {
+        if (m_waits)
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~ActivityKeeper()
+    {
+        if (m_waits)
+            QApplication::restoreOverrideCursor();
+        if (m_window && m_window->isVisible())
+            m_window->activateWindow();
+    }
+    /// Null where no window is on the screen: one that was just hidden may still be the active one.
+    QWidget *window() const { return m_window && m_window->isVisible() ? m_window.data() : nullptr; }
+
+private:
+    QPointer<QWidget> m_window;
+    const bool m_waits;
+};
+
+QMessageBox::Icon iconOf(int icon)
+{
+    switch (icon) {
+    case vbCritical: return QMessageBox::Critical;
+    case vbQuestion: return QMessageBox::Question;
+    case vbExclamation: return QMessageBox::Warning;
+    case vbInformation: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+struct BoxButton
+{
+    int of; ///< the sum's part that tells the buttons
+    QMessageBox::StandardButton standard;
+    const char *caption; ///< where it is none of the standard ones
+    QMessageBox::ButtonRole role;
+    MsgBoxAnswer answer;
+    bool leaves; ///< what Esc and the title bar do
+};
+
+constexpr BoxButton boxButtons[] = {
+    {vbOKOnly, QMessageBox::Ok, "", QMessageBox::AcceptRole, MsgBoxAnswer::OK, true},
+    {vbOKCancel, QMessageBox::Ok, "", QMessageBox::AcceptRole, MsgBoxAnswer::OK, false},
+    {vbOKCancel, QMessageBox::Cancel, "", QMessageBox::RejectRole, MsgBoxAnswer::Cancel, true},
+    {vbYesNoCancel, QMessageBox::Yes, "", QMessageBox::YesRole, MsgBoxAnswer::Yes, false},
+    {vbYesNoCancel, QMessageBox::No, "", QMessageBox::NoRole, MsgBoxAnswer::No, false},
+    {vbYesNoCancel, QMessageBox::Cancel, "", QMessageBox::RejectRole, MsgBoxAnswer::Cancel, true},
+    {vbYesNo, QMessageBox::Yes, "", QMessageBox::YesRole, MsgBoxAnswer::Yes, false},
+    {vbYesNo, QMessageBox::No, "", QMessageBox::NoRole, MsgBoxAnswer::No, true},
+    {omkSkipDelete, QMessageBox::NoButton, "&Skip", QMessageBox::RejectRole, MsgBoxAnswer::Skip, true},
+    {omkSkipDelete, QMessageBox::NoButton, "&Delete", QMessageBox::DestructiveRole, MsgBoxAnswer::Delete, false},
+};
+
+} // namespace
+
+DesktopDoors::DesktopDoors() : m_settings(std::make_unique<SettingsStore>(SettingsStore::userFileName())) {}
+DesktopDoors::~DesktopDoors() = default;
+
+MsgBoxAnswer DesktopDoors::msgBox(const MsgBoxRequest &request)
+{
+    const ActivityKeeper keeper;
+    QMessageBox box(keeper.window());
+    box.setIcon(iconOf(request.icon()));
+    box.setWindowTitle(request.title.isEmpty() ? QStringLiteral("Ostrelmark") : request.title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(request.text);
+    box.setDetailedText(request.details);
+    std::map<const QAbstractButton *, MsgBoxAnswer> meaning;
+    MsgBoxAnswer answerOfLeaving = MsgBoxAnswer::OK;
+    for (const BoxButton &row : boxButtons) {
+        if (row.of != request.buttons())
+            continue;
+        auto *button = row.standard != QMessageBox::NoButton ? box.addButton(row.standard)
+                                                             : box.addButton(QLatin1String(row.caption), row.role);
+        if (row.leaves) {
+            box.setEscapeButton(button);
+            answerOfLeaving = row.answer;
+        }
+        if (meaning.empty() || (meaning.size() == 1 && request.secondIsDefault()))
+            box.setDefaultButton(button); // the first stays it, or the second takes it over
+        meaning.emplace(button, row.answer);
+    }
+    box.exec();
+    const auto clicked = meaning.find(box.clickedButton());
+    return clicked == meaning.end() ? answerOfLeaving : clicked->second;
+}
+
+bool DesktopDoors::failureBox(const RuntimeFailure &failure, bool mayReturn)
+{
+    const ActivityKeeper keeper;
+    QMessageBox box(keeper.window());
+    box.setIcon(QMessageBox::Critical);
+    box.setWindowTitle(QStringLiteral("Ostrelmark"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QStringLiteral("Run-time error '%1':").arg(int(failure.number())));
+    box.setInformativeText(failure.description());
+    const QPushButton *end = box.addButton(QStringLiteral("&End"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(const_cast<QPushButton *>(end));
+    QPushButton *back = mayReturn ? box.addButton(QStringLiteral("&Return"), QMessageBox::RejectRole) : nullptr;
+    if (back)
+        box.setEscapeButton(back);
+    box.exec();
+    return !back || box.clickedButton() == end;
+}
+
+void DesktopDoors::beep() { QApplication::beep(); }
+
+std::optional<QString> DesktopDoors::saveDialog(const SaveDialogRequest &request)
+{
+    const ActivityKeeper keeper;
+    QFileDialog dialog(keeper.window(), request.title, {}, request.filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(request.defaultSuffix);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askOverwrite);
+    dialog.selectFile(request.fileName);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+std::optional<PrintDialogAnswer> DesktopDoors::printDialog(const PrintDialogRequest &request)
+{
+    return askWhere(request, PrinterFor(request));
+}
+
+std::optional<PrintDialogAnswer> DesktopDoors::askWhere(const PrintDialogRequest &request,
+                                                        const std::shared_ptr<QPrinter> &printer)
+{
+    if (HasPrinters()) {
+        const ActivityKeeper keeper;
+        return AskPrinter(keeper.window(), request, printer);
+    }
+    const auto name = saveDialog(AskForPdf(QStringLiteral("No printer is set up: save as PDF"), request.documentName));
+    return name ? std::optional(PrintDialogAnswer{1, 0, 0, {{}, *name}}) : std::nullopt;
+}
+
+std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
+{
+    if (target.pdfFileName.isEmpty())
+        return PagesOnPrinter(target.printer);
+    return PagesInPdf(target.pdfFileName, target.printer ? std::optional(target.printer->pageLayout()) : std::nullopt);
+}
+
+std::optional<PrintDialogAnswer> DesktopDoors::preview(const PreviewRequest &request)
+{
+    const ActivityKeeper keeper;
+    return ShowPreview(keeper.window(),
+                       {request.printing, guarded([&request](PageSink &pages) { request.print(pages); })},
+                       [&](const std::shared_ptr<QPrinter> &printer) { return askWhere(request.printing, printer); });
+}
+
+bool DesktopDoors::showHelp(const HelpRequest &request)
+{
+    const QString file = QDir(DataFolder()).absoluteFilePath(QStringLiteral("ostrelmark.qch"));
+    if (!QFileInfo(file).isFile())
+        return false;
+    if (!m_help)
+        m_help = std::make_unique<HelpViewer>(file);
+    m_help->open(request);
+    return true;
+}
+
+QDateTime DesktopDoors::now() { return QDateTime::currentDateTime(); }
+
+double DesktopDoors::random() { return QRandomGenerator::global()->generateDouble(); }

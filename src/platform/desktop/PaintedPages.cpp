@@ -1,0 +1,140 @@
+#include "platform/desktop/PaintedPages.h"
+
+#include <cerrno>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+#include "platform/core/RuntimeFailure.h"
+
+namespace {
+
+constexpr int pdfResolution = 600; // dots an inch
+
+QFont fontOf(const PageFont &font)
+{
+    QFont made(font.name);
+    made.setPointSizeF(font.size);
+    made.setBold(font.bold);
+    made.setItalic(font.italic);
+    made.setUnderline(font.underline);
+    return made;
+}
+
+QPageLayout usualLayout()
+{
+    const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageLayout(QPageSize(american ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
+                       QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
+}
+
+/// The failure for an error of a file. Qt keeps the system's message, but not its error number.
+Failure failureOf(const QFileDevice &file)
+{
+    if (!QFileInfo(file.fileName()).absoluteDir().exists())
+        return Failure::PathNotFound;
+    for (const int full : {ENOSPC, EDQUOT, EFBIG})
+        if (file.errorString() == qt_error_string(full))
+            return Failure::DiskFull;
+    return Failure::PermissionDenied;
+}
+
+class PdfPages : public PaintedPages
+{
+public:
+    PdfPages(const QString &fileName, const QPageLayout &layout) : m_file(fileName), m_writer(&m_file)
+    {
+        if (!m_file.open(QIODevice::WriteOnly))
+            throw failure();
+        m_writer.setPageLayout(layout);
+        m_writer.setResolution(pdfResolution);
+        m_writer.setCreator(QStringLiteral("Ostrelmark"));
+    }
+    ~PdfPages() override
+    {
+        if (m_painter.isActive())
+            m_painter.end(); // given up half-way: the file was not committed
+    }
+    void endDocument() override
+    {
+        PaintedPages::endDocument();
+        const bool isWritten = m_file.flush();
+        if (!isWritten)
+            m_file.flush(); // a write that was cut short gives no reason, the next one does
+        if (!isWritten || m_file.error() != QFileDevice::NoError || !m_file.commit())
+            throw failure();
+    }
+
+protected:
+    QPagedPaintDevice &device() const override { return const_cast<QPdfWriter &>(m_writer); }
+    void setTitle(const QString &title) override { m_writer.setTitle(title); }
+
+private:
+    RuntimeFailure failure() const
+    {
+        return RuntimeFailure(
+            failureOf(m_file),
+            QStringLiteral("\"%1\" could not be written: %2").arg(m_file.fileName(), m_file.errorString()));
+    }
+    QSaveFile m_file;
+    QPdfWriter m_writer;
+};
+
+} // namespace
+
+void PaintedPages::setLandscape(bool landscape)
+{
+    device().setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+}
+
+QFontMetricsF PaintedPages::metrics(const PageFont &font) const { return QFontMetricsF(fontOf(font), &device()); }
+
+double PaintedPages::textWidth(const PageFont &font, const QString &text) const
+{
+    return metrics(font).horizontalAdvance(text);
+}
+
+double PaintedPages::lineHeight(const PageFont &font) const { return metrics(font).lineSpacing(); }
+
+void PaintedPages::beginDocument(const QString &title)
+{
+    setTitle(title);
+    if (!m_painter.begin(&device()))
+        throw RuntimeFailure(Failure::DeviceError, QStringLiteral("\"%1\" could not be printed.").arg(title));
+}
+
+void PaintedPages::newPage()
+{
+    if (!device().newPage())
+        throw RuntimeFailure(Failure::DeviceError, QStringLiteral("The printer took no further page."));
+}
+
+void PaintedPages::endDocument() { m_painter.end(); }
+
+void PaintedPages::text(double x, double y, const PageFont &font, const QString &text)
+{
+    m_painter.setFont(fontOf(font));
+    m_painter.drawText(QPointF(x, y + metrics(font).ascent()), text);
+}
+
+void PaintedPages::line(double x1, double y1, double x2, double y2)
+{
+    m_painter.setPen(QPen(Qt::black, device().logicalDpiX() / 96.0));
+    m_painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+}
+
+void PaintedPages::picture(double x, double y, const QSizeF &size, const PagePicture &paint)
+{
+    m_painter.save();
+    m_painter.translate(x, y);
+    paint(m_painter, size);
+    m_painter.restore();
+}
+
+std::unique_ptr<PageSink> PagesInPdf(const QString &fileName, const std::optional<QPageLayout> &layout)
+{
+    return std::make_unique<PdfPages>(fileName, layout.value_or(usualLayout()));
+}

@@ -1,0 +1,41 @@
+// Pages that are painted, on a printer or into a PDF. The one place where a report meets QPainter.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPageLayout>
+#include <QPainter>
+
+#include "platform/core/Pages.h"
+
+/// What a printer and a PDF have in common.
+class PaintedPages : public PageSink
+{
+public:
+    void setLandscape(bool landscape) override;
+    double width() const override { return device().width(); }
+    double height() const override { return device().height(); }
+    double textWidth(const PageFont &font, const QString &text) const override;
+    double lineHeight(const PageFont &font) const override;
+    void beginDocument(const QString &title) override;
+    void newPage() override;
+    void endDocument() override;
+    void text(double x, double y, const PageFont &font, const QString &text) override;
+    void line(double x1, double y1, double x2, double y2) override;
+    void picture(double x, double y, const QSizeF &size, const PagePicture &paint) override;
+
+protected:
+    virtual QPagedPaintDevice &device() const = 0;
+    virtual void setTitle(const QString &title) = 0;
+    QPainter m_painter;
+
+private:
+    QFontMetricsF metrics(const PageFont &font) const;
+};
+
+/// Pages in a PDF file, which is there when its document has ended. Without a layout they have the usual paper. This
+/// and endDocument() throw PermissionDenied, PathNotFound or DiskFull.
+std::unique_ptr<PageSink> PagesInPdf(const QString &fileName, const std::optional<QPageLayout> &layout = {});

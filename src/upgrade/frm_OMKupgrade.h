@@ -1,0 +1,42 @@
+// The window of the start's long work, shown before any other: the upgrade of a database of an earlier version, and the
+// reading of a file of the old engine. It says what is being done and how far it is, and cannot be closed by hand. It
+// knows nothing of the work, which is handed in.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include <QDialog>
+
+#include "platform/core/RuntimeFailure.h"
+
+class QLabel;
+class QProgressBar;
+class QTimer;
+
+class frm_OMKupgrade : public QDialog
+{
+    Q_OBJECT
+public:
+    using Work = std::function<void(frm_OMKupgrade &)>;
+    explicit frm_OMKupgrade(Work work);
+
+    /// Shows the window, does the work once it is on the screen, and closes. Throws the RuntimeFailure that ended the
+    /// work.
+    void Run();
+    /// What is being done, and how far it is, 0 to 100; painted at once.
+    void Show(const QString &text, int bar);
+    void Show(int bar);
+    void reject() override {} // nobody leaves in the middle
+
+    QLabel *Label1;
+    QProgressBar *ProgressBar1;
+    QTimer *Timerx;
+
+private:
+    void Form_Load();
+    void Timerx_Timer();
+
+    Work m_work;
+    std::optional<RuntimeFailure> m_failure;
+};

@@ -1,0 +1,24 @@
+// Quick compatibility: the keeper picks an animal, and three lists say which others it should live with, may have
+// problems with, and will probably have problems with. The window holds nothing beyond its lists.
+#pragma once
+
+#include "ui_frm_Compat.h"
+#include "windows/shell/ChildForm.h"
+
+class frm_Compat : public ChildForm, public Ui::frm_Compat
+{
+    Q_OBJECT
+public:
+    frm_Compat(Globals &globals, QWidget *parent);
+
+    /// Shows itself, and the reminder over it.
+    void Form_Load();
+
+private:
+    void but_salt_click();
+    void but_fresh_click();
+    void lst_select_Click();
+
+    void clearLists();
+    void offer(const QStringList &animals);
+};

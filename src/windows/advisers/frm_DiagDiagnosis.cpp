@@ -1,0 +1,53 @@
+#include "windows/advisers/frm_DiagDiagnosis.h"
+
+#include "logic/advisers/Diagnoses.h"
+#include "logic/advisers/DiagnosisSheet.h"
+#include "platform/controls/Guarded.h"
+#include "platform/core/Printer.h"
+#include "windows/advisers/frm_DiagnosisQA.h"
+#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/MenuEntry.h"
+
+frm_DiagDiagnosis::frm_DiagDiagnosis(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+{
+    setupUi(this);
+    on(cmd_Close, &QPushButton::clicked, this, &frm_DiagDiagnosis::cmd_Close_Click);
+    on(Command1, &QPushButton::clicked, this, &frm_DiagDiagnosis::Command1_Click);
+    on(cmd_PrintQuestionsandAnswers, &QPushButton::clicked, this,
+       &frm_DiagDiagnosis::cmd_PrintQuestionsandAnswers_Click);
+}
+
+void frm_DiagDiagnosis::Showdiagnosis()
+{
+    lbl_diagnosis->setText(DiagnosisName);
+    TakeAdvice(g.gMessage, DiagnosisName, DiagnosisWindow::OwnWindow);
+    txt_diag_desc->setPlainText(g.gMessage);
+    g.diagnosisLog.AddDiagnosis(DiagnosisName, g.gMessage);
+    ShowModal();
+}
+
+void frm_DiagDiagnosis::changeEvent(QEvent *event)
+{
+    DialogForm::changeEvent(event);
+    auto *main = Forms::current().loaded<frm_OMKMDIMain>();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !main)
+        return;
+    main->mnu_FilePrint->setText(QStringLiteral("&Print"));
+    main->mnu_FilePrint->Enabled(true);
+}
+
+void frm_DiagDiagnosis::Command1_Click()
+{
+    const Forms::Pin whileItAsks(*this);
+    hide();
+    Form<frm_DiagnosisQA>().Question_StartingPoint();
+}
+
+void frm_DiagDiagnosis::PrintQuestionsandAnswers()
+{
+    // No dialog: one copy, on the printer that is the default.
+    const Report sheet = MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::OwnWindow);
+    const auto pages = Doors::current().openPages({});
+    Printer page(*pages, sheet.documentName);
+    sheet.print(page);
+}

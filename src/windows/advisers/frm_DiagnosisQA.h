@@ -1,0 +1,51 @@
+// The disease diagnosis wizard: leads from what is seen on a sick fish to one diagnosis, shows its advice, and prints
+// questions and answers. Each page waits, and the next is called while the page before is still on the stack; Start
+// Over and Cancel unload the window, and all pages unwind. The main window calls Question_Disclaimer until the keeper
+// cancels.
+#pragma once
+
+#include <array>
+
+#include "logic/advisers/QuestionTree.h"
+#include "ui_frm_DiagnosisQA.h"
+#include "windows/shell/DialogForm.h"
+
+class frm_DiagnosisQA : public DialogForm, public Ui::frm_DiagnosisQA
+{
+    Q_OBJECT
+public:
+    frm_DiagnosisQA(Globals &globals, QWidget *parent);
+    void Form_Load();
+
+    /// A whole run, from the disclaimer or from the first question on; back when the keeper starts over or cancels.
+    void Question_Disclaimer() { ask(QuestionPage::Question_Disclaimer); }
+    void Question_StartingPoint() { ask(QuestionPage::Question_StartingPoint); }
+
+    QString AnswerIndex;   ///< number of the answer last clicked; empty before the first, "99" after Start Over
+    QString DiagnosisName; ///< set before Showdiagnosis runs
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void Cancel() override { cmd_Cancel_Click(); }
+    void ask(QuestionPage page);
+    void begin(QuestionPage page);
+    void setCaptions(QuestionPage page);
+    void clearAnswers();
+    void bringToFront(QWidget &page, QWidget &focus);
+    /// Shows the window and waits; false if the keeper has left the wizard.
+    bool isGoingOn();
+    void Showdiagnosis();
+    void fixmysize();
+    void fitHeight(int told);
+
+    void opt_Answer_Click(int index);
+    void cmd_Next_Click();
+    void cmd_StartOver_Click();
+    void cmd_Cancel_Click();
+    void cmd_PrintQuestionsandAnswers_Click() { PrintQuestionsandAnswers(); }
+    void PrintQuestionsandAnswers();
+
+    std::array<QRadioButton *, mostAnswers> opt_Answer;
+};

@@ -1,0 +1,46 @@
+// The Fantasy Tank: a tank that does not exist is planned here, animals are dropped in, and the bar shows how full it
+// would be. The plan lives as long as the window. After a change of the water that was not confirmed, the option stands
+// on the new water beside the old list and plan; an animal's number is then read in the table of the option.
+#pragma once
+
+#include "logic/advisers/FantasyPlan.h"
+#include "platform/controls/LeavingChecks.h"
+#include "ui_frm_Fantasy.h"
+#include "windows/shell/ChildForm.h"
+
+class frm_Fantasy : public ChildForm, public Ui::frm_Fantasy
+{
+    Q_OBJECT
+public:
+    frm_Fantasy(Globals &globals, QWidget *parent);
+
+    /// Shows itself, and the reminder over it.
+    void Form_Load();
+    /// Empties the tank after a question. Nothing calls it so far: it waits for a command of its own.
+    void ConfirmResetFantasyTank();
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    WaterKind water() const { return opt_Salt->isChecked() ? WaterKind::Salt : WaterKind::Fresh; }
+    void RecalcHolding();
+    void ResetFantasyTank();
+    void changeWater();
+    bool txt_tanksize_LostFocus();
+
+    void opt_Salt_Click();
+    void opt_fresh_click();
+    void chk_WetDryIncluded_Click();
+    void chk_Taller_Click();
+    void ud_tanksize_Change();
+    void lst_select_Click();
+    void lst_select_DblClick();
+    void lst_Fantank_Click();
+    void lst_Fantank_DblClick();
+    void cmd_AddAnimal_Click();
+    void cmd_RemoveAnimal_Click();
+
+    FantasyPlan m_plan;
+    LeavingChecks m_checks;
+};

@@ -1,0 +1,26 @@
+// Asks for the tank to which an animal moves. The logbook opens the row; OK gives it to the other tank, and if asked
+// for with the present date and time.
+#pragma once
+
+#include "ui_frm_LivesMove.h"
+#include "windows/shell/DialogForm.h"
+
+class frm_LivesMove : public DialogForm, public Ui::frm_LivesMove
+{
+    Q_OBJECT
+public:
+    frm_LivesMove(Globals &globals, QWidget *parent);
+
+    void Form_Load();
+    void ShowWindow(const Recordset &row);
+
+private:
+    void Cancel() override { cmd_Cancel_Click(); }
+    void store();
+
+    void cmd_OK_Click();
+    void cmd_Cancel_Click();
+    void lst_tanklist_DblClick();
+
+    Recordset m_row;
+};

@@ -1,0 +1,28 @@
+// Asks which log is to be printed, for this tank or all, and where to: printer, screen or file. Lives for one report.
+#pragma once
+
+#include "logic/logbook/LogTab.h"
+#include "ui_frm_OMKLogPrint.h"
+#include "windows/shell/DialogForm.h"
+
+class frm_OMKLogPrint : public DialogForm, public Ui::frm_OMKLogPrint
+{
+    Q_OBJECT
+public:
+    frm_OMKLogPrint(Globals &globals, QWidget *parent);
+
+    /// Offers that log of that tank first, and shows the window.
+    void ShowFor(LogTab log, const QString &tankId);
+
+private:
+    void Cancel() override { cmd_Cancel_Click(); }
+    void printLog(LogTab log);
+    void PrintLivestockLog() { printLog(LivestockTab); }
+    void PrintMaintenanceLog() { printLog(MaintenanceTab); }
+    void PrintWaterQualityLog() { printLog(WaterTab); }
+
+    void cmd_OK_Click();
+    void cmd_Cancel_Click();
+
+    QString m_tankId;
+};

@@ -1,0 +1,41 @@
+// All reminders as one dated list, for two years from today or for a range of dates, and that list on paper. It writes
+// nothing; the list stands until it is generated again.
+#pragma once
+
+#include <optional>
+
+#include <QDate>
+
+#include "text/Dates.h"
+#include "ui_frm_Schedule.h"
+#include "windows/shell/ChildForm.h"
+
+class OccurrenceRows;
+struct DateRange;
+struct RecurrenceRule;
+
+class frm_Schedule : public ChildForm, public Ui::frm_Schedule
+{
+    Q_OBJECT
+public:
+    frm_Schedule(Globals &globals, QWidget *parent);
+    void Form_Load();
+    void Form_Activate() override;
+
+    void Print_Schedule();
+
+private:
+    /// Brings the date order in force to the two boxes while they are empty. Dates that are there keep the order in
+    /// which they were written: read in another, they would become other days.
+    void followDateOrder();
+    void opt_range_Click();
+    void cal_Click(MaskedBox &box);
+    void cmd_Generate_Click();
+
+    std::optional<QDate> dateIn(const MaskedBox &box) const;
+    /// The range of the two boxes; nothing, after a box, where it is none.
+    std::optional<DateRange> askedRange();
+    void generate(const std::vector<RecurrenceRule> &rules, const std::optional<DateRange> &range);
+
+    DateConventions m_dates; ///< of the two boxes
+};

@@ -1,0 +1,294 @@
+// What the entries of the main window's menus do.
+#include <optional>
+#include <QCoreApplication>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "platform/controls/HourGlass.h"
+#include "platform/core/Doors.h"
+#include "store/Backup.h"
+#include "windows/advisers/frm_Compat.h"
+#include "windows/advisers/frm_DiagnosisQA.h"
+#include "windows/advisers/frm_Fantasy.h"
+#include "windows/graph/frm_WaterGraph.h"
+#include "windows/logbook/frm_Waterlog.h"
+#include "windows/reference/frm_Conversions.h"
+#include "windows/reference/frm_LatintoCommon.h"
+#include "windows/reminders/frm_Maintsched.h"
+#include "windows/reminders/frm_Schedule.h"
+#include "windows/shell/Arrange.h"
+#include "windows/shell/ChildForm.h"
+#include "windows/shell/frm_OMKaboutbox.h"
+#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/frm_OMKOptions.h"
+#include "windows/shell/frm_OMKtod.h"
+#include "windows/shell/MenuEntry.h"
+#include "windows/tanks/frm_TankAddNew.h"
+#include "windows/tanks/frm_TankMaint.h"
+
+namespace {
+
+/// What "Print" does while a child of that name is in front.
+struct PrintRow
+{
+    const char *child;
+    void (*print)();
+};
+
+constexpr PrintRow printRows[] = {
+    {"FRM_WATERLOG", [] { Form<frm_Waterlog>().Print_Entries(); }},
+    {"FRM_SCHEDULE", [] { Form<frm_Schedule>().Print_Schedule(); }},
+    {"FRM_WATERGRAPH", [] { Form<frm_WaterGraph>().PrintGraph(); }},
+};
+
+/// The logbook, if it is on the screen, though it may be an icon there.
+frm_Waterlog *visibleLogbook()
+{
+    auto *logbook = Forms::current().loaded<frm_Waterlog>();
+    return logbook && logbook->isShown() ? logbook : nullptr;
+}
+
+/// What happened to the backup, and why the database could not be opened again after it.
+QString withBackup(const RuntimeFailure &notOpened, const std::optional<RuntimeFailure> &failure, const QString &target)
+{
+    const QString outcome = failure ? QStringLiteral("not backed up: ") + failure->description()
+                                    : QStringLiteral("backed up to %1.").arg(QDir::toNativeSeparators(target));
+    return QStringLiteral(
+               "The database was %1\n\nIt could not be opened again afterwards. Each command from now on tries it "
+               "once more, so remove the cause and continue:\n%2")
+        .arg(outcome, notOpened.description().section(u'\n', 1));
+}
+
+/// The graph offers the tanks that there are now.
+void followTanksInGraph()
+{
+    if (auto *graph = Forms::current().loaded<frm_WaterGraph>())
+        graph->Follow_Tanks();
+}
+
+void tellNoBackup(const RuntimeFailure &failure)
+{
+    Beep();
+    MsgBox(u"The database was not backed up.\n\n" + failure.description(), vbExclamation,
+           QStringLiteral("Database Backup"));
+}
+
+} // namespace
+
+void frm_OMKMDIMain::mnu_FileNew_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Add_Entries();
+}
+
+void frm_OMKMDIMain::mnu_FileOpen_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Change_Entries();
+}
+
+void frm_OMKMDIMain::mnu_FileDelete_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Delete_Entries();
+}
+
+void frm_OMKMDIMain::mnu_FileMoveEntry_Click() { Form<frm_Waterlog>().Move_Entries(); }
+
+void frm_OMKMDIMain::mnu_FileBackup_Click()
+{
+    const auto chosen =
+        Doors::current().saveDialog({QStringLiteral("Backup Ostrelmark Database As ..."), m_backupFile, {}, {}, false});
+    QDir::setCurrent(g.gCurrentDir); // the dialog may have moved it
+    // Cancel leaves the name of an earlier backup in place, and that backup is made again, after the question below.
+    if (chosen)
+        m_backupFile = *chosen;
+    const QString target = m_backupFile;
+    if (target.isEmpty())
+        return;
+    try {
+        RequireBackupTarget(g.gDatabase->fileName(), target);
+    } catch (const RuntimeFailure &failure) {
+        return tellNoBackup(failure);
+    }
+    if (!QFileInfo::exists(target) || MsgBox(QStringLiteral("The file already exists, overwrite?"),
+                                             vbOKCancel + vbQuestion, QStringLiteral("Note!")) == MsgBoxAnswer::OK)
+        backUpTo(target);
+}
+
+void frm_OMKMDIMain::backUpTo(const QString &target)
+{
+    std::optional<RuntimeFailure> failure;
+    {
+        const HourGlass waiting;
+        g.gDatabase->LetGo(); // and every recordset lapses
+        try {
+            BackUpDatabase(g.gDatabase->fileName(), target);
+        } catch (const RuntimeFailure &e) {
+            failure = e;
+        }
+    }
+    try {
+        // Before the box: the window in front may ask the database for something once the box is gone.
+        g.gDatabase->OpenAgain();
+    } catch (const RuntimeFailure &notOpened) {
+        throw RuntimeFailure(notOpened.number(), withBackup(notOpened, failure, target));
+    }
+    if (failure)
+        return tellNoBackup(*failure);
+    Beep();
+    const QFileInfo copy(target);
+    MsgBox(g.gDatabaseName + u" was backed up to " + QDir::toNativeSeparators(target) + u" with these attributes:" +
+               copy.fileName() + u' ' + QLocale::system().toString(copy.lastModified(), QLocale::ShortFormat) + u" - " +
+               QString::number(copy.size()) + u" bytes.",
+           vbInformation, QStringLiteral("Database Backup"));
+}
+
+void frm_OMKMDIMain::mnu_FilePrint_Click()
+{
+    if (!m_activeChild)
+        return;
+    const QString inFront =
+        m_activeChild->objectName().toUpper(); // while it prints, another child may come to the front
+    for (const PrintRow &row : printRows)
+        if (inFront == QLatin1String(row.child))
+            row.print();
+}
+
+void frm_OMKMDIMain::mnu_FilePageSetup_Click()
+{
+    // The dialog sets up the printer itself; pages and copies asked for here are not used.
+    Doors::current().printDialog({QStringLiteral("Page Setup"), false, {}});
+}
+
+void frm_OMKMDIMain::mnu_Exit_Click() { close(); }
+
+void frm_OMKMDIMain::mnu_ViewToolbar_Click() { m_toolbarPlace->setVisible(mnu_ViewToolbar->isChecked()); }
+
+void frm_OMKMDIMain::mnu_ViewStatusbar_Click() { statusBar()->setVisible(mnu_ViewStatusbar->isChecked()); }
+
+void frm_OMKMDIMain::mnu_ViewRefresh_Click()
+{
+    if (auto *logbook = visibleLogbook())
+        logbook->Refresh_Treeview();
+}
+
+void frm_OMKMDIMain::mnu_ViewOptions_Click() { Form<frm_OMKOptions>().ShowOptions(0); }
+
+void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
+{
+    Form<frm_TankMaint>().Show_List();
+    CheckTanks();
+    if (auto *logbook = visibleLogbook())
+        logbook->Follow_Tanks(); // an entry for a tank that is gone would be lost to sight
+    followTanksInGraph();
+}
+
+void frm_OMKMDIMain::mnu_ToolsLogbook_Click() { ShowChild(Form<frm_Waterlog>()); }
+
+void frm_OMKMDIMain::mnu_ToolsRemindersAddEdit_Click() { ShowChild(Form<frm_Maintsched>()); }
+
+void frm_OMKMDIMain::mnu_ToolsReminderSchedule_Click() { ShowChild(Form<frm_Schedule>()); }
+
+void frm_OMKMDIMain::mnu_ToolsDisease_Click()
+{
+    // Without the keeper's own: the second click of a double click would open a second wizard behind the first.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    WizardCancelled = false;
+    while (!WizardCancelled) {
+        const QPointer<frm_DiagnosisQA> wizard = &Form<frm_DiagnosisQA>();
+        wizard->Question_Disclaimer();
+        delete wizard; // its code has returned. A deletion that is put off would wait for the end of this loop.
+    }
+}
+
+void frm_OMKMDIMain::mnu_ToolsCompatibility_Click() { ShowChild(Form<frm_Compat>()); }
+
+void frm_OMKMDIMain::mnu_ToolsFantasy_Click() { ShowChild(Form<frm_Fantasy>()); }
+
+void frm_OMKMDIMain::mnu_ToolsCommonNames_Click() { ShowChild(Form<frm_LatintoCommon>()); }
+
+void frm_OMKMDIMain::mnu_ToolsConversions_Click() { ShowChild(Form<frm_Conversions>()); }
+
+void frm_OMKMDIMain::mnu_ToolsGraphing_Click()
+{
+    auto &graph = Form<frm_WaterGraph>();
+    ShowChild(graph);
+    graph.GraphChart();
+}
+
+void frm_OMKMDIMain::mnu_WindowCascade_Click() { CascadeWindows(*m_area); }
+
+void frm_OMKMDIMain::mnu_WindowTileHorizontal_Click() { TileWindows(*m_area, Qt::Horizontal); }
+
+void frm_OMKMDIMain::mnu_WindowTileVertical_Click() { TileWindows(*m_area, Qt::Vertical); }
+
+void frm_OMKMDIMain::mnu_WindowArrangeIcons_Click() { ArrangeIcons(*m_area); }
+
+void frm_OMKMDIMain::fillWindowList()
+{
+    const auto former = mnu_Window->actions();
+    for (QAction *action : former)
+        if (action->property("windowListEntry").toBool())
+            delete action;
+    const auto frames = m_area->subWindowList();
+    if (frames.isEmpty())
+        return;
+    mnu_Window->addSeparator()->setProperty("windowListEntry", true);
+    int number = 0;
+    for (QMdiSubWindow *frame : frames) {
+        auto *action = mnu_Window->addAction(QStringLiteral("&%1 %2").arg(++number).arg(frame->windowTitle()));
+        action->setProperty("windowListEntry", true);
+        action->setCheckable(true);
+        action->setChecked(frame == m_area->activeSubWindow());
+        connect(action, &QAction::triggered, frame, [this, frame] {
+            if (frame->isMinimized())
+                frame->showNormal();
+            m_area->setActiveSubWindow(frame);
+        });
+    }
+}
+
+void frm_OMKMDIMain::mnu_HelpTod_Click() { Form<frm_OMKtod>().ShowTip(); }
+
+void frm_OMKMDIMain::mnu_HelpAbout_Click()
+{
+    g.gSplashMode = false;
+    Form<frm_OMKaboutbox>().ShowBox();
+}
+
+void frm_OMKMDIMain::mnu_TankAddNew_Click()
+{
+    Form<frm_TankAddNew>().AddNewTank();
+    Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
+}
+
+void frm_OMKMDIMain::mnu_TankDelete_Click()
+{
+    Form<frm_TankMaint>().DeleteTankInfo(Form<frm_Waterlog>().CurrentTankText);
+    Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
+}
+
+void frm_OMKMDIMain::mnu_TankProperties_Click()
+{
+    Form<frm_TankMaint>().ChangeTankInfo(Form<frm_Waterlog>().CurrentTankText);
+    Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
+}
+
+void frm_OMKMDIMain::mnu_GraphOptions_Click()
+{
+    Form<frm_OMKOptions>().ShowOptions(1);
+    auto *graph = Forms::current().loaded<frm_WaterGraph>();
+    if (graph && graph->isVisible() && !isEnding())
+        graph->GraphChart();
+}

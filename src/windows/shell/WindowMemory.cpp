@@ -1,0 +1,173 @@
+#include "windows/shell/WindowMemory.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QMdiSubWindow>
+#include <QRegularExpression>
+#include <QScreen>
+
+#include "platform/controls/ListView.h"
+#include "platform/core/Doors.h"
+#include "platform/core/RuntimeFailure.h"
+#include "platform/core/SettingsStore.h"
+#include "windows/shell/ChildForm.h"
+
+namespace {
+
+/// Windows whose size follows from what they show.
+const QStringList ofToldSize = {
+    QStringLiteral("frm_DiagnosisQA"),     QStringLiteral("frm_Caltool"), QStringLiteral("frm_OMKaboutbox"),
+    QStringLiteral("frm_OMKCredits"),      QStringLiteral("frm_OMKtod"),  QStringLiteral("frm_OMKupgrade"),
+    QStringLiteral("frm_SchedNewAddEdit"),
+};
+
+/// What must be in sight of a window's upper edge, in pixels, for it to be seen and dragged.
+constexpr QSize handle(80, 24);
+
+struct Geometry
+{
+    QSize size;
+    std::optional<QPoint> place;
+    bool maximized = false;
+};
+
+/// "940x560", and of the main window "1100x740+40+-8" or "1100x740+40+0 maximized".
+QString textOf(const Geometry &geometry)
+{
+    QString text = QStringLiteral("%1x%2").arg(geometry.size.width()).arg(geometry.size.height());
+    if (geometry.place)
+        text += QStringLiteral("+%1+%2").arg(geometry.place->x()).arg(geometry.place->y());
+    return geometry.maximized ? QString(text + u" maximized") : text;
+}
+
+std::optional<Geometry> geometryIn(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^([1-9][0-9]{0,4})x([1-9][0-9]{0,4})(?:\\+(-?[0-9]{1,5})\\+(-?[0-9]{1,5}))?( maximized)?$"));
+    const auto match = form.match(text);
+    if (!match.hasMatch())
+        return {};
+    Geometry geometry{{match.captured(1).toInt(), match.captured(2).toInt()}, {}, match.hasCaptured(5)};
+    if (match.hasCaptured(3))
+        geometry.place = QPoint(match.captured(3).toInt(), match.captured(4).toInt());
+    return geometry;
+}
+
+/// The screen on which a window there can be seen and dragged; null where there is none.
+const QScreen *screenOf(const Geometry &geometry)
+{
+    const QRect edge(geometry.place.value_or(QPoint()), QSize(geometry.size.width(), handle.height()));
+    for (const QScreen *screen : QGuiApplication::screens()) {
+        const QRect seen = screen->availableGeometry() & edge;
+        if (seen.width() >= std::min(handle.width(), edge.width()) && seen.height() == edge.height())
+            return screen;
+    }
+    return nullptr;
+}
+
+class WindowMemory : public QObject
+{
+public:
+    explicit WindowMemory(QWidget &window) : QObject(&window), m_window(window)
+    {
+        restore();
+        window.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (!event->spontaneous() && event->type() == QEvent::Show)
+            m_shown = state();
+        else if (!event->spontaneous() && event->type() == QEvent::Hide)
+            store();
+        return false;
+    }
+
+private:
+    using State = std::map<QString, QString>; ///< by the key in the settings
+
+    bool isMain() const { return qobject_cast<QMainWindow *>(&m_window) != nullptr; }
+
+    /// Nothing where the window has no size of its own, because the child is maximized or an icon.
+    std::optional<Geometry> geometry() const
+    {
+        if (const auto *frame = qobject_cast<QMdiSubWindow *>(m_window.parentWidget())) {
+            if (frame->isMaximized() || frame->isMinimized() || frame->isShaded())
+                return {};
+            return Geometry{frame->size() - childFrame, {}};
+        }
+        if (!isMain())
+            return Geometry{m_window.size(), {}};
+        const QRect normal = m_window.normalGeometry();
+        return m_window.isMaximized() && normal.isValid() ? Geometry{normal.size(), normal.topLeft(), true}
+                                                          : Geometry{m_window.size(), m_window.pos()};
+    }
+
+    /// The main window's are those of its children, which keep them themselves.
+    QList<ListView *> lists() const { return isMain() ? QList<ListView *>() : m_window.findChildren<ListView *>(); }
+    QString keyOf(const ListView &list) const { return m_window.objectName() + u'.' + list.objectName(); }
+
+    State state() const
+    {
+        State state;
+        if (const auto present = geometry())
+            state[m_window.objectName()] = textOf(*present);
+        for (const ListView *list : lists())
+            state[keyOf(*list)] = list->columnLayout();
+        return state;
+    }
+
+    static QString remembered(const QString &key)
+    {
+        return Doors::current().settings().value(key, {}, SettingsStore::Section::Windows);
+    }
+
+    void restore()
+    {
+        if (const auto geometry = geometryIn(remembered(m_window.objectName())))
+            restore(*geometry);
+        for (ListView *list : lists())
+            list->setColumnLayout(remembered(keyOf(*list)));
+    }
+
+    void restore(const Geometry &geometry)
+    {
+        const QScreen *screen = geometry.place ? screenOf(geometry) : nullptr;
+        const QScreen *roomy = screen ? screen : QGuiApplication::primaryScreen();
+        m_window.resize(geometry.size.boundedTo(roomy->availableSize()));
+        if (!isMain())
+            return;
+        if (screen)
+            m_window.move(*geometry.place);
+        if (geometry.maximized)
+            m_window.setWindowState(Qt::WindowMaximized);
+    }
+
+    void store()
+    {
+        try {
+            for (const auto &[key, value] : state())
+                if (const auto before = m_shown.find(key); before == m_shown.end() || before->second != value)
+                    Doors::current().settings().setValue(key, value, SettingsStore::Section::Windows);
+        } catch (const RuntimeFailure &) {
+            return; // only the size of a window: the next window that he changes is tried again
+        }
+    }
+
+    QWidget &m_window;
+    State m_shown; ///< as the window was when it came up
+};
+
+} // namespace
+
+void RememberWindow(QWidget &window)
+{
+    if (!ofToldSize.contains(window.objectName()))
+        new WindowMemory(window);
+}

@@ -1,0 +1,384 @@
+#include "windows/shell/frm_OMKMDIMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScopeGuard>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "logic/reminders/ReminderRun.h"
+#include "logic/shell/Options.h"
+#include "platform/controls/Guarded.h"
+#include "platform/controls/HourGlass.h"
+#include "platform/controls/Icons.h"
+#include "platform/controls/Progress.h"
+#include "platform/core/Doors.h"
+#include "store/Version.h"
+#include "upgrade/frm_OMKupgrade.h"
+#include "upgrade/UpgradeDatabase.h"
+#include "windows/reminders/frm_Maintsched.h"
+#include "windows/shell/ChildForm.h"
+#include "windows/shell/frm_OMKaboutbox.h"
+#include "windows/shell/frm_OMKOptions.h"
+#include "windows/shell/MenuEntry.h"
+
+namespace {
+
+struct ButtonRow
+{
+    const char *key;
+    const char *toolTip;
+    const char *image;
+    MenuEntry *MainMenu::*sameAs;
+    bool groupBefore;
+};
+
+// The key "compatability" is written so everywhere: button, image and look-up must agree.
+constexpr ButtonRow buttonRows[] = {
+    {"tanksetup", "Setup Tanks for Logging", "setup", &MainMenu::mnu_ToolsTanksetup, false},
+    {"logbook", "Logbook - Logging of Water Quality, Maintenance, Livestock", "testlog", &MainMenu::mnu_ToolsLogbook,
+     false},
+    {"graphing", "Graphing of Water Quality", "graphing", &MainMenu::mnu_ToolsGraphing, false},
+    {"compatability", "Check Animal Compatibility", "compatability", &MainMenu::mnu_ToolsCompatibility, true},
+    {"diagnose", "Diagnose Disease", "med", &MainMenu::mnu_ToolsDisease, false},
+    {"maintsched", "Schedule Reminders", "handwithstring", &MainMenu::mnu_ToolsRemindersAddEdit, true},
+    {"viewschedule", "View Maintenance Schedule", "cal", &MainMenu::mnu_ToolsReminderSchedule, false},
+    {"fantasy", "Fantasy Tank", "fantasy", &MainMenu::mnu_ToolsFantasy, true},
+    {"commonnames", "Common Names to Latin Names Reference", "commonnames", &MainMenu::mnu_ToolsCommonNames, false},
+    {"conversions", "Conversion Calculator", "rulers", &MainMenu::mnu_ToolsConversions, false},
+};
+
+const QString noTankText = QStringLiteral("You have no tanks set up in Ostrelmark for Windows. You must set-up at "
+                                          "least one tank before you can use the logging, "
+                                          "graphing, or data-import tools in Ostrelmark. Set up a tank by clicking on "
+                                          "the \"Setup / Manage Tanks\" button on the "
+                                          "main menu.");
+
+/// Settings that cannot be written are told, and the start goes on: nobody is locked out of his data for a setting.
+void saveAtStart(const QString &key, const QString &value)
+{
+    try {
+        SaveSetting(key, value);
+    } catch (const RuntimeFailure &failure) {
+        Beep();
+        MsgBox(failure.description() +
+                   u"\n\nYour data is not touched by this; only settings that you change are not kept.",
+               vbExclamation, QStringLiteral("Settings"));
+    }
+}
+
+} // namespace
+
+frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
+    QMainWindow(parent), g(globals), m_area(new QMdiArea)
+{
+    setWindowTitle(QStringLiteral(" Ostrelmark 98"));
+    setWindowIcon(Icon("ostrelmark"));
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's would hide the strip with the reminders
+    makeMenus(*this, *menuBar());
+    makeToolbar();
+    makeStatusBar();
+
+    m_area->setObjectName(QStringLiteral("mdiArea"));
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    const bool dark = palette().window().color().lightness() < 128;
+    m_area->setBackground(dark ? QColor(0x22, 0x2b, 0x30) : QColor(0xc9, 0xdb, 0xe1)); // calm water
+    setCentralWidget(m_area);
+    connect(m_area, &QMdiArea::subWindowActivated, this,
+            guarded([this](QMdiSubWindow *window) { subWindowActivated(window); }));
+    connect(mnu_Window, &QMenu::aboutToShow, this, [this] { fillWindowList(); });
+    qApp->installEventFilter(this);
+    resize(1100, 740);
+}
+
+frm_OMKMDIMain::~frm_OMKMDIMain()
+{
+    m_area->disconnect(this); // a child that is left goes with it, and tells nobody
+}
+
+void frm_OMKMDIMain::makeToolbar()
+{
+    auto *strip =
+        new QToolBar(this); // the strip at the top, that keeps the reminders in sight when the buttons are hidden
+    strip->setObjectName(QStringLiteral("Picture1"));
+    strip->setMovable(false);
+    Picture1 = strip;
+    Toolbar1 = new QToolBar;
+    Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
+    Toolbar1->setIconSize(QSize(24, 24));
+    for (const ButtonRow &row : buttonRows) {
+        if (row.groupBefore)
+            Toolbar1->addSeparator();
+        MenuEntry *same = this->*row.sameAs;
+        std::function<void()> action;
+        if (same->hasAction())
+            action = [same] { same->run(); };
+        auto *button =
+            AddToolButton(*Toolbar1, QLatin1String(row.key), QLatin1String(row.toolTip), row.image, std::move(action));
+        m_buttons.emplace(QLatin1String(row.key), button);
+    }
+
+    auto *space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    cbo_Reminders = new QComboBox;
+    cbo_Reminders->setObjectName(QStringLiteral("cbo_Reminders"));
+    cbo_Reminders->setAccessibleName(QStringLiteral("Upcoming reminders"));
+    cbo_Reminders->setToolTip(QStringLiteral("Upcoming reminders"));
+    cbo_Reminders->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cbo_Reminders->setMinimumContentsLength(34);
+    on(cbo_Reminders, &QComboBox::currentIndexChanged, this, &frm_OMKMDIMain::cbo_Reminders_Click);
+    m_toolbarPlace = strip->addWidget(Toolbar1);
+    strip->addWidget(space);
+    strip->addWidget(cbo_Reminders);
+    addToolBar(Qt::TopToolBarArea, strip);
+}
+
+void frm_OMKMDIMain::makeStatusBar()
+{
+    statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
+    m_panel = new QLabel;
+    m_panel->setObjectName(QStringLiteral("sbStatusBar_1"));
+    statusBar()->addWidget(m_panel, 1);
+}
+
+void frm_OMKMDIMain::MDIForm_Load()
+{
+    Forms::current().setMainWindow(this);
+    mnu_FilePrint->Enabled(false);
+    g.gDatabaseName = QStringLiteral("OM.MDB");
+    Form<frm_OMKaboutbox>();
+    g.gCurrentDir = QDir::currentPath();
+    g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
+    CheckDatabaseVersion();
+    ReadOptions(g);
+    g.gGraphPageSize = 20;
+    QApplication::processEvents();
+    Top20List();
+    show();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // painted, before the splash is made ready
+    showSplash();
+    if (tipIsDue() && !isEnding())
+        mnu_HelpTod_Click();
+    if (!isEnding())
+        CheckTanks();
+}
+
+void frm_OMKMDIMain::CheckDatabaseVersion()
+{
+    g.gDbVersion = ReadDatabaseVersion(*g.gDatabase);
+    if (g.gDbVersion == presentDatabaseVersion)
+        return;
+    frm_OMKupgrade(UpgradeWork(g.gDatabase, g.gDatabaseName, g.gDbVersion)).Run();
+}
+
+void frm_OMKMDIMain::Top20List()
+{
+    const auto rules = LoadReminders(g);
+    UpcomingReminders soonest;
+    UndatedReminders undated;
+    {
+        const HourGlass waiting;
+        const auto ready = qScopeGuard([this] { setPanel(QStringLiteral("Ready.")); });
+        undated = RunReminders(
+            g, rules,
+            {upcomingRun,
+             {},
+             [&](const QDate &date, int rule) { soonest.add(date, rules[std::size_t(rule)].TaskDescription); },
+             [this](const QString &panel, int) { setPanel(panel); }});
+    }
+    cbo_Reminders->clear();
+    if (rules.empty())
+        cbo_Reminders->addItem(QStringLiteral("(No Reminders Available)"));
+    else
+        cbo_Reminders->addItems(soonest.texts(g.options.DatePicture));
+    if (undated.tell(g))
+        RefillReminders();
+}
+
+void frm_OMKMDIMain::RefillReminders()
+{
+    if (auto *list = Forms::current().loaded<frm_Maintsched>())
+        list->FillTaskList(); // which fills the toolbar as well
+    else
+        Top20List();
+}
+
+void frm_OMKMDIMain::showSplash()
+{
+    g.gSplashMode = true;
+    Form<frm_OMKaboutbox>().ShowBox();
+    g.gSplashMode = false;
+}
+
+bool frm_OMKMDIMain::tipIsDue()
+{
+    const QString stored = GetSetting(QStringLiteral("Show_Tips"), QStringLiteral("Not Found")).toUpper();
+    // "ELSE" is a word of the settings like the others; any word that is not one of the four changes nothing.
+    if (stored == u"NOT FOUND" || stored == u"ELSE") {
+        g.gShowTips = true;
+        saveAtStart(QStringLiteral("Show_Tips"), QStringLiteral("Yes"));
+        return true;
+    }
+    if (stored == u"YES") {
+        g.gShowTips = true;
+        return true;
+    }
+    if (stored == u"NO")
+        g.gShowTips = false;
+    return false;
+}
+
+void frm_OMKMDIMain::CheckTanks()
+{
+    g.gNoTanks = QStringLiteral("N");
+    const bool none =
+        g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC"))
+            .isEmpty();
+    if (none) {
+        Beep();
+        MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
+        g.gNoTanks = QStringLiteral("Y");
+    }
+    button(QStringLiteral("logbook")).Enabled(!none);
+    button(QStringLiteral("graphing")).Enabled(!none);
+}
+
+void frm_OMKMDIMain::ShowChild(ChildForm &child)
+{
+    auto *frame = qobject_cast<QMdiSubWindow *>(child.parentWidget());
+    if (!frame) {
+        const QSize size = child.size() + childFrame; // as the window asks for
+        frame = new QMdiSubWindow;
+        frame->setWidget(&child);
+        frame->setAttribute(Qt::WA_DeleteOnClose);
+        // Else Tab comes from the last control to the frame, which hands it to the control that the child begins with,
+        // and those before that one are never reached.
+        frame->setFocusPolicy(Qt::NoFocus);
+        frame->setWindowIcon(child.windowIcon());
+        // However small the main window is, which scrolls: controls without any room would paint on empty pictures.
+        frame->setMinimumSize(child.minimumSizeHint().expandedTo(child.minimumSize()) + childFrame);
+        frame->resize(size.boundedTo(m_area->viewport()->size()));
+        m_area->addSubWindow(frame); // of its own size already, so that it gets a place where it is seen whole
+    }
+    if (frame->isMinimized())
+        frame->showNormal();
+    else
+        frame->show();
+    child.show();
+    m_area->setActiveSubWindow(frame);
+    child.takeFocus();
+}
+
+bool frm_OMKMDIMain::isInFront(const ChildForm &child) const { return m_activeChild == &child; }
+
+void frm_OMKMDIMain::offerPrint(const ChildForm &child, bool enabled, const QString &caption)
+{
+    if (!isInFront(child))
+        return;
+    mnu_FilePrint->Enabled(enabled);
+    mnu_FilePrint->setText(caption);
+}
+
+void frm_OMKMDIMain::disablePrint()
+{
+    mnu_FilePrint->Enabled(false);
+    mnu_FilePrint->setText(QStringLiteral("&Print"));
+}
+
+void frm_OMKMDIMain::setPanel(const QString &text) { ShowProgress(*m_panel, text); }
+
+void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
+{
+    auto *child = window ? dynamic_cast<ChildForm *>(window->widget()) : nullptr;
+    if (!m_area->currentSubWindow())
+        disablePrint(); // the last child has closed; a dialog in front leaves the current one
+    if (!child || child == m_activeChild)
+        return; // nothing in front, for now: a dialog or another program is no loss of focus
+    if (m_activeChild)
+        m_activeChild->Form_LostFocus();
+    m_activeChild = child;
+    disablePrint(); // unless the child says otherwise
+    child->Form_Activate();
+}
+
+void frm_OMKMDIMain::MDIForm_Activate()
+{
+    // Some desktops let a keeper bring this window to the front under an open box. Nothing may change for the command
+    // that waits for the box; the child is told when it has closed.
+    if (QApplication::activeModalWidget())
+        return;
+    disablePrint(); // unless the child says otherwise
+    if (m_activeChild && m_activeChild->isShown())
+        m_activeChild->Form_Activate();
+}
+
+void frm_OMKMDIMain::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        guarded([this] { MDIForm_Activate(); })();
+}
+
+bool frm_OMKMDIMain::event(QEvent *event)
+{
+    const bool handled = QMainWindow::event(event);
+    // The last dialog has closed. The window gets no activation if it had one under the dialog already.
+    if (event->type() == QEvent::WindowUnblocked)
+        QMetaObject::invokeMethod(this, guarded([this] {
+                                      if (isActiveWindow())
+                                          MDIForm_Activate();
+                                  }),
+                                  Qt::QueuedConnection);
+    return handled;
+}
+
+/// A press brings a child to the front whatever it meets: a control that takes no focus, as a tool button, does not do
+/// it by itself.
+void frm_OMKMDIMain::bringToFront(const QWidget &pressed)
+{
+    for (const QWidget *widget = &pressed; widget; widget = widget->parentWidget()) {
+        auto *frame = qobject_cast<QMdiSubWindow *>(widget->parentWidget());
+        if (frame && frame->mdiArea() == m_area && frame != m_area->currentSubWindow())
+            m_area->setActiveSubWindow(frame);
+    }
+}
+
+bool frm_OMKMDIMain::eventFilter(QObject *object, QEvent *event)
+{
+    if (!object->isWidgetType())
+        return false;
+    if (event->type() == QEvent::MouseButtonPress)
+        bringToFront(*static_cast<QWidget *>(object));
+    return event->type() == QEvent::KeyPress && helpKey(*static_cast<QKeyEvent *>(event));
+}
+
+void frm_OMKMDIMain::MDIForm_Unload()
+{
+    for (QMdiSubWindow *frame : m_area->subWindowList())
+        frame->close();
+    if (auto *options = Forms::current().loaded<frm_OMKOptions>())
+        Unload(*options);
+}
+
+void frm_OMKMDIMain::closeEvent(QCloseEvent *event)
+{
+    guarded([this] { MDIForm_Unload(); })();
+    QMainWindow::closeEvent(event);
+}
+
+void frm_OMKMDIMain::cbo_Reminders_Click()
+{
+    // For reading only: the next reminder, at the top, is the one displayed.
+    if (cbo_Reminders->count() > 0)
+        cbo_Reminders->setCurrentIndex(0);
+}
