@@ -23,7 +23,7 @@ template <class Send> void walkAll(const RecurrenceRule &rule, const DateRange &
 {
     std::vector<QDate> dates;
     if (rule.is(Pattern::Once))
-        dates = {*ReadOnceDetail(rule.RecurrenceDetail, QStringLiteral("MMDDYY"))};
+        dates = {*ReadOnceDetail(rule.RecurrenceDetail, DateOrder::MMDDYY)};
     else
         dates = LiteralWalk(rule, false).result.dates;
     for (const QDate &date : dates)

@@ -6,7 +6,7 @@
 #include <QProcess>
 
 #include "OwnProcess.h"
-#include "windows/logbook/LogKinds.h"
+#include "windows/logbook/LogRows.h"
 
 namespace {
 

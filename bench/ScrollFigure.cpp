@@ -12,7 +12,7 @@
 #include "Desk.h"
 #include "OwnProcess.h"
 #include "platform/controls/ListView.h"
-#include "windows/logbook/LogKinds.h"
+#include "windows/logbook/LogRows.h"
 
 namespace {
 

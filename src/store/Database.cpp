@@ -1,7 +1,5 @@
 #include "store/Database.h"
 
-#include <algorithm>
-
 #include <QDir>
 #include <QFileInfo>
 #include <sqlite3.h>
@@ -53,54 +51,6 @@ FieldDef fieldOf(const QString &name, const QString &declaration)
     case ColumnKind::Time: return {name, FieldType::Time, 0};
     default: return {name, size > 0 ? FieldType::Text : FieldType::Memo, size};
     }
-}
-
-/// The statement of a query that can be written, with the row's number as a last column.
-struct WritableQuery
-{
-    QString table;
-    QString sql;
-};
-
-/// Words, quoted parts as they stand, and single characters.
-std::vector<QStringView> partsOf(const QString &sql)
-{
-    std::vector<QStringView> parts;
-    for (qsizetype at = 0, end = 0; at < sql.size(); at = end) {
-        const auto isWord = [](QChar c) { return c.isLetterOrNumber() || c == u'_'; };
-        const QChar first = sql[at];
-        end = at + 1;
-        if (first == u'\'' || first == u'"' || first == u'[') {
-            const qsizetype close = sql.indexOf(first == u'[' ? u']' : first, end);
-            end = close < 0 ? sql.size() : close + 1;
-        } else {
-            while (isWord(first) && end < sql.size() && isWord(sql[end]))
-                ++end;
-        }
-        if (!first.isSpace())
-            parts.push_back(QStringView(sql).mid(at, end - at));
-    }
-    return parts;
-}
-
-/// Nothing where the statement is not "SELECT * FROM table" with a condition or an order at most.
-std::optional<WritableQuery> writableQuery(const QString &sql)
-{
-    const auto isOneOf = [](QStringView part, std::initializer_list<const char *> words) {
-        return std::ranges::any_of(
-            words, [&](const char *w) { return part.compare(QLatin1String(w), Qt::CaseInsensitive) == 0; });
-    };
-    const auto parts = partsOf(sql);
-    if (parts.size() < 4 || !isOneOf(parts[0], {"SELECT"}) || parts[1] != u"*" || !isOneOf(parts[2], {"FROM"}) ||
-        (parts.size() > 4 && !isOneOf(parts[4], {";", "WHERE", "ORDER", "LIMIT"})) ||
-        std::ranges::any_of(parts, [&](QStringView p) {
-            return isOneOf(p, {"UNION", "INTERSECT", "EXCEPT", "GROUP"});
-        }))
-        return std::nullopt;
-    const bool quoted = parts[3][0] == u'[' || parts[3][0] == u'"';
-    QString withRowid = sql;
-    withRowid.insert(parts[1].end() - sql.cbegin(), QStringLiteral(", rowid"));
-    return WritableQuery{(quoted ? parts[3].mid(1, parts[3].size() - 2) : parts[3]).toString(), withRowid};
 }
 
 void requireQuery(const Statement &statement, const QString &sql)
@@ -161,15 +111,25 @@ std::shared_ptr<Connection> Database::connection()
 
 Recordset Database::OpenRecordset(const QString &sql, const Parameters &parameters)
 {
+    return open(sql, parameters, {});
+}
+
+Recordset Database::OpenForUpdate(const QString &table, const QString &which, const Parameters &parameters)
+{
+    const QString name = tableName(table);
+    return open(u"SELECT *, rowid FROM " + quoted(name) + u' ' + which, parameters, name);
+}
+
+/// With a table, the rows can be written, and the last column of the statement is the row's number.
+Recordset Database::open(const QString &sql, const Parameters &parameters, const QString &table)
+{
     auto state = std::make_shared<RecordsetState>();
     state->connection = connection();
-    const auto writable = writableQuery(sql);
-    Statement query(state->connection, writable ? writable->sql : sql, QStringLiteral("Reading from the database."));
+    Statement query(state->connection, sql, QStringLiteral("Reading from the database."));
     requireQuery(query, sql);
     query.bind(parameters);
-    if (writable)
-        state->table = writable->table;
-    state->rows = std::make_shared<const Rows>(Rows::read(query, writable ? &state->rowids : nullptr));
+    state->table = table;
+    state->rows = std::make_shared<const Rows>(Rows::read(query, table.isEmpty() ? nullptr : &state->rowids));
     return Recordset(std::move(state));
 }
 

@@ -41,11 +41,13 @@ public:
     /// How many milliseconds databases opened from now on wait for another program's lock. The default is 5000.
     static void setBusyTimeout(int milliseconds);
 
-    /// Runs a SELECT with its values bound to its "?", in order. The recordset stands on its first row. "SELECT * FROM
-    /// table [WHERE
-    /// ...] [ORDER BY ...]" of one table can be written, all else only read. For the order that a person sees there is
-    /// the collation CASEBLIND: "ORDER BY tankname COLLATE CASEBLIND". Throws SyntaxError where the statement is wrong.
+    /// Runs a SELECT with its values bound to its "?", in order. The recordset is for reading and stands on its first
+    /// row. For the order that a person sees there is the collation CASEBLIND: "ORDER BY tankname COLLATE CASEBLIND".
+    /// Throws SyntaxError where the statement is wrong.
     Recordset OpenRecordset(const QString &sql, const Parameters &parameters = {});
+    /// The rows of a table, to be changed, deleted and added to. `which` is what follows the name of the table:
+    /// "WHERE ... ORDER BY ...". Throws as OpenRecordset and Fields do.
+    Recordset OpenForUpdate(const QString &table, const QString &which = {}, const Parameters &parameters = {});
     /// Runs a SELECT whose rows are read one at a time and not kept.
     RowStream OpenForwardOnly(const QString &sql, const Parameters &parameters = {});
     /// A recordset of a table that serves only AddNew; it reads no rows.
@@ -93,6 +95,7 @@ private:
     /// The open connection; opens the file again after LetGo().
     std::shared_ptr<Connection> connection();
     QString tableName(const QString &table);
+    Recordset open(const QString &sql, const Parameters &parameters, const QString &table);
 
     std::shared_ptr<Connection> m_connection;
     QString m_fileName;

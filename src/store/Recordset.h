@@ -1,7 +1,7 @@
-// The rows of one SELECT, read once, and a buffer for one row that is being added or changed. A recordset of "SELECT *
-// FROM table [WHERE ...] [ORDER BY ...]" can be written: AddNew or Edit fills the buffer, the fields write into it, one
-// Update writes one row in one transaction. The buffer lapses when the recordset moves or is opened again; a refused
-// Update keeps it. A copy shares rows and state. After Database::Close or its own Close every use throws ObjectNotSet.
+// The rows of one SELECT, read once, and a buffer for one row that is being added or changed. One that
+// was opened for update can be written: AddNew or Edit fills the buffer, the fields write into it, and one Update
+// writes one row in one transaction. The buffer lapses when the recordset moves or is opened again; a refused Update
+// keeps it. A copy shares rows and state. After Database::Close or its own Close every use throws ObjectNotSet.
 #pragma once
 
 #include <memory>
@@ -57,8 +57,7 @@ public:
     /// The rows as they were read; a list that shows them may keep them.
     std::shared_ptr<const Rows> rows() const;
 
-    /// Starts a row of Nulls. Throws PermissionDenied where the query is none that can be written, as do the next
-    /// three.
+    /// Starts a row of Nulls. Throws PermissionDenied if the recordset was opened for reading, as do the next three.
     void AddNew();
     void Edit(); ///< starts from the current row
     /// Writes the buffer. Throws DuplicateKey if a unique index refuses it, and keeps the buffer. After Edit the

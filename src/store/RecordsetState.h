@@ -19,8 +19,8 @@ struct RecordsetState
 
     std::shared_ptr<Connection> connection; ///< null after Close
     std::shared_ptr<const Rows> rows;
-    QString table;              ///< empty if the query cannot be written
-    std::vector<qint64> rowids; ///< of each row, if the query can be written
+    QString table;              ///< empty if the rows are for reading only
+    std::vector<qint64> rowids; ///< of each row, if it can be written
     qsizetype current = 0;      ///< rows->count() means after the last row
 
     std::map<qsizetype, std::vector<Value>> changed; ///< rows as an Update left them

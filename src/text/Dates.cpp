@@ -9,6 +9,16 @@
 
 namespace {
 
+/// Where month, day and year are among the three numbers of a date; in the order of DateOrder.
+struct Order
+{
+    const char *word;
+    std::size_t month, day, year;
+};
+constexpr Order orders[] = {{"MMDDYY", 0, 1, 2}, {"DDMMYY", 1, 0, 2}, {"YYMMDD", 1, 2, 0}};
+
+const Order &orderOf(DateOrder dateOrder) { return orders[std::size_t(dateOrder)]; }
+
 constexpr const char *monthNames[] = {"January", "February", "March",     "April",   "May",      "June",
                                       "July",    "August",   "September", "October", "November", "December"};
 constexpr const char *weekdayNames[] = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
@@ -135,21 +145,26 @@ bool isMarker(QStringView marker) { return marker == u"AM" || marker == u"PM" ||
 
 } // namespace
 
-QString MakeDatePicture(const QString &dateOrder, const QString &delimiter)
+QString WordOf(DateOrder dateOrder) { return QLatin1String(orderOf(dateOrder).word); }
+
+DateOrder ReadDateOrder(const QString &word)
 {
-    return dateOrder.left(2) + delimiter + dateOrder.mid(2, 2) + delimiter + dateOrder.right(2);
+    const auto *found =
+        std::ranges::find_if(orders, [&word](const Order &order) { return word == QLatin1String(order.word); });
+    return found == std::end(orders) ? DateOrder::MMDDYY : DateOrder(found - orders);
 }
 
-QString NormalizeDateText(const QString &text, const QString &dateOrder)
+QString MakeDatePicture(DateOrder dateOrder, const QString &delimiter)
 {
-    const QString first = text.left(2), second = text.mid(3, 2), third = text.right(2);
-    if (dateOrder == u"MMDDYY")
-        return first + u'/' + second + u'/' + third;
-    if (dateOrder == u"DDMMYY")
-        return second + u'/' + first + u'/' + third;
-    if (dateOrder == u"YYMMDD")
-        return second + u'/' + third + u'/' + first;
-    return {};
+    const QString word = WordOf(dateOrder);
+    return word.left(2) + delimiter + word.mid(2, 2) + delimiter + word.right(2);
+}
+
+QString NormalizeDateText(const QString &text, DateOrder dateOrder)
+{
+    const QString fields[] = {text.left(2), text.mid(3, 2), text.right(2)};
+    const Order &order = orderOf(dateOrder);
+    return fields[order.month] + u'/' + fields[order.day] + u'/' + fields[order.year];
 }
 
 std::optional<QDate> ReadDate(const QString &text)
@@ -160,18 +175,16 @@ std::optional<QDate> ReadDate(const QString &text)
 
 bool IsDate(const QString &text) { return ReadDate(text).has_value(); }
 
-std::optional<QDate> ReadTypedDate(const QString &text, const QString &dateOrder)
+std::optional<QDate> ReadTypedDate(const QString &text, DateOrder dateOrder)
 {
     const auto fields = threeNumbers(text, dateDelimiters);
     if (!fields)
         return std::nullopt;
-    const auto &[first, second, third] = *fields;
-    if (const auto date = dateOf(first, second, third))
-        return date;
-    if (dateOrder == u"DDMMYY")
-        return dateOf(second, first, third);
-    if (dateOrder == u"YYMMDD")
-        return dateOf(second, third, first);
+    for (const DateOrder tried : {DateOrder::MMDDYY, dateOrder}) {
+        const Order &order = orderOf(tried);
+        if (const auto date = dateOf((*fields)[order.month], (*fields)[order.day], (*fields)[order.year]))
+            return date;
+    }
     return std::nullopt;
 }
 

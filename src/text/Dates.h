@@ -9,20 +9,26 @@
 #include <QString>
 #include <QTime>
 
+/// In which order the user writes month, day and year.
+enum class DateOrder { MMDDYY, DDMMYY, YYMMDD };
+
+/// The order as the settings have it, "MMDDYY" and so on. Reading any other word gives MMDDYY.
+QString WordOf(DateOrder dateOrder);
+DateOrder ReadDateOrder(const QString &word);
+
 /// How the user writes a date.
 struct DateConventions
 {
-    QString order;   ///< "MMDDYY", "DDMMYY" or "YYMMDD"
+    DateOrder order;
     QString picture; ///< such as "DD.MM.YY"
 };
 
-/// The picture that shows a date in the user's order: "MMDDYY" with "/" gives "MM/DD/YY".
-QString MakeDatePicture(const QString &dateOrder, const QString &delimiter);
+/// The picture that shows a date in the user's order: MMDDYY with "/" gives "MM/DD/YY".
+QString MakeDatePicture(DateOrder dateOrder, const QString &delimiter);
 
-/// Converts an eight-character text in the user's order ("MMDDYY", "DDMMYY" or "YYMMDD") to month-first text
-/// "mm/dd/yy". It reads by position (characters 1-2, 4-5, the last two), ignores the delimiters and checks nothing. For
-/// any other order the result is empty.
-QString NormalizeDateText(const QString &text, const QString &dateOrder);
+/// Converts an eight-character text in the user's order to month-first text "mm/dd/yy". It reads by position
+/// (characters 1-2, 4-5, the last two), ignores the delimiters and checks nothing.
+QString NormalizeDateText(const QString &text, DateOrder dateOrder);
 
 /// Reads a month-first date: month, day and year, each 1 or 2 digits (year 1 to 4), between "/", "-" or ".". A year of
 /// one or two digits falls into the hundred years that end with lastTypedYear(); longer years are taken literally (100
@@ -31,7 +37,7 @@ std::optional<QDate> ReadDate(const QString &text);
 bool IsDate(const QString &text);
 
 /// Reads a date as it was typed: month first or, if that gives no valid date, in the user's order.
-std::optional<QDate> ReadTypedDate(const QString &text, const QString &dateOrder);
+std::optional<QDate> ReadTypedDate(const QString &text, DateOrder dateOrder);
 
 /// The last year that two digits can mean: 2029, and from 2028 on two years ahead of the clock, so that a date two
 /// years ahead can always be typed.

@@ -82,7 +82,7 @@ void readTable(Database &database, const QString &table)
 /// Adds, changes and deletes a row. A refused row must stay under edit, and a deleted row must no longer be counted.
 void writeWater(Database &database)
 {
-    Recordset set = database.OpenRecordset(QStringLiteral("SELECT * FROM waterlog"));
+    Recordset set = database.OpenForUpdate(QStringLiteral("waterlog"));
     set.AddNew();
     set[QStringLiteral("logdate")].setValue(QDate(2004, 2, 29));
     const bool added = attempt([&set] { set.Update(); });

@@ -4,14 +4,14 @@
 
 namespace {
 
-const QStringList orders = {QStringLiteral("MMDDYY"), QStringLiteral("DDMMYY"), QStringLiteral("YYMMDD")};
+constexpr DateOrder orders[] = {DateOrder::MMDDYY, DateOrder::DDMMYY, DateOrder::YYMMDD};
 
 /// In each order, a date that is shown in the user's format must be read back as the same day, typed or normalised.
 void checkShownAndReadBack(const QDate &date, const QString &delimiter)
 {
     const bool inWindow = date.year() <= lastTypedYear() && date.year() > lastTypedYear() - 100;
     FUZZ_REQUIRE(ReadDate(Format(date, QStringLiteral("mm/dd/yyyy"))) == date, date.toString());
-    for (const QString &order : orders) {
+    for (const DateOrder order : orders) {
         const QString shown = Format(date, MakeDatePicture(order, delimiter));
         FUZZ_REQUIRE(shown.size() == 8, shown);
         FUZZ_REQUIRE(!inWindow || ReadDate(NormalizeDateText(shown, order)) == date, shown);
@@ -19,7 +19,7 @@ void checkShownAndReadBack(const QDate &date, const QString &delimiter)
     }
 }
 
-void checkDate(const QString &text, const QString &order, const QString &delimiter)
+void checkDate(const QString &text, DateOrder order, const QString &delimiter)
 {
     const auto date = ReadDate(text), typed = ReadTypedDate(text, order);
     FUZZ_REQUIRE(IsDate(text) == date.has_value() && (!date || typed == date), text);
@@ -44,9 +44,8 @@ void fuzz(Input &input, ScriptedDoors &doors)
 {
     doors.clock.setDate(QDate(1990 + 5 * input.choice(32), 6, 1));
     const QString delimiter = QStringLiteral("/-.").at(input.choice(3));
-    const QString order = orders[input.choice(3)];
-    const QString text = input.line(), strange = input.line();
+    const DateOrder order = orders[input.choice(3)];
+    const QString text = input.line();
     checkDate(text, order, delimiter);
-    FUZZ_REQUIRE(orders.contains(strange) || NormalizeDateText(text, strange).isEmpty(), strange);
     checkTime(text);
 }

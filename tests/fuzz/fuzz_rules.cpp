@@ -42,7 +42,7 @@ std::vector<RecurrenceRule> readBack(const Parameters &values)
     return ReadRules(*database->OpenRecordset(QStringLiteral("SELECT * FROM maintsched")).rows());
 }
 
-Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRange &range, const QString &order)
+Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRange &range, DateOrder order)
 {
     Walked walked;
     walked.failed =
@@ -52,7 +52,7 @@ Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRang
 }
 
 /// The second walk reads a month as a name for the preview, and as a number for the other two runs.
-void checkWalks(const RecurrenceRule &rule, const DateRange &range, const QString &order)
+void checkWalks(const RecurrenceRule &rule, const DateRange &range, DateOrder order)
 {
     const Walked preview = walk(rule, previewRun, range, order), schedule = walk(rule, scheduleRun, range, order);
     FUZZ_REQUIRE(schedule == walk(rule, upcomingRun, range, order), rule.RecurrenceDetail);
@@ -96,8 +96,8 @@ void checkEditor(const RecurrenceRule &rule, const DateConventions &conventions)
 
 void fuzz(Input &input, ScriptedDoors &)
 {
-    const char *const orders[] = {"MMDDYY", "DDMMYY", "YYMMDD"};
-    const QString order = QLatin1String(orders[input.choice(3)]);
+    constexpr DateOrder orders[] = {DateOrder::MMDDYY, DateOrder::DDMMYY, DateOrder::YYMMDD};
+    const DateOrder order = orders[input.choice(3)];
     const DateConventions conventions{order, MakeDatePicture(order, QStringLiteral("/-.").at(input.choice(3)))};
     const QDate from = QDate(1990, 1, 1).addDays(input.number(2));
     const DateRange range{from, from.addDays(input.choice(256) * 4)};

@@ -55,7 +55,8 @@ protected:
     QStringList onScreen();
     QStringList onPaper(const QString &tank);
 
-    const QString order = GetParam().order, picture = MakeDatePicture(order, GetParam().delimiter);
+    const DateOrder order = ReadDateOrder(GetParam().order);
+    const QString picture = MakeDatePicture(order, GetParam().delimiter);
     std::vector<Done> year;
 };
 
@@ -121,7 +122,7 @@ void Year::work(const QString &tank, const QString &task)
     });
     QDateTime when = keeper.doors.clock;
     const QDate date = when.date(); // read as it stands, month first where it can be
-    if (order == u"DDMMYY" && date.day() <= 12)
+    if (order == DateOrder::DDMMYY && date.day() <= 12)
         when.setDate(QDate(date.year(), date.day(), date.month()));
     year.push_back({tank, MaintenanceTab, when, task + "|12"});
 }

@@ -10,7 +10,7 @@ namespace {
 
 using Fields = EditorFields;
 
-const DateConventions american{"MMDDYY", "MM/DD/YY"};
+const DateConventions american{DateOrder::MMDDYY, "MM/DD/YY"};
 
 /// Fields of a rule that can be stored.
 Fields goodFields(Pattern pattern, bool secondVariant = false)
@@ -139,7 +139,7 @@ TEST_F(EditorFieldsTest, ShowsAnUpgradedRuleAndAsksForWhatAStrangeDetailDoesNotT
 
 TEST_F(EditorFieldsTest, AOnceDateIsStoredAsTypedWhereThatIsTheDateMonthFirstElseSoThatItStaysItsDay)
 {
-    const DateConventions german{"DDMMYY", "DD.MM.YY"}, iso{"YYMMDD", "YY-MM-DD"};
+    const DateConventions german{DateOrder::DDMMYY, "DD.MM.YY"}, iso{DateOrder::YYMMDD, "YY-MM-DD"};
     const std::tuple<DateConventions, DateBox, QString> rows[] = {
         {american, {"07/04/26", {}}, "07/04/26"},
         {german, {"04.07.26", {}}, "04.07.26"}, // the 7th of April, to everybody
@@ -156,8 +156,9 @@ TEST_F(EditorFieldsTest, AOnceDateIsStoredAsTypedWhereThatIsTheDateMonthFirstEls
         RecurrenceRule rule;
         StoreRecurrence(fields, dates, rule);
         EXPECT_EQ(rule.RecurrenceDetail, detail) << box.text.toStdString();
-        for (const char *order : {"MMDDYY", "DDMMYY", "YYMMDD"})
-            EXPECT_EQ(ReadOnceDetail(rule.RecurrenceDetail, order), ReadOnceDate(box, dates)) << order;
+        for (const DateOrder order : {DateOrder::MMDDYY, DateOrder::DDMMYY, DateOrder::YYMMDD})
+            EXPECT_EQ(ReadOnceDetail(rule.RecurrenceDetail, order), ReadOnceDate(box, dates))
+                << WordOf(order).toStdString();
     }
 }
 

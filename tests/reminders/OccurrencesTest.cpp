@@ -39,7 +39,7 @@ void expectGoldenDates(const QString &fileName)
     const RecurrenceRule rule{{}, date("start"), date("end"), interval, type, subtype, words["detail"], {}};
     const auto run = std::ranges::find_if(runs, [&words](const auto &r) { return words["run"] == r.first; });
     ASSERT_NE(run, std::end(runs));
-    const auto fault = Walk(rule, *run->second, {date("from"), date("to")}, words.value("order", "MMDDYY"),
+    const auto fault = Walk(rule, *run->second, {date("from"), date("to")}, ReadDateOrder(words.value("order")),
                             [&dates](const QDate &d) { dates << d.toString(Qt::ISODate); });
     EXPECT_EQ(dates, expected) << dates.join(' ').toStdString();
     EXPECT_EQ(fault.has_value(), words.contains("fault"));
@@ -94,5 +94,5 @@ TEST_F(StoredRules, OldRowsAndInvalidCellsCanBeRead)
                                                   {"empty", {}, {}, 0, 0, 0, "", ""},
                                                   {"strange", {}, end, 0, 0, 0, "", ""}}));
     for (const RecurrenceRule &rule : {rules.at(1), rules.at(2)})
-        EXPECT_TRUE(Walk(rule, upcomingRun, TwoYearsFrom(start), "MMDDYY", [](const QDate &) { FAIL(); }));
+        EXPECT_TRUE(Walk(rule, upcomingRun, TwoYearsFrom(start), DateOrder::MMDDYY, [](const QDate &) { FAIL(); }));
 }

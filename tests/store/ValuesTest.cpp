@@ -68,7 +68,7 @@ TEST_F(ValuesTest, CellsThatDoNotFitAreReadAsText)
         db->Execute("DELETE FROM WATERLOG");
         db->Execute(QString("INSERT INTO WATERLOG (nitrate, %1) VALUES (5, %2)").arg(column, literal));
         const QString cell = asked(QString("SELECT quote(%1) FROM WATERLOG").arg(column));
-        Recordset recordset = db->OpenRecordset("SELECT * FROM WATERLOG");
+        Recordset recordset = db->OpenForUpdate("WATERLOG");
         const auto rows = recordset.rows();
         const int at = recordset.columnIndex(column);
         EXPECT_EQ(recordset[column].value(), Value(QString::fromUtf8(text))) << literal;

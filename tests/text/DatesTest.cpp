@@ -39,15 +39,15 @@ TEST_F(Dates, AreReadAsMonthDayYear)
 
 TEST_F(Dates, TypedOnesMayBeInTheKeepersOrder)
 {
-    for (const auto &[text, order, date] : {std::tuple{"03/04/05", "DDMMYY", "2005-03-04"},
-                                            {"18/02/97", "DDMMYY", "1997-02-18"},
-                                            {"97/02/18", "YYMMDD", "1997-02-18"},
-                                            {"2003-02-28", "YYMMDD", "2003-02-28"},
-                                            {"03/02/18", "YYMMDD", "2018-03-02"},
-                                            {"18/02/97", "MMDDYY", "none"},
-                                            {"31/04/98", "DDMMYY", "none"},
-                                            {"__/__/__", "DDMMYY", "none"}})
-        EXPECT_EQ(iso(ReadTypedDate(text, order)), QString(date)) << text << ' ' << order;
+    for (const auto &[text, order, date] : {std::tuple{"03/04/05", DateOrder::DDMMYY, "2005-03-04"},
+                                            {"18/02/97", DateOrder::DDMMYY, "1997-02-18"},
+                                            {"97/02/18", DateOrder::YYMMDD, "1997-02-18"},
+                                            {"2003-02-28", DateOrder::YYMMDD, "2003-02-28"},
+                                            {"03/02/18", DateOrder::YYMMDD, "2018-03-02"},
+                                            {"18/02/97", DateOrder::MMDDYY, "none"},
+                                            {"31/04/98", DateOrder::DDMMYY, "none"},
+                                            {"__/__/__", DateOrder::DDMMYY, "none"}})
+        EXPECT_EQ(iso(ReadTypedDate(text, order)), QString(date)) << text << ' ' << WordOf(order).toStdString();
 }
 
 TEST_F(Dates, TimesAreReadBackAsShown)

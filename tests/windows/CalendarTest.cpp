@@ -100,12 +100,12 @@ TEST(Calendar, AChosenDayComesOutWithItsCenturyAndEveryOtherWayBringsTheDateOfEn
 
 TEST(Calendar, ADayThatTheBoxWouldReadAsAnotherIsToldAndTheBoxKeepsWhatItHad)
 {
-    const std::tuple<const char *, const char *, QDate, const char *> rows[] = {
-        {"MMDDYY", "/", {2029, 12, 31}, "12/31/29"},
-        {"MMDDYY", "/", {2030, 1, 1}, "01/01/2030"}, // told with its whole year
-        {"DDMMYY", ".", {1930, 1, 31}, "31.01.30"},
-        {"DDMMYY", ".", {1929, 12, 31}, "31.12.1929"},
-        {"YYMMDD", "-", {2126, 3, 14}, "2126-03-14"},
+    const std::tuple<DateOrder, const char *, QDate, const char *> rows[] = {
+        {DateOrder::MMDDYY, "/", {2029, 12, 31}, "12/31/29"},
+        {DateOrder::MMDDYY, "/", {2030, 1, 1}, "01/01/2030"}, // told with its whole year
+        {DateOrder::DDMMYY, ".", {1930, 1, 31}, "31.01.30"},
+        {DateOrder::DDMMYY, ".", {1929, 12, 31}, "31.12.1929"},
+        {DateOrder::YYMMDD, "-", {2126, 3, 14}, "2126-03-14"},
     };
     Keeper keeper;
     for (const auto &[order, delimiter, day, shown] : rows) {
@@ -113,7 +113,7 @@ TEST(Calendar, ADayThatTheBoxWouldReadAsAnotherIsToldAndTheBoxKeepsWhatItHad)
         OptionsMembers options;
         options.DateDelimiter = delimiter;
         UseDateOrder(box, options);
-        const QString before = MakeDatePicture("010101", delimiter);
+        const QString before = Format(QDate(2001, 1, 1), MakeDatePicture(order, delimiter));
         box.setText(before);
         PutDay(box, day, {order, MakeDatePicture(order, delimiter)});
         const bool held = strlen(shown) == 8;

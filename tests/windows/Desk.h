@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Hands.h"
-#include "logic/logbook/LogTab.h"
+#include "logic/logbook/LogKinds.h"
 #include "platform/controls/MaskedBox.h"
 
 class Desk : public ::testing::Test
@@ -19,9 +19,9 @@ protected:
     }
     void open(const QString &tank)
     {
-        main = Forms::current().loaded<frm_OMKMDIMain>();
-        if (!main)
-            main = &keeper.startProgram();
+        main = &Form<frm_OMKMDIMain>();
+        if (!main->isVisible())
+            keeper.startProgram();
         logbook = &hand::openLogbook(*main);
         hand::clickTank(*logbook, tank);
         hand::clickTab(*logbook->tab_logtype, m_tab);

@@ -119,6 +119,7 @@ private:
         m_globals->gCurrentDir = folder.path();
         m_globals->gDatabase = Database::OpenDatabase(databaseFile());
         m_forms = std::make_unique<Forms>(*m_globals);
+        Form<frm_OMKMDIMain>(); // which every other window needs
     }
     void stop()
     {

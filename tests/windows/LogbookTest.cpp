@@ -140,7 +140,7 @@ TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowAndTheTankBelowThem)
 
 TEST_F(Logbook, ARowIsOpenedInTheOrderThatItIsShownInWhateverWasChosenSince)
 {
-    keeper.g().options.DateOrder = "DDMMYY"; // the list is not told
+    keeper.g().options.DateOrder = DateOrder::DDMMYY; // the list is not told
     keeper.g().options.DatePicture = "DD/MM/YY";
     give<frm_WaterAddEdit>("changeentries", 1, [&](frm_WaterAddEdit &w) {
         EXPECT_EQ(w.txt_date->FormattedText(), "05/04/26");

@@ -7,14 +7,7 @@
 #include "windows/reminders/frm_Schedule.h"
 #include "windows/tanks/frm_TankMaint.h"
 
-/// A child of the main window that is not the logbook.
-class OtherChild : public ChildForm
-{
-public:
-    OtherChild(Globals &globals, QWidget *parent) : ChildForm(globals, parent) { setWindowTitle("Other"); }
-};
-
-class MainWindow : public Desk
+class TheMainWindow : public Desk
 {
 protected:
     bool canAdd() const { return main->mnu_FileNew->isEnabled() && main->mnu_FileOpen->isEnabled(); }
@@ -49,7 +42,7 @@ TEST(Start, EndsAtAFileThatCannotBeUsed)
     EXPECT_FALSE(Form<frm_OMKMDIMain>().isVisible());
 }
 
-TEST_F(MainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestart)
+TEST_F(TheMainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestart)
 {
     const auto setUpTanks = [&] {
         keeper.inNext<frm_TankMaint>([](frm_TankMaint &) { hand::press(Qt::Key_Escape); });
@@ -72,7 +65,7 @@ TEST_F(MainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestar
     EXPECT_EQ(keeper.told() + keeper.g().gNoTanks, "0N");
 }
 
-TEST_F(MainWindow, ViewTakesTheToolbarAwayButNotTheReminders)
+TEST_F(TheMainWindow, ViewTakesTheToolbarAwayButNotTheReminders)
 {
     for (const bool shown : {false, true}) {
         hand::choose(*main, *main->mnu_View, "mnu_ViewToolbar");
@@ -82,7 +75,7 @@ TEST_F(MainWindow, ViewTakesTheToolbarAwayButNotTheReminders)
     }
 }
 
-TEST_F(MainWindow, ALogbookThatIsAnIconTakesCommandsAndComesUpFromTheWindowMenuAndCascadeKeepsSizes)
+TEST_F(TheMainWindow, ALogbookThatIsAnIconTakesCommandsAndComesUpFromTheWindowMenuAndCascadeKeepsSizes)
 {
     QWidget &frame = *logbook->parentWidget();
     const QSize size = frame.size();
@@ -96,12 +89,12 @@ TEST_F(MainWindow, ALogbookThatIsAnIconTakesCommandsAndComesUpFromTheWindowMenuA
         if (action->text().contains("Logbook"))
             action->trigger();
     EXPECT_TRUE(logbook->isVisible() && !frame.isMinimized());
-    main->ShowChild(Form<OtherChild>());
+    main->ShowChild(Form<frm_Conversions>());
     hand::choose(*main, *main->mnu_Window, "mnu_WindowCascade");
     EXPECT_EQ(frame.size(), size);
 }
 
-TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
+TEST_F(TheMainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
 {
     give<frm_WaterAddEdit>("addentries", 0, [&](frm_WaterAddEdit &) {
         EXPECT_TRUE(canAdd());
@@ -112,7 +105,7 @@ TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
     EXPECT_TRUE(canAdd() && main->mnu_FilePrint->isEnabled());
     EXPECT_EQ(main->mnu_FilePrint->text(), "&Print Entries...");
 
-    main->ShowChild(Form<OtherChild>());
+    main->ShowChild(Form<frm_Conversions>());
     EXPECT_FALSE(main->mnu_FileNew->isEnabled() || main->mnu_FileOpen->isEnabled() ||
                  main->mnu_FileDelete->isEnabled());
     hand::openLogbook(*main);
@@ -120,7 +113,7 @@ TEST_F(MainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
     EXPECT_EQ(logbook->TreeView1->currentItem()->text(0), "Reef") << "only the first activation builds the tree";
 }
 
-TEST_F(MainWindow, PrintIsWhatTheChildInFrontOffers)
+TEST_F(TheMainWindow, PrintIsWhatTheChildInFrontOffers)
 {
     const auto print = [&]() -> QString {
         return main->mnu_FilePrint->text() + (main->mnu_FilePrint->isEnabled() ? "" : " (off)");
@@ -154,7 +147,7 @@ TEST_F(MainWindow, PrintIsWhatTheChildInFrontOffers)
     EXPECT_EQ(print(), "&Print (off)");
 }
 
-TEST_F(MainWindow, ChildrenOfAVerySmallWindowKeepTheRoomThatTheyNeed)
+TEST_F(TheMainWindow, ChildrenOfAVerySmallWindowKeepTheRoomThatTheyNeed)
 {
     main->resize(1, 1);
     const auto paint = [&] { // a warning of the toolkit fails the test

@@ -13,7 +13,7 @@ protected:
     {
         const OptionsMembers &o = keeper.g().options;
         return QString("%1 %2 %3, %4 %5 %6 %7, %8 %9 ")
-                   .arg(o.DateOrder, o.DateDelimiter, o.DatePicture, o.GraphChecks)
+                   .arg(WordOf(o.DateOrder), o.DateDelimiter, o.DatePicture, o.GraphChecks)
                    .arg(o.GraphStyle)
                    .arg(o.GraphSkipZeroes)
                    .arg(o.GraphPrintColor)
@@ -107,7 +107,7 @@ TEST_F(Options, EveryOtherWayOutKeepsWhatWasStored)
     for (const bool apply : {false, true}) {
         inDialog([&](frm_OMKOptions &w) {
             changeEverything(w);
-            EXPECT_EQ(keeper.g().options.DateOrder, "DDMMYY"); // the members go along with the controls
+            EXPECT_EQ(keeper.g().options.DateOrder, DateOrder::DDMMYY); // the members go along with the controls
             if (apply)
                 click(*w.cmdApply);
             EXPECT_TRUE(w.isVisible());

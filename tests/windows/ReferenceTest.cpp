@@ -43,20 +43,6 @@ TEST_F(Reference, EitherNameFileIsListedInTheOrderThatWasChosenAndAMissingOneIsT
     }
 }
 
-TEST(Conversions, ThereAndBackAgainIsNearlyTheSame)
-{
-    const auto plain = [](QString unit) { return unit.remove(' ').remove('>'); };
-    int pairs = 0;
-    for (const Conversion &there : conversions)
-        for (const Conversion &back : conversions)
-            if (plain(UnitFrom(there.key)) == plain(UnitTo(back.key)) &&
-                plain(UnitTo(there.key)) == plain(UnitFrom(back.key))) {
-                ++pairs;
-                EXPECT_NEAR(Convert_Formula(back.key, Convert_Formula(there.key, 50)), 50, 0.05) << there.key;
-            }
-    EXPECT_EQ(pairs, 36); // four are offered in one direction only
-}
-
 TEST_F(Reference, AValueIsConvertedByEnterAndOneThatIsNoneIsRefused)
 {
     const std::tuple<int, const char *, const char *, const char *> rows[] = {

@@ -8,7 +8,7 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 
-#include "logic/logbook/LogTab.h"
+#include "logic/logbook/LogKinds.h"
 #include "platform/controls/MaskedBox.h"
 #include "SampleData.h"
 #include "windows/common/frm_Caltool.h"

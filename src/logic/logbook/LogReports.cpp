@@ -1,8 +1,5 @@
 #include "logic/logbook/LogReports.h"
 
-#include <array>
-
-#include "logic/common/Measurements.h"
 #include "platform/core/Doors.h"
 #include "platform/core/Printer.h"
 #include "store/Database.h"
@@ -10,87 +7,6 @@
 #include "text/Numbers.h"
 
 namespace {
-
-struct ReportColumn
-{
-    const char *head;
-    double left;        ///< fraction of the page's width
-    const char *column; ///< of the query; null for date and time
-    const char *picture;
-};
-
-struct LogReport
-{
-    const char *dialogTitle;
-    const char *title;
-    const char *empty;
-    bool landscape;
-    QString select; ///< up to the tank filter
-    const char *orderBy;
-    const char *dateColumn;
-    const char *timeColumn;
-    std::vector<ReportColumn> columns;
-};
-
-constexpr auto tankFilter = " and t.tankid = ? ";
-
-constexpr auto waterPicture = "###0.000";
-
-QString waterSelect()
-{
-    QString columns;
-    for (const MeasurementRow &row : measurements)
-        columns += u"w." + QLatin1String(row.column) + u", ";
-    return u"SELECT t.Tankname as tankname, t.Tankdesc, t.Tanksize, w.logdate, w.logtime, " + columns +
-           u"w.Comment FROM Tanklst t, waterlog w where w.tankname = t.tankid ";
-}
-
-/// The heads of the measurements that the user names are fixed: his own names do not appear on paper.
-std::vector<ReportColumn> waterColumns()
-{
-    constexpr int dateSpan = 1;
-    int whole = dateSpan;
-    for (const MeasurementRow &row : measurements)
-        whole += row.report.span;
-    std::vector<ReportColumn> columns{{"Date /Time Added", 0, nullptr, nullptr}};
-    int left = dateSpan;
-    for (const MeasurementRow &row : measurements) {
-        columns.push_back({row.report.head, double(left) / whole, row.column, waterPicture});
-        left += row.report.span;
-    }
-    return columns;
-}
-
-// In the order of LogTab.
-const std::array<LogReport, 3> reports = {{
-    {"Print Water Quality Log", "Ostrelmark Water Quality Log",
-     "No water quality entries were found for this tank. No log was printed.", true, waterSelect(),
-     " ORDER BY t.Tankname COLLATE CASEBLIND, w.logdate, w.logtime", "logdate", "logtime", waterColumns()},
-    {"Print Livestock Log",
-     "Ostrelmark Livestock Log",
-     "No Livestock entries were found for this tank. No log was printed.",
-     false,
-     QStringLiteral("SELECT t.Tankname, t.Tankdesc, t.Tanksize, l.Dateadded, l.Timeadded, l.animalname, l.status, "
-                    "l.quantity FROM Tanklst t, livestock L where l.tankname = t.tankid "),
-     " ORDER BY t.Tankname COLLATE CASEBLIND, l.DateAdded, l.Timeadded",
-     "Dateadded",
-     "Timeadded",
-     {{"Date /Time Added", 0, nullptr, nullptr},
-      {"Animal", 1 / 4., "animalname", nullptr},
-      {"Quantity", 1 - 1 / 4., "quantity", nullptr},
-      {"Status", 1 - 1 / 8., "status", nullptr}}},
-    {"Print Maintenance Log",
-     "Ostrelmark Maintenance Log",
-     "No Maintenance entries were found for this tank. No log was printed.",
-     false,
-     QStringLiteral("SELECT t.Tankname, t.Tankdesc, t.Tanksize, m.maintlogdate, m.maintlogtime, m.maintlogtask, "
-                    "m.maintlogqty, m.maintlogunit, m.maintlogdesc, m.maintlognote FROM Tanklst t, maintlog m "
-                    "where m.mainttankname = t.tankid "),
-     " ORDER BY t.Tankname COLLATE CASEBLIND, m.maintlogdate, m.maintlogtime",
-     "maintlogdate",
-     "maintlogtime",
-     {{"Date /Time Performed", 0, nullptr, nullptr}, {"Task Performed", 1 / 4., "maintlogtask", nullptr}}},
-}};
 
 constexpr double gap = 1 / 160.; ///< of the page's width, kept free between two columns
 
@@ -109,16 +25,15 @@ class LogRun
 {
 public:
     LogRun(LogTab log, Database &database, const QString &datePicture, const std::optional<QString> &tankId) :
-        m_log(log), m_report(reports[log]), m_database(database), m_datePicture(datePicture), m_tankId(tankId)
+        m_kind(KindOf(log)), m_report(m_kind.report), m_database(database), m_datePicture(datePicture), m_tankId(tankId)
     {
     }
 
     bool open()
     {
-        const QString sql =
-            m_report.select + QLatin1String(m_tankId ? tankFilter : "") + QLatin1String(m_report.orderBy);
         m_rows.reset();
-        m_rows.reset(new RowStream(m_database.OpenForwardOnly(sql, m_tankId ? Parameters{*m_tankId} : Parameters{})));
+        m_rows.reset(
+            new RowStream(m_database.OpenForwardOnly(select(), m_tankId ? Parameters{*m_tankId} : Parameters{})));
         return !m_rows->EOF_();
     }
 
@@ -133,7 +48,7 @@ public:
         QString tank;
         int pageNumber = 1;
         while (!m_rows->EOF_()) {
-            if (const QString name = text("Tankname"); firstTank || name != tank) {
+            if (const QString name = text("tank"); firstTank || name != tank) {
                 if (!firstTank)
                     page.NewPage();
                 firstTank = false;
@@ -157,11 +72,21 @@ public:
     }
 
 private:
+    /// The entries with their tanks, by tank and date. The tank's name is "tank": an entry calls the tank's id so.
+    QString select() const
+    {
+        return QStringLiteral("SELECT t.Tankname AS tank, t.Tankdesc, t.Tanksize, e.* FROM %1 e JOIN Tanklst t ON e.%2 "
+                              "= t.tankid %3 "
+                              "ORDER BY t.Tankname COLLATE CASEBLIND, e.%4, e.%5")
+            .arg(QLatin1String(m_kind.table), QLatin1String(m_kind.tankColumn),
+                 QLatin1String(m_tankId ? "WHERE t.tankid = ?" : ""), QLatin1String(m_kind.dateColumn),
+                 QLatin1String(m_kind.timeColumn));
+    }
     QString text(const char *column) { return m_rows->text(QLatin1String(column)); }
 
     void printTop(Printer &page, const QString &title, int pageNumber)
     {
-        PrintPageHeadings(page, title, text("Tankname"), text("Tanksize"), text("Tankdesc"), pageNumber, m_datePicture);
+        PrintPageHeadings(page, title, text("tank"), text("Tanksize"), text("Tankdesc"), pageNumber, m_datePicture);
         std::vector<PrintCell> heads;
         for (size_t i = 0; i < m_report.columns.size(); ++i)
             heads.push_back(cell(page, i, QLatin1String(m_report.columns[i].head)));
@@ -189,10 +114,11 @@ private:
     /// The date and time of an entry. One that is missing leaves its place empty, one that is none stands as it is.
     QString momentText()
     {
-        const Value date = m_rows->value(QLatin1String(m_report.dateColumn));
-        const Value time = m_rows->value(QLatin1String(m_report.timeColumn));
+        const Value date = m_rows->value(QLatin1String(m_kind.dateColumn));
+        const Value time = m_rows->value(QLatin1String(m_kind.timeColumn));
         const auto *day = std::get_if<QDate>(&date.variant());
-        return (day ? Format(*day, m_datePicture) : date.text()) + (m_log == WaterTab ? u" -\n" : u" - ") + time.text();
+        return (day ? Format(*day, m_datePicture) : date.text()) + QLatin1String(m_report.momentSeparator) +
+               time.text();
     }
 
     void printEntry(Printer &page)
@@ -209,14 +135,15 @@ private:
             cells.back().shrink = true;
         }
         page.PrintRow(cells);
-        if (m_log == MaintenanceTab) {
-            page.PrintRow(
-                {cell(page, 1, text("maintlogqty") + u"  " + text("maintlogunit") + u"  " + text("maintlogdesc"))});
-            page.PrintRow({cell(page, 1, text("maintlognote"))});
+        for (const auto &line : m_report.moreLines) {
+            QStringList texts;
+            for (const char *column : line)
+                texts.append(text(column));
+            page.PrintRow({cell(page, 1, texts.join(QStringLiteral("  ")))});
         }
     }
 
-    LogTab m_log;
+    const LogKind &m_kind;
     const LogReport &m_report;
     Database &m_database;
     QString m_datePicture;
@@ -257,10 +184,10 @@ void PrintPageHeadings(Printer &page, const QString &title, const QString &tankN
 
 Report MakeLogReport(LogTab log, Database &database, const QString &datePicture, const std::optional<QString> &tankId)
 {
-    const LogReport &kind = reports[log];
+    const LogReport &report = KindOf(log).report;
     const auto run = std::make_shared<LogRun>(log, database, datePicture, tankId);
-    return {QLatin1String(kind.dialogTitle), QLatin1String(kind.title), kind.landscape, [run] { return run->open(); },
-            [run](Printer &page) { run->print(page); }};
+    return {QLatin1String(report.dialogTitle), QLatin1String(report.title), report.landscape,
+            [run] { return run->open(); }, [run](Printer &page) { run->print(page); }};
 }
 
-QString EmptyLogText(LogTab log) { return QLatin1String(reports[log].empty); }
+QString EmptyLogText(LogTab log) { return QLatin1String(KindOf(log).report.empty); }

@@ -1,11 +1,10 @@
-// The printed logs: one report a log, for one tank or for all, each tank on a page of its own. What the three do alike
-// is written once; columns, statements and titles are a table. The windows run them through RunReport
-// (platform/PrintJob.h).
+// The printed logs: one report a log, for one tank or for all, each tank on a page of its own. Their
+// columns and titles are in LogKinds.h. The windows run them through RunReport (platform/core/PrintJob.h).
 #pragma once
 
 #include <optional>
 
-#include "logic/logbook/LogTab.h"
+#include "logic/logbook/LogKinds.h"
 #include "platform/core/PrintJob.h"
 
 class Database;

@@ -196,7 +196,7 @@ std::optional<WalkFault> walkRecurring(const RecurrenceRule &rule, const Occurre
 DateRange TwoYearsFrom(const QDate &today) { return {today, today.addYears(2)}; }
 
 std::optional<WalkFault> Walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRange &range,
-                              const QString &dateOrder, const std::function<void(const QDate &)> &send)
+                              DateOrder dateOrder, const std::function<void(const QDate &)> &send)
 {
     const sys_days from = run.usefilter ? dayOf(range.from) : sys_days::min();
     const sys_days to = run.usefilter ? dayOf(range.to) : sys_days::max();

@@ -12,6 +12,8 @@
 #include <QDate>
 #include <QString>
 
+#include "text/Dates.h"
+
 struct RecurrenceRule;
 
 /// How the detail's month of a yearly rule is taken. It is stored as a position, 0 for January; the lists take it for
@@ -45,7 +47,7 @@ enum class WalkFault { NoStart, NoEnd, NoStep, NoDay, NoOrdinal, NoWeekday, NoMo
 /// beyond the end. `range` is looked at in a run with filter. The user's order serves the once date, which is kept as
 /// typed. With a fault nothing has been emitted.
 std::optional<WalkFault> Walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRange &range,
-                              const QString &dateOrder, const std::function<void(const QDate &)> &send);
+                              DateOrder dateOrder, const std::function<void(const QDate &)> &send);
 
 /// The date as a run shows it: in the lists that are wide enough with the whole name of the weekday.
 QString OccurrenceText(const OccurrenceRun &run, const QDate &date, const QString &datePicture);

@@ -17,7 +17,7 @@ constexpr const char *columnNames[ColumnCount] = {
     "SchedRtype", "SchedRSubtype",  "SchedDetailText", "SchedEnglishDesc",
 };
 
-const QString onceRules = QStringLiteral("SELECT * FROM maintsched WHERE SchedRtype = ?");
+const QString onceRules = QStringLiteral("WHERE SchedRtype = ?");
 
 QDate dateOr(const Value &value)
 {
@@ -171,18 +171,18 @@ std::optional<qint16> ReadShort(const QString &text)
 
 QString OnceDetail(const QDate &date) { return Format(date, QStringLiteral("mm/dd/yyyy")); }
 
-std::optional<QDate> ReadOnceDetail(const QString &detail, const QString &dateOrder)
+std::optional<QDate> ReadOnceDetail(const QString &detail, DateOrder dateOrder)
 {
-    for (const QString &order : {dateOrder, QStringLiteral("DDMMYY"), QStringLiteral("YYMMDD")})
+    for (const DateOrder order : {dateOrder, DateOrder::DDMMYY, DateOrder::YYMMDD})
         if (const auto date = ReadTypedDate(detail, order))
             return date;
     return std::nullopt;
 }
 
-void KeepOnceDates(Database &database, const QString &dateOrder)
+void KeepOnceDates(Database &database, DateOrder dateOrder)
 {
     const QString detailColumn = QLatin1String(columnNames[Detail]);
-    Recordset rows = database.OpenRecordset(onceRules, {int(Pattern::Once)});
+    Recordset rows = database.OpenForUpdate(QStringLiteral("maintsched"), onceRules, {int(Pattern::Once)});
     for (; !rows.EOF_(); rows.MoveNext()) {
         const QString detail = rows[detailColumn].text();
         const auto date = ReadOnceDetail(detail, dateOrder);

@@ -12,6 +12,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "text/Dates.h"
+
 class Database;
 class Recordset;
 class Rows;
@@ -81,7 +83,7 @@ std::optional<qint16> ReadShort(const QString &text);
 QString OnceDetail(const QDate &date);
 /// What was typed may stand there instead, if it is a date month first. In rows of earlier versions it may stand in the
 /// order in which it was typed: the user's order is tried next, and then the others.
-std::optional<QDate> ReadOnceDetail(const QString &detail, const QString &dateOrder);
+std::optional<QDate> ReadOnceDetail(const QString &detail, DateOrder dateOrder);
 /// Writes such dates month first, before the user leaves the order in which they are read, so that they remain the same
 /// days in every other order. The caller has begun a transaction. Throws RuntimeFailure.
-void KeepOnceDates(Database &database, const QString &dateOrder);
+void KeepOnceDates(Database &database, DateOrder dateOrder);

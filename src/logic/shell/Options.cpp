@@ -10,7 +10,6 @@
 
 namespace {
 
-const QString selectConfig = QStringLiteral("SELECT * FROM CONFIG ");
 const QString notFound = QStringLiteral("Not Found");
 
 /// A text of the settings store and the member that holds its value. A stored text of the wrong form leaves the
@@ -34,12 +33,6 @@ void takeSwitch(qint16 &member, const QString &stored)
 {
     takeNumber(member, stored);
     member = member == 1;
-}
-
-void takeDateOrder(QString &member, const QString &stored)
-{
-    if (stored == u"DDMMYY" || stored == u"YYMMDD")
-        member = stored;
 }
 
 void takeDelimiter(QString &member, const QString &stored)
@@ -70,8 +63,8 @@ constexpr Setting settings[] = {
      [](const OptionsMembers &o) { return QString::number(o.GraphSkipZeroes); }},
     {"GraphPrintColor", [](OptionsMembers &o, const QString &stored) { takeSwitch(o.GraphPrintColor, stored); },
      [](const OptionsMembers &o) { return QString::number(o.GraphPrintColor); }},
-    {"Date_Order", [](OptionsMembers &o, const QString &stored) { takeDateOrder(o.DateOrder, stored); },
-     [](const OptionsMembers &o) { return o.DateOrder; }},
+    {"Date_Order", [](OptionsMembers &o, const QString &stored) { o.DateOrder = ReadDateOrder(stored); },
+     [](const OptionsMembers &o) { return WordOf(o.DateOrder); }},
     {"Date_Delim", [](OptionsMembers &o, const QString &stored) { takeDelimiter(o.DateDelimiter, stored); },
      [](const OptionsMembers &o) { return o.DateDelimiter; }},
     {"UseFile_Fresh", [](OptionsMembers &o, const QString &stored) { o.UseFileFresh = isTrue(stored); },
@@ -84,7 +77,7 @@ constexpr Setting settings[] = {
 
 Recordset ReadOptions(Globals &g)
 {
-    Recordset config = g.gDatabase->OpenRecordset(selectConfig);
+    Recordset config = g.gDatabase->OpenForUpdate(QStringLiteral("CONFIG"));
     config.MoveFirst();
     OptionsMembers read;
     for (const Setting &setting : settings) {
@@ -103,7 +96,7 @@ Recordset ReadOptions(Globals &g)
     return config;
 }
 
-void StoreOptions(Globals &g, Recordset &config, const ConfigValues &values, const QString &formerOrder)
+void StoreOptions(Globals &g, Recordset &config, const ConfigValues &values, DateOrder formerOrder)
 {
     Database::Transaction whole(*g.gDatabase);
     config.Edit();

@@ -24,4 +24,4 @@ struct ConfigValues
 /// Stores g.options in the settings and those values in the row, all of it or nothing, and brings it into force. Where
 /// `formerOrder` is another date order, the reminders that depend on it are written so that they keep their days.
 /// Throws RuntimeFailure where anything cannot be written.
-void StoreOptions(Globals &g, Recordset &config, const ConfigValues &values, const QString &formerOrder);
+void StoreOptions(Globals &g, Recordset &config, const ConfigValues &values, DateOrder formerOrder);

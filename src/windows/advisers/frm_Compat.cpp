@@ -8,7 +8,6 @@
 #include "platform/controls/Icons.h"
 #include "platform/core/Doors.h"
 #include "windows/advisers/SizeColumn.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 
@@ -28,7 +27,7 @@ const QString agressiveText = QStringLiteral(
 
 } // namespace
 
-frm_Compat::frm_Compat(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+frm_Compat::frm_Compat(const FormContext &context) : ChildForm(context)
 {
     setupUi(this);
     setWindowIcon(Icon("compatability"));
@@ -54,7 +53,7 @@ frm_Compat::frm_Compat(Globals &globals, QWidget *parent) : ChildForm(globals, p
 void frm_Compat::Form_Load()
 {
     (g.gDefaultWaterType == u"SALT" ? but_salt : but_fresh)->setChecked(true);
-    Form<frm_OMKMDIMain>().ShowChild(*this);
+    main.ShowChild(*this);
     Beep();
     MsgBox(reminderText, vbExclamation, QStringLiteral("Please NOTE!"));
 }

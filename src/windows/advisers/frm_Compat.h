@@ -9,7 +9,7 @@ class frm_Compat : public ChildForm, public Ui::frm_Compat
 {
     Q_OBJECT
 public:
-    frm_Compat(Globals &globals, QWidget *parent);
+    explicit frm_Compat(const FormContext &context);
 
     /// Shows itself, and the reminder over it.
     void Form_Load();

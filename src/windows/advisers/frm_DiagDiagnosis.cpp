@@ -5,10 +5,10 @@
 #include "platform/controls/Guarded.h"
 #include "platform/core/Printer.h"
 #include "windows/advisers/frm_DiagnosisQA.h"
-#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/MainMenu.h"
 #include "windows/shell/MenuEntry.h"
 
-frm_DiagDiagnosis::frm_DiagDiagnosis(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_DiagDiagnosis::frm_DiagDiagnosis(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     on(cmd_Close, &QPushButton::clicked, this, &frm_DiagDiagnosis::cmd_Close_Click);
@@ -29,11 +29,11 @@ void frm_DiagDiagnosis::Showdiagnosis()
 void frm_DiagDiagnosis::changeEvent(QEvent *event)
 {
     DialogForm::changeEvent(event);
-    auto *main = Forms::current().loaded<frm_OMKMDIMain>();
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !main)
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
         return;
-    main->mnu_FilePrint->setText(QStringLiteral("&Print"));
-    main->mnu_FilePrint->Enabled(true);
+    MenuEntry &print = *main.menu().mnu_FilePrint;
+    print.setText(QStringLiteral("&Print"));
+    print.Enabled(true);
 }
 
 void frm_DiagDiagnosis::Command1_Click()

@@ -8,7 +8,7 @@ class frm_DiagDiagnosis : public DialogForm, public Ui::frm_DiagDiagnosis
 {
     Q_OBJECT
 public:
-    frm_DiagDiagnosis(Globals &globals, QWidget *parent);
+    explicit frm_DiagDiagnosis(const FormContext &context);
 
     /// Shows the advice of DiagnosisName and completes the log of the answers with it; back when the window goes.
     void Showdiagnosis();

@@ -9,7 +9,6 @@
 #include "logic/advisers/DiagnosisSheet.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 
@@ -23,7 +22,7 @@ constexpr QSize pictureSize(96, 72);
 
 } // namespace
 
-frm_DiagnosisQA::frm_DiagnosisQA(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_DiagnosisQA::frm_DiagnosisQA(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     opt_Answer = {opt_Answer_0, opt_Answer_1, opt_Answer_2, opt_Answer_3, opt_Answer_4, opt_Answer_5};
@@ -60,7 +59,7 @@ void frm_DiagnosisQA::Form_Load()
     const QMargins around = layout()->contentsMargins();
     width = qMax(leastWidth, width + around.left() + around.right());
     resize(width, 321);
-    const QRect over = Form<frm_OMKMDIMain>().geometry();
+    const QRect over = parentWidget()->geometry();
     move(over.left() + (over.width() - width) / 2, over.top());
 }
 
@@ -128,7 +127,7 @@ void frm_DiagnosisQA::bringToFront(QWidget &page, QWidget &focus)
 
 bool frm_DiagnosisQA::isGoingOn()
 {
-    bool &cancelled = Form<frm_OMKMDIMain>().WizardCancelled;
+    bool &cancelled = main.WizardCancelled;
     cancelled = true; // unless Next or Start Over ends the wait; so it ends with the program, too
     ShowModal();
     return !cancelled;
@@ -155,7 +154,7 @@ void frm_DiagnosisQA::fixmysize()
     const int frame = options * answerHeight + aroundAnswers;
     Frame1->setMinimumHeight(frame);
     fitHeight(frame + aroundFrame);
-    const QRect over = Form<frm_OMKMDIMain>().geometry();
+    const QRect over = parentWidget()->geometry();
     move(x(), static_cast<int>(std::abs(over.height() - height()) * 0.3) + over.top());
 }
 
@@ -169,9 +168,8 @@ void frm_DiagnosisQA::fitHeight(int told)
 void frm_DiagnosisQA::changeEvent(QEvent *event)
 {
     DialogForm::changeEvent(event);
-    auto *main = Forms::current().loaded<frm_OMKMDIMain>();
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && main)
-        main->disablePrint();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        main.disablePrint();
 }
 
 void frm_DiagnosisQA::opt_Answer_Click(int index)
@@ -187,20 +185,20 @@ void frm_DiagnosisQA::cmd_Next_Click()
         clearAnswers();
         g.diagnosisLog.AddAnswer(lbl_Question->text(), opt_Answer.at(AnswerIndex.toUInt())->text());
     }
-    Form<frm_OMKMDIMain>().WizardCancelled = false;
+    main.WizardCancelled = false;
     hide();
 }
 
 void frm_DiagnosisQA::cmd_StartOver_Click()
 {
     AnswerIndex = startedOver;
-    Form<frm_OMKMDIMain>().WizardCancelled = false;
+    main.WizardCancelled = false;
     Unload(*this);
 }
 
 void frm_DiagnosisQA::cmd_Cancel_Click()
 {
-    Form<frm_OMKMDIMain>().WizardCancelled = true;
+    main.WizardCancelled = true;
     Unload(*this);
 }
 

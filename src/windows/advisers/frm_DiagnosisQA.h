@@ -14,7 +14,7 @@ class frm_DiagnosisQA : public DialogForm, public Ui::frm_DiagnosisQA
 {
     Q_OBJECT
 public:
-    frm_DiagnosisQA(Globals &globals, QWidget *parent);
+    explicit frm_DiagnosisQA(const FormContext &context);
     void Form_Load();
 
     /// A whole run, from the disclaimer or from the first question on; back when the keeper starts over or cancels.

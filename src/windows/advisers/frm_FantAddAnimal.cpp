@@ -38,7 +38,7 @@ const QString incompatibleText = QStringLiteral(
 
 } // namespace
 
-frm_FantAddAnimal::frm_FantAddAnimal(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_FantAddAnimal::frm_FantAddAnimal(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     setWindowIcon(Icon("fantasy"));

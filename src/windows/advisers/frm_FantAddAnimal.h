@@ -10,7 +10,7 @@ class frm_FantAddAnimal : public DialogForm, public Ui::frm_FantAddAnimal
 {
     Q_OBJECT
 public:
-    frm_FantAddAnimal(Globals &globals, QWidget *parent);
+    explicit frm_FantAddAnimal(const FormContext &context);
 
     /// Asks about the plan's SelectedAnimal, by the table of that water; `line` is how the list names it. Back when the
     /// animal is in the plan, or was cancelled. The plan must live as long.

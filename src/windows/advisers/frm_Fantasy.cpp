@@ -12,7 +12,6 @@
 #include "text/Numbers.h"
 #include "windows/advisers/frm_FantAddAnimal.h"
 #include "windows/advisers/SizeColumn.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 
@@ -40,7 +39,7 @@ int selectedRow(const QListWidget &list)
 
 } // namespace
 
-frm_Fantasy::frm_Fantasy(Globals &globals, QWidget *parent) : ChildForm(globals, parent), m_checks(this)
+frm_Fantasy::frm_Fantasy(const FormContext &context) : ChildForm(context), m_checks(this)
 {
     setupUi(this);
     setWindowIcon(Icon("fantasy"));
@@ -77,7 +76,7 @@ frm_Fantasy::frm_Fantasy(Globals &globals, QWidget *parent) : ChildForm(globals,
 void frm_Fantasy::Form_Load()
 {
     (g.gDefaultWaterType == u"SALT" ? opt_Salt : opt_Fresh)->setChecked(true);
-    Form<frm_OMKMDIMain>().ShowChild(*this);
+    main.ShowChild(*this);
     Beep();
     MsgBox(reminderText, vbExclamation, QStringLiteral("Please NOTE!"));
 }

@@ -12,7 +12,7 @@ class frm_Fantasy : public ChildForm, public Ui::frm_Fantasy
 {
     Q_OBJECT
 public:
-    frm_Fantasy(Globals &globals, QWidget *parent);
+    explicit frm_Fantasy(const FormContext &context);
 
     /// Shows itself, and the reminder over it.
     void Form_Load();

@@ -55,7 +55,7 @@ int cellOfFirst(const QDate &date) { return QDate(date.year(), date.month(), 1).
 
 } // namespace
 
-frm_Caltool::frm_Caltool(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_Caltool::frm_Caltool(const FormContext &context) : DialogForm(context)
 {
     setWindowTitle(QStringLiteral("Calendar"));
     panMonth = new MenuPanel(QStringLiteral("panMonth"), QStringLiteral("Choose a month"));

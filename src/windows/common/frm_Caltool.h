@@ -21,7 +21,7 @@ class frm_Caltool : public DialogForm
 {
     Q_OBJECT
 public:
-    frm_Caltool(Globals &globals, QWidget *parent);
+    explicit frm_Caltool(const FormContext &context);
 
     /// Shows the month of g.calendar.SelectedDate (month-first text; today where it is no date) and waits for the
     /// choice, which it gives; nothing where there was none. A left or top of at least 1 twip, and within the screen,

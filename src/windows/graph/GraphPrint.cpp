@@ -13,7 +13,6 @@
 #include "platform/core/PrintJob.h"
 #include "text/Dates.h"
 #include "windows/graph/frm_WaterGraph.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 
@@ -32,7 +31,7 @@ bool frm_WaterGraph::mayPrintAsItIs()
         return true;
     const auto answer = MsgBox(maximizeText, vbYesNoCancel + vbInformation, QStringLiteral("Maximize Window?"));
     if (answer == MsgBoxAnswer::Yes) {
-        Form<frm_OMKMDIMain>().showMaximized();
+        window()->showMaximized();
         frame->showMaximized();
     }
     return answer != MsgBoxAnswer::Cancel;

@@ -18,7 +18,7 @@
 #include "platform/controls/Icons.h"
 #include "platform/core/Doors.h"
 #include "text/Dates.h"
-#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/MainMenu.h"
 
 namespace {
 
@@ -69,8 +69,8 @@ template <class T> T *named(T *control, const char *name)
 
 } // namespace
 
-frm_WaterGraph::frm_WaterGraph(Globals &globals, QWidget *parent) :
-    ChildForm(globals, parent), tanklistbox(named(new QComboBox, "tanklistbox")), Chart1(named(new Chart, "Chart1")),
+frm_WaterGraph::frm_WaterGraph(const FormContext &context) :
+    ChildForm(context), tanklistbox(named(new QComboBox, "tanklistbox")), Chart1(named(new Chart, "Chart1")),
     // The captions say 25 and a page is 20: keepers know them so.
     cmd_Next(named(new QPushButton(QStringLiteral("View Next 25 entries")), "cmd_Next")),
     cmd_Previous(named(new QPushButton(QStringLiteral("View Previous 25 Entries")), "cmd_Previous")),
@@ -126,7 +126,7 @@ void frm_WaterGraph::Form_Load()
     m_paging.restart();
 }
 
-void frm_WaterGraph::Form_Activate() { Form<frm_OMKMDIMain>().offerPrint(*this, true); }
+void frm_WaterGraph::Form_Activate() { main.offerPrint(*this, true); }
 
 /// The list stays as it is where the tanks do: a pick in the list that is open is not lost.
 void frm_WaterGraph::refillList()
@@ -296,7 +296,7 @@ void frm_WaterGraph::tellNotEnough()
 void frm_WaterGraph::takeFocus()
 {
     if (isVisible() && !isAncestorOf(QApplication::focusWidget()))
-        Form<frm_OMKMDIMain>().ShowChild(*this);
+        main.ShowChild(*this);
 }
 
 void frm_WaterGraph::tanklistbox_Click()
@@ -322,7 +322,7 @@ void frm_WaterGraph::cmd_previous_Click()
 void frm_WaterGraph::Chart1_MouseUp(Qt::MouseButton button, const QPoint &position)
 {
     if (button == Qt::RightButton)
-        Form<frm_OMKMDIMain>().mnu_GraphPopup->popup(position);
+        main.menu().mnu_GraphPopup->popup(position);
 }
 
 void frm_WaterGraph::mouseReleaseEvent(QMouseEvent *event)

@@ -18,7 +18,7 @@ class frm_WaterGraph : public ChildForm
 {
     Q_OBJECT
 public:
-    frm_WaterGraph(Globals &globals, QWidget *parent);
+    explicit frm_WaterGraph(const FormContext &context);
 
     /// Draws the tank in hand, its page and the options as they are now. Where that makes no graph, a box says why and
     /// the chart stays as it stands.
@@ -31,6 +31,7 @@ public:
 
     void Form_Load();
     void Form_Activate() override;
+    void Print() override { PrintGraph(); }
 
     QComboBox *tanklistbox;
     Chart *Chart1;

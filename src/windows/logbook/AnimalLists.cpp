@@ -12,7 +12,6 @@
 #include "platform/core/Files.h"
 #include "platform/core/RuntimeFailure.h"
 #include "windows/logbook/frm_LivesAddEdit.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 /// What differs between the two waters.
 struct frm_LivesAddEdit::Source
@@ -62,7 +61,7 @@ QStringList sorted(QStringList names)
 
 } // namespace
 
-void frm_LivesAddEdit::tell(const QString &progress) { Form<frm_OMKMDIMain>().setPanel(progress); }
+void frm_LivesAddEdit::tell(const QString &progress) { main.setPanel(progress); }
 
 void frm_LivesAddEdit::showAnimals(const QStringList &names)
 {

@@ -16,9 +16,8 @@
 #include "platform/core/RuntimeFailure.h"
 #include "text/Dates.h"
 #include "windows/common/DateBoxes.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
-EntryForm::EntryForm(Globals &globals, QWidget *parent) : DialogForm(globals, parent), m_checks(this) {}
+EntryForm::EntryForm(const FormContext &context) : DialogForm(context), m_checks(this) {}
 
 MaskedBox *EntryForm::makeDateBox(const char *name, const char *toolTip)
 {
@@ -175,7 +174,7 @@ void EntryForm::showFor(const Recordset &row, const QString &tankId, QWidget *fi
 {
     m_row = row;
     m_tankId = tankId;
-    Form<frm_OMKMDIMain>().disablePrint();
+    main.disablePrint();
     first->setFocus();
     ShowModal();
 }

@@ -20,7 +20,7 @@ class QPushButton;
 class EntryForm : public DialogForm
 {
 protected:
-    EntryForm(Globals &globals, QWidget *parent);
+    explicit EntryForm(const FormContext &context);
 
     // Makers of controls, each under its name.
     MaskedBox *makeDateBox(const char *name, const char *toolTip);

@@ -1,6 +1,6 @@
 // The logbook's paths to its entries: add, change, delete and move, for the three logs. What the paths do alike is
-// written once; what differs (statements, the tank named by id or by name, the words, how a date is read) stands side
-// by side below.
+// written once; what differs (the words, how a date is read) stands side by side below, and the rest in the table of
+// the logs.
 #include "logic/logbook/RowKey.h"
 #include "platform/controls/Caption.h"
 #include "platform/controls/MaskedBox.h"
@@ -13,28 +13,8 @@
 #include "windows/logbook/frm_WaterAddEdit.h"
 #include "windows/logbook/frm_Waterlog.h"
 
-// In all statements "IS" finds an entry without a date or a time as well, which only another program can have written.
-struct frm_Waterlog::DeletePath
-{
-    const char *table;
-    const char *condition;  ///< tank, date, time
-    bool searchByName;      ///< the search names the tank by its name, so it finds a row only where name and id agree
-    const char *nameColumn; ///< told in the question; null: date and time alone
-};
-
-const std::array<frm_Waterlog::DeletePath, 3> frm_Waterlog::deletePaths = {{
-    {"waterlog", "tankname = ? AND logdate IS ? And logtime IS ?", true, nullptr},
-    {"Livestock", "Tankname = ? AND DateAdded IS ? And TimeAdded IS ?", false, "animalname"},
-    {"maintlog", "mainttankname = ? AND maintlogdate IS ? And maintlogtime IS ?", true, nullptr},
-}};
-
 namespace {
 
-const QString waterTest = QStringLiteral("SELECT * FROM waterlog where tankname = ? AND logdate IS ? And logtime IS ?");
-const QString livestockEntry =
-    QStringLiteral("SELECT * FROM livestock where tankname = ? AND dateadded IS ? AND timeadded IS ?");
-const QString maintEntry =
-    QStringLiteral("SELECT * FROM maintlog where mainttankname = ? And maintlogdate IS ? And maintlogtime IS ?");
 const QString note = QStringLiteral("Note!");
 const QString ascending = QStringLiteral("ascending");
 
@@ -42,14 +22,21 @@ const QString ascending = QStringLiteral("ascending");
 const QString deleted = QStringLiteral("deleted");
 const QString changed = QStringLiteral("changed");
 
+/// The entry of that tank, date and time. "IS" finds an entry without a date or a time as well, which only another
+/// program can have written.
+QString isEntry(const LogKind &kind)
+{
+    return QStringLiteral("%1 = ? AND %2 IS ? And %3 IS ?")
+        .arg(QLatin1String(kind.tankColumn), QLatin1String(kind.dateColumn), QLatin1String(kind.timeColumn));
+}
+
 } // namespace
 
 std::optional<ShownEntry> frm_Waterlog::selectedEntry(const QString &ifNone)
 {
-    const ListView &rows = list(tab());
-    if (const int item = rows.SelectedItem()) {
-        const LogRows &shown = *m_rows[static_cast<size_t>(tab())];
-        const int row = rows.SourceRow(item);
+    if (const int item = list().SelectedItem()) {
+        const LogRows &shown = *m_rows[tab()];
+        const int row = list().SourceRow(item);
         return ShownEntry{shown.key(row), shown.date(row), shown.time(row)};
     }
     g.gMessage = ifNone;
@@ -62,17 +49,19 @@ std::optional<QDate> frm_Waterlog::dateAsTyped(const ShownEntry &entry) const
     return ReadTypedDate(DateOfKey(entry.key), m_shownOrder);
 }
 
-Recordset frm_Waterlog::newRow(const QString &table)
+Recordset frm_Waterlog::newRow(LogTab log)
 {
-    Recordset row = g.gDatabase->OpenForAppend(table);
+    Recordset row = g.gDatabase->OpenForAppend(QLatin1String(KindOf(log).table));
     row.AddNew();
     return row;
 }
 
-std::optional<Recordset> frm_Waterlog::rowOf(const QString &sql, const Tank &tank, const ShownEntry &entry,
+std::optional<Recordset> frm_Waterlog::rowOf(LogTab log, const Tank &tank, const ShownEntry &entry,
                                              const std::optional<QDate> &date, const QString &undone)
 {
-    Recordset row = g.gDatabase->OpenRecordset(sql, {tank.id, date.value_or(QDate()), entry.time});
+    const LogKind &kind = KindOf(log);
+    Recordset row = g.gDatabase->OpenForUpdate(QLatin1String(kind.table), u"where " + isEntry(kind),
+                                               {tank.id, date.value_or(QDate()), entry.time});
     if (!row.isEmpty())
         return row;
     tellNoRow(entry, date, undone);
@@ -89,7 +78,7 @@ void frm_Waterlog::tellNoRow(const ShownEntry &entry, const std::optional<QDate>
         g.gMessage += u"The date in this row, " + DateOfKey(entry.key) + u", is read as " +
                       Format(*date, QStringLiteral("mmmm d, yyyy")) + u" here, and there is no entry of that day at " +
                       TimeOfKey(entry.key) + u'.';
-        if (m_shownOrder != u"MMDDYY")
+        if (m_shownOrder != DateOrder::MMDDYY)
             g.gMessage += u" Choose dates with the month first in \"View\", \"Options...\", and the entry is found.";
     }
     Beep();
@@ -102,7 +91,7 @@ void frm_Waterlog::AddWaterEntry(const Tank &tank)
     window.setDateOrder();
     window.setDefaults(g.gDefaultWaterType);
     window.setWindowTitle(u"Add a log entry for " + tank.name + u" Tank");
-    window.ShowWindow(newRow(QStringLiteral("waterlog")), tank.id);
+    window.ShowWindow(newRow(WaterTab), tank.id);
     Refresh_Listview(ascending);
 }
 
@@ -110,7 +99,7 @@ void frm_Waterlog::Change_EntriesWater(const Tank &tank)
 {
     // Its box says "delete" as well.
     const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to delete"));
-    auto row = entry ? rowOf(waterTest, tank, *entry, entry->date, changed) : std::nullopt;
+    auto row = entry ? rowOf(WaterTab, tank, *entry, entry->date, changed) : std::nullopt;
     if (!row)
         return;
     row->Edit();
@@ -140,7 +129,7 @@ void frm_Waterlog::AddLivestockEntry(const Tank &tank)
 {
     auto &window = freshLivestockWindow(tank);
     window.setDefaults();
-    window.ShowWindow(newRow(QStringLiteral("livestock")), tank.id);
+    window.ShowWindow(newRow(LivestockTab), tank.id);
     Refresh_Listview(ascending);
 }
 
@@ -148,7 +137,7 @@ void frm_Waterlog::Change_EntriesLives(const Tank &tank)
 {
     const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to change."));
     // The name is not part of the condition: of two animals of one second the first row is taken.
-    auto row = entry ? rowOf(livestockEntry, tank, *entry, entry->date, changed) : std::nullopt;
+    auto row = entry ? rowOf(LivestockTab, tank, *entry, entry->date, changed) : std::nullopt;
     if (!row)
         return;
     row->Edit();
@@ -165,7 +154,7 @@ void frm_Waterlog::AddMaintEntry(const Tank &tank)
     auto &window = Form<frm_MaintAddEdit>();
     window.setDateOrder();
     window.setDefaults();
-    window.ShowWindow(newRow(QStringLiteral("maintlog")), tank.id);
+    window.ShowWindow(newRow(MaintenanceTab), tank.id);
     Refresh_Listview(ascending);
 }
 
@@ -177,7 +166,7 @@ void frm_Waterlog::Change_EntriesMaint(const Tank &tank)
         return;
     // A stray step that stays: the time goes into the livestock window, which is loaded for it and stays hidden.
     Form<frm_LivesAddEdit>().txt_timeadded->setText(TimeOfKey(entry->key));
-    auto row = rowOf(maintEntry, tank, *entry, dateAsTyped(*entry), changed);
+    auto row = rowOf(MaintenanceTab, tank, *entry, dateAsTyped(*entry), changed);
     if (!row)
         return;
     row->Edit();
@@ -197,35 +186,34 @@ bool frm_Waterlog::mayDelete(const QString &entry, const Tank &tank)
     return MsgBox(g.gMessage, vbOKCancel + vbQuestion, QStringLiteral("Are you sure...")) == MsgBoxAnswer::OK;
 }
 
-void frm_Waterlog::deleteEntry(const DeletePath &path, const Tank &tank)
+void frm_Waterlog::deleteEntry(LogTab log, const Tank &tank)
 {
     const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to delete"));
     if (!entry)
         return;
+    const LogKind &kind = KindOf(log);
     const auto date = dateAsTyped(*entry);
     const QDate day = date.value_or(QDate());
-    const QString condition = QLatin1String(path.condition);
-    auto row =
-        rowOf(u"SELECT * FROM " + QLatin1String(path.table) + u" where " + condition, tank, *entry, date, deleted);
+    auto row = rowOf(log, tank, *entry, date, deleted);
     if (!row)
         return;
     QString description = Format(day, QStringLiteral("mm/dd/yy")) + u", " + TimeOfKey(entry->key);
-    if (path.nameColumn)
-        description = (*row)[QLatin1String(path.nameColumn)].text() + u" - " + description;
+    if (kind.asksByName)
+        description = (*row)[QLatin1String(kind.nameColumn)].text() + u" - " + description;
     if (!mayDelete(description, tank))
         return;
-    if (row->FindFirst(condition, {path.searchByName ? tank.name : tank.id, day, entry->time}))
+    if (row->FindFirst(isEntry(kind), {kind.findsByTankName ? tank.name : tank.id, day, entry->time}))
         row->Delete();
     else
         MsgBox(QStringLiteral("yo... no match on da key!"));
     Refresh_Listview(QStringLiteral("Ascending"));
 }
 
-void frm_Waterlog::Delete_EntriesWater(const Tank &tank) { deleteEntry(deletePaths[WaterTab], tank); }
+void frm_Waterlog::Delete_EntriesWater(const Tank &tank) { deleteEntry(WaterTab, tank); }
 
-void frm_Waterlog::Delete_EntriesLives(const Tank &tank) { deleteEntry(deletePaths[LivestockTab], tank); }
+void frm_Waterlog::Delete_EntriesLives(const Tank &tank) { deleteEntry(LivestockTab, tank); }
 
-void frm_Waterlog::Delete_EntriesMaint(const Tank &tank) { deleteEntry(deletePaths[MaintenanceTab], tank); }
+void frm_Waterlog::Delete_EntriesMaint(const Tank &tank) { deleteEntry(MaintenanceTab, tank); }
 
 void frm_Waterlog::Move_Entries()
 {
@@ -233,7 +221,9 @@ void frm_Waterlog::Move_Entries()
     const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to move."));
     if (!entry)
         return;
-    Recordset row = g.gDatabase->OpenRecordset(livestockEntry, {tank.id, entry->date, entry->time});
+    const LogKind &kind = KindOf(LivestockTab);
+    Recordset row = g.gDatabase->OpenForUpdate(QLatin1String(kind.table), u"where " + isEntry(kind),
+                                               {tank.id, entry->date, entry->time});
     if (row.isEmpty()) {
         MsgBox(QStringLiteral("entry not found to be moved"));
         return;
@@ -247,4 +237,4 @@ void frm_Waterlog::Move_Entries()
     Refresh_Listview(ascending);
 }
 
-void frm_Waterlog::Print_Entries() { Form<frm_OMKLogPrint>().ShowFor(static_cast<LogTab>(tab()), takeTankInHand().id); }
+void frm_Waterlog::Print_Entries() { Form<frm_OMKLogPrint>().ShowFor(tab(), takeTankInHand().id); }

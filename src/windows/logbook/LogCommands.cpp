@@ -10,7 +10,7 @@
 #include "platform/controls/Icons.h"
 #include "platform/core/Doors.h"
 #include "windows/logbook/frm_Waterlog.h"
-#include "windows/shell/frm_OMKMDIMain.h"
+#include "windows/shell/MainMenu.h"
 #include "windows/shell/MenuEntry.h"
 
 namespace {
@@ -32,23 +32,26 @@ QTreeWidgetItem *makeNode(const QString &key, const QString &text)
 
 } // namespace
 
-const std::array<frm_Waterlog::EntryPaths, 3> frm_Waterlog::entryPaths = {{
-    {&frm_Waterlog::AddWaterEntry, &frm_Waterlog::Change_EntriesWater, &frm_Waterlog::Delete_EntriesWater},
-    {&frm_Waterlog::AddLivestockEntry, &frm_Waterlog::Change_EntriesLives, &frm_Waterlog::Delete_EntriesLives},
-    {&frm_Waterlog::AddMaintEntry, &frm_Waterlog::Change_EntriesMaint, &frm_Waterlog::Delete_EntriesMaint},
+const std::array<frm_Waterlog::Log, logTabs.size()> frm_Waterlog::logs = {{
+    {WaterTab, &frm_Waterlog::lstv_WaterLog, &frm_Waterlog::LoadWaterList, &frm_Waterlog::AddWaterEntry,
+     &frm_Waterlog::Change_EntriesWater, &frm_Waterlog::Delete_EntriesWater},
+    {LivestockTab, &frm_Waterlog::lstv_Livestock, &frm_Waterlog::LoadLivestockList, &frm_Waterlog::AddLivestockEntry,
+     &frm_Waterlog::Change_EntriesLives, &frm_Waterlog::Delete_EntriesLives},
+    {MaintenanceTab, &frm_Waterlog::lstv_Maintenance, &frm_Waterlog::LoadMaintList, &frm_Waterlog::AddMaintEntry,
+     &frm_Waterlog::Change_EntriesMaint, &frm_Waterlog::Delete_EntriesMaint},
 }};
 
-void frm_Waterlog::Add_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].add)(takeTankInHand()); }
+void frm_Waterlog::Add_Entries() { (this->*log().add)(takeTankInHand()); }
 
-void frm_Waterlog::Change_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].change)(takeTankInHand()); }
+void frm_Waterlog::Change_Entries() { (this->*log().change)(takeTankInHand()); }
 
-void frm_Waterlog::Delete_Entries() { (this->*entryPaths[static_cast<size_t>(tab())].remove)(takeTankInHand()); }
+void frm_Waterlog::Delete_Entries() { (this->*log().remove)(takeTankInHand()); }
 
 // The graph, in front; it draws the tank in hand.
 void frm_Waterlog::Graph_Entries()
 {
     takeTankInHand();
-    Form<frm_OMKMDIMain>().mnu_ToolsGraphing_Click();
+    main.mnu_ToolsGraphing_Click();
 }
 
 void frm_Waterlog::Refresh_Treeview()
@@ -93,28 +96,25 @@ void frm_Waterlog::Refresh_Listview(const QString &order)
 {
     if (!TreeView1->currentItem())
         return; // a command before the first activation: the tree is not there yet
-    switch (tab()) {
-    case WaterTab: LoadWaterList(order); break;
-    case LivestockTab: LoadLivestockList(order); break;
-    default: LoadMaintList(order); break;
-    }
+    (this->*log().load)(order);
     Update_Menu_Captions();
 }
 
-void frm_Waterlog::loadList(int tab, const QString &order)
+void frm_Waterlog::loadList(LogTab tab, const QString &order)
 {
     const HourGlass wait;
-    const auto place = static_cast<size_t>(tab);
-    const LogKind &kind = logKinds[place];
-    list(tab).Clear();
+    const LogKind &kind = KindOf(tab);
+    ListView &list = *(this->*logs[tab].list);
+    list.Clear();
     const Tank tank = takeTankInHand();
-    sb_ListviewCaption->showMessage(QString::fromLatin1(kind.listCaption).arg(tank.name));
-    const QString sql =
-        QLatin1String(kind.select) + QLatin1String(order == u"descending" ? kind.descending : kind.ascending);
+    sb_ListviewCaption->showMessage(QString::fromLatin1(kind.list.caption).arg(tank.name));
+    const QString sql = QStringLiteral("SELECT * FROM %1 where %2 = ? ORDER BY %3")
+                            .arg(QLatin1String(kind.table), QLatin1String(kind.tankColumn),
+                                 QLatin1String(order == u"descending" ? kind.list.descending : kind.list.ascending));
     m_shownOrder = g.options.DateOrder;
-    m_rows[place] =
+    m_rows[tab] =
         std::make_shared<LogRows>(kind, g.gDatabase->OpenRecordset(sql, {tank.id}).rows(), g.options.DatePicture);
-    list(tab).setSource(m_rows[place]);
+    list.setSource(m_rows[tab]);
 }
 
 void frm_Waterlog::readWaterType(const Tank &tank)
@@ -136,18 +136,18 @@ void frm_Waterlog::LoadMaintList(const QString &order) { loadList(MaintenanceTab
 
 void frm_Waterlog::Update_Menu_Captions()
 {
-    auto &main = Form<frm_OMKMDIMain>();
-    const QString caption = QLatin1String(kind().tabCaption);
-    main.mnu_FileNew->setText(u"New " + caption + u" Entry...");
-    main.mnu_FileOpen->setText(u"Open " + caption + u" Entry...");
-    main.mnu_FileDelete->setText(u"Delete " + caption + u" Entry...");
-    main.mnu_LogPopup_New->setText(main.mnu_FileNew->text());
-    main.mnu_Logpopup_Open->setText(main.mnu_FileOpen->text());
-    main.mnu_LogPopup_Delete->setText(main.mnu_FileDelete->text());
+    const MainMenu &menu = main.menu();
+    const QString caption = QLatin1String(KindOf(tab()).caption);
+    menu.mnu_FileNew->setText(u"New " + caption + u" Entry...");
+    menu.mnu_FileOpen->setText(u"Open " + caption + u" Entry...");
+    menu.mnu_FileDelete->setText(u"Delete " + caption + u" Entry...");
+    menu.mnu_LogPopup_New->setText(menu.mnu_FileNew->text());
+    menu.mnu_Logpopup_Open->setText(menu.mnu_FileOpen->text());
+    menu.mnu_LogPopup_Delete->setText(menu.mnu_FileDelete->text());
 
     const bool livestock = tab() == LivestockTab;
-    main.mnu_LogPopup_Move->setVisible(livestock);
-    main.mnu_movesep->setVisible(livestock);
+    menu.mnu_LogPopup_Move->setVisible(livestock);
+    menu.mnu_movesep->setVisible(livestock);
     button(QStringLiteral("moveentries")).Enabled(livestock);
 
     const bool tank = isTankSelected();
@@ -155,10 +155,10 @@ void frm_Waterlog::Update_Menu_Captions()
     if (tank)
         CurrentTankText = TreeView1->currentItem()->text(0);
     else
-        main.mnu_TankProperties->setText(QStringLiteral("(no tank selected) Properties..."));
-    main.mnu_TankProperties->Enabled(tank);
-    main.mnu_TankDelete->Enabled(tank);
-    main.mnu_LogPopup->setEnabled(tank);
+        menu.mnu_TankProperties->setText(QStringLiteral("(no tank selected) Properties..."));
+    menu.mnu_TankProperties->Enabled(tank);
+    menu.mnu_TankDelete->Enabled(tank);
+    menu.mnu_LogPopup->setEnabled(tank);
     // The last word on the graph, whatever the number of entries: the graph window tells when there are too few.
     button(QStringLiteral("graphentries")).Enabled(tank);
     enableLogCommands();
@@ -166,13 +166,13 @@ void frm_Waterlog::Update_Menu_Captions()
 
 void frm_Waterlog::enableLogCommands()
 {
-    auto &main = Form<frm_OMKMDIMain>();
+    const MainMenu &menu = main.menu();
     const bool tank = isTankSelected();
     const bool inFront = main.isInFront(*this); // its lists are filled behind other windows as well
-    for (MenuEntry *entry : {main.mnu_FileNew, main.mnu_FileOpen, main.mnu_FileDelete})
+    for (MenuEntry *entry : {menu.mnu_FileNew, menu.mnu_FileOpen, menu.mnu_FileDelete})
         entry->Enabled(tank && inFront);
-    main.mnu_FileMoveEntry->Enabled(inFront && tab() == LivestockTab);
-    for (MenuEntry *entry : {main.mnu_LogPopup_New, main.mnu_Logpopup_Open, main.mnu_LogPopup_Delete})
+    menu.mnu_FileMoveEntry->Enabled(inFront && tab() == LivestockTab);
+    for (MenuEntry *entry : {menu.mnu_LogPopup_New, menu.mnu_Logpopup_Open, menu.mnu_LogPopup_Delete})
         entry->Enabled(tank);
     for (const char *key : {"addentries", "changeentries", "deleteentries"})
         button(QLatin1String(key)).Enabled(tank);
@@ -196,7 +196,7 @@ void frm_Waterlog::list_Click() { enableLogCommands(); }
 void frm_Waterlog::list_MouseUp(Qt::MouseButton button, const QPoint &position)
 {
     if (button == Qt::RightButton && isTankSelected()) // with "All Tanks" there would be nothing to choose in it
-        Form<frm_OMKMDIMain>().mnu_LogPopup->popup(position);
+        main.menu().mnu_LogPopup->popup(position);
 }
 
 void frm_Waterlog::tab_logtype_Click() { Refresh_Listview(ascending); }
@@ -205,36 +205,36 @@ void frm_Waterlog::TreeView1_NodeClick() { Refresh_Listview(ascending); }
 
 void frm_Waterlog::TreeView1_MouseUp(const QPoint &position)
 {
-    auto &main = Form<frm_OMKMDIMain>();
-    main.mnu_TankProperties->setText(Caption(CurrentTankText) + u" Properties...");
-    main.mnu_tankPopup->popup(position);
+    const MainMenu &menu = main.menu();
+    menu.mnu_TankProperties->setText(Caption(CurrentTankText) + u" Properties...");
+    menu.mnu_tankPopup->popup(position);
 }
 
 void frm_Waterlog::Form_Activate()
 {
     if (FirstActivation) {
-        for (ListView *list : m_lists)
-            SetListViewStyle(*list);
+        for (const Log &log : logs)
+            SetListViewStyle(*(this->*log.list));
         Refresh_Treeview();
         FirstActivation = false;
         return;
     }
     takeTankInHand(); // the graph may have taken another
-    Form<frm_OMKMDIMain>().offerPrint(*this, isTankSelected(), printCaption);
+    main.offerPrint(*this, isTankSelected(), printCaption);
     enableLogCommands(); // with "All Tanks" in hand they stay disabled
 }
 
 void frm_Waterlog::disableFileEntries()
 {
-    const auto &main = Form<frm_OMKMDIMain>();
-    for (MenuEntry *entry : {main.mnu_FileNew, main.mnu_FileOpen, main.mnu_FileDelete, main.mnu_FileMoveEntry})
+    const MainMenu &menu = main.menu();
+    for (MenuEntry *entry : {menu.mnu_FileNew, menu.mnu_FileOpen, menu.mnu_FileDelete, menu.mnu_FileMoveEntry})
         entry->Enabled(false);
 }
 
 void frm_Waterlog::Form_LostFocus()
 {
     disableFileEntries();
-    Form<frm_OMKMDIMain>().mnu_FilePrint->setVisible(true);
+    main.menu().mnu_FilePrint->setVisible(true);
 }
 
 void frm_Waterlog::Form_Unload()

@@ -48,7 +48,7 @@ QString statuses()
 
 } // namespace
 
-frm_LivesAddEdit::frm_LivesAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
+frm_LivesAddEdit::frm_LivesAddEdit(const FormContext &context) : EntryForm(context)
 {
     setWindowTitle(QStringLiteral("Livestock Detail Window"));
     setWindowIcon(Icon("livestock"));

@@ -13,7 +13,7 @@ class frm_LivesAddEdit : public EntryForm
 {
     Q_OBJECT
 public:
-    frm_LivesAddEdit(Globals &globals, QWidget *parent);
+    explicit frm_LivesAddEdit(const FormContext &context);
 
     void Form_Load();
     void setDateOrder();

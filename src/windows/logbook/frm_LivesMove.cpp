@@ -12,7 +12,7 @@ const QString tankByName = QStringLiteral("SELECT * FROM tanklst where tankname 
 
 } // namespace
 
-frm_LivesMove::frm_LivesMove(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_LivesMove::frm_LivesMove(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     on(cmd_ok, &QPushButton::clicked, this, &frm_LivesMove::cmd_OK_Click);

@@ -9,7 +9,7 @@ class frm_LivesMove : public DialogForm, public Ui::frm_LivesMove
 {
     Q_OBJECT
 public:
-    frm_LivesMove(Globals &globals, QWidget *parent);
+    explicit frm_LivesMove(const FormContext &context);
 
     void Form_Load();
     void ShowWindow(const Recordset &row);

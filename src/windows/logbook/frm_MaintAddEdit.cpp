@@ -35,7 +35,7 @@ constexpr const char *units[] = {"c.c.", "drops", "gallons", "litres", "ml", "oz
 
 } // namespace
 
-frm_MaintAddEdit::frm_MaintAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
+frm_MaintAddEdit::frm_MaintAddEdit(const FormContext &context) : EntryForm(context)
 {
     setWindowTitle(QStringLiteral("Add a New Maintenence Activity"));
     setWindowIcon(Icon("maintenance"));

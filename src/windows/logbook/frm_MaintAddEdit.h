@@ -12,7 +12,7 @@ class frm_MaintAddEdit : public EntryForm
 {
     Q_OBJECT
 public:
-    frm_MaintAddEdit(Globals &globals, QWidget *parent);
+    explicit frm_MaintAddEdit(const FormContext &context);
 
     void Form_Load();
     void setDateOrder() { UseDateOrder(*txt_logdate, g.options); }

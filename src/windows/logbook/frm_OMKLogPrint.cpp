@@ -3,9 +3,8 @@
 #include "logic/logbook/LogReports.h"
 #include "platform/controls/Guarded.h"
 #include "platform/core/Doors.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
-frm_OMKLogPrint::frm_OMKLogPrint(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_OMKLogPrint::frm_OMKLogPrint(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     opt_Printer->setChecked(true);
@@ -15,10 +14,10 @@ frm_OMKLogPrint::frm_OMKLogPrint(Globals &globals, QWidget *parent) : DialogForm
 
 void frm_OMKLogPrint::ShowFor(LogTab log, const QString &tankId)
 {
-    QRadioButton *const options[] = {opt_WaterQuality, opt_Livestock, opt_Maintenance};
+    const std::array<QRadioButton *, logTabs.size()> options = {opt_WaterQuality, opt_Livestock, opt_Maintenance};
     options[log]->setChecked(true);
     m_tankId = tankId;
-    Form<frm_OMKMDIMain>().disablePrint();
+    main.disablePrint();
     ShowModal();
 }
 

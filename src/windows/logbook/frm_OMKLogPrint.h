@@ -1,7 +1,7 @@
 // Asks which log is to be printed, for this tank or all, and where to: printer, screen or file. Lives for one report.
 #pragma once
 
-#include "logic/logbook/LogTab.h"
+#include "logic/logbook/LogKinds.h"
 #include "ui_frm_OMKLogPrint.h"
 #include "windows/shell/DialogForm.h"
 
@@ -9,7 +9,7 @@ class frm_OMKLogPrint : public DialogForm, public Ui::frm_OMKLogPrint
 {
     Q_OBJECT
 public:
-    frm_OMKLogPrint(Globals &globals, QWidget *parent);
+    explicit frm_OMKLogPrint(const FormContext &context);
 
     /// Offers that log of that tank first, and shows the window.
     void ShowFor(LogTab log, const QString &tankId);

@@ -29,7 +29,7 @@ const QString badTime =
 
 } // namespace
 
-frm_WaterAddEdit::frm_WaterAddEdit(Globals &globals, QWidget *parent) : EntryForm(globals, parent)
+frm_WaterAddEdit::frm_WaterAddEdit(const FormContext &context) : EntryForm(context)
 {
     setWindowTitle(QStringLiteral("Water Quality Log Detail"));
     setWindowIcon(Icon("waterquality"));

@@ -16,7 +16,7 @@ class frm_WaterAddEdit : public EntryForm
 {
     Q_OBJECT
 public:
-    frm_WaterAddEdit(Globals &globals, QWidget *parent);
+    explicit frm_WaterAddEdit(const FormContext &context);
 
     void Form_Load();
     void setDateOrder() { UseDateOrder(*txt_date, g.options); }

@@ -47,7 +47,7 @@ QStatusBar *makeStatusBar(const QString &name)
 
 } // namespace
 
-frm_Waterlog::frm_Waterlog(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+frm_Waterlog::frm_Waterlog(const FormContext &context) : ChildForm(context)
 {
     setWindowTitle(QStringLiteral("Logbook"));
     setWindowIcon(Icon("testlog"));
@@ -123,20 +123,18 @@ void frm_Waterlog::makeLists()
 {
     tab_logtype = new QTabWidget;
     tab_logtype->setObjectName(QStringLiteral("tab_logtype"));
-    for (int tab = 0; tab < 3; ++tab) {
-        const LogKind &kind = logKinds[static_cast<size_t>(tab)];
-        auto *list = new ListView;
-        list->setObjectName(QLatin1String(kind.listName));
-        list->setAccessibleName(QLatin1String(kind.tabCaption));
+    for (const Log &log : logs) {
+        const LogKind &kind = KindOf(log.tab);
+        auto *list = this->*log.list = new ListView;
+        list->setObjectName(QLatin1String(kind.list.name));
+        list->setAccessibleName(QLatin1String(kind.caption));
         std::vector<ListColumn> columns;
-        for (const LogColumn &column : kind.columns)
+        for (const LogColumn &column : kind.list.columns)
             columns.push_back({QLatin1String(column.key), QLatin1String(column.heading), column.right, column.width});
         list->setColumns(columns);
-        tab_logtype->addTab(list, Icon(kind.image), QLatin1String(kind.tabCaption));
-        m_lists[static_cast<size_t>(tab)] = list;
-        connectList(list, tab);
+        tab_logtype->addTab(list, Icon(kind.list.image), QLatin1String(kind.caption));
+        connectList(*list, log.tab);
     }
-    std::tie(lstv_WaterLog, lstv_Livestock, lstv_Maintenance) = std::tie(m_lists[0], m_lists[1], m_lists[2]);
     on(tab_logtype, &QTabWidget::currentChanged, this, &frm_Waterlog::tab_logtype_Click);
     QTabBar *bar = tab_logtype->tabBar();
     bar->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -145,21 +143,21 @@ void frm_Waterlog::makeLists()
             }));
 }
 
-void frm_Waterlog::connectList(ListView *list, int tab)
+void frm_Waterlog::connectList(ListView &list, LogTab tab)
 {
-    connect(list, &ListView::ColumnClick, this, guarded([this, list](int index) { ColumnClick(*list, index); }));
-    on(list, &ListView::DblClick, this, &frm_Waterlog::Change_Entries);
-    OnListKey(*list, Qt::Key_Delete, button(QStringLiteral("deleteentries")));
-    OnListKey(*list, Qt::Key_Insert, button(QStringLiteral("addentries")));
-    connect(list, &ListView::MouseUp, this,
+    connect(&list, &ListView::ColumnClick, this, guarded([this, &list](int index) { ColumnClick(list, index); }));
+    on(&list, &ListView::DblClick, this, &frm_Waterlog::Change_Entries);
+    OnListKey(list, Qt::Key_Delete, button(QStringLiteral("deleteentries")));
+    OnListKey(list, Qt::Key_Insert, button(QStringLiteral("addentries")));
+    connect(&list, &ListView::MouseUp, this,
             guarded([this](Qt::MouseButton button, const QPoint &position) { list_MouseUp(button, position); }));
     if (tab != LivestockTab) // the livestock list has no such handler
-        on(list, &ListView::Click, this, &frm_Waterlog::list_Click);
+        on(&list, &ListView::Click, this, &frm_Waterlog::list_Click);
 }
 
 void frm_Waterlog::Form_Load() { FirstActivation = true; }
 
-int frm_Waterlog::tab() const { return tab_logtype->currentIndex(); }
+LogTab frm_Waterlog::tab() const { return LogTab(tab_logtype->currentIndex()); }
 
 bool frm_Waterlog::isTankSelected() const
 {

@@ -2,15 +2,15 @@
 // read afresh whenever something changes. Every command first takes the tree's tank in hand, whatever tank another
 // window has dealt with since, and then works on its own copy of it. The entry windows are driven from here: a row is
 // opened, the window's controls are filled, the row is handed to the window, and when it returns the list is reloaded.
-// What the three logs do alike is here once; what differs between them is data (LogKinds.h) or a path of its own
-// (EntryPaths.cpp).
+// What the three logs have in common is here once; what differs between them is a row of the table of the logs
+// (logic/logbook/LogKinds.h) or a path of its own (EntryPaths.cpp).
 #pragma once
 
 #include <array>
 #include <map>
 #include <optional>
 
-#include "windows/logbook/LogKinds.h"
+#include "windows/logbook/LogRows.h"
 #include "windows/shell/ChildForm.h"
 
 class frm_LivesAddEdit;
@@ -25,7 +25,7 @@ class frm_Waterlog : public ChildForm
 {
     Q_OBJECT
 public:
-    frm_Waterlog(Globals &globals, QWidget *parent);
+    explicit frm_Waterlog(const FormContext &context);
 
     /// Name of the tank selected; empty while the tree is rebuilt, and the last one while "All Tanks" is selected.
     QString CurrentTankText;
@@ -50,6 +50,7 @@ public:
     void Form_Activate() override;
     void Form_LostFocus() override;
     void Form_Unload() override;
+    void Print() override { Print_Entries(); }
 
     MenuEntry &button(const QString &key) { return *m_buttons.at(key); }
 
@@ -70,23 +71,27 @@ private:
         QString name;
     };
     using EntryPath = void (frm_Waterlog::*)(const Tank &);
-    /// The entry paths of a log.
-    struct EntryPaths
+    /// A log as this window has it.
+    struct Log
     {
+        LogTab tab;
+        ListView *frm_Waterlog::*list;
+        void (frm_Waterlog::*load)(const QString &order);
         EntryPath add;
         EntryPath change;
         EntryPath remove;
     };
-    static const std::array<EntryPaths, 3> entryPaths;
+    static const std::array<Log, logTabs.size()> logs;
 
     void makeToolbar();
     void makeTree();
     void makeLists();
-    void connectList(ListView *list, int tab);
+    void connectList(ListView &list, LogTab tab);
 
-    int tab() const;
-    const LogKind &kind() const { return logKinds[static_cast<size_t>(tab())]; }
-    ListView &list(int tab) const { return *m_lists[static_cast<size_t>(tab)]; }
+    LogTab tab() const;
+    /// The log on show.
+    const Log &log() const { return logs[tab()]; }
+    ListView &list() const { return *(this->*log().list); }
     bool isTankSelected() const;
     void enableLogCommands();
     void disableFileEntries();
@@ -95,7 +100,7 @@ private:
     void LoadLivestockList(const QString &order);
     void LoadMaintList(const QString &order);
     /// What the three loaders do alike: takes the tank in hand, tells it in the panel, reads the rows and shows them.
-    void loadList(int tab, const QString &order);
+    void loadList(LogTab tab, const QString &order);
     /// Makes the tree's tank the tank in hand.
     Tank takeTankInHand();
     /// Sets gTankWaterType for the livestock window.
@@ -109,9 +114,6 @@ private:
     void TreeView1_MouseUp(const QPoint &position);
 
     // EntryPaths.cpp
-    struct DeletePath;
-    static const std::array<DeletePath, 3> deletePaths;
-
     void AddWaterEntry(const Tank &tank);
     void AddLivestockEntry(const Tank &tank);
     void AddMaintEntry(const Tank &tank);
@@ -121,16 +123,16 @@ private:
     void Delete_EntriesWater(const Tank &tank);
     void Delete_EntriesLives(const Tank &tank);
     void Delete_EntriesMaint(const Tank &tank);
-    void deleteEntry(const DeletePath &path, const Tank &tank);
+    void deleteEntry(LogTab log, const Tank &tank);
     /// The entry selected in the list on show; nothing, after a box with that text, where none is.
     std::optional<ShownEntry> selectedEntry(const QString &ifNone);
     /// The date in a row's text, read month first where that gives a date, else in the order that it was shown in.
     std::optional<QDate> dateAsTyped(const ShownEntry &entry) const;
     /// A row to be filled by an entry window.
-    Recordset newRow(const QString &table);
+    Recordset newRow(LogTab log);
     /// The row of an entry under that date; nothing, after a box, where the log has none. `undone` is what then does
     /// not happen: "deleted".
-    std::optional<Recordset> rowOf(const QString &sql, const Tank &tank, const ShownEntry &entry,
+    std::optional<Recordset> rowOf(LogTab log, const Tank &tank, const ShownEntry &entry,
                                    const std::optional<QDate> &date, const QString &undone);
     void tellNoRow(const ShownEntry &entry, const std::optional<QDate> &date, const QString &undone);
     /// The livestock window with the lists of that tank's water.
@@ -138,11 +140,11 @@ private:
     /// Asks whether an entry may be deleted; `entry` is its description.
     bool mayDelete(const QString &entry, const Tank &tank);
 
-    std::array<ListView *, 3> m_lists{};
-    std::array<std::shared_ptr<const LogRows>, 3> m_rows; ///< what the lists show
+    std::array<std::shared_ptr<const LogRows>, logTabs.size()> m_rows; ///< what the lists show
     std::map<QString, MenuEntry *> m_buttons;
     QString ListSortOrder;
-    QString m_shownOrder; ///< DateOrder when the list on show was loaded: its rows stay so until they are loaded again
+    DateOrder m_shownOrder =
+        {}; ///< DateOrder when the list on show was loaded: its rows stay so until they are loaded again
     bool FirstActivation = true;
     bool m_nodeJustChanged = false;
 };

@@ -48,7 +48,7 @@ QPushButton *makeButton(const char *name, const char *caption)
 
 } // namespace
 
-frm_Conversions::frm_Conversions(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+frm_Conversions::frm_Conversions(const FormContext &context) : ChildForm(context)
 {
     setWindowTitle(QStringLiteral("Conversions"));
     setWindowIcon(Icon("rulers"));

@@ -13,7 +13,7 @@ class frm_Conversions : public ChildForm
 {
     Q_OBJECT
 public:
-    frm_Conversions(Globals &globals, QWidget *parent);
+    explicit frm_Conversions(const FormContext &context);
 
     void Form_Load();
     void Form_Activate() override;

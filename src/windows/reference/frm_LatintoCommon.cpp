@@ -47,7 +47,7 @@ private:
 
 } // namespace
 
-frm_LatintoCommon::frm_LatintoCommon(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+frm_LatintoCommon::frm_LatintoCommon(const FormContext &context) : ChildForm(context)
 {
     setWindowTitle(QStringLiteral("Common and Latin Names Reference"));
     setWindowIcon(Icon("commonnames"));

@@ -14,7 +14,7 @@ class frm_LatintoCommon : public ChildForm
 {
     Q_OBJECT
 public:
-    frm_LatintoCommon(Globals &globals, QWidget *parent);
+    explicit frm_LatintoCommon(const FormContext &context);
 
     void Form_Load();
     void Form_Activate() override;

@@ -8,17 +8,16 @@
 #include "text/Dates.h"
 #include "windows/reminders/frm_SchedNewAddEdit.h"
 #include "windows/reminders/frm_Schedule.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 
-const QString reminderByTask = QStringLiteral("SELECT * FROM maintsched where coalesce(schedtask, '') = ?");
+const QString reminderByTask = QStringLiteral("where coalesce(schedtask, '') = ?");
 const QString twice =
     QStringLiteral("That identical task already exists. Make your new task unique by changing at least one letter.");
 
 } // namespace
 
-frm_Maintsched::frm_Maintsched(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+frm_Maintsched::frm_Maintsched(const FormContext &context) : ChildForm(context)
 {
     setupUi(this);
     setWindowIcon(Icon("handwithstring"));
@@ -52,7 +51,7 @@ void frm_Maintsched::Form_Load()
 
 void frm_Maintsched::Form_Activate()
 {
-    Form<frm_OMKMDIMain>().offerPrint(*this, true); // though there is nothing to print here
+    main.offerPrint(*this, true); // though there is nothing to print here
     SetListViewStyle(*lstv_MaintSched);
 }
 
@@ -67,7 +66,7 @@ void frm_Maintsched::FillTaskList()
                                   Format(rule.EndDate, g.options.DatePicture)});
     cmd_update_task->setEnabled(false);
     cmd_DeleteTask->setEnabled(false);
-    Form<frm_OMKMDIMain>().Top20List();
+    main.Top20List();
 }
 
 void frm_Maintsched::lstv_MaintSched_Click()
@@ -117,7 +116,7 @@ void frm_Maintsched::cmd_update_task_Click()
         selectedTask(QStringLiteral("You must first select a maintenance task to change by clicking on it."));
     if (!task)
         return;
-    Recordset row = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    Recordset row = g.gDatabase->OpenForUpdate(QStringLiteral("maintsched"), reminderByTask, {*task});
     if (row.isEmpty()) {
         MsgBox(QStringLiteral("Unable to retrieve detail for reminder message."));
         return;
@@ -137,14 +136,14 @@ void frm_Maintsched::cmd_Deletetask_Click()
         selectedTask(QStringLiteral("You must first select a maintenance task to delete by clicking on it."));
     if (!task)
         return;
-    Recordset asked = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    Recordset asked = g.gDatabase->OpenForUpdate(QStringLiteral("maintsched"), reminderByTask, {*task});
     const QString sentence = asked.isEmpty() ? QString() : ReadRule(asked).EnglishDescription;
     g.gMessage = u"Are you sure you want to delete this entry?\n" + *task + u"\nscheduled for " + sentence +
                  u"?\n(Remember, you CANNOT \"undo\" a delete!)";
     Beep();
     if (MsgBox(g.gMessage, vbOKCancel + vbQuestion, QStringLiteral("Are you sure...")) != MsgBoxAnswer::OK)
         return;
-    Recordset found = g.gDatabase->OpenRecordset(reminderByTask, {*task});
+    Recordset found = g.gDatabase->OpenForUpdate(QStringLiteral("maintsched"), reminderByTask, {*task});
     if (found.isEmpty())
         MsgBox(QStringLiteral("Unable to delete the task!"));
     else
@@ -152,4 +151,4 @@ void frm_Maintsched::cmd_Deletetask_Click()
     FillTaskList();
 }
 
-void frm_Maintsched::cmd_ViewSchedule_Click() { Form<frm_OMKMDIMain>().ShowChild(Form<frm_Schedule>()); }
+void frm_Maintsched::cmd_ViewSchedule_Click() { main.ShowChild(Form<frm_Schedule>()); }

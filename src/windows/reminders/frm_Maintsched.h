@@ -13,7 +13,7 @@ class frm_Maintsched : public ChildForm, public Ui::frm_Maintsched
 {
     Q_OBJECT
 public:
-    frm_Maintsched(Globals &globals, QWidget *parent);
+    explicit frm_Maintsched(const FormContext &context);
     /// Fills the list; a failure is told here, and the window opens nevertheless.
     void Form_Load();
     void Form_Activate() override;

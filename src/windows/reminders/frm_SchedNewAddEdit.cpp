@@ -59,7 +59,7 @@ const std::array<Editor::VariantRow, 6> Editor::variantRows = {{
      }},
 }};
 
-frm_SchedNewAddEdit::frm_SchedNewAddEdit(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_SchedNewAddEdit::frm_SchedNewAddEdit(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     for (std::size_t i = 0; i < chk_WeeklyDay.size(); ++i)

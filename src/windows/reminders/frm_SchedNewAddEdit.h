@@ -22,7 +22,7 @@ public:
     /// Stores a rule; false, after a box, where it may not be stored as it is: the editor then goes on with it.
     using Store = std::function<bool(const RecurrenceRule &)>;
 
-    frm_SchedNewAddEdit(Globals &globals, QWidget *parent);
+    explicit frm_SchedNewAddEdit(const FormContext &context);
     void Form_Load();
 
     /// Composes a new rule, which starts as a daily one with the task and the range of that one. True if it was stored.

@@ -11,7 +11,6 @@
 #include "platform/core/PrintJob.h"
 #include "windows/common/DateBoxes.h"
 #include "windows/reminders/OccurrenceRows.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 
@@ -19,7 +18,7 @@ constexpr int firstYear = 1995; ///< of the end of a range
 
 } // namespace
 
-frm_Schedule::frm_Schedule(Globals &globals, QWidget *parent) : ChildForm(globals, parent)
+frm_Schedule::frm_Schedule(const FormContext &context) : ChildForm(context)
 {
     setupUi(this);
     setWindowIcon(Icon("cal"));
@@ -57,7 +56,7 @@ void frm_Schedule::followDateOrder()
 
 void frm_Schedule::Form_Activate()
 {
-    Form<frm_OMKMDIMain>().offerPrint(*this, true);
+    main.offerPrint(*this, true);
     SetListViewStyle(*lstv_Reminders);
     followDateOrder();
 }
@@ -146,7 +145,7 @@ void frm_Schedule::generate(const std::vector<RecurrenceRule> &rules, const std:
         cmd_Print->setEnabled(rows->count() > 0);
     }
     if (undated.tell(g))
-        Form<frm_OMKMDIMain>().RefillReminders();
+        main.RefillReminders();
     if (rows->count() == 0)
         MsgBox(QStringLiteral("No reminder has a date within this range."));
 }

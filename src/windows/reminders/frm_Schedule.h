@@ -18,9 +18,10 @@ class frm_Schedule : public ChildForm, public Ui::frm_Schedule
 {
     Q_OBJECT
 public:
-    frm_Schedule(Globals &globals, QWidget *parent);
+    explicit frm_Schedule(const FormContext &context);
     void Form_Load();
     void Form_Activate() override;
+    void Print() override { Print_Schedule(); }
 
     void Print_Schedule();
 

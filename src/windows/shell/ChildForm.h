@@ -16,9 +16,11 @@ class ChildForm : public QWidget
 public:
     static constexpr bool isDialog = false;
 
+    void Form_Load() {} ///< runs when the window has been made; a window that has one hides this one
     virtual void Form_Activate() {}
     virtual void Form_LostFocus() {}
     virtual void Form_Unload() {}
+    virtual void Print() {} ///< what "Print" does while the child is in front
 
     /// On the screen, if only as an icon.
     bool isShown() const { return parentWidget() && parentWidget()->isVisible(); }
@@ -26,7 +28,7 @@ public:
     void takeFocus() { (m_first ? m_first : this)->setFocus(); }
 
 protected:
-    ChildForm(Globals &globals, QWidget *parent) : QWidget(parent), g(globals) {}
+    explicit ChildForm(const FormContext &context) : QWidget(context.parent), g(context.globals), main(context.main) {}
 
     /// No focus proxy: as such it would be one more stop of Tab, and the controls before it would not be reached.
     void beginWith(QWidget *control) { m_first = control; }
@@ -39,6 +41,7 @@ protected:
     }
 
     Globals &g;
+    MainWindow &main;
 
 private:
     QWidget *m_first = nullptr;

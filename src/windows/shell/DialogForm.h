@@ -13,10 +13,11 @@ class DialogForm : public QDialog
 public:
     static constexpr bool isDialog = true;
 
+    void Form_Load() {} ///< runs when the window has been made; a window that has one hides this one
     void reject() final { Cancel(); }
 
 protected:
-    DialogForm(Globals &globals, QWidget *parent) : QDialog(parent), g(globals) {}
+    explicit DialogForm(const FormContext &context) : QDialog(context.parent), g(context.globals), main(context.main) {}
 
     /// Leaves without storing.
     virtual void Cancel() = 0;
@@ -31,4 +32,5 @@ protected:
     void ShowModal() { Forms::current().showModal(*this); }
 
     Globals &g;
+    MainWindow &main;
 };

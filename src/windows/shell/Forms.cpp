@@ -35,6 +35,13 @@ Forms &Forms::current()
     return *inUse;
 }
 
+MainWindow &Forms::mainWindow()
+{
+    if (!m_main)
+        qFatal("a window is made before the main window");
+    return *m_mainWindow;
+}
+
 void Forms::unload(QWidget &form)
 {
     std::erase_if(m_forms, [&form](const auto &entry) { return entry.second == &form; });

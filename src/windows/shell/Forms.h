@@ -1,16 +1,26 @@
 // One instance of each window, made at its first use: Form<frm_X>() gives it, Unload() destroys its controls. A window
 // whose own code is still on the stack is freed only when that code has returned (Forms::Pin, and every modal showing).
-// Windows are made with the process-wide values in hand, and their Form_Load, where they have one, runs before anyone
-// else sees them.
+// Windows are made with what they work with (FormContext), and their Form_Load runs before anyone else sees them. The
+// main window is made first.
 #pragma once
 
 #include <map>
+#include <type_traits>
 
 #include <QDialog>
 #include <QPointer>
 
 #include "logic/shell/Globals.h"
+#include "windows/shell/MainWindow.h"
 #include "windows/shell/WindowMemory.h"
+
+/// What a window is made with. Everything in it lives longer than the window.
+struct FormContext
+{
+    Globals &globals;
+    MainWindow &main;
+    QWidget *parent; ///< of a dialog: the main window
+};
 
 class Forms
 {
@@ -28,14 +38,14 @@ public:
     {
         QPointer<QWidget> &slot = m_forms[&F::staticMetaObject];
         if (!slot) {
-            F *made = new F(m_globals, F::isDialog ? m_main.data() : nullptr);
+            F *made = make<F>();
             made->setObjectName(QLatin1String(F::staticMetaObject.className()));
             slot = made;
             RememberWindow(*made);
-            if constexpr (requires { made->Form_Load(); })
+            if constexpr (!std::is_base_of_v<MainWindow, F>)
                 made->Form_Load();
         }
-        return static_cast<F &>(*slot);
+        return *qobject_cast<F *>(slot.data()); // which does not compile for a class without Q_OBJECT
     }
     /// The window if it is loaded, visible or not; null otherwise.
     template <class F> F *loaded() const
@@ -48,9 +58,6 @@ public:
     void unload(QWidget &form);
     /// Shows a dialog and waits until it is closed or unloaded.
     void showModal(QDialog &dialog);
-    /// The window that dialogs belong to.
-    void setMainWindow(QWidget *main) { m_main = main; }
-
     /// Keeps a window alive while a method of it waits.
     class Pin
     {
@@ -65,6 +72,19 @@ public:
     };
 
 private:
+    template <class F> F *make()
+    {
+        if constexpr (std::is_base_of_v<MainWindow, F>) {
+            F *made = new F(m_globals);
+            m_main = made;
+            m_mainWindow = made;
+            return made;
+        } else {
+            return new F(FormContext{m_globals, mainWindow(), F::isDialog ? m_main.data() : nullptr});
+        }
+    }
+    MainWindow &mainWindow();
+
     struct Hold
     {
         int pins = 0;
@@ -75,6 +95,7 @@ private:
     std::map<const QMetaObject *, QPointer<QWidget>> m_forms;
     std::map<QWidget *, Hold> m_holds;
     QPointer<QWidget> m_main;
+    MainWindow *m_mainWindow = nullptr; ///< the same
     Forms *m_previous;
 };
 

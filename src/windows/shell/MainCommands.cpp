@@ -35,19 +35,6 @@
 
 namespace {
 
-/// What "Print" does while a child of that name is in front.
-struct PrintRow
-{
-    const char *child;
-    void (*print)();
-};
-
-constexpr PrintRow printRows[] = {
-    {"FRM_WATERLOG", [] { Form<frm_Waterlog>().Print_Entries(); }},
-    {"FRM_SCHEDULE", [] { Form<frm_Schedule>().Print_Schedule(); }},
-    {"FRM_WATERGRAPH", [] { Form<frm_WaterGraph>().PrintGraph(); }},
-};
-
 /// The logbook, if it is on the screen, though it may be an icon there.
 frm_Waterlog *visibleLogbook()
 {
@@ -153,13 +140,8 @@ void frm_OMKMDIMain::backUpTo(const QString &target)
 
 void frm_OMKMDIMain::mnu_FilePrint_Click()
 {
-    if (!m_activeChild)
-        return;
-    const QString inFront =
-        m_activeChild->objectName().toUpper(); // while it prints, another child may come to the front
-    for (const PrintRow &row : printRows)
-        if (inFront == QLatin1String(row.child))
-            row.print();
+    if (m_activeChild)
+        m_activeChild->Print();
 }
 
 void frm_OMKMDIMain::mnu_FilePageSetup_Click()

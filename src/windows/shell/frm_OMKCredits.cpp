@@ -23,7 +23,7 @@ const QString thanks =
 
 } // namespace
 
-frm_OMKCredits::frm_OMKCredits(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_OMKCredits::frm_OMKCredits(const FormContext &context) : DialogForm(context)
 {
     setWindowTitle(QStringLiteral("Thank You"));
     auto *heading = new QLabel(QStringLiteral("Thank you"));

@@ -7,7 +7,7 @@ class frm_OMKCredits : public DialogForm
 {
     Q_OBJECT
 public:
-    frm_OMKCredits(Globals &globals, QWidget *parent);
+    explicit frm_OMKCredits(const FormContext &context);
 
     void ShowCredits() { ShowModal(); }
 

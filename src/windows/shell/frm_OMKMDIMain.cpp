@@ -78,8 +78,7 @@ void saveAtStart(const QString &key, const QString &value)
 
 } // namespace
 
-frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals, QWidget *parent) :
-    QMainWindow(parent), g(globals), m_area(new QMdiArea)
+frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiArea)
 {
     setWindowTitle(QStringLiteral(" Ostrelmark 98"));
     setWindowIcon(Icon("ostrelmark"));
@@ -153,7 +152,6 @@ void frm_OMKMDIMain::makeStatusBar()
 
 void frm_OMKMDIMain::MDIForm_Load()
 {
-    Forms::current().setMainWindow(this);
     mnu_FilePrint->Enabled(false);
     g.gDatabaseName = QStringLiteral("OM.MDB");
     Form<frm_OMKaboutbox>();

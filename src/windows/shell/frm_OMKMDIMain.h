@@ -10,6 +10,7 @@
 
 #include "logic/shell/Globals.h"
 #include "windows/shell/MainMenu.h"
+#include "windows/shell/MainWindow.h"
 
 class ChildForm;
 struct HelpRequest;
@@ -21,12 +22,11 @@ class QMdiArea;
 class QMdiSubWindow;
 class QToolBar;
 
-class frm_OMKMDIMain : public QMainWindow, public MainMenu
+class frm_OMKMDIMain : public QMainWindow, public MainMenu, public MainWindow
 {
     Q_OBJECT
 public:
-    static constexpr bool isDialog = false;
-    frm_OMKMDIMain(Globals &globals, QWidget *parent);
+    explicit frm_OMKMDIMain(Globals &globals);
     ~frm_OMKMDIMain() override;
 
     /// The start, step by step. Throws RuntimeFailure where the database cannot be opened or upgraded; no window is
@@ -38,23 +38,16 @@ public:
     /// Closes the children, which store what they keep, and unloads the window that holds the settings.
     void MDIForm_Unload();
 
-    /// Shows a window among the children and gives it the focus.
-    void ShowChild(ChildForm &child);
-    /// Whether it is the child in front; it stays so behind a dialog or another program.
-    bool isInFront(const ChildForm &child) const;
-    /// Called by a child that has something to print, when it comes to the front and whenever that changes. One that is
-    /// not in front has no say: its lists are filled behind others, too.
-    void offerPrint(const ChildForm &child, bool enabled, const QString &caption = QStringLiteral("&Print"));
-    /// There is nothing to print: no child in front offers it, or a dialog is.
-    void disablePrint();
-    /// Text of panel 1 of the status bar.
-    void setPanel(const QString &text);
+    void ShowChild(ChildForm &child) override;
+    bool isInFront(const ChildForm &child) const override;
+    void offerPrint(const ChildForm &child, bool enabled, const QString &caption) override;
+    void disablePrint() override;
+    void setPanel(const QString &text) override;
+    void Top20List() override;
+    void RefillReminders() override;
+    MainMenu &menu() override { return *this; }
     /// A tool button of the toolbar by its key.
     MenuEntry &button(const QString &key) { return *m_buttons.at(key); }
-    /// Fills the upcoming reminders with the soonest dates of all reminders, at most twenty.
-    void Top20List();
-    /// After a box has deleted reminders: every list of them anew, that of an open window too.
-    void RefillReminders();
     /// Warns where there is no tank, and lets the buttons that need one follow.
     void CheckTanks();
 
@@ -80,7 +73,7 @@ public:
     void mnu_ToolsFantasy_Click();
     void mnu_ToolsCommonNames_Click();
     void mnu_ToolsConversions_Click();
-    void mnu_ToolsGraphing_Click();
+    void mnu_ToolsGraphing_Click() override;
     void mnu_WindowCascade_Click();
     void mnu_WindowTileHorizontal_Click();
     void mnu_WindowTileVertical_Click();
@@ -93,8 +86,6 @@ public:
     void mnu_TankDelete_Click();
     void mnu_TankProperties_Click();
     void mnu_GraphOptions_Click();
-
-    bool WizardCancelled = false; ///< the keeper has left the diagnosis wizard
 
     QWidget *Picture1;
     QToolBar *Toolbar1;

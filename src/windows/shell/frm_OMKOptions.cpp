@@ -27,7 +27,7 @@ bool isBlank(const QString &name) { return name.isEmpty() || name.startsWith(u' 
 
 } // namespace
 
-frm_OMKOptions::frm_OMKOptions(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_OMKOptions::frm_OMKOptions(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     makeChecks();
@@ -112,9 +112,9 @@ void frm_OMKOptions::showGeneral(const OptionsMembers &options)
     (options.DefaultWaterType == u"SALT" ? opt_Salt : opt_Fresh)->setChecked(true);
     ShowWhole(*txt_username1, g.gUserFieldName1);
     ShowWhole(*txt_username2, g.gUserFieldName2);
-    QRadioButton *option = options.DateOrder == u"DDMMYY"   ? opt_Dateform_ddmmyy
-                           : options.DateOrder == u"YYMMDD" ? opt_Dateform_YYMMDD
-                                                            : opt_Dateform_MMDDYY;
+    QRadioButton *option = options.DateOrder == DateOrder::DDMMYY   ? opt_Dateform_ddmmyy
+                           : options.DateOrder == DateOrder::YYMMDD ? opt_Dateform_YYMMDD
+                                                                    : opt_Dateform_MMDDYY;
     option->setChecked(true);
     cbo_Delimiter->setCurrentIndex(cbo_Delimiter->findText(options.DateDelimiter));
     showDateCaptions();
@@ -201,9 +201,9 @@ bool frm_OMKOptions::CheckUserFieldNames()
 // A click copies the control's value to its member, so the members change while the dialog is open.
 void frm_OMKOptions::opt_Salt_Click() { g.options.DefaultWaterType = QStringLiteral("SALT"); }
 void frm_OMKOptions::opt_Fresh_Click() { g.options.DefaultWaterType = QStringLiteral("FRESH"); }
-void frm_OMKOptions::opt_Dateform_MMDDYY_Click() { g.options.DateOrder = QStringLiteral("MMDDYY"); }
-void frm_OMKOptions::opt_Dateform_ddmmyy_Click() { g.options.DateOrder = QStringLiteral("DDMMYY"); }
-void frm_OMKOptions::opt_Dateform_YYMMDD_Click() { g.options.DateOrder = QStringLiteral("YYMMDD"); }
+void frm_OMKOptions::opt_Dateform_MMDDYY_Click() { g.options.DateOrder = DateOrder::MMDDYY; }
+void frm_OMKOptions::opt_Dateform_ddmmyy_Click() { g.options.DateOrder = DateOrder::DDMMYY; }
+void frm_OMKOptions::opt_Dateform_YYMMDD_Click() { g.options.DateOrder = DateOrder::YYMMDD; }
 void frm_OMKOptions::chk_SkipZeroValues_Click() { g.options.GraphSkipZeroes = chk_SkipZeroValues->isChecked(); }
 void frm_OMKOptions::opt_BWPrinting_Click() { g.options.GraphPrintColor = 0; }
 void frm_OMKOptions::opt_ColorPrinting_Click() { g.options.GraphPrintColor = 1; }

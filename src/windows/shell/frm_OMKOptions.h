@@ -12,7 +12,7 @@ class frm_OMKOptions : public DialogForm, public Ui::frm_OMKOptions
 {
     Q_OBJECT
 public:
-    frm_OMKOptions(Globals &globals, QWidget *parent);
+    explicit frm_OMKOptions(const FormContext &context);
 
     /// Brings every stored value into force and shows it. Throws RuntimeFailure where CONFIG cannot be read.
     void Get_Initial_Properties();

@@ -48,12 +48,10 @@ QLabel *line(const char *text, double size, bool bold)
 
 } // namespace
 
-frm_OMKaboutbox::frm_OMKaboutbox(Globals &globals, QWidget *parent) :
-    DialogForm(globals, parent), tim_splash(new QTimer(this))
+frm_OMKaboutbox::frm_OMKaboutbox(const FormContext &context) : DialogForm(context), tim_splash(new QTimer(this))
 {
     setWindowTitle(QStringLiteral("About Ostrelmark"));
-    if (parent)
-        parent->installEventFilter(this);
+    context.parent->installEventFilter(this);
     tim_splash->setObjectName(QStringLiteral("tim_splash"));
     tim_splash->setSingleShot(true);
     on(tim_splash, &QTimer::timeout, this, &frm_OMKaboutbox::tim_splash_Timer);

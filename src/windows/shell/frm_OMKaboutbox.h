@@ -10,7 +10,7 @@ class frm_OMKaboutbox : public DialogForm
 {
     Q_OBJECT
 public:
-    frm_OMKaboutbox(Globals &globals, QWidget *parent);
+    explicit frm_OMKaboutbox(const FormContext &context);
 
     /// Shows the box in the way that gSplashMode tells, and waits until it is closed.
     void ShowBox();

@@ -21,7 +21,7 @@ int draw(int limit) { return int(Doors::current().random() * limit); }
 
 } // namespace
 
-frm_OMKtod::frm_OMKtod(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_OMKtod::frm_OMKtod(const FormContext &context) : DialogForm(context)
 {
     setWindowTitle(QStringLiteral("Ostrelmark - Tip of the Day"));
     makeControls();

@@ -12,7 +12,7 @@ class frm_OMKtod : public DialogForm
 {
     Q_OBJECT
 public:
-    frm_OMKtod(Globals &globals, QWidget *parent);
+    explicit frm_OMKtod(const FormContext &context);
 
     void Form_Load();
     /// Shows a tip drawn from all, and waits until the window is closed.

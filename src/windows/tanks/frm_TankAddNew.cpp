@@ -6,7 +6,6 @@
 #include "platform/core/Doors.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"
-#include "windows/shell/frm_OMKMDIMain.h"
 
 namespace {
 
@@ -25,11 +24,11 @@ constexpr WaterType waterTypes[] = {
 constexpr int longestName = 50;
 constexpr double biggestTank = 9999; // gallons
 
-const QString tankByName = QStringLiteral("SELECT * FROM tanklst where tankname = ?");
+const QString tankByName = QStringLiteral("where tankname = ?");
 
 } // namespace
 
-frm_TankAddNew::frm_TankAddNew(Globals &globals, QWidget *parent) : DialogForm(globals, parent), m_checks(this)
+frm_TankAddNew::frm_TankAddNew(const FormContext &context) : DialogForm(context), m_checks(this)
 {
     setupUi(this);
     ud_tanksize->setBoundBox(txt_tanksize);
@@ -64,14 +63,14 @@ void frm_TankAddNew::AddNewTank()
     ud_tanksize->setValue(55);
     txt_tanksize->setText(QStringLiteral("55"));
     DialogMode = QStringLiteral("add");
-    Form<frm_OMKMDIMain>().disablePrint();
+    main.disablePrint();
     ShowModal();
 }
 
 void frm_TankAddNew::ChangeTank(const QString &tankName)
 {
     g.gTankName = tankName;
-    m_tank = g.gDatabase->OpenRecordset(tankByName, {tankName});
+    m_tank = g.gDatabase->OpenForUpdate(QStringLiteral("tanklst"), tankByName, {tankName});
     m_tank.MoveFirst();
     m_tank.Edit();
     m_waterType = m_tank[QStringLiteral("TankWaterType")].text(); // a code without an option stays as it is
@@ -88,7 +87,7 @@ void frm_TankAddNew::ChangeTank(const QString &tankName)
         m_shown.remember(*box);
     DialogMode = QStringLiteral("edit");
     setWindowTitle(u"Change Tank Info for " + tankName);
-    Form<frm_OMKMDIMain>().disablePrint();
+    main.disablePrint();
     ShowModal();
 }
 

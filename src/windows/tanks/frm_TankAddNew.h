@@ -11,7 +11,7 @@ class frm_TankAddNew : public DialogForm, public Ui::frm_TankAddNew
 {
     Q_OBJECT
 public:
-    frm_TankAddNew(Globals &globals, QWidget *parent);
+    explicit frm_TankAddNew(const FormContext &context);
 
     /// Opens the dialog for a new tank.
     void AddNewTank();

@@ -8,7 +8,7 @@
 namespace {
 
 const QString allTanks = QStringLiteral("SELECT * FROM Tanklst ORDER BY [tankname] COLLATE CASEBLIND ASC");
-const QString tankByName = QStringLiteral("SELECT * FROM tanklst where tankname = ?");
+const QString tankByName = QStringLiteral("where tankname = ?");
 
 // What belongs to a tank, in the order in which it goes. The tank's own row is gone by then: the last one is a safety
 // net.
@@ -21,7 +21,7 @@ const QString cascade[] = {
 
 } // namespace
 
-frm_TankMaint::frm_TankMaint(Globals &globals, QWidget *parent) : DialogForm(globals, parent)
+frm_TankMaint::frm_TankMaint(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
     on(lst_tanklist, &QListWidget::itemDoubleClicked, this, &frm_TankMaint::cmd_ChangeTank_Click);
@@ -79,7 +79,7 @@ void frm_TankMaint::DeleteTankInfo(const QString &tankName)
     if (name.isEmpty())
         return;
     g.gTankName = name;
-    Recordset tank = g.gDatabase->OpenRecordset(tankByName, {name});
+    Recordset tank = g.gDatabase->OpenForUpdate(QStringLiteral("tanklst"), tankByName, {name});
     tank.MoveFirst();
     const QString id = tank[QStringLiteral("tankid")].text(); // another tank may come in hand while the box is up
     g.gTankId = id;

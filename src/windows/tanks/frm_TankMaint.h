@@ -10,7 +10,7 @@ class frm_TankMaint : public DialogForm, public Ui::frm_TankMaint
 {
     Q_OBJECT
 public:
-    frm_TankMaint(Globals &globals, QWidget *parent);
+    explicit frm_TankMaint(const FormContext &context);
 
     /// Fills the list and shows the window.
     void Show_List();

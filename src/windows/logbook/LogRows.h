@@ -1,12 +1,10 @@
-// The three logs as data: captions, statements, columns and pictures of their lists. What the logs do alike is written
-// once (frm_Waterlog), and what differs between them stands here, where a reader sees it side by side.
+// The rows of a log as the logbook's lists show them.
 #pragma once
 
-#include <array>
 #include <memory>
 #include <vector>
 
-#include "logic/logbook/LogTab.h"
+#include "logic/logbook/LogKinds.h"
 #include "platform/controls/ListView.h"
 #include "store/Rows.h"
 
@@ -17,34 +15,6 @@ struct ShownEntry
     QDate date;
     QTime time;
 };
-
-struct LogColumn
-{
-    const char *key;
-    const char *heading;
-    bool right;
-    const char *column;  ///< of the table; null for date and time
-    const char *picture; ///< number or date picture; null: as text
-    int width;
-};
-
-struct LogKind
-{
-    const char *tabCaption;
-    const char *listName;    ///< name of the list view
-    const char *listCaption; ///< "Contents of ... for '<tank>'"
-    const char *image;
-    const char *select;    ///< one parameter: the tank's id
-    const char *ascending; ///< what follows ORDER BY
-    const char *descending;
-    const char *dateColumn;
-    const char *timeColumn;
-    const char *timePicture;
-    const char *nameColumn; ///< the name in the row's key; null where date and time are the identity
-    std::vector<LogColumn> columns;
-};
-
-extern const std::array<LogKind, 3> logKinds;
 
 /// Shows the rows of a log as they were read; cells are made text when they are painted or sorted.
 class LogRows : public ListSource
