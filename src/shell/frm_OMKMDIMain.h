@@ -57,6 +57,8 @@ public:
     void RefillReminders();
     /// Warns where there is no tank, and lets the buttons that need one follow.
     void CheckTanks();
+    /// The buttons that need a tank follow the tanks, without a word.
+    void EnableTankButtons();
 
     // What the entries of the menus do.
     void mnu_FileNew_Click();

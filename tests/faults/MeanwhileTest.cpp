@@ -67,10 +67,14 @@ public:
     {
         switch (std::exchange(m_step, Nothing)) {
         case Nothing: return;
-        case MainActivated: main->activateWindow(); break;
+        case MainActivated:
+            main->activateWindow();
+            takeReefInHand();
+            break;
         case ChildActivated: {
             auto &area = control<QMdiArea>(*main, "mdiArea");
             area.setActiveSubWindow(qobject_cast<QMdiSubWindow *>(Form<frm_WaterGraph>().parentWidget()));
+            takeReefInHand();
             break;
         }
         case Midnight: keeper.doors.clock = keeper.doors.clock.addDays(1); break;
@@ -152,6 +156,14 @@ public:
     QString expected; ///< where the row was deleted: the file without it
 
 private:
+    /// As a window does that shows another tank.
+    void takeReefInHand()
+    {
+        keeper.g().gTankId = "r1";
+        keeper.g().gTankName = "Reef";
+        keeper.g().gTankWaterType = "3";
+    }
+
     Step m_step;
     QString m_row;
     OtherProgram m_other{keeper.databaseFile()};
