@@ -12,9 +12,11 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrintPreviewDialog>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -182,6 +184,22 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
     EXPECT_TRUE(answer->target.keepsOrientation);
     const auto pages = doors.openPages(answer->target);
     EXPECT_LT(pages->width(), pages->height());
+}
+
+TEST_F(WrittenFiles, CopiesAreAskedForOnceAndTheirCountDoesNotStayInThePrinter)
+{
+    const auto printer = std::make_shared<QPrinter>();
+    printer->setOutputFileName(name);
+    const Attendant keeper([](QWidget *dialog) {
+        if (auto *print = qobject_cast<QPrintDialog *>(dialog)) {
+            print->findChild<QSpinBox *>(QStringLiteral("copies"))->setValue(3);
+            print->accept();
+        }
+    });
+    const auto answer = AskPrinter(nullptr, {"Print Log", false, "Log"}, printer);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->copies, 3);
+    EXPECT_EQ(printer->copyCount(), 1) << "or each of the three documents would come three times";
 }
 
 TEST_F(WrittenFiles, APrinterKeepsTheChosenPaper)

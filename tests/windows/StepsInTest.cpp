@@ -79,6 +79,7 @@ TEST_F(StepsIn, EveryCommandIsForTheTankThatTheLogbookShows)
     hand::clickRow(list(), 1);
     push("deleteentries");
     EXPECT_TRUE(keeper.told().contains("Fish of r1 - 04/05/26, 09:30:00 AM entry for the Reef tank?"));
+    hand::clickTab(*logbook->tab_logtype, WaterTab);
     takeBowlInHand();
     keeper.doors.printers = {PrintDialogAnswer{1}};
     give<frm_OMKLogPrint>("printentries", 0, [&](frm_OMKLogPrint &w) { mouse::click(w.cmd_ok); });
