@@ -42,6 +42,7 @@ public:
 
     Bench(LogTab tab, Step step, QString row) : Desk(tab), m_step(step), m_row(std::move(row))
     {
+        Database::Transaction whole(*keeper.g().gDatabase);
         for (const char *tank : {"r1", "Same"})
             for (const char *moment : {"2026-03-01 09:30:00", "2026-03-12 09:30:00"}) {
                 addEntry(WaterTab, tank, moment, "ph, nitrate", "8, 1");
@@ -52,6 +53,7 @@ public:
             execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "
                     "SchedRSubtype, SchedEnglishDesc) VALUES (?, '2026-01-01', '2027-01-01', 200, 0, 0, 'Often.')",
                     {QString(task)});
+        whole.commit();
         hand::clickTank(*logbook, "Reef");
         push("graphentries");
         hand::openLogbook(*main);
