@@ -1,9 +1,12 @@
 // Tests of the list's sorting, keys and columns, and of how few texts it reads.
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QSignalSpy>
 
+#include "platform/controls/ListKeys.h"
 #include "platform/controls/ListView.h"
 #include "support/Mouse.h"
 #include "support/ScriptedDoors.h"
@@ -92,6 +95,24 @@ TEST_F(ListViewTest, ReportsTheRowOfTheMenuKeyAndTheClickedColumn)
     ASSERT_EQ(clicked.count(), 1);
     EXPECT_EQ(clicked.at(0).first().toInt(), 1);
     EXPECT_EQ(header->sortIndicatorSection(), 0) << "the window decides what is sorted";
+}
+
+TEST_F(ListViewTest, CopiesTheSelectedRowOrTheWholeListForASpreadsheet)
+{
+    m_list.setSource(std::make_shared<FishRows>(
+        std::vector<QStringList>{{"Oscar", "12"}, {"Say \"ah\"", "1\t2"}, {"two\nlines", ""}}));
+    m_list.horizontalHeader()->moveSection(1, 0);
+    const auto copy = [this](Qt::KeyboardModifiers modifiers) {
+        QGuiApplication::clipboard()->setText("before");
+        EXPECT_TRUE(CopyFromList(m_list, QKeyEvent(QEvent::KeyPress, Qt::Key_C, modifiers)));
+        return QGuiApplication::clipboard()->text();
+    };
+    EXPECT_EQ(copy(Qt::ControlModifier), "before") << "no row is selected";
+    m_list.Select(2);
+    EXPECT_EQ(copy(Qt::ControlModifier), "\"1\t2\"\t\"Say \"\"ah\"\"\"\n");
+    EXPECT_EQ(copy(Qt::ControlModifier | Qt::ShiftModifier),
+              "Size\tName\n12\tOscar\n\"1\t2\"\t\"Say \"\"ah\"\"\"\n\t\"two\nlines\"\n");
+    EXPECT_FALSE(CopyFromList(m_list, QKeyEvent(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier)));
 }
 
 TEST_F(ListViewTest, AClickBesideTheRowsSelectsNoneAndIsAClickNevertheless)

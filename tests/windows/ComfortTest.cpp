@@ -1,6 +1,7 @@
 // What every window owes to a keeper without a mouse, without eyes, or with a desktop of his own arrangement.
 #include <algorithm>
 #include <map>
+#include <QClipboard>
 
 #include "Desk.h"
 #include "windows/advisers/frm_Compat.h"
@@ -190,6 +191,8 @@ TEST_F(Keys, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
         EXPECT_TRUE(isInFront(*main));
     }
     EXPECT_EQ(keeper.count("WATERLOG"), 1);
+    hand::press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().count('\n'), 2) << "the headings and the entry";
     keeper.doors.answers = {MsgBoxAnswer::OK, MsgBoxAnswer::OK};
     hand::press(Qt::Key_Delete);
     EXPECT_EQ(keeper.count("WATERLOG"), 0);

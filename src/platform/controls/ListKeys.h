@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
+#include <QKeyEvent>
 #include <QShortcut>
 
 inline const std::initializer_list<Qt::Key> enterKeys = {Qt::Key_Return, Qt::Key_Enter};
@@ -30,6 +31,11 @@ void connectTo(QAbstractItemView &list, Qt::Key key, Command &command, void (Com
 }
 
 } // namespace listkeys
+
+/// Copies the selected row of a list at Ctrl+C, and the whole list with its headings at Ctrl+Shift+C, as text that a
+/// spreadsheet takes: a tab between two cells, and quotation marks around a cell that has a tab, a line break or such
+/// marks itself. The columns are in the order on the screen. False if the key is neither of the two.
+bool CopyFromList(const QAbstractItemView &list, const QKeyEvent &key);
 
 /// The first Down selects the framed row; it would pass it over, and a single row could not be chosen by keys.
 void SelectWithFirstDown(QAbstractItemView &list);

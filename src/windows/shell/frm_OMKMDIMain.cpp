@@ -20,6 +20,7 @@
 #include "platform/controls/Guarded.h"
 #include "platform/controls/HourGlass.h"
 #include "platform/controls/Icons.h"
+#include "platform/controls/ListKeys.h"
 #include "platform/controls/Progress.h"
 #include "platform/core/Doors.h"
 #include "store/Version.h"
@@ -359,7 +360,11 @@ bool frm_OMKMDIMain::eventFilter(QObject *object, QEvent *event)
         return false;
     if (event->type() == QEvent::MouseButtonPress)
         bringToFront(*static_cast<QWidget *>(object));
-    return event->type() == QEvent::KeyPress && helpKey(*static_cast<QKeyEvent *>(event));
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto &key = *static_cast<QKeyEvent *>(event);
+    const auto *list = qobject_cast<QAbstractItemView *>(object);
+    return helpKey(key) || (list && CopyFromList(*list, key));
 }
 
 void frm_OMKMDIMain::MDIForm_Unload()

@@ -97,7 +97,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     bool event(QEvent *event) override;
-    /// Of the whole program: presses in children, and F1 in whatever window.
+    /// For the whole program: presses in children, F1 in any window, and copying from any list.
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
