@@ -4,6 +4,7 @@
 #include "windows/graph/frm_WaterGraph.h"
 #include "windows/logbook/frm_WaterAddEdit.h"
 #include "windows/reference/frm_Conversions.h"
+#include "windows/reference/frm_LatintoCommon.h"
 #include "windows/reminders/frm_Schedule.h"
 #include "windows/tanks/frm_TankMaint.h"
 
@@ -64,6 +65,23 @@ TEST_F(TheMainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARes
     hand::clickTank(*logbook, "Reef", Qt::RightButton);
     clickEntry(*main->mnu_tankPopup, "mnu_TankDelete");
     EXPECT_FALSE(main->button("graphing").isEnabled()) << "from the tree's menu, too";
+}
+
+TEST_F(TheMainWindow, TiledChildrenKeepTheRoomThatTheyNeedAndTheirSizesAreNotRemembered)
+{
+    const QSize size = logbook->parentWidget()->size();
+    for (ChildForm *child :
+         {static_cast<ChildForm *>(&Form<frm_Conversions>()), static_cast<ChildForm *>(&Form<frm_LatintoCommon>())}) {
+        main->ShowChild(*child);
+        keeper.told();
+    }
+    main->mnu_WindowTileVertical_Click();
+    const auto &units = Form<frm_Conversions>();
+    EXPECT_GE(units.lbl_From->width(),
+              units.lbl_From->fontMetrics().horizontalAdvance("Gallons Per Minute Flow (gpm)"));
+    EXPECT_NE(logbook->parentWidget()->size(), size);
+    logbook->close();
+    EXPECT_EQ(hand::openLogbook(*main).parentWidget()->size(), size);
 }
 
 TEST_F(TheMainWindow, ViewTakesTheToolbarAwayButNotTheReminders)

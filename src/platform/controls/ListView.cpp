@@ -17,6 +17,7 @@
 #include <QToolTip>
 
 #include "platform/controls/ListModel.h"
+#include "platform/controls/Style.h"
 #include "platform/core/RuntimeFailure.h"
 
 namespace {
@@ -240,7 +241,7 @@ void ListView::setHeaderDragDrop(bool on) { horizontalHeader()->setSectionsMovab
 /// proportion.
 void ListView::fitToFont()
 {
-    const int height = fontMetrics().height() + fontMetrics().height() / 3;
+    const int height = RowHeight(fontMetrics());
     verticalHeader()->setMinimumSectionSize(height);
     verticalHeader()->setDefaultSectionSize(height);
     const double scale = QFontInfo(font()).pixelSize() / referenceFontPixels;

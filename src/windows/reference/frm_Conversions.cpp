@@ -1,5 +1,6 @@
 #include "windows/reference/frm_Conversions.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QGridLayout>
@@ -92,8 +93,13 @@ void frm_Conversions::arrange()
     grid->setRowStretch(1, 1);
     grid->setColumnStretch(1, 2);
     grid->setColumnStretch(2, 3);
-    lbl_From->setMinimumWidth(1); // so that a long unit does not push the boxes aside
-    lbl_To->setMinimumWidth(1);
+    // Both have room for the longest unit at any time, so that none is cut and none pushes the boxes aside.
+    int widest = 0;
+    for (const Conversion &conversion : conversions)
+        for (const QString &unit : {UnitFrom(conversion.key), UnitTo(conversion.key)})
+            widest = std::max(widest, fontMetrics().horizontalAdvance(unit));
+    lbl_From->setMinimumWidth(widest + 2);
+    lbl_To->setMinimumWidth(widest + 2);
 }
 
 void frm_Conversions::connectAll()

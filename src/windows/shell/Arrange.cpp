@@ -15,7 +15,11 @@ QList<QMdiSubWindow *> childrenOf(QMdiArea &area, bool minimised, QMdiArea::Wind
     return found;
 }
 
+constexpr char tiledSize[] = "tiledSize";
+
 } // namespace
+
+bool WasTiled(const QMdiSubWindow &frame) { return frame.property(tiledSize).toSize() == frame.size(); }
 
 void CascadeWindows(QMdiArea &area)
 {
@@ -41,6 +45,7 @@ void TileWindows(QMdiArea &area, Qt::Orientation bars)
             frames[i]->setGeometry(0, room.height() * i / count, room.width(), room.height() / count);
         else
             frames[i]->setGeometry(room.width() * i / count, 0, room.width() / count, room.height());
+        frames[i]->setProperty(tiledSize, frames[i]->size());
     }
 }
 

@@ -15,6 +15,7 @@
 #include "platform/core/Doors.h"
 #include "platform/core/RuntimeFailure.h"
 #include "platform/core/SettingsStore.h"
+#include "windows/shell/Arrange.h"
 #include "windows/shell/ChildForm.h"
 
 namespace {
@@ -58,6 +59,9 @@ std::optional<Geometry> geometryIn(const QString &text)
     return geometry;
 }
 
+/// The largest size of a window on a screen: what the desktop leaves free, without the window's own frame.
+QSize roomOn(const QScreen &screen) { return screen.availableSize() - childFrame; }
+
 /// The screen on which a window there can be seen and dragged; null where there is none.
 const QScreen *screenOf(const Geometry &geometry)
 {
@@ -94,11 +98,11 @@ private:
 
     bool isMain() const { return qobject_cast<QMainWindow *>(&m_window) != nullptr; }
 
-    /// Nothing where the window has no size of its own, because the child is maximized or an icon.
+    /// Nothing if the window has no size of its own, because the child is maximized, an icon, or tiled.
     std::optional<Geometry> geometry() const
     {
         if (const auto *frame = qobject_cast<QMdiSubWindow *>(m_window.parentWidget())) {
-            if (frame->isMaximized() || frame->isMinimized() || frame->isShaded())
+            if (frame->isMaximized() || frame->isMinimized() || frame->isShaded() || WasTiled(*frame))
                 return {};
             return Geometry{frame->size() - childFrame, {}};
         }
@@ -140,7 +144,7 @@ private:
     {
         const QScreen *screen = geometry.place ? screenOf(geometry) : nullptr;
         const QScreen *roomy = screen ? screen : QGuiApplication::primaryScreen();
-        m_window.resize(geometry.size.boundedTo(roomy->availableSize()));
+        m_window.resize(geometry.size.boundedTo(roomOn(*roomy)));
         if (!isMain())
             return;
         if (screen)
@@ -168,6 +172,7 @@ private:
 
 void RememberWindow(QWidget &window)
 {
+    window.resize(window.size().boundedTo(roomOn(*QGuiApplication::primaryScreen())));
     if (!ofToldSize.contains(window.objectName()))
         new WindowMemory(window);
 }

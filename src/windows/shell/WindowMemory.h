@@ -6,6 +6,7 @@
 
 class QWidget;
 
-/// Gives the window what is remembered of it, and remembers it when it is hidden. Values that are damaged are passed
-/// over, as is a place that is on no screen; settings that cannot be written bother nobody.
+/// Gives the window what is remembered of it, and remembers it when it is hidden. Damaged values are ignored, and so is
+/// a place that is on no screen. If the settings cannot be written, nothing is said. No window gets larger than the
+/// screen has room for.
 void RememberWindow(QWidget &window);

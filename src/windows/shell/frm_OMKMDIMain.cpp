@@ -128,17 +128,16 @@ void frm_OMKMDIMain::makeToolbar()
         m_buttons.emplace(QLatin1String(row.key), button);
     }
 
-    auto *space = new QWidget;
-    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     cbo_Reminders = new QComboBox;
     cbo_Reminders->setObjectName(QStringLiteral("cbo_Reminders"));
     cbo_Reminders->setAccessibleName(QStringLiteral("Upcoming reminders"));
-    cbo_Reminders->setToolTip(QStringLiteral("Upcoming reminders"));
+    connect(cbo_Reminders, &QComboBox::currentTextChanged, cbo_Reminders,
+            [box = cbo_Reminders](const QString &next) { box->setToolTip(u"Upcoming reminders\n" + next); });
     cbo_Reminders->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cbo_Reminders->setMinimumContentsLength(34);
+    cbo_Reminders->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     on(cbo_Reminders, &QComboBox::currentIndexChanged, this, &frm_OMKMDIMain::cbo_Reminders_Click);
     m_toolbarPlace = strip->addWidget(Toolbar1);
-    strip->addWidget(space);
     strip->addWidget(cbo_Reminders);
     addToolBar(Qt::TopToolBarArea, strip);
 }
