@@ -1,12 +1,12 @@
-// Arrangements of the children that the MDI area has not, or not as a keeper would have them.
+// Arrangements of the child windows that the MDI area lacks or does differently.
 #pragma once
 
 #include <Qt>
 
 class QMdiArea;
 
-/// Lays the children that are not minimised one behind the other, each seen by its title. They keep their sizes, which
-/// the MDI area's own cascade does not.
+/// Places the children that are not minimised one behind the other, with their titles visible. They keep their sizes,
+/// which the MDI area's own cascade changes.
 void CascadeWindows(QMdiArea &area);
 /// Fills the area with the children that are not minimised: one above the other (horizontal), or side by side
 /// (vertical).
