@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Where Fusion draws its own.
+/// Drawn over the outline of Fusion.
 void outline(QPainter &painter, const QRect &place, bool round, const QColor &colour)
 {
     painter.save();
@@ -23,7 +23,7 @@ void outline(QPainter &painter, const QRect &place, bool round, const QColor &co
     painter.restore();
 }
 
-/// A text that has not the room ends with dots.
+/// If there is too little room for the text, it ends with dots.
 QStyleOptionComboBox fitted(QStyleOptionComboBox list, const QRect &room)
 {
     const int icon = list.currentIcon.isNull() ? 0 : list.iconSize.width() + 4;
