@@ -1,5 +1,5 @@
 // Runs over all reminders: works out the dates of each within two years from today or another range, reports its
-// progress, and leaves out reminders without dates. The tool bar's list and the schedule differ in what they do with a
+// progress, and leaves out reminders without dates. The toolbar's list and the schedule differ in what they do with a
 // date. Window events are processed now and then, but no key and no click, so that nothing can change or close what the
 // run works on.
 #pragma once

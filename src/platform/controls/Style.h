@@ -1,4 +1,4 @@
-// The desktop's style with three changes. The arrow of a tool bar that is too narrow is a drawing of our own, because
+// The desktop's style with three changes. The arrow of a toolbar that is too narrow is a drawing of our own, because
 // the style's is a small bitmap that looks blurred on a screen of high resolution. Check boxes and radio buttons get an
 // outline that is visible on a dark window, on which Fusion's is even darker. The text of a drop-down list that is too
 // narrow ends with dots instead of being cut off in the middle of a letter.

@@ -137,7 +137,7 @@ void frm_Fantasy::changeWater()
     }
     lst_select->clear();
     lst_select->addItems(SelectionLines(water()));
-    chk_WetDryIncluded->setEnabled(water() == WaterKind::Salt); // it stays checked
+    chk_WetDryIncluded->setEnabled(water() == WaterKind::Salt); // its check mark does not change
     ResetFantasyTank();
 }
 

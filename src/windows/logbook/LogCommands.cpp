@@ -1,4 +1,4 @@
-// The logbook's commands and event handlers, which the menus, the tool bar, the tree and the lists call.
+// The logbook's commands and event handlers, which the menus, the toolbar, the tree and the lists call.
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QStatusBar>

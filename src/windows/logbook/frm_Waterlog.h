@@ -31,7 +31,7 @@ public:
     /// is selected.
     QString CurrentTankText;
 
-    // The commands of menus, pop-up menus and tool bar. They work on the log that is shown.
+    // The commands of menus, pop-up menus and toolbar. They work on the log that is shown.
     void Add_Entries();
     void Change_Entries();
     void Delete_Entries();
@@ -44,7 +44,7 @@ public:
     void Refresh_Treeview();
     /// Rebuilds the tree if it no longer shows the present tanks.
     void Follow_Tanks();
-    /// Updates the main menu and the tool bar for the log and the tank that are shown.
+    /// Updates the main menu and the toolbar for the log and the tank that are shown.
     void Update_Menu_Captions();
 
     void Form_Load();

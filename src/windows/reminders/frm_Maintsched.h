@@ -1,5 +1,5 @@
 // The list of all reminders, where they are added, changed and deleted. A reminder is identified by its task. Filling
-// the list also updates the upcoming reminders in the tool bar.
+// the list also updates the upcoming reminders in the toolbar.
 #pragma once
 
 #include <optional>

@@ -22,7 +22,7 @@ public:
     virtual void disablePrint() = 0;
     /// Sets the text of panel 1 of the status bar.
     virtual void setPanel(const QString &text) = 0;
-    /// Fills the tool bar's list with the soonest dates of all reminders, at most twenty.
+    /// Fills the toolbar's list with the soonest dates of all reminders, at most twenty.
     virtual void Top20List() = 0;
     /// Reads all lists of reminders again, including that of an open window, after a message box has deleted some.
     virtual void RefillReminders() = 0;

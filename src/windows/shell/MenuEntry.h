@@ -1,4 +1,4 @@
-// An entry of a menu or a button of a tool bar, with its action. An entry without an action stays disabled, even if a
+// An entry of a menu or a button of a toolbar, with its action. An entry without an action stays disabled, even if a
 // window enables it, so that every entry that can be chosen does something.
 #pragma once
 
@@ -34,6 +34,6 @@ private:
     std::function<void()> m_action;
 };
 
-/// Adds a button to a tool bar. `key` is also the object name of its widget.
+/// Adds a button to a toolbar. `key` is also the object name of its widget.
 MenuEntry *AddToolButton(QToolBar &bar, const QString &key, const QString &toolTip, const char *image,
                          std::function<void()> action);

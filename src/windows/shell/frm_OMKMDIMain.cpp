@@ -208,7 +208,7 @@ void frm_OMKMDIMain::Top20List()
 void frm_OMKMDIMain::RefillReminders()
 {
     if (auto *list = Forms::current().loaded<frm_Maintsched>())
-        list->FillTaskList(); // this also fills the tool bar's list
+        list->FillTaskList(); // this also fills the toolbar's list
     else
         Top20List();
 }

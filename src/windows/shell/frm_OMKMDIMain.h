@@ -1,4 +1,4 @@
-// The main window, the parent of all others: menus, tool bar with the upcoming reminders, child windows, status bar. It
+// The main window, the parent of all others: menus, toolbar with the upcoming reminders, child windows, status bar. It
 // opens the database, runs the steps of the start, and passes commands on to the windows. Its menu handlers only call
 // public functions of the windows.
 #pragma once
