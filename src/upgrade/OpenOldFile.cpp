@@ -28,7 +28,7 @@ const QString boxTitle = QStringLiteral("Old Database");
 constexpr int pollMilliseconds = 50;
 constexpr int mostNotesInBox = 8;
 
-/// The engine of today would play such a journal into the new file.
+/// Throws if there is a journal, because SQLite would apply it to the new file.
 void requireNoJournal(const QString &path)
 {
     const QString journal = FindFile(path + QStringLiteral("-journal"));
@@ -44,15 +44,15 @@ class Reading
 public:
     Reading(const QString &from, const QString &draft) : m_from(from), m_draft(draft) {}
 
-    /// Runs the program that reads, and shows how far it is. Throws the failure that it tells, or that it ended without
-    /// one.
+    /// Runs the program that reads the file, and shows its progress. Throws the failure that the program reports, or
+    /// one of its own if the program ended without a result.
     OldOutcome run(frm_OMKupgrade &window)
     {
         const HourGlass waiting;
         window.Show(QStringLiteral("Reading the old database"), 0);
         QProcess reader;
-        reader.setStandardErrorFile(QProcess::nullDevice()); // the words of a library, about pages
-        // It goes with this program, whatever ends that.
+        reader.setStandardErrorFile(QProcess::nullDevice()); // only technical messages of a library
+        // The reader is killed when this program ends, for whatever reason.
         reader.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
         reader.start(PrivateProgram(readerName), {m_from, m_draft}, QIODevice::ReadOnly);
         if (!reader.waitForStarted())
@@ -98,7 +98,7 @@ private:
     std::optional<RuntimeFailure> m_failure;
 };
 
-/// The first lines, each with a dash, for a box that has to fit on the screen.
+/// The first lines, each with a dash, because the message box must fit on the screen.
 QString listOf(const QStringList &lines)
 {
     QString list;
@@ -120,8 +120,8 @@ bool keeperWantsTheRest(const OldOutcome &outcome, const QString &path)
                   vbYesNo + vbExclamation + vbDefaultButton2, boxTitle, detailsOf(outcome.unread)) == MsgBoxAnswer::Yes;
 }
 
-/// Who may read the old file may read the new one, and its owner may write it: the old one may have come from a disc
-/// that nobody writes.
+/// The new file gets the permissions of the old one, and its owner may always write it: the old one may come from a
+/// read-only disc.
 void setMode(const QString &draft, const QString &old)
 {
     struct stat status = {};
@@ -129,7 +129,7 @@ void setMode(const QString &draft, const QString &old)
         ::chmod(QFile::encodeName(draft).constData(), (status.st_mode & 0777) | S_IRUSR | S_IWUSR);
 }
 
-/// The old file gets its other name, and the draft takes its place.
+/// Renames the old file and puts the draft in its place.
 QString exchange(Draft &draft, const QString &path)
 {
     const QDir folder = QFileInfo(path).absoluteDir();

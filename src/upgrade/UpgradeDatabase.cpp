@@ -10,14 +10,14 @@
 
 namespace {
 
-/// What the window shows of a step.
+/// The texts of a step.
 struct StepTexts
 {
-    const char *to; ///< the version, as UpgradeStep has it
+    const char *to; ///< the version, as in UpgradeStep
     const char *label;
     const char *done;
-    int flags; ///< of the box; its answer is not used
-    int bar;   ///< where the bar stands when the step begins
+    int flags; ///< of the message box, whose answer is not used
+    int bar;   ///< the progress when the step begins
 };
 
 constexpr StepTexts stepTexts[] = {
@@ -39,7 +39,7 @@ const StepTexts &textsOf(const UpgradeStep &step)
     qFatal("an upgrade step has no texts");
 }
 
-/// The version as a keeper knows it: the first had no column to stand in.
+/// The version as keepers know it. The first version did not store its number.
 QString nameOfVersion(const QString &version) { return version == u"0.0 " ? QStringLiteral("1.0") : version.trimmed(); }
 
 } // namespace

@@ -1,6 +1,5 @@
 // The upgrade as a keeper sees it: a copy of the old file is kept, the steps of Upgrade.h run in the window
-// frm_OMKupgrade, and a box follows each. Knows nothing of the program above: the main window hands in the database and
-// its version.
+// frm_OMKupgrade, and a message follows each. The main window passes the database and its version in.
 #pragma once
 
 #include <memory>
@@ -11,15 +10,15 @@
 
 class frm_OMKupgrade;
 
-/// The database is closed and opened again by its name, the version follows each step; both are the caller's, and live
-/// as long as the window.
+/// Closes the database and opens it again by its name, and updates the version after each step. Both belong to the
+/// caller and must outlive the window.
 class UpgradeWork
 {
 public:
     UpgradeWork(std::unique_ptr<Database> &database, const QString &databaseName, QString &version);
 
-    /// Throws the RuntimeFailure that ended it: the file is then whole, of the version that it had or of the step that
-    /// was done, and the upgrade can be tried again.
+    /// Throws the RuntimeFailure that ended the upgrade. The file is then complete, of its former version or of that of
+    /// the last finished step, and the upgrade can be started again.
     void operator()(frm_OMKupgrade &window);
 
 private:

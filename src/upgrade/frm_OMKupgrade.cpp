@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int untilShown = 100; // milliseconds: the window is on the screen by then
+constexpr int untilShown = 100; // milliseconds, after which the window is on the screen
 
 } // namespace
 
@@ -56,7 +56,7 @@ void frm_OMKupgrade::Timerx_Timer()
     try {
         m_work(*this);
     } catch (const RuntimeFailure &failure) {
-        m_failure = failure; // the start ends with it, once the window is closed
+        m_failure = failure; // thrown when the window has closed
     }
     accept();
 }

@@ -1,6 +1,6 @@
-// The window of the start's long work, shown before any other: the upgrade of a database of an earlier version, and the
-// reading of a file of the old engine. It says what is being done and how far it is, and cannot be closed by hand. It
-// knows nothing of the work, which is handed in.
+// The window for long work at the start, shown before any other: the upgrade of a database of an earlier version, and
+// the reading of a file of the old engine. It shows what is being done and the progress, and cannot be closed by hand.
+// The work is passed in.
 #pragma once
 
 #include <functional>
@@ -21,13 +21,13 @@ public:
     using Work = std::function<void(frm_OMKupgrade &)>;
     explicit frm_OMKupgrade(Work work);
 
-    /// Shows the window, does the work once it is on the screen, and closes. Throws the RuntimeFailure that ended the
-    /// work.
+    /// Shows the window, does the work once it is on the screen, and closes the window. Throws the RuntimeFailure that
+    /// ended the work.
     void Run();
-    /// What is being done, and how far it is, 0 to 100; painted at once.
+    /// Shows what is being done and the progress, 0 to 100, and repaints at once.
     void Show(const QString &text, int bar);
     void Show(int bar);
-    void reject() override {} // nobody leaves in the middle
+    void reject() override {} // the work cannot be interrupted
 
     QLabel *Label1;
     QProgressBar *ProgressBar1;

@@ -1,4 +1,4 @@
-// A few journeys with a real mouse and keyboard, on a real X server under a window manager.
+// Plays a few scenes with a real mouse and keyboard, on a real X server with a window manager.
 #include <QMdiArea>
 
 #include "platform/desktop/DesktopDoors.h"
@@ -9,7 +9,7 @@
 #include "windows/logbook/frm_WaterAddEdit.h"
 #include "windows/tanks/frm_TankMaint.h"
 
-/// The script of the tests, but for message boxes, which are the desktop's.
+/// The scripted doors, but with real message boxes.
 class RealBoxes : public ScriptedDoors
 {
 public:
@@ -24,8 +24,8 @@ private:
     DesktopDoors m_desktop;
 };
 
-/// The logbook on the tank "Reef". Each of the tanks "Reef" and "Same" has two water tests and an animal, all of the
-/// same moments: what works on the wrong tank finds something there.
+/// The logbook at the tank "Reef". The tanks "Reef" and "Same" each have two water tests and an animal, at the same
+/// moments, so that a command for the wrong tank would find an entry there.
 class Desktop : public Desk
 {
 protected:
@@ -50,7 +50,7 @@ protected:
         real::click(menu, menu.actionGeometry(&entry).center());
         EXPECT_TRUE(real::happens([&menu] { return !menu.isVisible(); }));
     }
-    /// Opens the graph beside the logbook, and chooses the tank "Same" there: the graph is in front.
+    /// Opens the graph beside the logbook and chooses the tank "Same" in it. The graph is then in front.
     void graphAnotherTankBeside()
     {
         if (!graph) {
@@ -120,7 +120,7 @@ TEST_F(Desktop, TheLogbooksButtonsWorkOnItsTankThoughTheGraphOfAnotherIsInFront)
     real::inNext<frm_LivesAddEdit>([&](frm_LivesAddEdit &window) {
         real::click(*window.lst_AnimalList->lineEdit());
         real::write("Crab");
-        real::press("Tab"); // and the list of suggestions goes
+        real::press("Tab"); // this also closes the list of suggestions
         real::press("alt+o");
         done = true;
     });
@@ -142,7 +142,7 @@ TEST_F(Desktop, TheWheelOverTheLogbooksTabsGivesNoCommandsWhileAnotherChildIsInF
     if (isChildInFront(*graph)) {
         const real::NoWindowComes none;
         real::press("ctrl+n");
-        real::press("alt+w"); // once the menu is there, the key before it has been dealt with
+        real::press("alt+w"); // when the menu is open, the key before it has been handled
         EXPECT_TRUE(real::happens([&] { return main->mnu_Window->isVisible(); }));
         real::press("Escape");
         real::press("Escape");
@@ -157,7 +157,7 @@ TEST_F(Desktop, ATankIsDeletedAloneThoughTheMainWindowIsActivatedMeanwhile)
         real::clickItem(*tanks.lst_tanklist, tanks.lst_tanklist->model()->index(4, 0));
         real::inNext<QMessageBox>([&](QMessageBox &box) {
             EXPECT_TRUE(box.text().contains("the tank you named Same"));
-            // A window manager may let a keeper do it, or give the focus back to the box.
+            // The window manager may allow this, or give the focus back to the message box.
             real::xdotool({"windowactivate", QString::number(main->winId())});
             real::xdotool({"windowfocus", QString::number(main->winId())});
             main->activateWindow();
@@ -201,7 +201,7 @@ TEST_F(DesktopTests, AnEntryIsMadeChangedAndDeletedByMenuKeysAndMouse)
         real::press("ctrl+a");
         real::inNext<QMessageBox>([](QMessageBox &) { real::press("Escape"); });
         real::write("abc");
-        real::press("Tab"); // told as the box is left, and the focus is back
+        real::press("Tab"); // the message comes when the focus leaves the box, and the focus returns
         EXPECT_TRUE(real::happens([&] { return doors.boxes.size() == 1 && isInFront(window); }));
         EXPECT_TRUE(control<QLineEdit>(window, "txt_ph").hasFocus());
         real::write("7.25");

@@ -1,7 +1,7 @@
-// A keeper's hands from outside: xdotool moves the pointer and presses buttons and keys of the X server, and what then
-// comes to which window is the affair of the server, the window manager and Qt. Events that a test sends straight to a
-// control go another way, and miss what depends on it. Nothing here waits for a time: each wait is for something to
-// happen, and fails if it does not.
+// The keeper's hands from outside: xdotool moves the pointer and presses buttons and keys of the X server. The server,
+// the window manager and Qt decide which window gets them. Events that a test sends directly to a control take another
+// way and do not show faults in that. No function here waits for a fixed time: each wait is for something to happen,
+// and fails if it does not.
 #pragma once
 
 #include <functional>
@@ -24,8 +24,8 @@ inline void xdotool(const QStringList &arguments)
         << arguments.join(u' ').toStdString() << process.readAllStandardError().toStdString();
 }
 
-/// The place is in the widget's coordinates; its middle where none is given. A window that has just come may still be
-/// on its way.
+/// `place` is in the coordinates of the widget, by default its middle. A window that has just opened may still be
+/// moving.
 inline void moveTo(const QWidget &widget, std::optional<QPoint> place = {})
 {
     const auto pointerIsThere = [&] {
@@ -64,8 +64,8 @@ inline void clickItem(QAbstractItemView &view, const QModelIndex &index)
     click(*view.viewport(), view.visualRect(index).center());
 }
 
-/// What the keeper does once another window of that kind is in front and takes the keys. To be said before the key or
-/// click that brings it.
+/// Says what the keeper does once another window of that type is in front and accepts keys. It must be called before
+/// the key or click that opens the window.
 template <class T> void inNext(std::function<void(T &)> action)
 {
     auto *watch = new QTimer(qApp);
@@ -85,7 +85,8 @@ template <class T> void inNext(std::function<void(T &)> action)
     watch->start(5);
 }
 
-/// While it lives, a modal window that comes is a failure, and is closed: nothing waits for it.
+/// While an object of this class lives, a modal window that opens makes the test fail and is closed, so that nothing
+/// waits for it.
 class NoWindowComes
 {
 public:

@@ -74,7 +74,7 @@ struct Kill : testing::Test
         std::minstd_rand moment(seed), random(seed);
         faults.plan({.after = int(moment() % 150), .death = death});
         if (death == Death::None)
-            ::ualarm(1 + useconds_t(moment() % 300'000), 0); // nobody catches this signal
+            ::ualarm(1 + useconds_t(moment() % 300'000), 0); // the program does not catch this signal
         for (int n = 0; n < mostMoves; ++n) {
             keeper.doors.clock = m_start.addSecs(61 * n);
             const Move move = nextMove(m_book, random, keeper.doors.clock);

@@ -1,7 +1,7 @@
-// What steps in while a window or a box is open: the main window is activated, or a child that shows another tank; the
-// clock passes midnight; another program deletes the row, or holds the file. For each the same work must come out in
-// the file as if nothing had happened, or be refused with a word about it and change nothing; no row of another tank is
-// touched, and the list shows what is in the file.
+// What can happen while a window or a message box is open: the main window or a child that shows another tank is
+// activated, the clock passes midnight, or another program deletes the row or locks the file. In each case the file
+// must be the same as if nothing had happened, or the work must be refused with a message and change nothing. No row of
+// another tank may change, and the list must show what is in the file.
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
@@ -27,14 +27,14 @@ enum Step { Nothing, MainActivated, ChildActivated, Midnight, RowDeleted, FileLo
 constexpr const char *stepNames[] = {"Nothing",  "MainActivated", "ChildActivated",
                                      "Midnight", "RowDeleted",    "FileLocked"};
 
-/// A file that is held is told soon. The time is taken over when the database is opened.
+/// Makes a locked file fail soon. The time takes effect when the database is opened.
 struct ShortWait
 {
     ShortWait() { Database::setBusyTimeout(10); }
     ~ShortWait() { Database::setBusyTimeout(5000); }
 };
 
-/// The logbook on the tank "Same", and the graph beside it. The tank "Reef" has entries of the same moments.
+/// The logbook at the tank "Same", with the graph beside it. The tank "Reef" has entries at the same moments.
 class Bench : ShortWait, public Desk
 {
 public:
@@ -64,7 +64,7 @@ public:
     }
     void TestBody() override {}
 
-    /// What steps in, once.
+    /// Lets the chosen event happen, once.
     void meanwhile()
     {
         switch (std::exchange(m_step, Nothing)) {
@@ -93,7 +93,7 @@ public:
         QCoreApplication::processEvents();
     }
     bool hasSteppedIn() const { return m_step == Nothing; }
-    /// Presses OK; again, as the window stands, once a file that was held is free.
+    /// Presses OK. If the file was locked, presses OK again in the unchanged window once it is free.
     void confirm(QWidget &window, QPushButton &ok)
     {
         const QPointer<QWidget> stands = &window;
@@ -103,7 +103,8 @@ public:
         if (stands && stands->isVisible())
             stands->close();
     }
-    /// True where the file was held: then nothing has changed, and that was told.
+    /// Unlocks the file. Returns true if it was locked; then nothing may have changed, and there must have been a
+    /// message.
     bool release()
     {
         if (!std::exchange(m_locked, false))
@@ -121,7 +122,7 @@ public:
             fill(window);
         });
     }
-    /// Runs a command whose box is answered with OK; again where the file was held.
+    /// Runs a command and answers its message box with OK. If the file was locked, runs it again.
     void answerOk(const std::function<void()> &command)
     {
         for (bool again = true; again; again = release()) {
@@ -131,7 +132,7 @@ public:
     }
     void run(const std::function<void()> &command) { guarded(command)(); }
 
-    /// All rows of the file; a day that midnight has changed counts as the one before.
+    /// All rows of the file. A date that changed at midnight counts as the day before.
     QString file()
     {
         QString text;
@@ -146,7 +147,7 @@ public:
         }
         return text.replace("03/15/2026", "03/14/2026");
     }
-    /// The list shows as many rows as the file has of the tank that is selected.
+    /// Expects as many rows in the list as the file has for the selected tank.
     void expectListToBeTrue(LogTab tab)
     {
         const char *const rows[] = {"WATERLOG WHERE tankname", "LIVESTOCK WHERE tankname",
@@ -155,10 +156,10 @@ public:
         EXPECT_EQ(list().Count(), keeper.count(QString("%1 = '%2'").arg(rows[tab], tank)));
     }
 
-    QString expected; ///< where the row was deleted: the file without it
+    QString expected; ///< if the row was deleted, the file without it
 
 private:
-    /// As a window does that shows another tank.
+    /// Makes "Reef" the current tank, as a window that shows it does.
     void takeReefInHand()
     {
         keeper.g().gTankId = "r1";
@@ -177,7 +178,7 @@ struct Scene
 {
     const char *name;
     LogTab tab;
-    const char *row; ///< what another program deletes; null where nothing is there yet
+    const char *row; ///< the statement that deletes the row; null if there is no row yet
     void (*play)(Bench &);
 };
 

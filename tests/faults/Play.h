@@ -1,5 +1,5 @@
-// A keeper's work as a sequence of moves that is played twice: through the real windows, in a process that may be
-// killed, and in a Book, which says what must then be in the file. The same seed gives the same moves.
+// A keeper's work as a sequence of moves. It is played twice: through the real windows, in a process that may be
+// killed, and in a Book, which then says what must be in the file. The same seed gives the same moves.
 #pragma once
 
 #include <map>

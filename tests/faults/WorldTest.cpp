@@ -60,7 +60,7 @@ struct World : testing::Test
         expectRefusedThenSaved({Move::MoveTank, animal, 0, "B"}, spoil, mend);
         expectRefusedThenSaved({Move::Remove, water}, spoil, mend);
         expectRefusedThenSaved({Move::Remove, work}, spoil, mend);
-        expectRefusedThenSaved({Move::RemoveTank, keyOf('T', "B", {})}, spoil, mend); // with the animal in it
+        expectRefusedThenSaved({Move::RemoveTank, keyOf('T', "B", {})}, spoil, mend); // the tank with its animal
     }
 
     FaultVfs faults;

@@ -1,7 +1,6 @@
-// A year with two tanks, from the day on which the keeper says how he writes his dates: water is tested, animals come
-// and move, work is done each month, mistakes are mended, and in the middle the program ends and starts again. At the
-// end, after another start, the screen and the paper say the same, and it is what was done. Once in each order of
-// dates.
+// A year with two tanks. It begins with the choice of a date order; water is tested, animals are bought and moved, work
+// is done each month, mistakes are corrected, and in the middle the program is restarted. At the end, after another
+// start, the screen and the printouts must both show what was done. The test runs once for each date order.
 #include <algorithm>
 
 #include "text/Dates.h"
@@ -15,8 +14,8 @@
 #include "windows/logbook/frm_WaterAddEdit.h"
 #include "windows/shell/frm_OMKOptions.h"
 
-/// What was done, as the keeper would tell it: the cells of a row after its date and time, without empty ones at its
-/// end: "Tang 4|3|Active".
+/// Something that was done: the cells of its row after date and time, without empty ones at the end, such as "Tang
+/// 4|3|Active".
 struct Done
 {
     QString tank;
@@ -74,7 +73,7 @@ void Year::changeOptions()
     hand::choose(*main, *main->mnu_View, "mnu_ViewOptions");
 }
 
-/// In even months the day is typed, in odd ones it comes from the calendar.
+/// In even months the date is typed, in odd ones it is chosen in the calendar.
 void Year::measure(const QString &tank)
 {
     go(tank, WaterTab);
@@ -121,7 +120,7 @@ void Year::work(const QString &tank, const QString &task)
         mouse::click(w.cmd_OK);
     });
     QDateTime when = keeper.doors.clock;
-    const QDate date = when.date(); // read as it stands, month first where it can be
+    const QDate date = when.date(); // read month first if that gives a date
     if (order == DateOrder::DDMMYY && date.day() <= 12)
         when.setDate(QDate(date.year(), date.day(), date.month()));
     year.push_back({tank, MaintenanceTab, when, task + "|12"});
@@ -139,7 +138,7 @@ void Year::move(const QString &fish, bool now)
         const QListWidgetItem *same = w.lst_tanklist->findItems("Same", Qt::MatchExactly).at(0);
         mouse::doubleClick(w.lst_tanklist->viewport(), w.lst_tanklist->visualItemRect(same).center());
     });
-    Done &moved = *std::ranges::find(year, fish + "|3", &Done::text); // the first of that name
+    Done &moved = *std::ranges::find(year, fish + "|3", &Done::text); // the first one of that name
     moved.tank = "Same";
     if (now)
         moved.when = keeper.doors.clock;
@@ -174,7 +173,7 @@ QStringList Year::onScreen()
     return rows;
 }
 
-/// What a report of all tanks, of the log on show, says of one.
+/// What the report of the shown log for all tanks says about one tank.
 QStringList Year::onPaper(const QString &tank)
 {
     keeper.doors.documents.clear();
@@ -187,14 +186,14 @@ QStringList Year::onPaper(const QString &tank)
     });
     QStringList rows;
     for (const PrintedPage &page : keeper.doors.documents.at(0).pages) {
-        if (page.find("Tankname: ")) // a page without headings goes on with the tank of the last
+        if (page.find("Tankname: ")) // a page without headings continues the tank of the page before
             ofTank = page.find(tank) != nullptr;
         for (size_t i = 0; ofTank && i < page.texts.size(); ++i) {
             const PrintedText &text = page.texts[i];
             if (text.x > 0 || text.text.mid(8, 3) != u" - ")
                 continue;
             rows << page.row(text.y);
-            if (ofWork) // "12  litres  what for" stands below the task
+            if (ofWork) // "12 litres what for" is below the task
                 rows.back() += '|' + page.texts.at(i + 2).text.trimmed().replace("  ", "|");
         }
     }
@@ -223,7 +222,7 @@ TEST_P(Year, ScreenAndPaperSayWhatWasDone)
                     expected << moment(entry.when.date(), entry.when.time()) + entry.text;
             go(tank, log);
             EXPECT_EQ(onScreen(), expected);
-            if (log != WaterTab) { // whose values stand in columns of their own
+            if (log != WaterTab) { // its values have columns of their own
                 EXPECT_EQ(onPaper(tank), expected);
             }
         }

@@ -112,6 +112,8 @@ TEST_F(ListViewTest, CopiesTheSelectedRowOrTheWholeListForASpreadsheet)
     EXPECT_EQ(copy(Qt::ControlModifier), "\"1\t2\"\t\"Say \"\"ah\"\"\"\n");
     EXPECT_EQ(copy(Qt::ControlModifier | Qt::ShiftModifier),
               "Size\tName\n12\tOscar\n\"1\t2\"\t\"Say \"\"ah\"\"\"\n\t\"two\nlines\"\n");
+    m_list.setColumnHidden(1, true);
+    EXPECT_EQ(copy(Qt::ControlModifier), "\"Say \"\"ah\"\"\"\n");
     EXPECT_FALSE(CopyFromList(m_list, QKeyEvent(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier)));
 }
 

@@ -7,13 +7,13 @@ class Backup : public Desk
 protected:
     Backup() { QDir(keeper.folder.path()).mkdir("to"); }
     QString path(const QString &name) const { return keeper.folder.filePath(name); }
-    /// Chooses the entry, and in its dialog that file, or Cancel; what was told comes back. The database then takes a
-    /// water test.
+    /// Chooses the menu entry, and in its dialog that file or Cancel, and returns the messages. Afterwards the database
+    /// must accept a water test.
     QString backUp(const std::optional<QString> &file, MsgBoxAnswer overwrite = MsgBoxAnswer::OK)
     {
         keeper.doors.files = {file};
         keeper.doors.answers = {overwrite};
-        QDir::setCurrent("/"); // as the dialog may leave it
+        QDir::setCurrent("/"); // as the dialog may do
         hand::choose(*main, *main->mnu_File, "mnu_FileBackup");
         EXPECT_EQ(QDir::currentPath(), keeper.folder.path());
         const QString told = keeper.told();

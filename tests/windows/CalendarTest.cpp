@@ -39,7 +39,7 @@ CalendarAction day(int cell)
 
 void leave(frm_Caltool &calendar) { click(*calendar.cmd_ok); }
 
-/// Shows the calendar on a date; the date that comes out.
+/// Opens the calendar at a date, and returns the date that comes out.
 QString pick(Keeper &keeper, const QString &date, const CalendarAction &action)
 {
     keeper.g().calendar.SelectedDate = date;
@@ -55,7 +55,7 @@ TEST(Calendar, MovesThroughMonthsAndYears)
     const std::tuple<const char *, CalendarAction, QString> rows[] = {
         {"01/31/98", scroll(&frm_Caltool::scrMonth, 2), "02/28/1998"},
         {"02/29/96", scroll(&frm_Caltool::scrYear, 2100), "02/28/2100"},
-        {"12/15/98", monthArrow, "01/15/1998"}, // the ends wrap without the year
+        {"12/15/98", monthArrow, "01/15/1998"}, // the months wrap within the year
         {"10/31/1905", february, "02/28/1905"},
         {"12/31/1999", key(Qt::Key_Right), "01/01/2000"},
         {"03/01/1996", key(Qt::Key_Up), "02/23/1996"},
@@ -79,7 +79,7 @@ TEST(Calendar, AChosenDayComesOutWithItsCenturyAndEveryOtherWayBringsTheDateOfEn
         {"08/15/98", day(36), "08/31/1998", false},
         {"07/04/26", key(Qt::Key_Enter), "07/04/2026", false},
         {"07/04/30", key(Qt::Key_Space), "07/04/1930", false},
-        {"02/10/1900", day(32), "02/28/1900", false}, // the cell says 29, which that year did not have
+        {"02/10/1900", day(32), "02/28/1900", false}, // the cell says 29, a day that did not exist in that year
         {"1/5/2031", leave, "01/05/2031", true},
         {"02/30/98", key(Qt::Key_Escape), "03/14/2026", true}, // today
         {"__/__/__", [](frm_Caltool &calendar) { calendar.close(); }, "03/14/2026", true},
@@ -102,7 +102,7 @@ TEST(Calendar, ADayThatTheBoxWouldReadAsAnotherIsToldAndTheBoxKeepsWhatItHad)
 {
     const std::tuple<DateOrder, const char *, QDate, const char *> rows[] = {
         {DateOrder::MMDDYY, "/", {2029, 12, 31}, "12/31/29"},
-        {DateOrder::MMDDYY, "/", {2030, 1, 1}, "01/01/2030"}, // told with its whole year
+        {DateOrder::MMDDYY, "/", {2030, 1, 1}, "01/01/2030"}, // the message has the whole year
         {DateOrder::DDMMYY, ".", {1930, 1, 31}, "31.01.30"},
         {DateOrder::DDMMYY, ".", {1929, 12, 31}, "31.12.1929"},
         {DateOrder::YYMMDD, "-", {2126, 3, 14}, "2126-03-14"},

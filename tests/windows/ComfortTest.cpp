@@ -1,4 +1,4 @@
-// What every window owes to a keeper without a mouse, without eyes, or with a desktop of his own arrangement.
+// What every window must offer to a keeper who uses no mouse, cannot see the screen, or has arranged the desktop.
 #include <algorithm>
 #include <map>
 #include <QClipboard>
@@ -29,7 +29,7 @@
 
 namespace {
 
-/// Letters that go to two captions which keepers know: an option and a menu, or the same words in two groups.
+/// Mnemonics that two captions share and that keepers know: an option and a menu, or the same words in two groups.
 const std::map<QString, QString> knownTwice = {{"frm_Fantasy", "F"}, {"frm_Schedule", "T"}, {"frm_OMKOptions", "O"}};
 
 template <class F> QWidget *make(frm_OMKMDIMain &main)
@@ -71,7 +71,7 @@ QStringList nameless(const QWidget &window)
     return names;
 }
 
-/// An option in sight, not set, while another of its group is.
+/// Whether this is a visible unchecked option while another one of its group is checked.
 bool isNotTheOneSet(const QWidget &control)
 {
     const auto *option = qobject_cast<const QRadioButton *>(&control);
@@ -81,7 +81,7 @@ bool isNotTheOneSet(const QWidget &control)
            });
 }
 
-/// Sets the last option of each group in sight, which Tab comes to last.
+/// Checks the last option of each visible group, which Tab would reach last.
 void setLastOptions(QWidget &window)
 {
     for (QRadioButton *option : window.findChildren<QRadioButton *>())
@@ -89,7 +89,7 @@ void setLastOptions(QWidget &window)
             option->setChecked(true);
 }
 
-/// Options that the focus comes to by Tab, though another is set.
+/// The options that Tab reaches although another one is checked.
 QStringList wrongOptions(QWidget &window)
 {
     QStringList names;
@@ -104,7 +104,7 @@ QStringList wrongOptions(QWidget &window)
     return names;
 }
 
-/// Controls that Tab, pressed until it is back where it began, does not come to once.
+/// The controls that Tab never reaches before it is back where it began.
 QStringList unreached(QWidget &window)
 {
     QStringList names;
@@ -119,10 +119,10 @@ QStringList unreached(QWidget &window)
     return names;
 }
 
-/// Letters that two captions in sight are pressed by with Alt.
+/// The mnemonics that two visible captions share.
 QString colliding(QWidget &window)
 {
-    QString letters = window.isWindow() ? "" : "FVTWH", twice; // a child's go with those of the menus
+    QString letters = window.isWindow() ? "" : "FVTWH", twice; // those of a child must differ from those of the menus
     for (const QWidget *control : window.findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(control);
         const QString caption =
@@ -221,7 +221,7 @@ protected:
         };
         return text(main->geometry()) + text({QPoint(), logbook->size()}) + logbook->lstv_Livestock->columnLayout();
     }
-    /// Starts anew, and tells how the windows come up.
+    /// Restarts the program, and returns how the windows look.
     QString next()
     {
         keeper.restart();

@@ -1,5 +1,5 @@
-// A keeper at his desk with the logbook open on a tab of a tank: what the tests of most windows start from. The tank
-// "Reef" is called "r1" in the file, "Same" like its name; each tank has another water.
+// A keeper at the desk, with the logbook open at a tab of a tank: the start of most tests of windows. The tank "Reef"
+// has the id "r1", and the id of "Same" is its name; their water types differ.
 #pragma once
 
 #include "Hands.h"
@@ -39,7 +39,7 @@ protected:
     ListView &list() const { return static_cast<ListView &>(*logbook->tab_logtype->currentWidget()); }
     QString column(int subItem) const { return hand::column(list(), subItem); }
     void push(const char *button) { hand::click<QToolButton>(*logbook, button); }
-    /// A button that opens a window, and what is done in it; a row is selected first (0: none).
+    /// Selects a row (0: none), presses a button that opens a window, and does something in it.
     template <class F> void give(const char *button, int row, const std::function<void(F &)> &action)
     {
         keeper.inNext<F>(action);
@@ -52,7 +52,7 @@ protected:
     {
         return keeper.g().gDatabase->Execute(sql, values);
     }
-    /// An entry in the file, of a moment like "2026-04-05 09:30:00"; more of its columns, and their values.
+    /// Adds an entry to the file, at a moment like "2026-04-05 09:30:00", with more columns and their values.
     void addEntry(LogTab log, const char *tankId, QString moment, const char *columns, const QString &values)
     {
         const char *const tables[] = {"WATERLOG (tankname, logdate, logtime",
@@ -70,7 +70,7 @@ private:
     LogTab m_tab;
 };
 
-/// What the boxes of a window hold, joined by bars.
+/// The texts of a window's boxes, joined by bars.
 inline QString shown(QWidget &window, const QStringList &boxes)
 {
     QStringList texts;
@@ -83,7 +83,7 @@ inline QString shown(QWidget &window, const QStringList &boxes)
     return texts.join(u'|');
 }
 
-/// What a list or a combo box offers, joined by bars.
+/// The lines of a list or a combo box, joined by bars.
 inline QString lines(const QAbstractItemModel &model)
 {
     QStringList texts;

@@ -4,13 +4,13 @@
 #include "windows/advisers/frm_DiagDiagnosis.h"
 #include "windows/advisers/frm_DiagnosisQA.h"
 
-/// The wizard over the open logbook, gone through page by page.
+/// Goes through the wizard page by page, with the logbook open behind it.
 class Wizard : public Desk
 {
 protected:
     using Step = std::function<void(frm_DiagnosisQA &)>;
 
-    /// Opens the wizard and takes the steps, each when the window is in front again; then it must be closed.
+    /// Opens the wizard and does the steps, each when the window is in front again. Afterwards it must be closed.
     void play(const std::vector<Step> &steps, const std::function<void()> &open)
     {
         const std::function<void(size_t)> expect = [&](size_t next) {
@@ -25,7 +25,8 @@ protected:
         open();
         EXPECT_TRUE(main->WizardCancelled && !Forms::current().loaded<frm_DiagnosisQA>());
     }
-    /// Opened by its shortcut: the disclaimer, an answer a page (digits), and then these steps.
+    /// Opens the wizard by its shortcut, passes the disclaimer, answers a page for each digit, and then does these
+    /// steps.
     void diagnose(const char *digits, const std::vector<Step> &then)
     {
         std::vector<Step> steps{[](frm_DiagnosisQA &w) {
@@ -36,7 +37,7 @@ protected:
             steps.push_back([digit = *digits](frm_DiagnosisQA &w) {
                 EXPECT_TRUE(w.lbl_Question->isVisible() && !w.fra_Disclaimer->isVisible());
                 EXPECT_FALSE(w.cmd_Next->isEnabled() || w.cmd_PrintQuestionsandAnswers->isEnabled());
-                if (digit % 2) { // every other one by keys alone
+                if (digit % 2) { // every second answer by keys alone
                     for (char i = '0'; i < digit; ++i)
                         hand::press(Qt::Key_Down);
                     hand::press(Qt::Key_Space);
@@ -61,7 +62,7 @@ TEST_F(Wizard, ItsAnswersLeadToADiagnosisAndTheOneWithoutAdviceShowsWhateverWasS
     const auto &first = QuestionOf(QuestionPage::Question_StartingPoint);
     const QString leaves =
         "0002 Open Sore|4 Popeye|000000 Unable to Diagnose|001202 Failure to Acclimate|01 Possible poisoning or stress|"
-        "00101 ICK or other parasite|0002 Open Sore"; // the tree itself is another test's
+        "00101 ICK or other parasite|0002 Open Sore"; // another test checks the tree itself
     for (const QString &leaf : leaves.split('|')) {
         SCOPED_TRACE(leaf.toStdString());
         const QString digits = leaf.section(' ', 0, 0), name = leaf.section(' ', 1);
@@ -93,7 +94,7 @@ TEST_F(Wizard, AnyPageIsLeftByStartingOver)
         EXPECT_TRUE(w.AnswerIndex.isEmpty() && w.fra_Disclaimer->isVisible() && lineOf(3).isEmpty());
         w.close();
     };
-    for (const char *digits : {"", "00", "4"}) // the first question, the midst of the tree, a diagnosis
+    for (const char *digits : {"", "00", "4"}) // the first question, the middle of the tree, a diagnosis
         diagnose(digits, {startOver, startOver, nothingLeft});
 }
 

@@ -1,4 +1,4 @@
-// The entry windows of the three logs: what holds for each of them, by a table of what differs.
+// What the entry windows of the three logs have in common, tested by a table of their differences.
 #include <optional>
 #include <ranges>
 
@@ -14,29 +14,29 @@ template <class F> void next(const Action &action)
     Keeper::inNext<F>([action](F &window) { action(window); });
 }
 
-/// A bad text for a box, a part of what OK then tells, and a text that the box takes.
+/// A bad text for a box, a part of the message that OK then shows, and a text that the box accepts.
 struct Fault
 {
     const char *box;
     QString bad, words, good = {};
-    bool onLeaving = false; ///< it is told as soon as the box is left
+    bool onLeaving = false; ///< the message comes as soon as the focus leaves the box
 };
 
-/// A box, what is typed into it, and the column that gets it.
+/// A box, what is typed into it, and the column where it is stored.
 struct Box
 {
     QString name, typed, column;
-    std::optional<QString> left = {}; ///< a change empties the box, and then this is in the column
+    std::optional<QString> left = {}; ///< if set, a change empties the box, and then this is in the column
 };
 
 struct Log
 {
     LogTab tab;
     void (*inNext)(const Action &);
-    const char *file;          ///< the table, and its columns of tank, date and time
-    QStringList moment;        ///< the boxes of date and time
-    std::vector<Box> boxes;    ///< the others
-    const char *taken;         ///< the refusal of a second entry
+    const char *file;          ///< the table, and its columns for tank, date and time
+    QStringList moment;        ///< the boxes for date and time
+    std::vector<Box> boxes;    ///< the other boxes
+    const char *taken;         ///< the message if there is such an entry already
     std::vector<Fault> faults; ///< in the order of the checks
 };
 
@@ -79,7 +79,7 @@ const Log logs[] = {
      {{"lst_AnimalList", "Nan's \"Tang\"", "animalname"},
       {"txt_quantity", "3", "printf('%d',quantity)"},
       {"lst_where", "Zoo", "where_purch", ""},
-      {"txt_pricepaid", "12.5", "price_paid", "12.5"}, // an empty price or date leaves what was there
+      {"txt_pricepaid", "12.5", "price_paid", "12.5"}, // an empty price or date keeps the stored value
       {"txt_pricesold", "7.5", "price_sold", "7.5"},
       {"txt_datelost", "26-05-25", "substr(datelost,3)", "26-05-25"},
       {"lst_Status", "sold", "Status"},
@@ -132,7 +132,7 @@ protected:
             columns << box.column;
         }
     }
-    /// Rows at half past nine, with the day of the month in the first column.
+    /// Inserts rows at half past nine, with the day of the month in the first column.
     void insert(const char *id, const QStringList &dates)
     {
         for (const QString &date : dates)
@@ -158,9 +158,9 @@ protected:
         for (int i = 0; i < typed.size(); ++i)
             hand::type(control<QWidget>(w, names[i]), typed[i]);
     }
-    /// What the boxes show, of three places those that are not 0.
+    /// The texts of the boxes, without two zeros at the end of a number.
     QString held(QWidget &w) const { return shown(w, names).replace("00|", "|"); }
-    /// All rows by tank and moment.
+    /// All rows, ordered by tank and moment.
     QString moments()
     {
         return keeper.stored(
@@ -182,8 +182,8 @@ protected:
     }
 
     const Log &log = GetParam();
-    const bool readsAsTyped = log.tab == MaintenanceTab; ///< a change: the row's date month first
-    const bool findsByName = log.tab != LivestockTab;    ///< a deletion: the tank
+    const bool readsAsTyped = log.tab == MaintenanceTab; ///< a change reads the date of the row month first
+    const bool findsByName = log.tab != LivestockTab;    ///< a deletion finds the tank by its name
     const QString table, tankColumn, dateColumn, timeColumn;
     QStringList names, typed, columns;
 };
@@ -237,10 +237,10 @@ TEST_P(Entries, WhatABoxShowsRoundedOrCutIsKeptUntilItIsEdited)
                 << value.toStdString();
     };
     expectUnchanged("09:30:00");
-    addEntry(log.tab, "r1", "2026-12-25 09:30:01", qPrintable(firstColumn()), "'Tang'"); // stands in the way once
+    addEntry(log.tab, "r1", "2026-12-25 09:30:01", qPrintable(firstColumn()), "'Tang'"); // is in the way once
     hand::clickTank(*logbook, "Reef");
     give("changeentries", 1, [&](QWidget &w) {
-        for (const QString &box : names) // shown in its picture, and again as it is edited
+        for (const QString &box : names) // shown in its format, and again while it is edited
             mouse::click(&control<QWidget>(w, box));
         const QString box = numberBoxes[log.tab];
         const QString before = control<MaskedBox>(w, box).Text();
@@ -248,7 +248,7 @@ TEST_P(Entries, WhatABoxShowsRoundedOrCutIsKeptUntilItIsEdited)
         hand::type(control<QWidget>(w, log.moment[1]), "09:30:01 am");
         hand::press(Qt::Key_Return);
         EXPECT_TRUE(w.isVisible() && keeper.told().contains(" already "));
-        hand::type(control<QWidget>(w, box), before); // the 5 is not to be, and is forgotten
+        hand::type(control<QWidget>(w, box), before); // the 5 is refused and must be forgotten
         hand::type(control<QWidget>(w, log.moment[1]), "10:00:00 am");
         hand::press(Qt::Key_Return);
     });
@@ -264,7 +264,7 @@ TEST_P(Entries, OkTellsTheFirstFaultInTheOrderOfTheChecksAndStoresNothing)
             if (shown(w, {fault.box}) != text)
                 hand::type(control<QWidget>(w, fault.box), text);
         };
-        for (const Fault &fault : log.faults | std::views::reverse) // everything is wrong at first
+        for (const Fault &fault : log.faults | std::views::reverse) // at first everything is wrong
             if (!fault.onLeaving)
                 fill(fault, fault.bad);
         for (const Fault &fault : log.faults) {
@@ -288,7 +288,7 @@ TEST_P(Entries, OkTellsTheFirstFaultInTheOrderOfTheChecksAndStoresNothing)
 TEST_P(Entries, ASecondOneOfThatMomentIsRefusedAndWhatWasTypedStands)
 {
     startWith("YYMMDD", "-");
-    insert("Same", {"2026-03-16"}); // another tank's moment
+    insert("Same", {"2026-03-16"}); // the same moment in another tank
     const auto mendTo = [&](const char *date, const char *time) {
         return [=, this](QWidget &w) {
             fillAll(w);
@@ -304,7 +304,7 @@ TEST_P(Entries, ASecondOneOfThatMomentIsRefusedAndWhatWasTypedStands)
     execute(QString("UPDATE %1 SET %2 = ?").arg(table, firstColumn()), {typed[0]});
     give("addentries", 0, mendTo("26-03-16", "09:30:00 am"));
     give("changeentries", 2, mendTo("26-03-14", "09:30:02 am"));
-    give("changeentries", 2, [](QWidget &) { hand::press(Qt::Key_Return); }); // a row is no duplicate of itself
+    give("changeentries", 2, [](QWidget &) { hand::press(Qt::Key_Return); }); // a row is not a duplicate of itself
     EXPECT_EQ(moments(), "Same 2026-03-16 09:30:00, r1 2026-03-14 09:30:00, r1 2026-03-14 09:30:02, "
                          "r1 2026-03-16 09:30:00");
     EXPECT_EQ(keeper.told(), "0");
@@ -334,7 +334,7 @@ TEST_P(Entries, DeletingReadsTheRowsDateMonthFirstAsAChangeOfMaintenanceDoes)
 {
     startWith("DDMMYY", "/", "Same");
     insert("Same", {"2026-04-05", "2026-04-15", "2026-05-04", "2026-06-07"});
-    // 05/04/26 is so the fourth of May, and 15/04/26 can be read in the user's order only.
+    // So 05/04/26 is the fourth of May, and 15/04/26 can be read only in the user's date order.
     const int opened[] = {5, 15, 4};
     for (const int i : {0, 1, 2})
         give("changeentries", i + 1, [&](QWidget &w) {
@@ -357,7 +357,7 @@ TEST_P(Entries, DeletingReadsTheRowsDateMonthFirstAsAChangeOfMaintenanceDoes)
 TEST_P(Entries, ARowOpensTheEntryThatItShowsWhateverItsYearAndTheOrderOfTheList)
 {
     insert("r1", {"2026-04-07", "2026-04-05", "2035-04-06"});
-    execute("UPDATE LIVESTOCK SET quantity = 1"); // which its window asks for
+    execute("UPDATE LIVESTOCK SET quantity = 1"); // its window requires it
     const QString none = ". The date in this row, 04/06/35, is read as April 6, 1935 here, and there is no entry of "
                          "that day at 09:30:00 am.";
     EXPECT_EQ(remove(3, MsgBoxAnswer::OK).toLower(), ("1|Note!/64/Nothing was deleted" + none).toLower());

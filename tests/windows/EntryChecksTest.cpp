@@ -1,4 +1,4 @@
-// What each of the entry windows does in its own way.
+// What differs between the entry windows.
 #include "Desk.h"
 #include "platform/controls/UpDown.h"
 #include "windows/logbook/frm_LivesAddEdit.h"
@@ -54,7 +54,7 @@ TEST_F(Livestock, AnimalsFollowTheWaterOfTheTankAndTheOptionsSwitchThem)
 {
     for (const char *id : {"r1", "Same", "b1", "k1", "p1"}) {
         addEntry(LivestockTab, id, "2026-01-01 09:30:00", "animalname", QString("'zz %1'").arg(id));
-        addEntry(LivestockTab, id, "2026-01-02 09:30:00", "animalname", "'Betta'"); // a word of the list as well
+        addEntry(LivestockTab, id, "2026-01-02 09:30:00", "animalname", "'Betta'"); // also a word of the list
     }
     const auto expectList = [&](frm_LivesAddEdit &w, bool sea) {
         const QStringList names = lines(*w.lst_AnimalList->model()).split('|');
@@ -99,8 +99,8 @@ TEST_F(Livestock, ASecondAnimalMayComeInThatSecondAndIsWhatTheChangeFindsFirst)
         EXPECT_TRUE(keeper.told().startsWith(oops + "This tank already has"));
         EXPECT_TRUE(w.txt_timeadded->hasFocus());
         hand::type(*w.lst_AnimalList, "Crab");
-        hand::type(*w.txt_pricepaid, ""); // what the refused try had is not kept
-        w.txt_DateAdded->setText({});     // by typing it would be caught on leaving
+        hand::type(*w.txt_pricepaid, ""); // the value of the refused attempt is not kept
+        w.txt_DateAdded->setText({});     // typed, it would be refused when the focus leaves the box
         mouse::click(w.cmd_OK);
         EXPECT_TRUE(keeper.told().startsWith(oops + "You must enter a valid date"));
         hand::type(*w.txt_DateAdded, "03/14/26");
@@ -108,7 +108,7 @@ TEST_F(Livestock, ASecondAnimalMayComeInThatSecondAndIsWhatTheChangeFindsFirst)
     });
     EXPECT_EQ(keeper.count("LIVESTOCK WHERE animalname = 'Crab' AND price_paid IS NULL"), 1);
     EXPECT_EQ(column(1), "Crab Tang");
-    give<frm_LivesAddEdit>("changeentries", 2, [&](frm_LivesAddEdit &w) { // whichever was selected
+    give<frm_LivesAddEdit>("changeentries", 2, [&](frm_LivesAddEdit &w) { // the first row, whichever was selected
         EXPECT_EQ(w.lst_AnimalList->currentText(), "Crab");
         hand::press(Qt::Key_Escape);
     });

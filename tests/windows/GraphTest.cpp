@@ -3,11 +3,11 @@
 #include "windows/graph/frm_WaterGraph.h"
 #include "windows/shell/frm_OMKOptions.h"
 
-/// The tank "Reef" is in hand in the logbook.
+/// The logbook is at the tank "Reef".
 class Graph : public Desk
 {
 protected:
-    /// Tests at nine in the morning of so many days from the first of May on, numbered in their nitrate.
+    /// Adds a test at nine in the morning for each of so many days from the first of May, numbered in their nitrate.
     void addTests(int count, const char *tank = "r1", const char *time = "09:00:00")
     {
         Database::Transaction whole(*keeper.g().gDatabase);
@@ -30,14 +30,14 @@ protected:
         const QRectF place = graph().Chart1->place(row, column);
         return place.isNull() ? "(blank)" : graph().Chart1->tip(place.center()).replace('\n', ' ');
     }
-    /// First and last row of the chart by the third column, and which buttons can be pressed.
+    /// The first and the last row of the chart with the third column, and the enabled buttons.
     static QString page()
     {
         const int last = graph().Chart1->RowCount();
         const QString rows = last == 0 ? QString("none") : cell(1, 3) + " - " + cell(last, 3);
         return rows + (graph().cmd_Previous->isEnabled() ? " <" : "") + (graph().cmd_Next->isEnabled() ? " >" : "");
     }
-    /// Chooses a line with the keyboard.
+    /// Chooses a tank with the keyboard.
     void choose(const QString &tank)
     {
         graph().tanklistbox->setFocus();
@@ -50,7 +50,7 @@ protected:
 TEST_F(Graph, PagesAreAsLongAsTheTestsThatAreLeft)
 {
     const QString first = "5/1 No3: 1 - 5/20 No3: 20 >", second = "5/21 No3: 21 - 6/9 No3: 40 <";
-    addTests(50); // after the first page thirty are left, which are two pages: the last ten are not reached
+    addTests(50); // after the first page thirty are left, which make two pages, so the last ten are not reached
     openGraph();
     EXPECT_EQ(page(), first);
     mouse::click(graph().cmd_Next);
@@ -59,14 +59,14 @@ TEST_F(Graph, PagesAreAsLongAsTheTestsThatAreLeft)
     EXPECT_EQ(page(), first);
     execute("DELETE FROM WATERLOG");
     addTests(90);
-    choose("Same"); // and back: the first page
+    choose("Same"); // and back to the first page
     choose("Reef");
     EXPECT_EQ(page(), first);
     mouse::click(graph().cmd_Next);
     EXPECT_EQ(page(), second + " >");
     mouse::click(graph().cmd_Next);
     EXPECT_EQ(page(), "6/10 No3: 41 - 6/29 No3: 60 <");
-    mouse::click(graph().cmd_Previous); // the first entries, and yet it is the second page of the 59 before
+    mouse::click(graph().cmd_Previous); // these are the first entries, although it was the second page of the 59
     EXPECT_EQ(page(), "5/1 No3: 1 - 5/20 No3: 20 < >");
 }
 
@@ -154,7 +154,7 @@ TEST_F(Graph, BothWaysIntoItDrawTheTankInHand)
 TEST_F(Graph, WithAllTanksInHandItBeginsWithTheFirstThatHasAGraphAndStaysThere)
 {
     addTests(1, "b1");
-    addTests(30, "k1"); // "Marsh" comes second
+    addTests(30, "k1"); // "Marsh" is second in the list
     const auto allTanks = [&] {
         hand::openLogbook(*main);
         hand::clickTank(*logbook, "All Tanks");
@@ -212,10 +212,10 @@ TEST_F(Graph, ItsPrintedTitleNamesTheTankDrawn)
         return graph().Chart1->TitleText();
     };
     choose("Bowl");
-    hand::openLogbook(*main); // which takes "Reef" in hand
+    hand::openLogbook(*main); // this makes "Reef" the current tank
     main->ShowChild(graph());
     EXPECT_EQ(printed(), "Ostrelmark Graph for Tank: Bowl");
-    choose("Pond"); // has no graph, so that the chart stands
+    choose("Pond"); // it has no graph, so the chart does not change
     EXPECT_EQ(printed(), "Ostrelmark Graph for Tank: Bowl");
     choose("Reef");
     EXPECT_EQ(graph().Chart1->TitleText(), "Ostrelmark Graph for Tank: Reef") << "the title stays, and is true";
@@ -226,7 +226,7 @@ TEST_F(Graph, PrintsALandscapePageForEachCopy)
 {
     addTests(4);
     const auto &frame = static_cast<QMdiSubWindow &>(*openGraph().parentWidget());
-    const std::tuple<MsgBoxAnswer, int, bool> rows[] = {// whether to maximize for it, copies, dialog
+    const std::tuple<MsgBoxAnswer, int, bool> rows[] = {// answer about maximizing, copies, dialog
                                                         {MsgBoxAnswer::Cancel, 0, false},
                                                         {MsgBoxAnswer::No, 2, true},
                                                         {MsgBoxAnswer::Yes, 0, true}};

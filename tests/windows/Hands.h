@@ -1,5 +1,4 @@
-// A keeper's hands: keys and mouse as they come through the window system, aimed at what he sees. The windows must be
-// shown.
+// The keeper's hands: keys and mouse through the window system, aimed at what is visible. The windows must be shown.
 #pragma once
 
 #include "platform/controls/ListView.h"
@@ -10,7 +9,7 @@
 
 namespace hand {
 
-/// A key for the menu that is open, or for whatever has the focus in the window in front.
+/// Presses a key for the open menu, or else for the widget with the focus in the window in front.
 inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {
     QWidget *takes = nullptr;
@@ -20,7 +19,7 @@ inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     QTest::keyClick(takes, key, modifiers);
 }
 
-/// Characters of any script for whatever has the focus.
+/// Writes characters of any script into the widget with the focus.
 inline void write(const QString &text)
 {
     for (const char32_t c : text.toUcs4()) {
@@ -29,8 +28,8 @@ inline void write(const QString &text)
     }
 }
 
-/// Clicks into a box and writes over what it holds. A list of suggestions that opens under it is put away; without a
-/// window manager the list, once gone, keeps the activity that it took.
+/// Clicks into a box and replaces its text. A list of suggestions that opens below it is closed; without a window
+/// manager, the window does not become active again by itself when the list closes.
 inline void type(QWidget &box, const QString &text)
 {
     mouse::click(&box);
@@ -68,7 +67,7 @@ inline void clickTab(QTabWidget &tabs, int index)
     mouse::click(tabs.tabBar(), tabs.tabBar()->tabRect(index).center());
 }
 
-/// Row and column count from 1.
+/// Rows and columns count from 1.
 inline void clickRow(ListView &list, int row, Qt::MouseButton button = Qt::LeftButton)
 {
     mouse::click(list.viewport(), list.visualRect(list.model()->index(row - 1, 0)).center(), button);
@@ -87,7 +86,7 @@ inline void clickTank(frm_Waterlog &logbook, const QString &name, Qt::MouseButto
     mouse::click(logbook.TreeView1->viewport(), logbook.TreeView1->visualItemRect(found.front()).center(), button);
 }
 
-/// Opens the logbook, or brings it forward, by its shortcut.
+/// Opens the logbook, or brings it to the front, by its shortcut.
 inline frm_Waterlog &openLogbook(frm_OMKMDIMain &main)
 {
     EXPECT_TRUE(isInFront(main));
@@ -95,7 +94,7 @@ inline frm_Waterlog &openLogbook(frm_OMKMDIMain &main)
     return Form<frm_Waterlog>();
 }
 
-/// What a list shows in a column (sub-item from 0), from the top, joined by blanks.
+/// The texts of a list's column (sub-item from 0), from the top, joined by blanks.
 inline QString column(const ListView &list, int subItem)
 {
     QStringList texts;

@@ -35,7 +35,7 @@ TEST_F(Help, TheMenuAndF1AskForTheirPagesAndAMissingHelpIsTold)
     f1AsksFor("frm_OMKMDIMain");
 }
 
-/// The page that is shown, and the place in it.
+/// The page that is shown, and the position in it.
 QString sourceOf(HelpViewer &viewer)
 {
     QCoreApplication::processEvents();
@@ -53,16 +53,16 @@ TEST(HelpViewer, CanBeUsedOverADialogAndFindsWords)
     viewer.open({At::Window, "frm_DiagDiagnosis"});
     EXPECT_TRUE(isInFront(viewer));
     auto &contents = control<QTreeView>(viewer, "contents");
-    EXPECT_TRUE(QTest::qWaitFor([&contents] { // once they are read
+    EXPECT_TRUE(QTest::qWaitFor([&contents] { // once the contents are read
         return contents.currentIndex().data() == "Disease diagnosis";
     }));
-    EXPECT_EQ(sourceOf(viewer), "diagnosis.html#result"); // still, and not its top
-    for (int steps = 4; steps > 0; --steps) // to an entry that shares its page with others, which must not take over
+    EXPECT_EQ(sourceOf(viewer), "diagnosis.html#result"); // still there, and not at the top of the page
+    for (int steps = 4; steps > 0; --steps) // to one of several entries for a page; the others must not become current
         QTest::keyClick(&contents, Qt::Key_Up);
     EXPECT_EQ(sourceOf(viewer), "index.html#advisers");
     EXPECT_EQ(contents.currentIndex().data(), "Advisers");
     auto &tabs = control<QTabWidget>(viewer, "tabs");
-    QDialog second; // over the help
+    QDialog second; // opened over the help
     second.setModal(true);
     second.show();
     QCoreApplication::processEvents();
@@ -75,7 +75,7 @@ TEST(HelpViewer, CanBeUsedOverADialogAndFindsWords)
     EXPECT_TRUE(QTest::qWaitFor([&viewer] { return viewer.hits() >= 2; })) << viewer.hits();
     hand::press(Qt::Key_Escape);
     EXPECT_FALSE(viewer.isVisible());
-    EXPECT_EQ(QDir(folder).entryList(), before); // where it is installed it cannot write
+    EXPECT_EQ(QDir(folder).entryList(), before); // in an installed program this folder is read-only
     EXPECT_THROW(HelpViewer(folder + "/NAMESSW.TXT"), RuntimeFailure);
 }
 

@@ -1,7 +1,7 @@
-// A keeper at his desk: a folder of his own with a new database, the world as a script, the process-wide values and the
-// windows. restart() ends the program and starts it again on the same folder and settings. inNext<F>() says what he
-// does in a modal window that the test is about to open; a window that does not come is a failure, and so is one still
-// open afterwards, which is closed, so that no test hangs.
+// A keeper at the desk: a folder with a new database, scripted doors, the process-wide values and the windows.
+// restart() ends the program and starts it again with the same folder and settings. inNext<F>() says what the keeper
+// does in a modal window that the test is about to open. If the window does not come, or is still open afterwards, the
+// test fails; such a window is closed, so that no test hangs.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@
 #include "windows/shell/frm_OMKMDIMain.h"
 #include "windows/shell/frm_OMKtod.h"
 
-/// Waits until a window itself is in front, and no dialog of it that is just going.
+/// Waits until the window itself is in front, not a dialog of it that is still closing.
 inline bool isInFront(const QWidget &window)
 {
     return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
@@ -48,8 +48,8 @@ public:
         start();
     }
 
-    /// The program as main() starts it. A tip of the day is put away and counted; the box about tanks that are missing
-    /// is in the record of boxes.
+    /// Starts the program as main() does. The tip of the day is closed and counted; the message about missing tanks is
+    /// in the record of boxes.
     frm_OMKMDIMain &startProgram()
     {
         auto &main = Form<frm_OMKMDIMain>();
@@ -76,15 +76,15 @@ public:
     QString databaseFile() const { return folder.filePath(QStringLiteral("OM.MDB")); }
     Globals &g() { return *m_globals; }
 
-    /// Column x of the first row of a SELECT, as text; read afresh.
+    /// Column x of the first row of a SELECT, as text.
     QString stored(const QString &select) { return g().gDatabase->OpenRecordset("SELECT " + select)["x"].text(); }
-    /// How many rows that is: "WATERLOG WHERE tankname = 'Reef'".
+    /// The number of rows of, for example, "WATERLOG WHERE tankname = 'Reef'".
     int count(const QString &what) { return stored("count(*) AS x FROM " + what).toInt(); }
     QString setting(const QString &key) { return GetSetting(key, QStringLiteral("(none)")); }
 
     QString told() { return doors.told(); }
 
-    /// What the keeper does once the modal window F, which comes next, is in front.
+    /// Says what the keeper does once the modal window F, which opens next, is in front.
     template <class F> static void inNext(std::function<void(F &)> action)
     {
         auto *watch = new QTimer(qApp);
@@ -92,7 +92,7 @@ public:
         QObject::connect(watch, &QTimer::timeout, watch, [watch, action = std::move(action)] {
             const QPointer<F> window = Forms::current().loaded<F>();
             if (!window || !window->isVisible())
-                return; // the click that opens it is still on its way
+                return; // the click that opens it has not arrived yet
             watch->stop();
             watch->setObjectName({});
             watch->deleteLater();
@@ -119,7 +119,7 @@ private:
         m_globals->gCurrentDir = folder.path();
         m_globals->gDatabase = Database::OpenDatabase(databaseFile());
         m_forms = std::make_unique<Forms>(*m_globals);
-        Form<frm_OMKMDIMain>(); // which every other window needs
+        Form<frm_OMKMDIMain>(); // every other window needs it
     }
     void stop()
     {
@@ -138,7 +138,7 @@ private:
     std::unique_ptr<Forms> m_forms;
 };
 
-/// A control of a window by its name; ends the test program if there is none.
+/// The control of a window with that name. Ends the test program if there is none.
 template <class T> T &control(QWidget &window, const QString &name)
 {
     T *found = window.findChild<T *>(name);
@@ -147,7 +147,7 @@ template <class T> T &control(QWidget &window, const QString &name)
     return *found;
 }
 
-/// A click where the mark of an option or a check box is, or on the left of any other control.
+/// Clicks the mark of an option or a check box, or the left part of any other control.
 inline void click(QWidget &widget) { QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(10, widget.height() / 2)); }
 
 inline void clickEntry(QMenu &menu, const QString &name)

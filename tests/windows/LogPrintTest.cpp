@@ -24,7 +24,7 @@ protected:
             mouse::click(w.cmd_ok);
         });
     }
-    /// The tanks on the pages of the documents printed since last asked, documents between bars.
+    /// The tanks on the pages printed since the last call, with a bar between two documents.
     QString printedTanks()
     {
         QStringList documents;
@@ -50,7 +50,7 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
         const QString document = "Ostrelmark " + logs[tab];
         keeper.doors.printers = {PrintDialogAnswer{2}};
         keeper.inNext<frm_OMKLogPrint>([](frm_OMKLogPrint &w) {
-            hand::press(Qt::Key_Space); // the focus is on the log on show
+            hand::press(Qt::Key_Space); // the focus is on the option of the log that is shown
             mouse::click(w.cmd_ok);
         });
         hand::choose(*main, *main->mnu_File, "mnu_FilePrint");

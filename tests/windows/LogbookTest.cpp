@@ -15,7 +15,7 @@ protected:
         addEntry(MaintenanceTab, "r1", "2026-04-05 09:30:00", "maintlogtask, maintlogqty", "'Water change', 12.5");
         open("Reef");
     }
-    /// How many of some commands for a tank and its entries can be given now.
+    /// How many of some commands for a tank and its entries are enabled.
     auto commands() const
     {
         const MenuEntry *const all[] = {main->mnu_FileNew, main->mnu_FileDelete, main->mnu_Logpopup_Open,
@@ -77,9 +77,9 @@ TEST_F(Logbook, HeadingsSortByTextAndTheDateHeadingByTheDatabase)
     const char *const up = "8.00 10.00 9.00", *const down = "9.00 10.00 8.00"; // by date
     const char *const textUp = "10.00 8.00 9.00", *const textDown = "9.00 8.00 10.00";
     const std::pair<int, const char *> steps[] = {
-        // 0: to another tank and back
+        // 0 selects another tank and then this one again
         {1, down}, {1, up},     {2, textUp}, {2, textDown},
-        {1, up},   {0, up}, // what was sorted is not sorted again, but the next click goes on from it
+        {1, up},   {0, up}, // the new list is not sorted, but the next click continues the alternation
         {1, down}, {2, textUp}, {0, up},     {2, textDown},
     };
     EXPECT_EQ(column(1), up);
@@ -95,7 +95,7 @@ TEST_F(Logbook, HeadingsSortByTextAndTheDateHeadingByTheDatabase)
     EXPECT_EQ(column(1), up) << "an entry brings the order of the dates back";
     addEntry(LivestockTab, "r1", "2026-12-05 00:30:00", "animalname", "'Eel'");
     addEntry(MaintenanceTab, "r1", "2026-12-05 00:30:00", "maintlogtask", "'Eel'");
-    for (const int tab : {LivestockTab, MaintenanceTab}) { // later by date, earlier by time
+    for (const int tab : {LivestockTab, MaintenanceTab}) { // the later date has the earlier time
         hand::clickTab(*logbook->tab_logtype, tab);
         QStringList places;
         for (int click = 0; click < 2; ++click) {
@@ -127,7 +127,7 @@ TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowBelowThem)
 
 TEST_F(Logbook, ARowIsOpenedInTheOrderThatItIsShownInWhateverWasChosenSince)
 {
-    keeper.g().options.DateOrder = DateOrder::DDMMYY; // the list is not told
+    keeper.g().options.DateOrder = DateOrder::DDMMYY; // the list does not follow
     keeper.g().options.DatePicture = "DD/MM/YY";
     give<frm_WaterAddEdit>("changeentries", 1, [&](frm_WaterAddEdit &w) {
         EXPECT_EQ(w.txt_date->FormattedText(), "05/04/26");

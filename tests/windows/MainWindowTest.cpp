@@ -146,7 +146,7 @@ TEST_F(TheMainWindow, PrintIsWhatTheChildInFrontOffers)
     for (ChildForm *child :
          {static_cast<ChildForm *>(&Form<frm_WaterGraph>()), static_cast<ChildForm *>(&Form<frm_Schedule>())}) {
         EXPECT_EQ(show(*child), "&Print");
-        hand::choose(*main, *main->mnu_View, "mnu_ViewRefresh"); // of the logbook behind
+        hand::choose(*main, *main->mnu_View, "mnu_ViewRefresh"); // of the logbook behind it
         EXPECT_EQ(print(), "&Print") << child->objectName().toStdString();
     }
     EXPECT_EQ(show(*logbook), "&Print Entries... (off)") << "with all tanks in hand";
@@ -156,7 +156,7 @@ TEST_F(TheMainWindow, PrintIsWhatTheChildInFrontOffers)
     EXPECT_EQ(print(), "&Print") << "the schedule is left";
     Form<frm_Schedule>().parentWidget()->close();
     EXPECT_EQ(print(), "&Print (off)");
-    // With no child, a dialog that can print leaves nothing behind.
+    // Without a child, "Print" is disabled again after a dialog that can print.
     keeper.inNext<frm_DiagDiagnosis>([&](frm_DiagDiagnosis &w) {
         EXPECT_EQ(print(), "&Print");
         w.close();
@@ -169,7 +169,7 @@ TEST_F(TheMainWindow, PrintIsWhatTheChildInFrontOffers)
 TEST_F(TheMainWindow, ChildrenOfAVerySmallWindowKeepTheRoomThatTheyNeed)
 {
     main->resize(1, 1);
-    const auto paint = [&] { // a warning of the toolkit fails the test
+    const auto paint = [&] { // a warning of Qt fails the test
         QCoreApplication::processEvents();
         main->grab();
     };

@@ -1,5 +1,6 @@
-// Each measurement on its way through the program: typed in the entry window, read in the list, printed, drawn, chosen
-// in the options. The expected texts stand here once more, so that two exchanged columns or a wrong limit show.
+// Follows each measurement through the program: typed in the entry window, read in the list, printed, drawn, and chosen
+// in the options. The expected texts are written out here again, so that two exchanged columns or a wrong limit are
+// noticed.
 #include "Desk.h"
 #include "logic/logbook/LogReports.h"
 #include "platform/chart/Chart.h"
@@ -15,7 +16,7 @@ struct Expected
     const char *box, *typed;
     const char *heading, *listed;
     const char *head, *printed;
-    const char *check, *drawn; ///< check box, and the cell of the graph
+    const char *check, *drawn; ///< the check box and the cell of the graph
     const char *limit, *beyond, *tooLarge;
 };
 
@@ -44,7 +45,7 @@ constexpr Expected expected[] = {
      "Orp entries must be less than 1000."},
     {"custom1", "txt_user1", "12.5", "Custom1", "12.5", "Custom1", "12.500", "chk_User1", "Iodine: 12.5", "999",
      "999.01", "Iodine entries must be less than 1000."},
-    // The list shows the first of the user's measurements in both of his columns.
+    // The list shows the first user-defined measurement in both columns of the user-defined ones.
     {"custom2", "txt_user2", "13.5", "Custom2", "12.5", "Custom2", "13.500", "chk_user2", "Iron: 13.5", "999", "999.01",
      "Iron entries must be less than 1000."},
 };

@@ -1,7 +1,7 @@
 #include "Desk.h"
 #include "windows/logbook/frm_LivesMove.h"
 
-/// "Reef" has a tang of April and a crab of May.
+/// "Reef" has a tang since April and a crab since May.
 class Move : public Desk
 {
 protected:
@@ -42,7 +42,7 @@ TEST_F(Move, GoesNowhereWithoutATankOrAfterCancelOrWhenTheEntryIsGone)
 TEST_F(Move, AnEntryOfTheTargetInThatSecondStandsInTheWayUntilAnotherTankIsChosen)
 {
     add("b1", "2026-04-05 09:30:00", "'Tang', 2, 'old'");
-    add("p1", "2026-03-14 09:26:53", "'Tang', 2, 'old'"); // of now
+    add("p1", "2026-03-14 09:26:53", "'Tang', 2, 'old'"); // at the present moment
     move(1, [&](frm_LivesMove &w) {
         const auto tryTank = [&](const char *tank) {
             clickTank(w, tank);
@@ -52,7 +52,7 @@ TEST_F(Move, AnEntryOfTheTargetInThatSecondStandsInTheWayUntilAnotherTankIsChose
         tryTank("Bowl");
         mouse::click(w.chk_ChangeDate, QPoint(8, 8));
         tryTank("Pond");
-        mouse::click(w.chk_ChangeDate, QPoint(8, 8)); // the date of now was not to be, and is forgotten
+        mouse::click(w.chk_ChangeDate, QPoint(8, 8)); // the present date is refused and must be forgotten
         clickTank(w, "Same");
         mouse::click(w.cmd_ok);
     });
@@ -82,7 +82,7 @@ TEST_F(Move, AnEntryOfAYearThatTwoDigitsDoNotTellKeepsIt)
 {
     add("r1", "2035-04-05 09:30:00", "'Eel', 2, 'old'");
     hand::clickTank(*logbook, "Reef");
-    hand::clickHeading(list(), 2); // by name, so that the row's place is not that in the file
+    hand::clickHeading(list(), 2); // sorted by name, so that the order differs from that in the file
     move(2, [&](frm_LivesMove &w) {
         clickTank(w, "Bowl");
         mouse::click(w.cmd_ok);

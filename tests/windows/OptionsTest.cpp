@@ -8,7 +8,7 @@ constexpr const char *optionKeys[] = {"Graph_Checks", "Graph_Style", "Graph_Skip
 class Options : public ::testing::Test
 {
 protected:
-    /// The values in force, in one line: dates, graph, lists, water type.
+    /// The current values in one line: dates, graph, lists, water type.
     QString inForce()
     {
         const OptionsMembers &o = keeper.g().options;
@@ -21,7 +21,7 @@ protected:
                    .arg(o.UseFileSalt) +
                keeper.g().gDefaultWaterType;
     }
-    /// In the settings and in the database.
+    /// The values in the settings and in the database.
     QString stored()
     {
         QStringList texts;
@@ -33,11 +33,11 @@ protected:
     }
     void inDialog(const std::function<void(frm_OMKOptions &)> &action)
     {
-        keeper.startProgram(); // the same dialog is shown again: another window must have been in front in between
+        keeper.startProgram(); // another window must be in front before the dialog is shown again
         keeper.inNext(action);
         Form<frm_OMKOptions>().ShowOptions(2);
     }
-    /// Changes everything that the dialog has.
+    /// Changes every control of the dialog.
     static void changeEverything(frm_OMKOptions &w)
     {
         w.SSTab1->setCurrentIndex(0);
@@ -56,7 +56,7 @@ protected:
         click(*w.opt_UseSaltFile);
     }
 
-    /// Expects that OK is refused, and that neither it nor the Cancel after it leaves anything changed.
+    /// Expects that OK is refused, and that neither OK nor Cancel after it changes anything.
     void expectRefused(const std::function<void()> &spoil, const std::function<void()> &mend)
     {
         const QString before = stored();
@@ -87,10 +87,10 @@ TEST_F(Options, StrangeTextsGiveTheDefaults)
     const std::tuple<const char *, const char *, QString> rows[] = {
         {"Date_Order", "ddmmyy", defaults},
         {"Graph_Style", "2D Pie", defaults},
-        {"Graph_Checks", "01", QString(defaults).replace("0111", "0100")}, // a text cut short
+        {"Graph_Checks", "01", QString(defaults).replace("0111", "0100")}, // a text that is too short
         {"UseFile_Fresh", "true", QString(defaults).replace("0 0 SALT", "1 0 SALT")},
     };
-    for (const auto &[key, text, expected] : rows) { // each on what the one before left in the controls
+    for (const auto &[key, text, expected] : rows) { // each starts with the controls as the former row left them
         SaveSetting(key, text);
         Form<frm_OMKOptions>().Get_Initial_Properties();
         EXPECT_EQ(inForce(), expected) << key << ' ' << text;
@@ -107,7 +107,7 @@ TEST_F(Options, EveryOtherWayOutKeepsWhatWasStored)
     for (const bool apply : {false, true}) {
         inDialog([&](frm_OMKOptions &w) {
             changeEverything(w);
-            EXPECT_EQ(keeper.g().options.DateOrder, DateOrder::DDMMYY); // the members go along with the controls
+            EXPECT_EQ(keeper.g().options.DateOrder, DateOrder::DDMMYY); // the members follow the controls
             if (apply)
                 click(*w.cmdApply);
             EXPECT_TRUE(w.isVisible());
@@ -120,7 +120,7 @@ TEST_F(Options, EveryOtherWayOutKeepsWhatWasStored)
 
 TEST_F(Options, NothingOfARefusedOkIsKeptWhenAnotherProgramHoldsTheFile)
 {
-    Database::setBusyTimeout(10); // each start of the program opens the file anew
+    Database::setBusyTimeout(10); // used when the program opens the file again
     const auto asUsual = qScopeGuard([] { Database::setBusyTimeout(5000); });
     const auto other = Database::OpenDatabase(keeper.databaseFile());
     for (const char *hold : {"BEGIN EXCLUSIVE", "BEGIN IMMEDIATE", "BEGIN"}) {
@@ -128,7 +128,7 @@ TEST_F(Options, NothingOfARefusedOkIsKeptWhenAnotherProgramHoldsTheFile)
         expectRefused(
             [&] {
                 other->Execute(hold);
-                other->OpenRecordset("SELECT * FROM CONFIG"); // who only reads lets all be written, but not committed
+                other->OpenRecordset("SELECT * FROM CONFIG"); // a reader lets everything be written but not committed
             },
             [&] { other->Execute("ROLLBACK"); });
     }
@@ -137,7 +137,7 @@ TEST_F(Options, NothingOfARefusedOkIsKeptWhenAnotherProgramHoldsTheFile)
 TEST_F(Options, OkStoresEverythingForGoodAndAFailureLeavesTheDialogWithWhatWasEntered)
 {
     const QString before = stored(), after = "1111000000001|16|1|1|DDMMYY|.|TRUE|TRUE, 0|1|Fe & \"Mn\"|";
-    QDir inTheWay(keeper.doors.settings().fileName()); // a folder where the file should be
+    QDir inTheWay(keeper.doors.settings().fileName()); // a folder in the place of the file
     QFile::remove(inTheWay.path());
     ASSERT_TRUE(inTheWay.mkpath("full"));
     inDialog([&](frm_OMKOptions &w) {
@@ -147,14 +147,14 @@ TEST_F(Options, OkStoresEverythingForGoodAndAFailureLeavesTheDialogWithWhatWasEn
         EXPECT_EQ(keeper.told(), "0|failure 70");
         EXPECT_TRUE(w.isVisible());
         EXPECT_EQ(stored().section(", ", 1), before.section(", ", 1));
-        ASSERT_TRUE(inTheWay.removeRecursively()); // and once the way is free, it stores
+        ASSERT_TRUE(inTheWay.removeRecursively()); // once the folder is gone, OK stores
         click(*w.cmdOK);
     });
     EXPECT_FALSE(Forms::current().loaded<frm_OMKOptions>());
     EXPECT_EQ(inForce(), changed); // the members outlive the window
     EXPECT_EQ(stored(), after + "keeper's");
 
-    keeper.restart(); // Enter in a name stores too, and all the others again as they were
+    keeper.restart(); // Enter in a name also stores, and all other values stay as they were
     inDialog([](frm_OMKOptions &w) {
         w.SSTab1->setCurrentIndex(0);
         hand::type(*w.txt_username2, "Silicate");

@@ -1,7 +1,7 @@
-// What a keeper does in one window, and what every other window then shows. A row has the readings that change and what
-// they become; all the others must read as before, so each pair of windows is looked at, and a pair in which nothing
-// can change needs no row. The windows among the children are read as they stand, and the others as they are opened
-// next. The calendar, the diagnosis, "Add Animal", About and the credits show nothing that another window can change.
+// Each row is something that a keeper does in one window, with the readings of the windows that it changes and their
+// new values. All other readings must stay the same, so each pair of windows is checked, and a pair in which nothing
+// can change needs no row. Child windows are read while they are open, other windows when they are next opened. The
+// calendar, the diagnosis, "Add Animal", About and the credits show nothing that another window can change.
 #include "Desk.h"
 #include "platform/chart/Chart.h"
 #include "support/TestFiles.h"
@@ -35,13 +35,13 @@ struct Change
 {
     const char *name;
     void (*play)(Pairs &);
-    QMap<QString, QString> then; ///< the readings that it changes
+    QMap<QString, QString> then; ///< the changed readings
 };
 
 void PrintTo(const Change &change, std::ostream *out) { *out << change.name; }
 
-/// All children are open. The logbook is in front and shows the water tests of "Reef". "Reef" and "Bowl" have two
-/// tests each, and "Reef" an animal and a task.
+/// All child windows are open. The logbook is in front and shows the water tests of "Reef". "Reef" and "Bowl" have two
+/// tests each, and "Reef" has an animal and a task.
 class Pairs : public Desk, public testing::WithParamInterface<Change>
 {
 public:
@@ -78,7 +78,8 @@ public:
         return Form<F>();
     }
     void backToLogbook() { logbook = &hand::openLogbook(*main); }
-    /// The logbook in front, on a log of a tank: "Reef" by its id, where "All Tanks" has come in its place.
+    /// Brings the logbook to the front, at a log of a tank. If "All Tanks" was selected, it selects the tank "Reef" by
+    /// its id.
     void goToLog(LogTab tab)
     {
         backToLogbook();
@@ -91,7 +92,7 @@ public:
         }
         hand::clickTab(*logbook->tab_logtype, tab);
     }
-    /// What a window that is opened next shows; it is left by Esc.
+    /// What a window shows when it is next opened. Esc closes it.
     template <class F> static QString next(const std::function<void()> &open, const std::function<QString(F &)> &read)
     {
         QString seen;
@@ -129,7 +130,7 @@ public:
         });
         hand::press(Qt::Key_T, Qt::ControlModifier);
     }
-    /// What the tank is called that is added or changed next; its water is fresh.
+    /// Gives a name and freshwater to the tank that is added or changed next.
     static void nextTank(const char *name)
     {
         Keeper::inNext<frm_TankAddNew>([name](frm_TankAddNew &window) {
@@ -157,7 +158,7 @@ public:
     }
 };
 
-/// Two columns of a list, without the time of day.
+/// Two columns of a list, without times of day.
 QString rows(const ListView &list, int second)
 {
     QStringList texts;
@@ -191,7 +192,7 @@ struct Reading
 };
 
 const Reading readings[] = {
-    // As they stand.
+    // Windows that stay open.
     {"upcoming", [](Pairs &p) { return lines(*p.main->cbo_Reminders->model()); },
      "Mon 03/16/26 Feed|Wed 03/18/26 Dose"},
     {"tree",
@@ -232,7 +233,7 @@ const Reading readings[] = {
      "salt, 0"},
     {"names", [](Pairs &) { return hand::column(*Form<frm_LatintoCommon>().lstv_Names, 0); }, "Clam"},
     {"conversion", [](Pairs &) { return Form<frm_Conversions>().txt_FromValue->text(); }, ""},
-    // Drawn, generated and read anew.
+    // The same windows, drawn, generated or read again.
     {"next chart",
      [](Pairs &p) {
          p.goToLog(WaterTab);
@@ -256,7 +257,7 @@ const Reading readings[] = {
          return logs.join(u'|');
      },
      "03/10/26 8.00, 03/11/26 8.00|03/10/26 Tang|03/10/26 Feeding"},
-    // Opened next.
+    // Windows when they are next opened.
     {"water test",
      [](Pairs &p) {
          return p.nextEntry<frm_WaterAddEdit>(WaterTab, "addentries", [](frm_WaterAddEdit &w) -> QString {
@@ -517,7 +518,7 @@ const Change changes[] = {
       {"schedule", "Wednesday 03/18/26 Dose by MM/DD/YY"},
       {"next schedule", "Wednesday 03/18/26 Dose"},
       {"reminder", "Dose|03/18/26"}}},
-    // No window is told of the options: they hold for what is opened and filled afterwards.
+    // Open windows do not follow the options, which take effect when something is next opened or filled.
     {"OptionsAreChanged",
      [](Pairs &p) {
          p.inNextOptions([](frm_OMKOptions &w) {

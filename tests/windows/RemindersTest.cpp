@@ -1,5 +1,5 @@
-// Reminders through their windows: composed, listed, scheduled, printed, changed and deleted by hand, and what the
-// toolbar says meanwhile. Today is Saturday, 14 March 2026.
+// Reminders through their windows: added, listed, scheduled, printed, changed and deleted by hand, with what the tool
+// bar shows meanwhile. Today is Saturday, 14 March 2026.
 #include "Desk.h"
 #include "windows/common/frm_Caltool.h"
 #include "windows/reminders/frm_Maintsched.h"
@@ -31,7 +31,7 @@ protected:
         mouse::click(button);
     }
     QString upcoming() const { return lines(*main->cbo_Reminders->model()); }
-    /// All columns of the reminder that the program writes, in one line.
+    /// All columns that the program writes for the reminder, in one line.
     QString row()
     {
         return keeper.stored(
@@ -56,12 +56,12 @@ TEST_F(Reminders, OfEachPatternAreStoredShownOnTheToolbarAndUnchangedByASecondSa
         {"1|2|1|46|The Last Saturday of every 1 month(s).", "Sat 28.03.26",
          [](frm_SchedNewAddEdit &w) {
              mouse::click(w.opt_Weekly);
-             hand::press(Qt::Key_Down); // from here on by keys alone
+             hand::press(Qt::Key_Down); // from here on only by keys
              EXPECT_TRUE(w.txt_MonthlyDay->isEnabled() && !w.cbo_MonthlyXth->isEnabled());
              hand::press(Qt::Key_Tab);
              hand::press(Qt::Key_Down);
              w.cbo_MonthlyXth->setFocus();
-             hand::press(Qt::Key_End); // "Last"; today's weekday is set already
+             hand::press(Qt::Key_End); // "Last"; today's weekday is already selected
          }},
         {"1|4|0|03/20/2026|Only once on 20.03.26.", "Fri 20.03.26",
          [](frm_SchedNewAddEdit &w) {
@@ -143,7 +143,7 @@ TEST_F(Reminders, AreDeletedAfterAQuestionAndTheToolbarFollows)
     EXPECT_FALSE(list->cmd_DeleteTask->isEnabled() || list->cmd_update_task->isEnabled()) << "nothing is left";
     insert("Feed", "'2026-01-01', '2027-12-31', 700, 0, 0, ''");
     keeper.told();
-    keeper.doors.clock = keeper.doors.clock.addYears(2); // all is past, and the table is not empty
+    keeper.doors.clock = keeper.doors.clock.addYears(2); // all dates are past, but the table is not empty
     startWith("MMDDYY", "/");
     EXPECT_EQ(upcoming(), "");
 }
@@ -156,7 +156,7 @@ TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
     insert("Spring", "'2026-01-01', '2027-12-31', 30, 3, 0, '2'");
     insert("Odd", "'2026-01-01', '2027-12-31', 5, 3, 0, 'x'");
     insert("Feed", "'2026-03-15', '2026-03-16', 2, 0, 0, ''");
-    startWith("MMDDYY", "/"); // nobody is locked out
+    startWith("MMDDYY", "/"); // the program starts
     EXPECT_EQ(upcoming(), "Sun 03/15/26 Feed");
     const QString told = keeper.told();
     for (const char *line :
@@ -202,7 +202,7 @@ TEST_F(Reminders, AskForARowWhenTheClickIsBesideTheRows)
     hand::clickRow(rows, 1);
     mouse::click(rows.viewport(), beside);
     EXPECT_EQ(rows.SelectedItem(), 0);
-    mouse::click(list->cmd_DeleteTask); // which the click has left enabled
+    mouse::click(list->cmd_DeleteTask); // still enabled by the click
     EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a maintenance task to delete by clicking on it.");
     mouse::doubleClick(rows.viewport(), beside);
     EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a maintenance task to change by clicking on it.");
@@ -211,7 +211,7 @@ TEST_F(Reminders, AskForARowWhenTheClickIsBesideTheRows)
 TEST_F(Reminders, StayTheirDaysWhenAnotherDateOrderIsChosen)
 {
     startWith("YYMMDD", "/");
-    insert("Old", "'2026-01-01', '2027-12-31', 1, 4, 0, '27/05/12'"); // as earlier versions stored it
+    insert("Old", "'2026-01-01', '2027-12-31', 1, 4, 0, '27/05/12'"); // in the form of earlier versions
     insert("Feed", "'2027-02-01', '2027-12-31', 1, 0, 0, ''");
     hand::press(Qt::Key_S, Qt::ControlModifier);
     auto &schedule = Form<frm_Schedule>();
@@ -229,7 +229,7 @@ TEST_F(Reminders, StayTheirDaysWhenAnotherDateOrderIsChosen)
         const ListView &dates = *schedule.lstv_Reminders;
         return dates.Text(1) + ' ' + dates.Text(dates.Count());
     };
-    choose(&frm_OMKOptions::opt_Dateform_MMDDYY); // the boxes are empty, and follow
+    choose(&frm_OMKOptions::opt_Dateform_MMDDYY); // the boxes are empty and so follow the options
     hand::type(*schedule.txt_startdate, "020327");
     hand::type(*schedule.txt_enddate, "051227");
     const QString days = "Wednesday %1 Wednesday %2";
@@ -244,7 +244,7 @@ TEST_F(Reminders, StayTheirDaysWhenAnotherDateOrderIsChosen)
 TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
 {
     insert("Feed", "'2026-01-01', '2029-12-31', 1, 0, 0, ''");
-    insert("Dose", "'2026-03-02', '2026-03-03', 1, 1, 0, '1000000'"); // a week beyond its end
+    insert("Dose", "'2026-03-02', '2026-03-03', 1, 1, 0, '1000000'"); // the next week is beyond its end
     hand::press(Qt::Key_S, Qt::ControlModifier);
     auto &schedule = Form<frm_Schedule>();
     const ListView &dates = *schedule.lstv_Reminders;
@@ -272,7 +272,7 @@ TEST_F(Reminders, AreScheduledWithinARangeThatIsChecked)
     EXPECT_EQ(keeper.told(), "0|/0/No reminder has a date within this range.");
     click(*schedule.opt_2years);
     mouse::click(schedule.cmd_Generate);
-    EXPECT_EQ(dates.Text(1) + ' ' + dates.Text(dates.Count()), "Saturday 03/14/26 Tuesday 03/14/28"); // to the day
+    EXPECT_EQ(dates.Text(1) + ' ' + dates.Text(dates.Count()), "Saturday 03/14/26 Tuesday 03/14/28"); // two years
     execute("DELETE FROM MAINTSCHED");
     mouse::click(schedule.cmd_Generate);
     EXPECT_EQ(keeper.told(), "0|/0/No Reminder details found for maintenance schedule.");
@@ -294,7 +294,7 @@ TEST_F(Reminders, OnPaperAreNinetyNineOnTheFirstPageAndThenFifty)
         for (const PrintedPage &page : document.pages)
             if (page.find("Ostrelmark for Windows - Generated Maintenance Schedule"))
                 firstOfPage << page.texts.at(2).text;
-        // Days 1, 100 and 150; the paper of the test takes the first 99 in two.
+        // Days 1, 100 and 150: the first 99 go on the first of the test's pages.
         EXPECT_EQ(firstOfPage, QStringList({"Saturday 03/14/26", "Sunday 06/21/26", "Monday 08/10/26"}));
     }
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Where the program is started, with the data of its installation; puts the current directory back.
+/// A place where the program is started, with the data of its installation. Restores the current directory.
 struct Place
 {
     Place()
@@ -80,7 +80,7 @@ TEST(Start, ALostDatabaseIsToldAndAnEmptyOneIsMadeOnlyWhereNothingTellsOfAnother
         bool used;
     } cases[] = {
         {"NAMESSW.TXT", true},        {"namesfw.txt", true},    {"copies", true},          {"om-2026.MDB", true},
-        {"OM-version-1.0.MDB", true}, {"om.mdb-journal", true}, // not to be played into a new one
+        {"OM-version-1.0.MDB", true}, {"om.mdb-journal", true}, // must not be applied to a new database
         {"letter.txt", false},        {"TOM.MDB", false},       {"OM.MDB.new-123", false}, // a first start was killed
     };
     for (const auto &[holds, used] : cases) {

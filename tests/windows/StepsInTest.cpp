@@ -1,4 +1,5 @@
-// The logbook's commands are for the tank that it shows, whichever tank is in hand and whichever child is in front.
+// The logbook's commands work on the tank that it shows, whichever tank is the current one and whichever child is in
+// front.
 #include "Desk.h"
 #include "windows/logbook/frm_LivesAddEdit.h"
 #include "windows/logbook/frm_LivesMove.h"
@@ -26,7 +27,7 @@ protected:
         keeper.g().gTankName = "Bowl";
         keeper.g().gTankWaterType = "1";
     }
-    /// How many entries a tank has in the water, the livestock and the maintenance log.
+    /// The numbers of a tank's entries in the water, livestock and maintenance logs.
     QString entriesOf(const QString &id)
     {
         QString counts;
@@ -34,7 +35,7 @@ protected:
             counts += QString::number(keeper.count(QString(of) + " = '" + id + "'"));
         return counts;
     }
-    /// How many commands of the File menu that are for the logbook alone can be given.
+    /// How many of the File menu's commands for the logbook are enabled.
     auto fileCommands() const
     {
         const MenuEntry *const all[] = {main->mnu_FileNew, main->mnu_FileOpen, main->mnu_FileDelete,
@@ -47,7 +48,7 @@ TEST_F(StepsIn, AChildIsToldThatItIsInFrontOnceTheDialogOverItHasClosed)
 {
     keeper.inNext<frm_TankMaint>([&](frm_TankMaint &w) {
         main->disablePrint();
-        main->activateWindow(); // which some desktops let a keeper do
+        main->activateWindow(); // some desktops let the keeper do this
         EXPECT_TRUE(isInFront(*main));
         EXPECT_FALSE(main->mnu_FilePrint->isEnabled()) << "the child was told under the dialog";
         mouse::click(w.cmd_Cancel);
@@ -111,8 +112,8 @@ TEST_F(StepsIn, TheCommandsOfTheFileMenuGoWithTheLogbookAndAPressAnywhereBringsI
     EXPECT_EQ(fileCommands(), 4);
     putBehind();
     for (const int tab : {WaterTab, LivestockTab})
-        logbook->tab_logtype->setCurrentIndex(tab); // as the wheel over the tabs does
-    hand::clickTank(*logbook, "Reef");              // which makes it the one in front
+        logbook->tab_logtype->setCurrentIndex(tab); // the mouse wheel over the tabs does the same
+    hand::clickTank(*logbook, "Reef");              // this brings the logbook to the front
     EXPECT_EQ(fileCommands(), 4);
     putBehind();
     for (const int tab : {WaterTab, LivestockTab})

@@ -23,7 +23,7 @@ protected:
         keeper.inNext<frm_FantAddAnimal>(action);
         mouse::click(w.cmd_AddAnimal);
     }
-    /// What is in, and how full: the label and the bar.
+    /// The animals in the tank, and the label and the bar that show how full it is.
     static QString plan(const frm_Fantasy &w)
     {
         return lines(*w.lst_Fantank->model()) + w.lbl_pctfull->text() + '/' +
@@ -36,7 +36,7 @@ TEST_F(Stocking, ANewWaterIsAskedForAndStaysWhenItWasNotWanted)
     auto &w = open("SALT");
     mouse::click(w.opt_Fresh, QPoint(8, 8));
     mouse::click(w.opt_Salt, QPoint(8, 8));
-    EXPECT_EQ(keeper.told(), "0"); // nothing was asked about an empty tank
+    EXPECT_EQ(keeper.told(), "0"); // for an empty tank there is no question
     add(w, 12, [&](frm_FantAddAnimal &dialog) {
         for (const auto &[box, bad] : {std::pair(dialog.txt_howmany, "abc"), {dialog.txt_Howbig, "0"}}) {
             const QString good = box->text();
@@ -45,7 +45,7 @@ TEST_F(Stocking, ANewWaterIsAskedForAndStaysWhenItWasNotWanted)
             EXPECT_TRUE(keeper.told().startsWith("1|Oops/48/You"));
             hand::type(*box, good);
         }
-        hand::type(*dialog.txt_Howbig, "-2"); // as typed
+        hand::type(*dialog.txt_Howbig, "-2"); // stored as typed
         mouse::click(dialog.cmd_Addit);
     });
     const QString planned = plan(w);

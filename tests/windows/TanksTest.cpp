@@ -2,7 +2,7 @@
 #include "windows/tanks/frm_TankAddNew.h"
 #include "windows/tanks/frm_TankMaint.h"
 
-/// The dialog of a tank, without a main window.
+/// Tests the dialog of a tank.
 class Tanks : public ::testing::Test
 {
 protected:
@@ -18,7 +18,7 @@ protected:
         Keeper::inNext<frm_TankAddNew>(action);
         Form<frm_TankMaint>().ChangeTankInfo(name);
     }
-    /// What the boxes hold, and which water.
+    /// The texts of the boxes, and the water type.
     static QString held(frm_TankAddNew &w)
     {
         QString water;
@@ -26,7 +26,7 @@ protected:
             water += option->isChecked() ? option->objectName() : "";
         return shown(w, {"txt_tankname", "txt_long_desc", "txt_tanksize", "txt_tanknotes"}) + '|' + water;
     }
-    /// Column of TANKLST in the order of the ids, joined.
+    /// A column of TANKLST, joined in the order of the ids.
     QString ofTanks(const QString &column)
     {
         return keeper.stored("group_concat(c) AS x FROM (SELECT " + column + " AS c FROM TANKLST ORDER BY tankid)");
@@ -37,7 +37,7 @@ protected:
 
 TEST_F(Tanks, OkChecksOneFaultAtATimeAndExactlyFiftyCharactersPass)
 {
-    // From a dialog that is wrong throughout, one fault is mended at a time.
+    // At first all fields are wrong; each step corrects one of them.
     const QString fifty(50, u'n');
     const std::tuple<const char *, QString, const char *> steps[] = {
         {"txt_tanksize", "12ab", "Tanksize entries must be a number."},
@@ -50,7 +50,7 @@ TEST_F(Tanks, OkChecksOneFaultAtATimeAndExactlyFiftyCharactersPass)
     };
     inNewTank([&](frm_TankAddNew &w) {
         for (MaskedBox *box : {w.txt_tankname, w.txt_long_desc}) {
-            box->setMaxLength(60); // no key gets beyond 50; a text from elsewhere might
+            box->setMaxLength(60); // keys cannot exceed 50, but a text from elsewhere might
             box->setText(fifty + 'n');
         }
         for (const auto &[box, typed, text] : steps) {
@@ -87,7 +87,7 @@ TEST_F(Tanks, WhatIsLongerThanItsBoxIsShownWholeAndKeptUntilItIsEdited)
             mouse::click(w.cmd_OK);
         });
     EXPECT_EQ(stored(), "0.12566010,12345.066010,1500.576010");
-    inTank("12345*", [](frm_TankAddNew &w) { // the limit on typing holds again
+    inTank("12345*", [](frm_TankAddNew &w) { // the limit for typing holds again
         hand::type(*w.txt_tanksize, "99999");
         w.txt_long_desc->setFocus();
         w.txt_long_desc->setSelection(5, 20);
@@ -153,7 +153,7 @@ TEST_F(Tanks, ANameThatIsThereIsRefusedAndWhatWasTypedStands)
             mouse::click(w.cmd_OK);
         };
     };
-    inNewTank(nameItReef("reef")); // another case is another name
+    inNewTank(nameItReef("reef")); // a name that differs in case is another name
     inTank("Pond", nameItReef("Pond 2"));
     EXPECT_EQ(keeper.told(), "0");
     EXPECT_EQ(ofTanks("tankid || tankname || tanksize"), "03/14/2026 09:26:53reef80.5,1Reef55.0,2Pond 280.5");
@@ -171,7 +171,7 @@ TEST_F(Tanks, DeletingTakesTheTankWithAllItsEntriesOrNothing)
             database.Execute(QString("INSERT INTO ") + sql, {id});
     }
     database.Execute("CREATE TRIGGER wet BEFORE DELETE ON WATERLOG BEGIN SELECT RAISE(ABORT, 'wet'); END");
-    const auto tanks = [&] { // with a row in each table
+    const auto tanks = [&] { // the tanks with a row in each table
         return keeper.stored("group_concat(TANKLST.tankname) AS x FROM TANKLST JOIN WATERLOG w ON w.tankname = "
                              "tankid JOIN LIVESTOCK l ON l.tankname = tankid JOIN MAINTLOG ON mainttankname = tankid");
     };
@@ -187,7 +187,7 @@ TEST_F(Tanks, DeletingTakesTheTankWithAllItsEntriesOrNothing)
                 << told.toStdString();
             EXPECT_EQ(tanks(), left);
         };
-        expectDelete("", "Pond,Reef"); // answered by the default button, which is Cancel
+        expectDelete("", "Pond,Reef"); // answered with the default button, Cancel
         keeper.doors.answers = {MsgBoxAnswer::OK, MsgBoxAnswer::OK};
         expectDelete("|failure 3421", "Pond,Reef"); // in the fourth of five statements
         database.Execute("DROP TRIGGER wet");

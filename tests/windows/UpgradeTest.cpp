@@ -1,4 +1,5 @@
-// The start on a database of an earlier version: the window of the upgrade before every other, its bar, its boxes.
+// The start with a database of an earlier version: the upgrade window, which comes before all others, its progress bar
+// and its messages.
 #include "Keeper.h"
 #include "OldDatabase.h"
 #include "platform/core/RuntimeFailure.h"
@@ -10,16 +11,16 @@ TEST(Upgrade, EndsTheStartWhereItFailsAndElseRunsBeforeTheOtherWindowsAndTellsEa
     keeper.g().gDatabase.reset();
     QFile::remove(keeper.databaseFile());
     WriteOldDatabase(keeper.databaseFile(), "1.0", 20);
-    // Reminders that would have no end afterwards have a box of their own.
+    // Without these reminders, which would have no end after the upgrade and get a message of their own.
     Database::OpenDatabase(keeper.databaseFile())->Execute("DELETE FROM MAINTSCHED WHERE schedyears IS NULL");
     {
         const auto other = Database::OpenDatabase(keeper.databaseFile());
-        const RowStream reading = other->OpenForwardOnly("SELECT * FROM ANIMALLIST"); // stands in the way
+        const RowStream reading = other->OpenForwardOnly("SELECT * FROM ANIMALLIST"); // is in the way
         Database::setBusyTimeout(10);
         EXPECT_THROW(Form<frm_OMKMDIMain>().MDIForm_Load(), RuntimeFailure);
         Database::setBusyTimeout(5000);
     }
-    keeper.restart(); // the next start goes on
+    keeper.restart(); // the next start continues the upgrade
     QStringList told;
     keeper.doors.whileBoxIsUp = [&](const MsgBoxRequest &box) {
         for (QWidget *window : QApplication::topLevelWidgets())

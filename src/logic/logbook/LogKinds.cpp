@@ -15,7 +15,7 @@ std::vector<LogColumn> waterListColumns()
     return columns;
 }
 
-/// The heads of the measurements that the user names are fixed: his own names do not appear on paper.
+/// The headings of the user-defined measurements are fixed: the names that the user gave them are not printed.
 std::vector<ReportColumn> waterReportColumns()
 {
     constexpr int dateSpan = 1;
@@ -53,14 +53,13 @@ LogKind waterLog()
                    .title = "Ostrelmark Water Quality Log",
                    .empty = "No water quality entries were found for this tank. No log was printed.",
                    .landscape = true,
-                   .momentSeparator = " -\n", // its column is narrow
+                   .momentSeparator = " -\n", // the column is narrow
                    .columns = waterReportColumns(),
                    .moreLines = {}},
     };
 }
 
-// The heading "price_sold" in lower case is settled, and so are the fixed headings of the measurements that the user
-// names.
+// The heading "price_sold" is meant to be in lower case.
 LogKind livestockLog()
 {
     return {

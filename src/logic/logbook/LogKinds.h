@@ -1,12 +1,12 @@
-// The three logs, a row each. What the logs have in common is written once, in the logbook, its commands and the
-// printed reports; what differs between them is here, where a reader sees it side by side.
+// The table of the three logs. Their common code is written once, in the logbook, its commands and the printed reports;
+// what differs between them stands here side by side.
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <vector>
 
-/// The logs by the tab of the logbook that each is on.
+/// The logs, numbered like their tabs in the logbook.
 enum LogTab { WaterTab, LivestockTab, MaintenanceTab };
 inline constexpr std::array logTabs = {WaterTab, LivestockTab, MaintenanceTab};
 
@@ -16,7 +16,7 @@ struct LogColumn
     const char *heading;
     bool right;
     const char *column;  ///< of the table; null for date and time
-    const char *picture; ///< number or date picture; null: as text
+    const char *picture; ///< format of a number or a date; null for text
     int width;           ///< pixels at 96 dpi
 };
 
@@ -37,7 +37,7 @@ struct ReportColumn
     const char *head;
     double left;         ///< fraction of the page's width
     const char *column;  ///< of the table; null for date and time
-    const char *picture; ///< of a number; null: as text
+    const char *picture; ///< format of a number; null for text
 };
 
 /// The printed log.
@@ -45,11 +45,11 @@ struct LogReport
 {
     const char *dialogTitle;
     const char *title;
-    const char *empty; ///< what is said where there are no rows
+    const char *empty; ///< the message if there are no rows
     bool landscape;
     const char *momentSeparator; ///< between date and time
     std::vector<ReportColumn> columns;
-    std::vector<std::vector<const char *>> moreLines; ///< columns that are printed below an entry, one list per line
+    std::vector<std::vector<const char *>> moreLines; ///< columns that are printed below an entry, a list for each line
 };
 
 struct LogKind
@@ -60,8 +60,8 @@ struct LogKind
     const char *dateColumn;
     const char *timeColumn;
     const char *nameColumn; ///< the name in the key of a row; null where date and time identify an entry
-    bool asksByName;        ///< the question before a deletion tells the name as well
-    bool findsByTankName;   ///< the deletion looks for the tank's name, so it finds a row only where name and id agree
+    bool asksByName;        ///< the question before a deletion also shows the name
+    bool findsByTankName;   ///< the deletion searches for the tank's name: it finds a row only if name and id agree
     LogList list;
     LogReport report;
 };

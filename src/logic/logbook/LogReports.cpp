@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double gap = 1 / 160.; ///< of the page's width, kept free between two columns
+constexpr double gap = 1 / 160.; ///< between two columns, as a fraction of the page's width
 
 bool isNumber(const Value &value)
 {
@@ -40,7 +40,7 @@ public:
     void print(Printer &page)
     {
         if (!m_rows)
-            open(); // a preview prints again and again
+            open(); // a preview can print several times
         const bool orientation = page.Landscape();
         if (m_report.landscape)
             page.setLandscape(true);
@@ -58,21 +58,22 @@ public:
             }
             printEntry(page);
             m_rows->MoveNext();
-            // The position across is held against a height, so this never comes: a long tank runs on by the page's own
-            // feed.
+            // This compares a horizontal position with a height, so it is never true: a long log continues on the next
+            // page by the printer's own page feed.
             if (page.CurrentX > page.ScaleHeight() - page.ScaleHeight() / 11 && !m_rows->EOF_()) {
                 page.NewPage();
                 printTop(page, QStringLiteral("Ostrelmark Livestock Log"), ++pageNumber);
             }
         }
         page.EndDoc();
-        m_rows.reset(); // lets the database go
+        m_rows.reset(); // ends the reading of the database
         if (m_report.landscape)
             page.setLandscape(orientation);
     }
 
 private:
-    /// The entries with their tanks, by tank and date. The tank's name is "tank": an entry calls the tank's id so.
+    /// Selects the entries with their tanks, ordered by tank and date. The tank's name is called "tank", because
+    /// "tankname" in the logs is the tank's id.
     QString select() const
     {
         return QStringLiteral("SELECT t.Tankname AS tank, t.Tankdesc, t.Tanksize, e.* FROM %1 e JOIN Tanklst t ON e.%2 "
@@ -96,7 +97,7 @@ private:
         page.Print({});
     }
 
-    /// A cell of that column, which ends a little before the next begins.
+    /// A cell of that column, which ends a little before the next column.
     PrintCell cell(const Printer &page, size_t column, const QString &content) const
     {
         const bool last = column + 1 == m_report.columns.size();
@@ -111,7 +112,8 @@ private:
                                                  : value.text();
     }
 
-    /// The date and time of an entry. One that is missing leaves its place empty, one that is none stands as it is.
+    /// The date and time of an entry. A missing one is left empty, and a text that is not a date or time is printed
+    /// unchanged.
     QString momentText()
     {
         const Value date = m_rows->value(QLatin1String(m_kind.dateColumn));
@@ -129,8 +131,8 @@ private:
                 cells.push_back(cell(page, i, cellText(m_report.columns[i])));
                 continue;
             }
-            // Date and time stand whole in their column: in the narrow one of the water log on two lines, smaller if
-            // need be.
+            // Date and time are never cut off: in the narrow column of the water log they take two lines, and a smaller
+            // font if necessary.
             cells.push_back(cell(page, i, momentText()));
             cells.back().shrink = true;
         }
@@ -148,7 +150,7 @@ private:
     Database &m_database;
     QString m_datePicture;
     std::optional<QString> m_tankId;
-    std::unique_ptr<RowStream> m_rows; ///< opened, and not yet printed
+    std::unique_ptr<RowStream> m_rows; ///< open, but not printed yet
 };
 
 } // namespace

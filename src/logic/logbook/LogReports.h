@@ -1,5 +1,5 @@
-// The printed logs: one report a log, for one tank or for all, each tank on a page of its own. Their
-// columns and titles are in LogKinds.h. The windows run them through RunReport (platform/core/PrintJob.h).
+// The printed logs: a report of one log, for one tank or for all, each tank on a new page. Titles and columns are in
+// LogKinds.h. The windows run the reports through RunReport (platform/core/PrintJob.h).
 #pragma once
 
 #include <optional>
@@ -9,13 +9,13 @@
 
 class Database;
 
-/// A log of the tank of that tankid, or of all tanks. `datePicture` shows the dates. The database must outlive the
-/// report.
+/// The report of a log, for the tank with that id or for all tanks. `datePicture` is the format of the dates. The
+/// database must outlive the report.
 Report MakeLogReport(LogTab log, Database &database, const QString &datePicture, const std::optional<QString> &tankId);
 
-/// What is said where there are no rows.
+/// The message if there are no rows.
 QString EmptyLogText(LogTab log);
 
-/// Top and bottom of a page: title, tank, and the foot lines, which are printed before the page's rows.
+/// Prints the top and the bottom of a page: the title, the tank, and the lines at the foot, all before the rows.
 void PrintPageHeadings(Printer &page, const QString &title, const QString &tankName, const QString &tankSize,
                        const QString &tankDescription, int pageNumber, const QString &datePicture);

@@ -1,12 +1,12 @@
-// The key of a row in a log's list: the entry's identity as text, date (8 characters), " - ", time (11), and, where a
-// name belongs to the identity, " plus " and the name. The entry paths take it apart by position.
+// The key of a row in a log's list, which identifies the entry: date (8 characters), " - ", time (11), and, if a name
+// is part of the identity, " plus " and the name. The logbook takes date and time out of it by position.
 #pragma once
 
 #include <QDate>
 #include <QString>
 #include <QTime>
 
-/// What a row shows as its own text: date and time.
+/// The text in the first column of a row: date and time.
 QString MakeRowText(const QDate &date, const QTime &time, const QString &datePicture, const QString &timePicture);
 QString MakeRowKey(const QString &rowText, const QString &name);
 

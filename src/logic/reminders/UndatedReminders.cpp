@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int mostLines = 12; ///< of names that fit a box; a longer list is shown whole on demand
+constexpr int mostLines = 12; ///< lines that fit in a message box; the details show a longer list
 
 QString reason(WalkFault fault)
 {
@@ -23,8 +23,8 @@ QString reason(WalkFault fault)
     return {};
 }
 
-/// Nothing is wrong with the rule: it has dates in the editor's preview. The lists alone, which take a yearly rule a
-/// month early, find no such month or day.
+/// Whether the rule is valid and has dates in the editor's preview, but not in the lists, which read the month of a
+/// yearly rule one too low and then find no such month or day.
 bool onlyTheListsHaveNone(const RecurrenceRule &rule)
 {
     return rule.is(Pattern::Yearly) && !Walk(rule, previewRun, {}, {}, [](const QDate &) {});

@@ -1,5 +1,5 @@
-// Reminders whose dates cannot be worked out. A list that is being made leaves them out and goes on; at its end one box
-// names them all, so that no stored rule can keep anybody out of the program.
+// Reminders whose dates cannot be worked out. A list leaves them out, and at its end one message box names them all, so
+// that no stored rule can prevent the program from starting.
 #pragma once
 
 #include <vector>
@@ -14,7 +14,7 @@ class UndatedReminders
 {
 public:
     void add(const RecurrenceRule &rule, WalkFault fault);
-    /// Shows the box if there are any. True if the keeper had them deleted. Throws RuntimeFailure.
+    /// Shows the message box if there are any. Returns true if the keeper had them deleted. Throws RuntimeFailure.
     bool tell(Globals &globals) const;
 
 private:

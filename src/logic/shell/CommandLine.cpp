@@ -20,7 +20,7 @@ constexpr char help[] = "Usage: ostrelmark [FOLDER]\n"
                         "  --version  print the version and end\n"
                         "  --         FOLDER follows, even if its name begins with \"-\"\n";
 
-/// Options of the toolkit, each with a value: session managers and testers pass them, and it takes them off itself.
+/// Options of Qt, each with a value, which session managers and testers pass. Qt removes them itself.
 constexpr const char *toolkitOptions[] = {"-display", "-platform", "-session", "-style"};
 
 CommandLine wrong(const QString &why)

@@ -1,5 +1,5 @@
-// The command line: a folder, or a question that is answered at once. main() reads it before anything of the desktop is
-// touched, so that the answers come without a display as well.
+// The command line: a folder, or a request that is answered at once. main() reads it before it connects to the desktop,
+// so that the answers also work without a display.
 #pragma once
 
 #include <optional>
@@ -10,12 +10,12 @@
 struct CommandLine
 {
     QString folder;            ///< as given; may be empty (see KeepersFolder::choose)
-    std::optional<int> status; ///< there is nothing more to do: the status to end with
-    QString text;              ///< to be printed then: on stdout where the status is 0, else on stderr
-    bool namesDisplay = false; ///< an option of the toolkit says where the windows go
+    std::optional<int> status; ///< if set, the program prints `text` and ends with this status
+    QString text;              ///< goes to stdout if the status is 0, otherwise to stderr
+    bool namesDisplay = false; ///< an option of Qt names the display
 };
 
-/// Of the arguments after the program's name. A wrong one gives status 2 and a line that says so.
+/// Reads the arguments after the program's name. A wrong one gives status 2 and a line that says what is wrong.
 CommandLine ReadCommandLine(std::span<char *const> arguments);
-/// Whether windows have somewhere to go, by the command line and the environment: without, the toolkit would abort.
+/// Whether the command line or the environment names a display. Without one, Qt would abort.
 bool HasDisplay(const CommandLine &line);

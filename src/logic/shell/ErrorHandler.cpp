@@ -9,7 +9,7 @@ QString messageOf(const RuntimeFailure &failure, const QString &duplicateText)
 {
     switch (failure.number()) {
     case Failure::DeviceUnavailable:
-        return QStringLiteral("ERROR 68: Drive : not available."); // nothing fills the drive's name
+        return QStringLiteral("ERROR 68: Drive : not available."); // the drive's name has never been filled in
     case Failure::PathNotFound: return QStringLiteral("ERROR 76: That path doesn't exist.");
     case Failure::DuplicateKey: return duplicateText;
     default: return QStringLiteral("ERROR %1 occurred.").arg(static_cast<int>(failure.number()));

@@ -1,6 +1,6 @@
-// The process-wide values, in one object that main() owns and every window is handed. They include the public members
-// of windows that outlive their controls. Each value has one owner, which alone writes it; the owner is named beside
-// it.
+// The values shared by the whole process, in one object that main() owns and every window is handed. They include
+// public members of windows, which must outlive the window. Each value has one owner, named beside it, and only the
+// owner writes it.
 #pragma once
 
 #include <memory>
@@ -15,7 +15,7 @@
 /// Public members of frm_OMKOptions, filled by ReadOptions.
 struct OptionsMembers
 {
-    QString GraphChecks = GraphChecksAtFirst(); ///< one "0" or "1" a measurement, in listOrder
+    QString GraphChecks = GraphChecksAtFirst(); ///< "0" or "1" for each measurement, in listOrder
     qint16 GraphStyle = 1;                      ///< chart type code
     qint16 GraphSkipZeroes = 0;
     qint16 GraphPrintColor = 0;
@@ -24,21 +24,21 @@ struct OptionsMembers
     ::DateOrder DateOrder = ::DateOrder::MMDDYY;
     QString DateDelimiter = QStringLiteral("/"); ///< "/", "-" or "."
     QString DatePicture = QStringLiteral("MM/DD/YY");
-    bool UseFileFresh = false; ///< the text file instead of the database list
+    bool UseFileFresh = false; ///< the name file instead of the list in the database
     bool UseFileSalt = false;
 };
 
 /// Public members of frm_Caltool.
 struct CalendarMembers
 {
-    QString SelectedDate;      ///< month-first text, "mm/dd/yyyy" when it comes out
-    bool PickCancelled = true; ///< until a day has been clicked
+    QString SelectedDate;      ///< month-first text; "mm/dd/yyyy" after the calendar was shown
+    bool PickCancelled = true; ///< until a day is clicked
 };
 
 /// Public members of frm_LivesMove.
 struct LivesMoveMembers
 {
-    bool MoveCancelled = true; ///< nothing has been moved
+    bool MoveCancelled = true; ///< until the animal is moved
 };
 
 struct Globals
@@ -63,15 +63,16 @@ struct Globals
     QString gUserFieldName2;
     UserFieldNames userFieldNames() const { return {gUserFieldName1, gUserFieldName2}; }
 
-    // The tank in hand, written by the window that dealt with a tank last: logbook, graph or tank list. Any of them may
-    // write it while a box or a dialog is open, so a command that shows one works on a copy of its own.
+    // The current tank, or tank "in hand", written by the window that last worked with a tank: logbook, graph or tank
+    // list. Any of them can write it while a message box or dialog is open, so a command that shows one works on its
+    // own copy.
     QString gTankName; ///< `tankname` and `tankid` of that tank, or "All Tanks" for both
     QString gTankId;
 
-    // frm_Waterlog, for the livestock window
+    // Written by frm_Waterlog for the livestock window
     QString gTankWaterType; ///< "1" freshwater, "2" saltwater fish only, "3" reef, "4" brackish, "5" pond
 
-    QString gMessage; ///< whoever shows a box builds its text here; the last one built stays
+    QString gMessage; ///< a window builds the text of a message here, and the last one stays
 
     CalendarMembers calendar;   ///< frm_Caltool
     LivesMoveMembers livesMove; ///< frm_LivesMove

@@ -19,11 +19,11 @@ namespace {
 const QString databaseName = QStringLiteral("OM.MDB");
 
 /// Files and folders that show that a folder was used before: name files, copies, the old file of an upgrade, and a
-/// journal, which must never be applied to a new database. The case of the letters does not matter.
+/// journal, which must never be applied to a new database. Case is ignored.
 const QStringList tracesOfUse{QStringLiteral("NAMES?W.TXT"), QStringLiteral("copies"), QStringLiteral("OM-*.MDB"),
                               QStringLiteral("OM.MDB-journal")};
 
-/// Fails if the folder had a database before: an empty one in its place would look as if all data were lost.
+/// Throws if the folder had a database before, because an empty one in its place would look as if all data were lost.
 void makeDatabase(const QDir &folder)
 {
     const QString name = folder.filePath(databaseName);
@@ -41,7 +41,7 @@ void makeDatabase(const QDir &folder)
     CreateDatabase(name);
 }
 
-/// The lists of names serve typing only: without them, the windows that read them say what is missing.
+/// A failed copy is not reported: the windows that read the name files say if one is missing.
 void copyNameFiles(const QDir &from, const QDir &folder)
 {
     for (const QString &name : from.entryList({QStringLiteral("NAMES?W.TXT")}, QDir::Files))
@@ -72,8 +72,8 @@ bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
     if (!QDir().mkpath(place.path()))
         throw RuntimeFailure(Failure::PathNotFound,
                              QStringLiteral("The folder %1 for your data could not be made.").arg(place.path()));
-    // The lock is on the folder itself. The system takes it back when the process ends in whatever way, so none is left
-    // over. Where a file system knows no such lock there is none, and the database's own locks guard the data alone.
+    // The lock is on the folder itself. The system releases it however the process ends. On a file system without such
+    // locks there is none, and only the database's own locks protect the data.
     m_lock = ::open(QFile::encodeName(place.path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (m_lock >= 0 && ::flock(m_lock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         MsgBox(QStringLiteral("Another Ostrelmark has the logbook in this folder open:\n%1\n\nGo on in its window. If "
@@ -83,7 +83,7 @@ bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
                vbInformation);
         return false;
     }
-    makeDatabase(place); // first, because name files without a database mean that it was lost
+    makeDatabase(place); // before the name files, which without a database mean that the database was lost
     copyNameFiles(QDir(dataFolder), place);
     if (!QDir::setCurrent(place.path()))
         throw RuntimeFailure(Failure::PermissionDenied,

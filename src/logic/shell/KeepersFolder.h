@@ -1,7 +1,7 @@
-// The keeper's folder, the current directory of the program: made at the first start with an empty database and the
-// lists of names, and open in one Ostrelmark at a time. main() opens it before the main window loads, which makes
-// nothing itself and fails where there is no database. A file that is there is never overwritten, and a database that
-// was lost is never replaced by an empty one.
+// The folder with the keeper's data, which is the current directory of the program. At the first start it is made, with
+// an empty database and the name files. Only one Ostrelmark at a time has it open. main() opens it before it loads the
+// main window, which creates nothing itself and fails if there is no database. An existing file is never overwritten,
+// and a lost database is never replaced by an empty one.
 #pragma once
 
 #include <QString>
@@ -14,13 +14,13 @@ public:
     KeepersFolder(const KeepersFolder &) = delete;
     KeepersFolder &operator=(const KeepersFolder &) = delete;
 
-    /// The argument, if it is not empty; else the current directory, if it holds a database; else the usual folder,
-    /// ostrelmark in $XDG_DATA_HOME or in ~/.local/share.
+    /// Returns the argument if it is not empty, else the current directory if it holds a database, else the default
+    /// folder: ostrelmark in $XDG_DATA_HOME or in ~/.local/share.
     static QString choose(const QString &argument);
 
-    /// Makes what is missing, the name files from `dataFolder`, and goes into the folder. False where another program
-    /// has it open, after a box that says so. Throws RuntimeFailure where folder or database cannot be made, and
-    /// CouldNotFindFile where the folder was used before and has lost its database.
+    /// Makes what is missing, with the name files of `dataFolder`, and makes the folder the current directory. If
+    /// another program has it open, a message says so and the result is false. Throws RuntimeFailure if the folder or
+    /// the database cannot be made, and CouldNotFindFile if the folder was used before and has lost its database.
     bool open(const QString &folder, const QString &dataFolder);
 
 private:

@@ -12,8 +12,8 @@ namespace {
 
 const QString notFound = QStringLiteral("Not Found");
 
-/// A text of the settings store and the member that holds its value. A stored text of the wrong form leaves the
-/// default.
+/// A text in the settings and the member that holds its value. If a stored text has the wrong form, the member keeps
+/// its default.
 struct Setting
 {
     const char *key;
@@ -43,7 +43,7 @@ void takeDelimiter(QString &member, const QString &stored)
         member = stored;
 }
 
-/// Of a text cut short, what is missing is not graphed.
+/// If the text is too short, the missing measurements are not graphed.
 void takeChecks(QString &member, const QString &stored)
 {
     for (qsizetype i = 0; i < member.size(); ++i)
@@ -53,7 +53,7 @@ void takeChecks(QString &member, const QString &stored)
 QString flagText(bool flag) { return flag ? QStringLiteral("TRUE") : QStringLiteral("FALSE"); }
 bool isTrue(const QString &stored) { return stored.toUpper() == u"TRUE"; }
 
-// In the order in which they are written.
+// They are written in this order.
 constexpr Setting settings[] = {
     {"Graph_Checks", [](OptionsMembers &o, const QString &stored) { takeChecks(o.GraphChecks, stored); },
      [](const OptionsMembers &o) { return o.GraphChecks; }},

@@ -47,6 +47,8 @@ QString lineOf(const QAbstractItemView &list, int row)
     QStringList cells;
     for (int place = 0; place < model.columnCount(); ++place) {
         const int column = table ? table->horizontalHeader()->logicalIndex(place) : place;
+        if (table && table->isColumnHidden(column))
+            continue;
         cells.append(quotedIfNeeded(
             (row < 0 ? model.headerData(column, Qt::Horizontal) : model.index(row, column).data()).toString()));
     }

@@ -32,12 +32,13 @@ void connectTo(QAbstractItemView &list, Qt::Key key, Command &command, void (Com
 
 } // namespace listkeys
 
-/// Copies the selected row of a list at Ctrl+C, and the whole list with its headings at Ctrl+Shift+C, as text that a
-/// spreadsheet takes: a tab between two cells, and quotation marks around a cell that has a tab, a line break or such
-/// marks itself. The columns are in the order on the screen. False if the key is neither of the two.
+/// On Ctrl+C copies the selected row of a list, and on Ctrl+Shift+C the whole list with its headings, as text for a
+/// spreadsheet: tabs separate the cells, and a cell with a tab, a line break or a quotation mark in it is put in
+/// quotation marks. The columns are in the order shown. Returns false for any other key.
 bool CopyFromList(const QAbstractItemView &list, const QKeyEvent &key);
 
-/// The first Down selects the framed row; it would pass it over, and a single row could not be chosen by keys.
+/// Makes the first Down select the framed row. Otherwise Down would skip it, and the only row of a list could not be
+/// selected by keys.
 void SelectWithFirstDown(QAbstractItemView &list);
 
 inline void OnListKey(QAbstractItemView &list, Qt::Key key, QAbstractButton &button)

@@ -44,7 +44,7 @@ QString shaped(const QString &mask, const QString &text)
     return shape;
 }
 
-/// The last net: drops, the selection clipboard and editing keys of the platform may not move a delimiter either.
+/// The last check: drops, the selection clipboard and editing keys of the platform must not move a delimiter either.
 class ShapeValidator : public OneLineValidator
 {
 public:
@@ -175,7 +175,8 @@ void MaskedBox::contextMenuEvent(QContextMenuEvent *event)
     menu->popup(event->globalPos());
 }
 
-/// A mask takes a dropped text as it takes a pasted one. It is copied: where the mask refuses it, nothing is lost.
+/// A mask treats a dropped text like a pasted one. The text is copied, not moved, so that nothing is lost if the mask
+/// refuses it.
 void MaskedBox::dropEvent(QDropEvent *event)
 {
     if (m_mask.isEmpty() || isReadOnly()) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Where no group is named, the options that have the same parent are one.
+/// Options without a button group form a group with those that have the same parent.
 QAbstractButton *setOptionBeside(const QRadioButton &option)
 {
     if (const QButtonGroup *group = option.group())

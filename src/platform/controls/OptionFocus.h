@@ -1,10 +1,10 @@
-// The focus of a group of options is on the one that is set. The toolkit gives it to the first of the group where the
-// window opens or Tab enters the group, and then one press of Space sets that one. Asked by Application for each event.
+// Moves the focus in a group of options to the checked one. When a window opens or Tab enters a group, Qt gives the
+// focus to the first option, where one press of Space would check it. Application calls this for each event.
 #pragma once
 
 class QEvent;
 class QObject;
 
-/// True where the event gave the focus to an option that is not set, and the focus went on to the one that is. A click
-/// or a mnemonic sets the option that it goes to, and a group of which none is set is entered anywhere.
+/// True if the event gave the focus to an unchecked option and the focus was passed on to the checked one. Does nothing
+/// for a click or a mnemonic, which check the option that gets the focus, or if no option of the group is checked.
 bool PassesFocusToSetOption(QObject &receiver, const QEvent &event);

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Where Fusion draws its own.
+/// Drawn over the outline of Fusion.
 void outline(QPainter &painter, const QRect &place, bool round, const QColor &colour)
 {
     painter.save();
@@ -52,7 +52,7 @@ QColor darkEnoughForWhite(QColor colour)
     return colour;
 }
 
-/// A text that has not the room ends with dots.
+/// If there is too little room for the text, it ends with dots.
 QStyleOptionComboBox fitted(QStyleOptionComboBox list, const QRect &room)
 {
     const int icon = list.currentIcon.isNull() ? 0 : list.iconSize.width() + 4;

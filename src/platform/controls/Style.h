@@ -1,9 +1,11 @@
-// The desktop's style with a few changes. The arrow of a tool bar that is too narrow is a drawing of ours, because the
-// style's own is a small bitmap that blurs on a fine screen. On a dark window, where Fusion draws in black, check
-// boxes, radio buttons and child windows get an outline that shows, and the title bar of a child that is not in front
-// is light on dark. A drop-down list that is too narrow for its text ends it with dots, not in the middle of a letter.
-// The rows of all lists are equally high. The buttons of boxes have no icons, because the buttons of the windows have
-// none.
+// The desktop's style with a few changes:
+// - The arrow of a toolbar that is too narrow is a drawing of our own, because the style's is a small bitmap that looks
+//   blurred on a screen of high resolution.
+// - On a dark window, where Fusion draws in black, check boxes, radio buttons and child windows get a visible outline,
+//   and the title bar of a child that is not in front is light on dark.
+// - The text of a drop-down list that is too narrow ends with dots instead of being cut off in the middle of a letter.
+// - The rows of all lists have the same height, and a row that has the focus but is not selected gets only a frame.
+// - The buttons of message boxes have no icons, because the buttons of our windows have none.
 #pragma once
 
 #include <QPalette>

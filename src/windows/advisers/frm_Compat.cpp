@@ -78,7 +78,7 @@ void frm_Compat::clearLists()
 
 void frm_Compat::offer(const QStringList &animals)
 {
-    const QSignalBlocker quiet(lst_Select); // a filled list has none chosen
+    const QSignalBlocker quiet(lst_Select); // nothing is selected in a new list
     lst_Select->clear();
     lst_Select->addItems(animals);
     lst_Select->setCurrentIndex(-1);

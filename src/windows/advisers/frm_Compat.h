@@ -11,7 +11,7 @@ class frm_Compat : public ChildForm, public Ui::frm_Compat
 public:
     explicit frm_Compat(const FormContext &context);
 
-    /// Shows itself, and the reminder over it.
+    /// Shows the window, and over it a reminder.
     void Form_Load();
 
 private:

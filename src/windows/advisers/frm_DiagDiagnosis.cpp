@@ -45,7 +45,7 @@ void frm_DiagDiagnosis::Command1_Click()
 
 void frm_DiagDiagnosis::PrintQuestionsandAnswers()
 {
-    // No dialog: one copy, on the printer that is the default.
+    // Prints one copy on the default printer, without a dialog.
     const Report sheet = MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::OwnWindow);
     const auto pages = Doors::current().openPages({});
     Printer page(*pages, sheet.documentName);

@@ -1,4 +1,4 @@
-// The page of a diagnosis as a window of its own, with words and a sheet of its own. Nothing opens it today.
+// A diagnosis in a window of its own, with its own texts and printed sheet. Nothing opens it at present.
 #pragma once
 
 #include "ui_frm_DiagDiagnosis.h"
@@ -10,7 +10,7 @@ class frm_DiagDiagnosis : public DialogForm, public Ui::frm_DiagDiagnosis
 public:
     explicit frm_DiagDiagnosis(const FormContext &context);
 
-    /// Shows the advice of DiagnosisName and completes the log of the answers with it; back when the window goes.
+    /// Shows the advice for DiagnosisName, adds it to the log of answers, and returns when the window closes.
     void Showdiagnosis();
 
     QString DiagnosisName;

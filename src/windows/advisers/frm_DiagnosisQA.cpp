@@ -12,7 +12,7 @@
 
 namespace {
 
-// Sizes in pixels at 96 dots an inch; where letters need more, the window takes it.
+// Sizes in pixels at 96 dpi. The window grows if its texts need more.
 constexpr int leastWidth = 457;
 constexpr int frameHeight = 236; // of the disclaimer and of the diagnosis
 constexpr int answerHeight = 23;
@@ -52,7 +52,7 @@ frm_DiagnosisQA::frm_DiagnosisQA(const FormContext &context) : DialogForm(contex
 void frm_DiagnosisQA::Form_Load()
 {
     int width = fra_Disclaimer->minimumSizeHint().width();
-    for (int page = 0; page < questionPageCount; ++page) { // as the widest asks for, so that the window does not jump
+    for (int page = 0; page < questionPageCount; ++page) { // the widest page decides, so that the width never changes
         setCaptions(static_cast<QuestionPage>(page));
         width = qMax(width, Frame1->minimumSizeHint().width());
     }
@@ -76,7 +76,7 @@ void frm_DiagnosisQA::ask(QuestionPage page)
         return;
     const auto next = FollowAnswer(page, AnswerIndex);
     if (!next)
-        return; // started over
+        return; // the keeper started over
     if (const auto *nextPage = std::get_if<QuestionPage>(&*next))
         return ask(*nextPage);
     DiagnosisName = QLatin1String(std::get<const char *>(*next));
@@ -86,7 +86,7 @@ void frm_DiagnosisQA::ask(QuestionPage page)
 void frm_DiagnosisQA::begin(QuestionPage page)
 {
     cmd_PrintQuestionsandAnswers->setEnabled(false);
-    cmd_Back->setEnabled(false); // for ever: the only way back is Start Over
+    cmd_Back->setEnabled(false); // it is never enabled: the only way back is Start Over
     cmd_StartOver->setEnabled(true);
     cmd_Next->setEnabled(page == QuestionPage::Question_Disclaimer);
     if (page == QuestionPage::Question_StartingPoint)
@@ -109,7 +109,7 @@ void frm_DiagnosisQA::setCaptions(QuestionPage page)
 
 void frm_DiagnosisQA::clearAnswers()
 {
-    // Options that exclude each other cannot all be cleared: one stays on, unless they are let go.
+    // In an exclusive group one option always stays checked, so the group is not exclusive meanwhile.
     QButtonGroup &group = *opt_Answer[0]->group();
     group.setExclusive(false);
     for (QRadioButton *option : opt_Answer)
@@ -128,7 +128,7 @@ void frm_DiagnosisQA::bringToFront(QWidget &page, QWidget &focus)
 bool frm_DiagnosisQA::isGoingOn()
 {
     bool &cancelled = main.WizardCancelled;
-    cancelled = true; // unless Next or Start Over ends the wait; so it ends with the program, too
+    cancelled = true; // Next and Start Over reset it, so the wizard also ends when the program does
     ShowModal();
     return !cancelled;
 }
@@ -161,7 +161,7 @@ void frm_DiagnosisQA::fixmysize()
 void frm_DiagnosisQA::fitHeight(int told)
 {
     for (const QWidget *inside : {static_cast<QWidget *>(Frame1), page_Question, static_cast<QWidget *>(this)})
-        inside->layout()->activate(); // from the inside, else the outer ones know the page before
+        inside->layout()->activate(); // from inside, else the outer ones keep the former page's size
     resize(width(), qMax(told, layout()->totalHeightForWidth(width())));
 }
 

@@ -1,7 +1,7 @@
-// The disease diagnosis wizard: leads from what is seen on a sick fish to one diagnosis, shows its advice, and prints
-// questions and answers. Each page waits, and the next is called while the page before is still on the stack; Start
-// Over and Cancel unload the window, and all pages unwind. The main window calls Question_Disclaimer until the keeper
-// cancels.
+// The disease diagnosis wizard: it leads from the signs on a sick fish to one diagnosis, shows its advice, and prints
+// questions and answers. Each page waits for its answer and then calls the next one, so all former pages are on the
+// stack; Start Over and Cancel unload the window, and all calls return. The main window calls Question_Disclaimer until
+// the keeper cancels.
 #pragma once
 
 #include <array>
@@ -17,11 +17,12 @@ public:
     explicit frm_DiagnosisQA(const FormContext &context);
     void Form_Load();
 
-    /// A whole run, from the disclaimer or from the first question on; back when the keeper starts over or cancels.
+    /// Run the wizard from the disclaimer or from the first question. They return when the keeper starts over or
+    /// cancels.
     void Question_Disclaimer() { ask(QuestionPage::Question_Disclaimer); }
     void Question_StartingPoint() { ask(QuestionPage::Question_StartingPoint); }
 
-    QString AnswerIndex;   ///< number of the answer last clicked; empty before the first, "99" after Start Over
+    QString AnswerIndex;   ///< the number of the answer clicked last; empty before the first, "99" after Start Over
     QString DiagnosisName; ///< set before Showdiagnosis runs
 
 protected:
@@ -34,7 +35,7 @@ private:
     void setCaptions(QuestionPage page);
     void clearAnswers();
     void bringToFront(QWidget &page, QWidget &focus);
-    /// Shows the window and waits; false if the keeper has left the wizard.
+    /// Shows the window and waits. Returns false if the keeper has left the wizard.
     bool isGoingOn();
     void Showdiagnosis();
     void fixmysize();

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr double usualSize = 6; ///< inches, up to which the rule of inches to gallons holds without a word
+constexpr double usualSize = 6; ///< inches; larger fish bring up a reminder about the rule of inches to gallons
 
 const QString oops = QStringLiteral("Oops");
 
@@ -21,7 +21,7 @@ const QString reminderText = QStringLiteral(
     "  In light of all of this, be sure to double-check ANY stocking combinations with a qualified dealer or "
     "vererinarian BEFORE you attempt to put these animals together!");
 
-// The warnings about an animal, %1, and about others, %2. A list of others ends with a comma and a blank.
+// The warnings about an animal, %1, and others, %2. A list of others ends with a comma and a blank.
 const QString ownKindText = QStringLiteral(
     "WARNING! Keeping 2 or more %1 in 1 tank may cause compatibility problems, possibly SERIOUS ones, "
     "and particularly if they are the same species!\r"
@@ -57,7 +57,7 @@ void frm_FantAddAnimal::ShowAnimal(FantasyPlan &plan, WaterKind water, const QSt
     m_plan = &plan;
     m_water = water;
     lbl_selected_animal->setText(line);
-    // The arrows beside the size know nothing of it: they start at 1 whatever the animal's size.
+    // The arrows beside the size do not start at it: they start at 1 for every animal.
     txt_Howbig->setText(PlainText(AnimalOf(water, plan.SelectedAnimal).TypicalSize));
     txt_howmany->setText(QStringLiteral("1"));
     ud_Howmany->setValue(1);
@@ -69,7 +69,7 @@ void frm_FantAddAnimal::cmd_Addit_Click()
 {
     const double howMany = Val(txt_howmany->text());
     const double howBig = Val(txt_Howbig->text());
-    // Only 0 is refused: what is smaller than an inch, or negative, is taken whatever the words say.
+    // Only 0 is refused. Sizes below an inch and negative numbers are accepted, although the messages say otherwise.
     if (howMany == 0) {
         refuse(QStringLiteral("You must add at least one animal to the tank."), txt_howmany, oops);
     } else if (howBig == 0) {
@@ -114,7 +114,7 @@ void frm_FantAddAnimal::ud_howmany_Change() { txt_howmany->setText(PlainText(ud_
 void frm_FantAddAnimal::ud_Howbig_Change()
 {
     txt_Howbig->setText(PlainText(ud_HowBig->Value()));
-    remindOfSize(); // once more than the change of the text did
+    remindOfSize(); // a second time, after that for the changed text
 }
 
 void frm_FantAddAnimal::txt_Howbig_Change() { remindOfSize(); }

@@ -1,5 +1,5 @@
-// Asks how many of an animal, and how big, are dropped into the Fantasy Tank; "Drop It In" adds the row to the plan and
-// tells what the animal would meet there. The warnings stop nobody. Opened by frm_Fantasy, which owns the plan.
+// Asks how many animals of which size are added to the Fantasy Tank. "Drop It In" adds a row to the plan and warns
+// about the other animals there, but refuses none. Opened by frm_Fantasy, which owns the plan.
 #pragma once
 
 #include "logic/advisers/FantasyPlan.h"
@@ -12,8 +12,8 @@ class frm_FantAddAnimal : public DialogForm, public Ui::frm_FantAddAnimal
 public:
     explicit frm_FantAddAnimal(const FormContext &context);
 
-    /// Asks about the plan's SelectedAnimal, by the table of that water; `line` is how the list names it. Back when the
-    /// animal is in the plan, or was cancelled. The plan must live as long.
+    /// Asks about the plan's SelectedAnimal, from the table of that water; `line` is its text in the list. Returns when
+    /// the animal is in the plan or the keeper cancels. The plan must outlive the call.
     void ShowAnimal(FantasyPlan &plan, WaterKind water, const QString &line);
 
 private:

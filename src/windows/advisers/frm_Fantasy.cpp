@@ -21,7 +21,7 @@ constexpr QSize smallestWindow(486, 343); // 7290 by 5145 twips
 
 const QString areYouSure = QStringLiteral("Are you sure...");
 
-// Kept as it is: the quotation of the rule is never closed.
+// The missing closing quote is kept as it is.
 const QString reminderText = QStringLiteral(
     "REMINDER: This program is only a tool to allow you to experiment with a few POSSIBLE stocking and animal "
     "combinations. No program could ever guarantee complete compatibility. Numerous factors such as an animal's size, "
@@ -30,7 +30,7 @@ const QString reminderText = QStringLiteral(
     "  ALWAYS consult with an EXPERIENCED DEALER or veterinarian before putting ANY animals together, compatible or "
     "not!");
 
-/// Row of the line that is selected, from 0; -1 where none is.
+/// The selected row, from 0; -1 if none is selected.
 int selectedRow(const QListWidget &list)
 {
     const auto selected = list.selectionModel()->selectedRows();
@@ -81,7 +81,7 @@ void frm_Fantasy::Form_Load()
     MsgBox(reminderText, vbExclamation, QStringLiteral("Please NOTE!"));
 }
 
-/// A double click counts on the blank part of a list, too: there it tells that nothing is selected.
+/// A double click on the blank part of a list also runs the command, which then says that nothing is selected.
 bool frm_Fantasy::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() != QEvent::MouseButtonDblClick || static_cast<QMouseEvent *>(event)->button() != Qt::LeftButton)
@@ -100,7 +100,7 @@ void frm_Fantasy::RecalcHolding()
                  water() == WaterKind::Salt ? QStringLiteral("saltwater") : QStringLiteral("freshwater"),
                  PlainText(m_plan.FantasyHolding)));
     const double percent = std::trunc(m_plan.FantasyPercent);
-    // A blank stands where a negative number has its sign.
+    // A positive number has a blank in the place of the sign.
     lbl_pctfull->setText((percent < 0 ? QString() : QStringLiteral(" ")) + PlainText(percent) + u'%');
 }
 
@@ -133,11 +133,11 @@ void frm_Fantasy::changeWater()
         const QString question = QStringLiteral("Changing tank water type will clear your choices. Are you sure you "
                                                 "want to clear your Fantasy Tank?");
         if (MsgBox(question, vbQuestion + vbOKCancel, areYouSure) != MsgBoxAnswer::OK)
-            return; // the option stays on the new water, with the old list and plan: nothing puts it back
+            return; // the option stays on the new water, but list and plan stay as they were
     }
     lst_select->clear();
     lst_select->addItems(SelectionLines(water()));
-    chk_WetDryIncluded->setEnabled(water() == WaterKind::Salt); // its mark stays
+    chk_WetDryIncluded->setEnabled(water() == WaterKind::Salt); // its check mark does not change
     ResetFantasyTank();
 }
 
@@ -170,7 +170,7 @@ void frm_Fantasy::cmd_AddAnimal_Click()
     Form<frm_FantAddAnimal>().ShowAnimal(m_plan, water(), lst_select->item(row)->text());
     if (m_plan.FantasyCount() > held) {
         lst_Fantank->addItem(FantasyLine(water(), m_plan.FantasyTank.back()));
-        lst_Fantank->scrollToBottom(); // to be seen
+        lst_Fantank->scrollToBottom(); // shows the new line
     }
     lst_select->setCurrentRow(-1);
     RecalcHolding();
@@ -187,7 +187,7 @@ void frm_Fantasy::cmd_RemoveAnimal_Click()
         return;
     }
     delete lst_Fantank->takeItem(row);
-    lst_Fantank->setCurrentRow(-1); // the next line is not selected in its place
+    lst_Fantank->setCurrentRow(-1); // Qt would select the next line
     m_plan.Remove(row);
     RecalcHolding();
     cmd_RemoveAnimal->setEnabled(false);

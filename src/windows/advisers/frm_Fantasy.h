@@ -1,6 +1,6 @@
-// The Fantasy Tank: a tank that does not exist is planned here, animals are dropped in, and the bar shows how full it
-// would be. The plan lives as long as the window. After a change of the water that was not confirmed, the option stands
-// on the new water beside the old list and plan; an animal's number is then read in the table of the option.
+// The Fantasy Tank: the keeper plans an imaginary tank and adds animals, and a bar shows how full it would be. The plan
+// lives as long as the window. If the keeper declines to change the water, the option shows the new water beside the
+// old list and plan; the number of an animal is then looked up in the table of the new water.
 #pragma once
 
 #include "logic/advisers/FantasyPlan.h"
@@ -14,9 +14,9 @@ class frm_Fantasy : public ChildForm, public Ui::frm_Fantasy
 public:
     explicit frm_Fantasy(const FormContext &context);
 
-    /// Shows itself, and the reminder over it.
+    /// Shows the window, and over it a reminder.
     void Form_Load();
-    /// Empties the tank after a question. Nothing calls it so far: it waits for a command of its own.
+    /// Empties the tank after a question. Nothing calls it at present.
     void ConfirmResetFantasyTank();
 
 protected:

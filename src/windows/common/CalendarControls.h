@@ -1,5 +1,5 @@
-// The controls of the calendar picker: the cell of a day, the labels with a menu, the scroll bars. They are drawn in
-// the colours of the palette, at any font and scale. Only frm_Caltool uses them, and its tests.
+// The controls of the calendar: the cell of a day, the labels that open a menu, and the scroll bars. They are painted
+// in the colours of the palette, for any font and scale. Only frm_Caltool and its tests use them.
 #pragma once
 
 #include <QDate>
@@ -11,7 +11,7 @@
 
 #include "text/Dates.h"
 
-/// One cell of the month. It leaves the keys that move between days to its window.
+/// One cell of the month. It passes the keys that move between days on to its window.
 class DayButton : public QPushButton
 {
 public:
@@ -22,14 +22,14 @@ public:
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
 
-    /// Day 0 is an empty cell. The date is the day in words.
+    /// Day 0 makes an empty cell. `date` gives its accessible name.
     void showDay(int day, const QDate &date, bool selected, bool today)
     {
         setText(day > 0 ? QString::number(day) : QString());
         setEnabled(day > 0);
         setAccessibleName(Format(date, QStringLiteral("dddd mm/dd/yyyy")));
         setAccessibleDescription(today ? QStringLiteral("Today") : QString());
-        setFocusPolicy(selected ? Qt::StrongFocus : Qt::NoFocus); // one stop of the Tab key for the whole month
+        setFocusPolicy(selected ? Qt::StrongFocus : Qt::NoFocus); // Tab stops only once in the month
         m_selected = selected;
         m_today = today;
         update();
@@ -89,7 +89,7 @@ private:
     bool m_today = false;
 };
 
-/// A label that a click, or the space bar, opens a menu below.
+/// A label; a click or the space bar opens a menu below it.
 class MenuPanel : public QPushButton
 {
 public:
@@ -130,7 +130,7 @@ protected:
     }
 };
 
-/// A scroll bar of the calendar; shows where the focus is.
+/// A scroll bar that shows whether it has the focus.
 class MonthBar : public QScrollBar
 {
 public:
@@ -142,7 +142,7 @@ public:
         setRange(min, max);
         setPageStep(pageStep);
         setFocusPolicy(Qt::TabFocus); // a click leaves the focus on the day
-        setTracking(false);           // a day that some month in between has not is not lost on the way
+        setTracking(false);           // months passed on the way must not shorten the day
     }
 
 protected:

@@ -1,4 +1,5 @@
-// Date boxes that every tool has: two digits for day, month and year in the user's order, and a calendar beside them.
+// Date boxes: masked boxes for a date, with two digits each for day, month and year in the user's date order. A
+// calendar button stands beside each.
 #pragma once
 
 #include <optional>
@@ -10,12 +11,12 @@ struct DateConventions;
 struct Globals;
 struct OptionsMembers;
 
-/// Empties the box, gives it the user's delimiter between the digits, and makes it as wide as a date is in its font.
+/// Empties the box, sets its mask with the user's delimiter, and makes it wide enough for a date in its font.
 void UseDateOrder(MaskedBox &box, const OptionsMembers &options);
 
-/// Shows the calendar on that day, on today where there is none. Gives the day that was chosen; nothing where none was.
+/// Opens the calendar at `shown`, or at today if there is no date. Returns the day that was chosen, if any.
 std::optional<QDate> AskCalendar(Globals &globals, const std::optional<QDate> &shown);
 
-/// Shows the day in a box whose text is read as typed. A day that the box would read as another, because its year has
-/// only two digits, is told, and the box keeps what it had.
+/// Puts the day into a date box. If the box would read it as another day, because its year has only two digits, a
+/// message says so and the box keeps its text.
 void PutDay(MaskedBox &box, const QDate &day, const DateConventions &dates);

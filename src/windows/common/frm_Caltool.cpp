@@ -32,8 +32,8 @@ constexpr MonthEntry monthEntries[] = {
 constexpr int twipsPerPixel = 15;
 const QString datePicture = QStringLiteral("mm/dd/yyyy"); // four digits, so that the century is kept
 
-/// Number of days of a month given as "MMYY". Its year is read as two digits of any typed year are, so that the
-/// February of a century year (1900, 2100) is as long as that of 2000.
+/// The number of days of a month given as "MMYY". Its year is read like any year typed with two digits, so that the
+/// February of a century year (1900, 2100) has as many days as that of 2000.
 int daysInMonth(const QString &monthAndYear)
 {
     for (int day = 31; day > 28; --day)
@@ -44,7 +44,7 @@ int daysInMonth(const QString &monthAndYear)
 
 int daysInMonth(const QDate &date) { return daysInMonth(Format(date, QStringLiteral("MMYY"))); }
 
-/// That day of the month, or the last one there is.
+/// That day of the month, or the last day if the month is shorter.
 QDate dayOfMonth(int year, int month, int day)
 {
     const QDate first(year, month, 1);
@@ -85,7 +85,7 @@ void frm_Caltool::makeBars()
     scrYear->setValue(100);
     on(scrMonth, &QScrollBar::valueChanged, this, &frm_Caltool::scrMonth_change);
     on(scrYear, &QScrollBar::valueChanged, this, &frm_Caltool::scrYear_change);
-    // While the thumb is dragged only the label follows.
+    // Only the label follows while the slider is dragged.
     connect(scrMonth, &QScrollBar::sliderMoved, this,
             [this](int month) { panMonth->setText(QLatin1String(monthEntries[(month + 11) % 12].caption)); });
     connect(scrYear, &QScrollBar::sliderMoved, this, [this](int year) { panYear->setText(QString::number(year)); });
@@ -181,7 +181,7 @@ DayButton &frm_Caltool::selectedButton() { return *cmdDay[size_t(cellOfFirst(m_s
 void frm_Caltool::select(const QDate &date)
 {
     setSelected(date);
-    scrYear->setValue(date.year()); // each draws the month where its value changes
+    scrYear->setValue(date.year()); // these draw the month too, if their value changes
     scrMonth->setValue(date.month());
     drawMonth();
 }
@@ -197,13 +197,13 @@ void frm_Caltool::drawMonth()
 
     DayButton &chosen = selectedButton();
     chosen.setEnabled(true);
-    // The focus goes along before the cell that has it can go out of use.
+    // The focus moves first, because the cell that has it may be disabled below.
     if (std::find(cmdDay.begin(), cmdDay.end(), focusWidget()) != cmdDay.end())
         chosen.setFocus();
     for (int i = 0; i < int(cmdDay.size()); ++i) {
         DayButton &cell = *cmdDay[size_t(i)];
         const int day = i >= offset && i < offset + days ? i - offset + 1 : 0;
-        const QDate shown(date.year(), date.month(), day); // none for the extra day of a century year's February
+        const QDate shown(date.year(), date.month(), day); // invalid for the extra day of a century year's February
         cell.showDay(day, shown, &cell == &chosen, shown == today);
     }
     chosen.setDefault(true);
@@ -220,7 +220,7 @@ void frm_Caltool::goTo(int month, int year)
 
 void frm_Caltool::scrMonth_change()
 {
-    // The ends wrap without the year: passing December comes to January of the same year.
+    // The months wrap within the year: January of the same year follows December.
     if (scrMonth->value() == 13)
         scrMonth->setValue(1);
     else if (scrMonth->value() == 0)
@@ -249,7 +249,7 @@ void frm_Caltool::cmdDay_Click(int Index)
     Unload(*this);
 }
 
-void frm_Caltool::cmd_ok_Click() { Unload(*this); } // without a day clicked: the date of entry comes back
+void frm_Caltool::cmd_ok_Click() { Unload(*this); } // no day was clicked, so the original date is restored
 
 void frm_Caltool::Form_Activate()
 {

@@ -1,7 +1,6 @@
-// The calendar picker: a small modal window with one month, for every date box of the program (DateBoxes.h). One click
-// on a day is the choice; the button labelled OK, Esc and the title bar leave without one. Globals::calendar says
-// meanwhile, and afterwards, which date the window is on: "mm/dd/yyyy", whatever was handed in, and without a choice
-// the date of entry.
+// The calendar: a small modal window that shows one month, for every date box of the program (DateBoxes.h). A click on
+// a day chooses it; the OK button, Esc and the title bar close the window without a choice. Globals::calendar holds the
+// window's date as "mm/dd/yyyy", whatever form was handed in. Without a choice, it is the original date again.
 #pragma once
 
 #include <array>
@@ -23,14 +22,14 @@ class frm_Caltool : public DialogForm
 public:
     explicit frm_Caltool(const FormContext &context);
 
-    /// Shows the month of g.calendar.SelectedDate (month-first text; today where it is no date) and waits for the
-    /// choice, which it gives; nothing where there was none. A left or top of at least 1 twip, and within the screen,
-    /// moves the window there; 0 leaves it where it is.
+    /// Shows the month of g.calendar.SelectedDate (month-first text; today if it is not a date), waits for the choice,
+    /// and returns the chosen day, if any. A left or top of at least 1 twip within the screen moves the window there; 0
+    /// leaves it where it is.
     std::optional<QDate> ShowCalendar(int left, int top);
 
     QPushButton *panMonth;
     QPushButton *panYear;
-    QScrollBar *scrMonth; ///< 0 to 13: the ends wrap
+    QScrollBar *scrMonth; ///< 0 to 13, so that it can wrap at both ends
     QScrollBar *scrYear;  ///< 100 to 9999
     std::array<DayButton *, 42> cmdDay;
     QLabel *lblReturnDate;
@@ -56,16 +55,16 @@ private:
     void cmdDay_Click(int Index);
     void cmd_ok_Click();
 
-    /// Makes it the date in hand, and shows its month.
+    /// Selects the date and shows its month.
     void select(const QDate &date);
     void setSelected(const QDate &date);
-    /// Goes to a month and keeps the day, or takes the last one where the month has no such day.
+    /// Goes to a month and keeps the day, or takes the last day if the month is shorter.
     void goTo(int month, int year);
     void moveTo(int left, int top);
     void drawMonth();
     DayButton &selectedButton();
 
     QDate DateOnEntry;
-    QDate m_selected; ///< the date in hand
+    QDate m_selected; ///< the selected date
     bool m_picked = false;
 };

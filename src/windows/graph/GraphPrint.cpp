@@ -1,4 +1,4 @@
-// How the graph comes on paper.
+// Prints the graph.
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
@@ -23,7 +23,7 @@ const QString makers = QStringLiteral(" The makers of Ostrelmark, Port Ostrel");
 
 } // namespace
 
-/// Offers to maximise the window; false where the keeper would rather not print.
+/// Offers to maximise the window. Returns false if the keeper cancels the printing.
 bool frm_WaterGraph::mayPrintAsItIs()
 {
     QWidget *frame = parentWidget();
@@ -42,13 +42,13 @@ void frm_WaterGraph::PrintGraph()
     const Forms::Pin whileItPrints(*this);
     if (!mayPrintAsItIs())
         return;
-    titleChart(); // and it keeps its title
+    titleChart(); // the title stays on the chart
     RunReport({QStringLiteral("Print Water Quality Graph"), QStringLiteral("Ostrelmark Water Quality Graph"), true,
                [] { return true; }, [this](Printer &page) { printPage(page); }},
               PrintTarget::Printer);
 }
 
-// The chart fills the page below its first tenth, but for the line at the foot.
+// The chart fills the page except for the first tenth and the line at the foot.
 void frm_WaterGraph::printPage(Printer &page)
 {
     Chart1->EditCopy();

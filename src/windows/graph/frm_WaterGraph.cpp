@@ -43,7 +43,7 @@ const QString notEnoughText =
     QStringLiteral("Remember, you need to have at least 2 water quality log entries for a tank in order to create a "
                    "graph. Select another tank or add more water quality entries.");
 
-/// A rule of four lines across the window, engraved.
+/// An engraved rule across the window, made of four lines.
 QWidget *makeRule()
 {
     auto *rule = new QWidget;
@@ -71,7 +71,7 @@ template <class T> T *named(T *control, const char *name)
 
 frm_WaterGraph::frm_WaterGraph(const FormContext &context) :
     ChildForm(context), tanklistbox(named(new QComboBox, "tanklistbox")), Chart1(named(new Chart, "Chart1")),
-    // The captions say 25 and a page is 20: keepers know them so.
+    // The captions say 25 although a page has 20 entries; keepers know them that way.
     cmd_Next(named(new QPushButton(QStringLiteral("View Next 25 entries")), "cmd_Next")),
     cmd_Previous(named(new QPushButton(QStringLiteral("View Previous 25 Entries")), "cmd_Previous")),
     pic_HiddenPicForPrinting(named(new QLabel(this), "pic_HiddenPicForPrinting"))
@@ -128,7 +128,7 @@ void frm_WaterGraph::Form_Load()
 
 void frm_WaterGraph::Form_Activate() { main.offerPrint(*this, true); }
 
-/// The list stays as it is where the tanks do: a pick in the list that is open is not lost.
+/// If the tanks have not changed, the list is not refilled, so that an open list does not lose the keeper's choice.
 void frm_WaterGraph::refillList()
 {
     std::vector<std::pair<QString, QString>> shown, present; // name and id
@@ -142,7 +142,7 @@ void frm_WaterGraph::refillList()
     tanklistbox->clear();
     for (const auto &[name, id] : present)
         tanklistbox->addItem(name, id);
-    tanklistbox->setCurrentIndex(tanklistbox->findData(selected)); // by its id: it may have been renamed
+    tanklistbox->setCurrentIndex(tanklistbox->findData(selected)); // by id, because the tank may have been renamed
     if (m_drawnTank.isEmpty())
         return;
     if (tanklistbox->findData(m_drawnTank) < 0)
@@ -158,17 +158,17 @@ void frm_WaterGraph::Follow_Tanks()
         return;
     tanklistbox->setCurrentIndex(std::max(0, firstLineWithAGraph()));
     m_paging.restart();
-    drawPage(); // nobody asked for a drawing, so no box tells where there is none
+    drawPage(); // the keeper did not ask for a graph, so no message says if there is none
 }
 
-/// -1 where no tank has tests enough.
+/// Returns -1 if no tank has enough tests.
 int frm_WaterGraph::firstLineWithAGraph()
 {
     Recordset tank = g.gDatabase->OpenRecordset(firstWithAGraph);
     return tank.isEmpty() ? -1 : tanklistbox->findData(tank[QStringLiteral("tankid")].text());
 }
 
-/// Line of the tank in hand; with none in hand, or all of them, the graph goes on with the one that it shows.
+/// The line of the current tank. If there is none, or it is "All Tanks", the graph keeps the tank that it shows.
 int frm_WaterGraph::lineInHand()
 {
     const bool all = g.gTankName == allTanks && g.gTankId == allTanks;
@@ -201,7 +201,7 @@ void frm_WaterGraph::GraphChart()
         tellNotEnough();
 }
 
-/// Another tank than the one selected begins with its first page.
+/// Makes the tank of that line the current one. If it was not selected, it starts with its first page.
 void frm_WaterGraph::takeInHand(int line)
 {
     g.gTankName = tanklistbox->itemText(line);
@@ -217,7 +217,7 @@ std::vector<GraphColumn> frm_WaterGraph::columns() const
     return GraphColumns(g.options.GraphChecks, g.userFieldNames());
 }
 
-/// The page of the tank selected; false where it makes no graph, and then the chart stays as it is.
+/// Draws the page of the selected tank. Returns false if there is nothing to draw; then the chart does not change.
 bool frm_WaterGraph::drawPage()
 {
     const QString tank = tanklistbox->currentData().toString();
@@ -260,7 +260,7 @@ void frm_WaterGraph::draw(const std::vector<GraphColumn> &columns, const Rows &r
             Chart1->setColumnLabel(columns[size_t(column)].label);
             const int field = rows.column(columns[size_t(column)].field);
             if (!skipZeroes || rows.number(row, field) != 0)
-                Chart1->setData(rows.text(row, field)); // of no value at all, an empty text: a blank cell
+                Chart1->setData(rows.text(row, field)); // an empty text if there is no value, which makes a blank cell
         }
         Chart1->setRowLabel(Format(rows.date(row, dates), QStringLiteral("m/d")));
     }
@@ -268,7 +268,7 @@ void frm_WaterGraph::draw(const std::vector<GraphColumn> &columns, const Rows &r
         QStringLiteral("Page %1, %2 of %3 entries").arg(m_paging.page()).arg(rows.count()).arg(m_paging.total()));
 }
 
-/// The tank selected may have no graph, and then the chart is still that of another.
+/// If the selected tank has no graph, the chart still shows another one.
 QString frm_WaterGraph::drawnName() const
 {
     const int line = tanklistbox->findData(m_drawnTank);
@@ -278,7 +278,7 @@ QString frm_WaterGraph::drawnName() const
 void frm_WaterGraph::nameChart()
 {
     Chart1->setAccessibleName(QStringLiteral("Water quality graph of ") + drawnName());
-    if (!Chart1->TitleText().isEmpty()) // it keeps a title from its first printing on
+    if (!Chart1->TitleText().isEmpty()) // the chart has a title once it has been printed
         titleChart();
 }
 
@@ -292,7 +292,7 @@ void frm_WaterGraph::tellNotEnough()
     cmd_Previous->setEnabled(false);
 }
 
-// The button that was pressed keeps it.
+// If a button in the window was pressed, it keeps the focus.
 void frm_WaterGraph::takeFocus()
 {
     if (isVisible() && !isAncestorOf(QApplication::focusWidget()))

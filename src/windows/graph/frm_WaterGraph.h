@@ -1,6 +1,6 @@
-// The graph of a tank's water tests: a page of tests as a chart, with the measurements and the style that the Options
-// window keeps, which a right click opens. Draws the tank in hand; a tank chosen in its list becomes the tank in hand.
-// Prints the chart. Reads the database and writes nothing.
+// The graph of a tank's water tests: it shows a page of tests as a chart, with the measurements and the style chosen in
+// the Options window, which a right click opens. It draws the current tank, and a tank chosen in its list becomes the
+// current one. It prints the chart, reads the database and writes nothing.
 #pragma once
 
 #include <vector>
@@ -20,13 +20,13 @@ class frm_WaterGraph : public ChildForm
 public:
     explicit frm_WaterGraph(const FormContext &context);
 
-    /// Draws the tank in hand, its page and the options as they are now. Where that makes no graph, a box says why and
-    /// the chart stays as it stands.
+    /// Draws the current page of the current tank with the present options. If that is not possible, a message says why
+    /// and the chart does not change.
     void GraphChart();
-    /// Offers the tanks that there are now. The one selected stays so; where it is gone, the first one that makes a
-    /// graph is drawn in its place. The tank in hand stays as it is.
+    /// Updates the list of tanks. The selected tank stays selected; if it is gone, the first tank that has a graph is
+    /// drawn instead. The current tank does not change.
     void Follow_Tanks();
-    /// Prints the chart on a landscape page, once for each copy; each time the clipboard gets its picture too.
+    /// Prints the chart on a landscape page, once for each copy, and copies its picture to the clipboard each time.
     void PrintGraph();
 
     void Form_Load();
@@ -37,7 +37,7 @@ public:
     Chart *Chart1;
     QPushButton *cmd_Next;
     QPushButton *cmd_Previous;
-    QLabel *pic_HiddenPicForPrinting; ///< holds the picture that was printed
+    QLabel *pic_HiddenPicForPrinting; ///< holds the printed picture
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -66,5 +66,5 @@ private:
     void Chart1_MouseUp(Qt::MouseButton button, const QPoint &position);
 
     GraphPaging m_paging;
-    QString m_drawnTank; ///< id of the tank whose tests the chart shows; empty where nothing was drawn
+    QString m_drawnTank; ///< the id of the tank in the chart; empty if nothing was drawn
 };

@@ -1,4 +1,4 @@
-// The livestock window's list of animals: from the database, or from a name file, for fresh water or for the sea.
+// Fills the livestock window's list of animals, from the database or from a name file, for freshwater or saltwater.
 #include <algorithm>
 #include <numeric>
 
@@ -16,11 +16,11 @@
 /// What differs between the two waters.
 struct frm_LivesAddEdit::Source
 {
-    const char *file;       ///< as it is opened
+    const char *file;       ///< the name under which it is opened
     const char *inMessage;  ///< "saltwater names (NAMESSW.TXT)"
-    const char *cannotView; ///< what cannot be seen, when the file fails while it is read
+    const char *cannotView; ///< what the message says cannot be viewed, if reading the file fails
     const char *animalType;
-    const char *waterTypes; ///< the tanks whose animals belong to the list
+    const char *waterTypes; ///< the water types of the tanks whose animals belong to the list
 };
 
 const frm_LivesAddEdit::Source frm_LivesAddEdit::saltSource = {"namessw.txt", "saltwater names (NAMESSW.TXT)",
@@ -30,7 +30,7 @@ const frm_LivesAddEdit::Source frm_LivesAddEdit::freshSource = {"NAMESFW.txt", "
 
 namespace {
 
-// Both waters say "freshwater names" where the file is missing.
+// If the file is missing, the message says "freshwater names" for both waters.
 QString missingText(const char *names, const char *cannotView)
 {
     return QStringLiteral("The file containing the %1 is missing or not in the correct format. You will not be able to "
@@ -41,7 +41,7 @@ QString missingText(const char *names, const char *cannotView)
         .arg(QLatin1String(names), QLatin1String(cannotView), makersAddress);
 }
 
-/// In the order of the alphabet, whatever the case of the letters.
+/// Sorts alphabetically, ignoring case.
 QStringList sorted(QStringList names)
 {
     std::vector<QString> keys;

@@ -52,7 +52,7 @@ QPushButton *EntryForm::makeCalendarButton(const char *name, const QString &what
 QBoxLayout *EntryForm::withCalendar(MaskedBox *date, QPushButton *calendar)
 {
     auto *row = new QHBoxLayout;
-    row->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing)); // in a grid it would be none
+    row->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing)); // inside a grid it would be 0
     row->addWidget(date);
     row->addWidget(calendar);
     row->addStretch(1);
@@ -86,8 +86,8 @@ QComboBox *EntryForm::makeCombo(const char *name)
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(24);
-    qobject_cast<QListView *>(combo->view())->setUniformItemSizes(true); // names by the ten thousand, each a line high
-    // The combo box would put an item in place of the text that is like it but for the case of its letters.
+    qobject_cast<QListView *>(combo->view())->setUniformItemSizes(true); // fast, even for tens of thousands of names
+    // Otherwise the combo box would replace a typed text by an item that differs from it only in case.
     QObject::disconnect(combo->lineEdit(), SIGNAL(editingFinished()), combo, nullptr);
     combo->completer()->setCompletionMode(QCompleter::PopupCompletion);
     combo->completer()->setFilterMode(Qt::MatchContains);
@@ -106,7 +106,7 @@ void EntryForm::arrange(QWidget *page, const char *tabCaption, QPushButton *ok, 
     auto *tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("SSTab1"));
     tabs->addTab(page, QLatin1String(tabCaption));
-    tabs->setFocusPolicy(Qt::NoFocus); // a single tab: nothing to choose
+    tabs->setFocusPolicy(Qt::NoFocus); // there is only one tab
     auto *buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(ok);
@@ -130,7 +130,7 @@ void EntryForm::pickDate(MaskedBox &box)
     const DateConventions dates{g.options.DateOrder, g.options.DatePicture};
     const auto held = ReadDate(NormalizeDateText(box.Text(), dates.order));
     const auto chosen = AskCalendar(g, held);
-    PutDay(box, chosen.value_or(held.value_or(Now().date())), dates); // without a choice, too, an empty box gets a date
+    PutDay(box, chosen.value_or(held.value_or(Now().date())), dates); // an empty box gets a date anyway
 }
 
 bool EntryForm::isDate(const MaskedBox &box) const
@@ -140,7 +140,7 @@ bool EntryForm::isDate(const MaskedBox &box) const
 
 void EntryForm::beginAgain(Recordset &row)
 {
-    if (row.isEmpty()) // opened for adding
+    if (row.isEmpty()) // it was opened for adding
         row.AddNew();
     else
         row.Edit();

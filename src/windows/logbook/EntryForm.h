@@ -1,7 +1,7 @@
-// What the entry windows of the three logs have in common: date boxes in the user's order with a calendar beside them,
-// a time box, the box that refuses a value, the closing buttons; and the row that OK writes, with the tank that the
-// entry belongs to. Both are the window's own: while it is open, other windows may take another tank in hand. What
-// differs (checks, their order and words) is each window's own.
+// The base of the entry windows of the three logs. It makes the boxes for date and time, the calendar buttons and the
+// buttons that close the window, and it keeps the row that OK writes and the tank of the entry. Both belong to the
+// window, because other windows can change the current tank while it is open. Each window has its own checks, in its
+// own order and words.
 #pragma once
 
 #include <functional>
@@ -22,38 +22,38 @@ class EntryForm : public DialogForm
 protected:
     explicit EntryForm(const FormContext &context);
 
-    // Makers of controls, each under its name.
+    // These make a control and give it its object name.
     MaskedBox *makeDateBox(const char *name, const char *toolTip);
     MaskedBox *makeTimeBox(const char *name, const char *toolTip);
     QPushButton *makeCalendarButton(const char *name, const QString &whatFor);
     QBoxLayout *withCalendar(MaskedBox *date, QPushButton *calendar);
     QPushButton *makeButton(const char *name, const char *caption, bool isDefault);
     QPlainTextEdit *makeNotes(const char *name, const char *toolTip);
-    /// A box of free text with a list of what was used before; typing never changes what was typed.
+    /// A box for any text with a list of texts that were used before. It never changes what was typed.
     QComboBox *makeCombo(const char *name);
     QLabel *makeLabel(const char *caption, QWidget *buddy);
-    /// The page of the fields under its one tab, and the buttons below it.
+    /// Lays out the page of fields as the only tab, with the buttons below it.
     void arrange(QWidget *page, const char *tabCaption, QPushButton *ok, QPushButton *cancel);
 
-    /// Today and now, as a new entry starts.
+    /// Fills in the current date and time, for a new entry.
     void setToNow(MaskedBox &date, MaskedBox &time) const;
-    /// Opens the calendar on the box's date, or on today, and puts the choice into the box.
+    /// Opens the calendar at the date in the box, or at today, and puts the chosen day into the box.
     void pickDate(MaskedBox &box);
 
-    /// The date of a box, read in the user's order; nothing where it is none.
+    /// Whether the box holds a date, read in the user's date order.
     bool isDate(const MaskedBox &box) const;
 
-    /// Runs the storing; false, after a refusal in those words, where the entry's moment is taken. Other failures go
+    /// Runs `store`. If the moment of the entry is taken, shows `ifTaken` and returns false. Other failures are thrown
     /// on.
     bool stored(const std::function<void()> &store, const QString &ifTaken, QWidget *box);
 
-    /// Begins the row once more, so that nothing stays of a try that was refused.
+    /// Starts the row again, so that nothing of a refused attempt remains in it.
     static void beginAgain(Recordset &row);
-    /// Writes a box's text into the row, unless the box still shows what it was filled with from there.
+    /// Writes the text of a box into the row, unless the box still shows the text that it was filled with from there.
     void put(Recordset &row, const char *column, const QWidget &box) const;
     void putDate(Recordset &row, const char *column, const MaskedBox &box) const;
 
-    /// Shows the window with the focus in that box. `row` is what OK writes, begun by AddNew or Edit.
+    /// Shows the window with the focus in `first`. OK writes `row`, on which AddNew or Edit has been called.
     void showFor(const Recordset &row, const QString &tankId, QWidget *first);
 
     LeavingChecks m_checks;

@@ -1,6 +1,5 @@
-// The logbook's paths to its entries: add, change, delete and move, for the three logs. What the paths do alike is
-// written once; what differs (the words, how a date is read) stands side by side below, and the rest in the table of
-// the logs.
+// The logbook's commands for entries: add, change, delete and move, for the three logs. Their common parts are written
+// once. What differs in words or in how a date is read follows below, log by log; the rest is in the table of the logs.
 #include "logic/logbook/RowKey.h"
 #include "platform/controls/Caption.h"
 #include "platform/controls/MaskedBox.h"
@@ -18,12 +17,12 @@ namespace {
 const QString note = QStringLiteral("Note!");
 const QString ascending = QStringLiteral("ascending");
 
-// What does not happen where the row is not found.
+// What was not done, for the message if the row is not found.
 const QString deleted = QStringLiteral("deleted");
 const QString changed = QStringLiteral("changed");
 
-/// The entry of that tank, date and time. "IS" finds an entry without a date or a time as well, which only another
-/// program can have written.
+/// The condition that selects the entry of a tank, date and time. "IS" also finds an entry without a date or a time,
+/// which only another program can have written.
 QString isEntry(const LogKind &kind)
 {
     return QStringLiteral("%1 = ? AND %2 IS ? And %3 IS ?")
@@ -97,7 +96,7 @@ void frm_Waterlog::AddWaterEntry(const Tank &tank)
 
 void frm_Waterlog::Change_EntriesWater(const Tank &tank)
 {
-    // Its box says "delete" as well.
+    // The message says "delete" here as well; keepers know it that way.
     const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to delete"));
     auto row = entry ? rowOf(WaterTab, tank, *entry, entry->date, changed) : std::nullopt;
     if (!row)
@@ -115,7 +114,7 @@ void frm_Waterlog::Change_EntriesWater(const Tank &tank)
 
 frm_LivesAddEdit &frm_Waterlog::freshLivestockWindow(const Tank &tank)
 {
-    // A change of a maintenance entry may have left it loaded, with the lists of another tank's water.
+    // Changing a maintenance entry can leave this window loaded, with the lists for the water of another tank.
     if (auto *left = Forms::current().loaded<frm_LivesAddEdit>())
         Unload(*left);
     readWaterType(tank);
@@ -136,7 +135,7 @@ void frm_Waterlog::AddLivestockEntry(const Tank &tank)
 void frm_Waterlog::Change_EntriesLives(const Tank &tank)
 {
     const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to change."));
-    // The name is not part of the condition: of two animals of one second the first row is taken.
+    // The name is not part of the condition: if two animals have the same date and time, the first row is taken.
     auto row = entry ? rowOf(LivestockTab, tank, *entry, entry->date, changed) : std::nullopt;
     if (!row)
         return;
@@ -160,11 +159,11 @@ void frm_Waterlog::AddMaintEntry(const Tank &tank)
 
 void frm_Waterlog::Change_EntriesMaint(const Tank &tank)
 {
-    // Its box says "delete" as well.
+    // The message says "delete" here as well; keepers know it that way.
     const auto entry = selectedEntry(QStringLiteral("You must first select a log entry to delete"));
     if (!entry)
         return;
-    // A stray step that stays: the time goes into the livestock window, which is loaded for it and stays hidden.
+    // This step has no use but is kept: it loads the livestock window, hidden, and puts the time into it.
     Form<frm_LivesAddEdit>().txt_timeadded->setText(TimeOfKey(entry->key));
     auto row = rowOf(MaintenanceTab, tank, *entry, dateAsTyped(*entry), changed);
     if (!row)

@@ -1,4 +1,4 @@
-// The logbook's commands and events: what the menus, the toolbar, the tree and the lists call.
+// The logbook's commands and event handlers, which the menus, the toolbar, the tree and the lists call.
 #include <QMenu>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -47,7 +47,7 @@ void frm_Waterlog::Change_Entries() { (this->*log().change)(takeTankInHand()); }
 
 void frm_Waterlog::Delete_Entries() { (this->*log().remove)(takeTankInHand()); }
 
-// The graph, in front; it draws the tank in hand.
+// Brings the graph to the front, which draws the current tank.
 void frm_Waterlog::Graph_Entries()
 {
     takeTankInHand();
@@ -95,7 +95,7 @@ void frm_Waterlog::Follow_Tanks()
 void frm_Waterlog::Refresh_Listview(const QString &order)
 {
     if (!TreeView1->currentItem())
-        return; // a command before the first activation: the tree is not there yet
+        return; // called before the first activation, when the tree is still empty
     (this->*log().load)(order);
     Update_Menu_Captions();
 }
@@ -119,7 +119,7 @@ void frm_Waterlog::loadList(LogTab tab, const QString &order)
 
 void frm_Waterlog::readWaterType(const Tank &tank)
 {
-    Recordset found = g.gDatabase->OpenRecordset(waterTypeByName, {tank.name}); // the one look-up by name
+    Recordset found = g.gDatabase->OpenRecordset(waterTypeByName, {tank.name}); // the only look-up by name
     if (!found.isEmpty())
         g.gTankWaterType = found[QStringLiteral("TankWaterType")].text();
 }
@@ -159,7 +159,7 @@ void frm_Waterlog::Update_Menu_Captions()
     menu.mnu_TankProperties->Enabled(tank);
     menu.mnu_TankDelete->Enabled(tank);
     menu.mnu_LogPopup->setEnabled(tank);
-    // The last word on the graph, whatever the number of entries: the graph window tells when there are too few.
+    // The graph's button does not depend on the number of entries: the graph window says so if there are too few.
     button(QStringLiteral("graphentries")).Enabled(tank);
     enableLogCommands();
 }
@@ -168,7 +168,7 @@ void frm_Waterlog::enableLogCommands()
 {
     const MainMenu &menu = main.menu();
     const bool tank = isTankSelected();
-    const bool inFront = main.isInFront(*this); // its lists are filled behind other windows as well
+    const bool inFront = main.isInFront(*this); // the lists are also filled while another window is in front
     for (MenuEntry *entry : {menu.mnu_FileNew, menu.mnu_FileOpen, menu.mnu_FileDelete})
         entry->Enabled(tank && inFront);
     menu.mnu_FileMoveEntry->Enabled(inFront && tab() == LivestockTab);
@@ -185,7 +185,7 @@ void frm_Waterlog::ColumnClick(ListView &list, int index)
         list.setSort(true, index - 1, again ? 1 - list.SortOrder() : 0);
         return;
     }
-    // The first column is the date: a sort of its text would be wrong, so the database gives the order.
+    // The first column is the date. Sorting by its text would give a wrong order, so the database sorts.
     const bool descending = list.SortKey() == 0 && list.SortOrder() == 0;
     list.setSort(false, 0, descending ? 1 : 0);
     Refresh_Listview(descending ? QStringLiteral("descending") : ascending);
@@ -195,7 +195,7 @@ void frm_Waterlog::list_Click() { enableLogCommands(); }
 
 void frm_Waterlog::list_MouseUp(Qt::MouseButton button, const QPoint &position)
 {
-    if (button == Qt::RightButton && isTankSelected()) // with "All Tanks" there would be nothing to choose in it
+    if (button == Qt::RightButton && isTankSelected()) // the menu has no command for "All Tanks"
         main.menu().mnu_LogPopup->popup(position);
 }
 
@@ -219,9 +219,9 @@ void frm_Waterlog::Form_Activate()
         FirstActivation = false;
         return;
     }
-    takeTankInHand(); // the graph may have taken another
+    takeTankInHand(); // the graph may have changed the current tank
     main.offerPrint(*this, isTankSelected(), printCaption);
-    enableLogCommands(); // with "All Tanks" in hand they stay disabled
+    enableLogCommands(); // they stay disabled while "All Tanks" is selected
 }
 
 void frm_Waterlog::disableFileEntries()

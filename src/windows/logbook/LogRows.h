@@ -1,4 +1,4 @@
-// The rows of a log as the logbook's lists show them.
+// The rows that the logbook's lists show.
 #pragma once
 
 #include <memory>
@@ -8,7 +8,7 @@
 #include "platform/controls/ListView.h"
 #include "store/Rows.h"
 
-/// The entry of a row.
+/// Identifies the entry that a row shows.
 struct ShownEntry
 {
     QString key;
@@ -16,7 +16,7 @@ struct ShownEntry
     QTime time;
 };
 
-/// Shows the rows of a log as they were read; cells are made text when they are painted or sorted.
+/// Shows the rows of a log as they were when they were read. The text of a cell is made when it is painted or sorted.
 class LogRows : public ListSource
 {
 public:
@@ -25,7 +25,8 @@ public:
     int count() const override;
     QString text(int row, int column) const override;
     QString key(int row) const override;
-    /// The entry's own date and time; a row's text has only two digits of the year. Invalid where the entry has none.
+    /// The date and time of the entry, because a row's text has only two digits of the year. Invalid if the entry has
+    /// none.
     QDate date(int row) const { return m_rows->date(row, m_date); }
     QTime time(int row) const { return m_rows->time(row, m_time); }
 
@@ -42,7 +43,7 @@ private:
     std::vector<Cell> m_cells;
     int m_date;
     int m_time;
-    int m_name; ///< -1 where there is none
+    int m_name; ///< -1 if there is none
     QString m_datePicture;
     QString m_timePicture;
 };

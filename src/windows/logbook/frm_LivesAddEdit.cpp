@@ -28,7 +28,7 @@ namespace {
 constexpr int longestName = 50;
 constexpr int longestStatus = 30;
 constexpr double mostAnimals = 32000;
-constexpr double beyondPrices = 1e12; ///< of any currency; up to here a hundredth is exact
+constexpr double beyondPrices = 1e12; ///< in any currency; below this a double holds hundredths exactly
 
 const QString note = QStringLiteral("Note!");
 const QString badDate = QStringLiteral("You must enter a valid date to add a livestock entry to the log.");
@@ -36,7 +36,7 @@ const QString badDate = QStringLiteral("You must enter a valid date to add a liv
 const QString places =
     QStringLiteral("SELECT distinct [where_purch] FROM livestock ORDER BY [where_purch] COLLATE CASEBLIND ASC");
 
-/// The words that are always offered, and those that earlier entries used.
+/// Selects the words that are always offered and those that earlier entries used.
 QString statuses()
 {
     QString sql = QStringLiteral("SELECT status FROM (SELECT Status as status FROM livestock");
@@ -141,7 +141,7 @@ QWidget *frm_LivesAddEdit::makePage()
 
 void frm_LivesAddEdit::Form_Load()
 {
-    // The water types 2 and 3 are the sea; brackish water and ponds get the freshwater list.
+    // Water types 2 and 3 are saltwater. Brackish water and ponds get the freshwater list.
     const bool sea = g.gTankWaterType == u"2" || g.gTankWaterType == u"3";
     (sea ? opt_Saltwater : opt_Fresh)->setChecked(true);
     fillCombo(*lst_where, places);
@@ -200,7 +200,8 @@ void frm_LivesAddEdit::txt_dateadded_ValidationError() { refuse(badDate, txt_Dat
 
 bool frm_LivesAddEdit::datesAndPricesAreGood()
 {
-    // It speaks of the date lost for both dates. The date acquired is tested by its text: an empty mask is refused.
+    // The message names the date lost for both dates. The date acquired is checked even if its mask is empty: an empty
+    // one is refused.
     const QString badLost = u"You must enter a valid date in " + g.options.DatePicture +
                             u" format to add a \"Date Lost\" to the livestock entry to the log.";
     if (!isDate(*txt_DateAdded))
@@ -226,7 +227,7 @@ bool frm_LivesAddEdit::priceIsGood(QLineEdit &box, const QString &name)
 bool frm_LivesAddEdit::fieldsAreGood()
 {
     const QString animal = lst_AnimalList->currentText();
-    // Exactly 50 and 30 characters and 32,000 animals pass, whatever the words say.
+    // Exactly 50 and 30 characters and exactly 32,000 animals are accepted, although the messages say "less than".
     if (animal.isEmpty())
         return refuse(
             QStringLiteral(
@@ -245,7 +246,7 @@ bool frm_LivesAddEdit::fieldsAreGood()
             QStringLiteral(
                 "Your quantity must be less than 32,000. (Besides, what size tank do you hold 32,000 fish in?)"),
             txt_quantity, note);
-    // What only the store would refuse is told here, in the words of the other windows.
+    // The store would refuse these texts; here the messages of the other windows are shown instead.
     if (!ReadNumber(txt_quantity->Text()))
         return refuse(QStringLiteral("Quantity entries must be a number."), txt_quantity);
     if (!IsBoxTime(txt_timeadded->Text()))
@@ -266,7 +267,7 @@ void frm_LivesAddEdit::store()
     put(row, "quantity", *txt_quantity);
     put(row, "Comment", *txt_Comment);
     put(row, "Status", *lst_Status);
-    // An empty price or date writes nothing: what was there stays.
+    // An empty price or date is not written: the stored value stays.
     if (!txt_pricepaid->text().isEmpty())
         put(row, "price_paid", *txt_pricepaid);
     if (!txt_pricesold->text().isEmpty())

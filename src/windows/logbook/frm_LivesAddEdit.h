@@ -1,6 +1,7 @@
-// One livestock entry: an animal, when it came, at which price, from where, and what became of it. The logbook opens
-// the row and fills the controls; OK tests them and writes them there. The list of animals comes from the database or
-// from a name file, for the water that the logbook has set (gTankWaterType), and can be switched.
+// One livestock entry: when an animal arrived, where it came from, what it cost, and what happened to it. The logbook
+// opens the row and fills the controls; OK checks them and writes them into the row. The list of animals comes from the
+// database or from a name file. At first it is the list for the water that the logbook has set (gTankWaterType); the
+// keeper can switch it.
 #pragma once
 
 #include "windows/logbook/EntryForm.h"
@@ -19,7 +20,7 @@ public:
     void setDateOrder();
     /// The values that a new entry starts with.
     void setDefaults();
-    /// The current row but for its date and time, which the logbook sets from the list.
+    /// Fills the boxes from the row, except for its date and time, which the logbook sets from its list.
     void load(Recordset &row);
     void ShowWindow(const Recordset &row, const QString &tankId);
 
@@ -51,7 +52,7 @@ private:
     QWidget *makePage();
     void makeControls();
     QWidget *makeListType();
-    /// What was used before, in the order of the alphabet, without blanks.
+    /// Fills a box with the texts that were used before, without blank ones. `sql` selects and sorts them.
     void fillCombo(QComboBox &combo, const QString &sql);
     void listFromFile(const Source &source);
     void listFromDatabase(const Source &source);
@@ -60,7 +61,7 @@ private:
     void showAnimals(const QStringList &names);
     void tell(const QString &progress);
 
-    /// Checks in their order; false, after its box, at the first fault.
+    /// Runs the checks in their order. At the first fault it shows the message and returns false.
     bool fieldsAreGood();
     bool datesAndPricesAreGood();
     bool priceIsGood(QLineEdit &box, const QString &name);

@@ -39,9 +39,9 @@ void frm_LivesMove::store()
     Recordset tank = g.gDatabase->OpenRecordset(tankByName, {lst_tanklist->currentItem()->text()});
     tank.MoveFirst();
     const QString id = tank[QStringLiteral("tankid")].text();
-    m_row.Edit(); // begun afresh: the date of a try that was refused must not stay
+    m_row.Edit(); // started again, so that the date of a refused attempt does not remain
     if (chk_ChangeDate->isChecked()) {
-        const QDateTime now = Now(); // asked once: between two readings the day may change
+        const QDateTime now = Now(); // read once, because the day may change between two readings
         m_row[QStringLiteral("dateadded")].setValue(Format(now.date(), QStringLiteral("mm/dd/yy")));
         m_row[QStringLiteral("timeadded")].setValue(Format(now.time(), QStringLiteral("hh:mm:ss am/pm")));
     }

@@ -1,5 +1,5 @@
-// Asks for the tank to which an animal moves. The logbook opens the row; OK gives it to the other tank, and if asked
-// for with the present date and time.
+// Asks for the tank to which an animal moves. The logbook opens the row; OK assigns it to the chosen tank and, if the
+// keeper asks for it, sets its date and time to now.
 #pragma once
 
 #include "ui_frm_LivesMove.h"

@@ -151,7 +151,7 @@ void frm_MaintAddEdit::ShowWindow(const Recordset &row, const QString &tankId) {
 
 bool frm_MaintAddEdit::txt_logdate_LostFocus()
 {
-    // As it stands: month first, or else in the user's order.
+    // The text is read month first, or in the user's date order if that gives no date.
     return ReadTypedDate(txt_logdate->Text(), g.options.DateOrder) || refuse(badDate, txt_logdate);
 }
 
@@ -182,7 +182,7 @@ bool frm_MaintAddEdit::store()
     const QString task = lst_mainttasklist->currentText();
     if (task.isEmpty())
         return refuse(QStringLiteral("You must enter a task for your entry"), lst_mainttasklist, note);
-    if (task.size() > longestTask) // 50 pass
+    if (task.size() > longestTask) // exactly 50 are accepted
         return refuse(QStringLiteral("Your task description must be less than 50 characters."), lst_mainttasklist,
                       note);
     put(row, "maintlogtask", *lst_mainttasklist);

@@ -1,5 +1,6 @@
-// One maintenance entry: a task, when it was done, how much of what. The logbook opens the row and fills the controls;
-// OK writes and tests by turns. What a refused try has written is overwritten by the next, and lapses on Cancel.
+// One maintenance entry: a task, when it was done, and how much of what was used. The logbook opens the row and fills
+// the controls. OK checks and writes one field after the other: what a refused attempt wrote into the row is
+// overwritten by the next one and discarded by Cancel.
 #pragma once
 
 #include "windows/common/DateBoxes.h"
@@ -38,7 +39,7 @@ private:
     void makeControls();
     QWidget *makePage();
     void connectAll();
-    /// Writes and tests by turns; false, after its box, at the first fault.
+    /// Checks and writes one field after the other. At the first fault it shows the message and returns false.
     bool store();
 
     bool txt_logdate_LostFocus();

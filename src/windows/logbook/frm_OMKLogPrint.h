@@ -1,4 +1,4 @@
-// Asks which log is to be printed, for this tank or all, and where to: printer, screen or file. Lives for one report.
+// Asks which log is to be printed, for this tank or for all, and where: printer, screen or file. Lives for one report.
 #pragma once
 
 #include "logic/logbook/LogKinds.h"
@@ -11,7 +11,7 @@ class frm_OMKLogPrint : public DialogForm, public Ui::frm_OMKLogPrint
 public:
     explicit frm_OMKLogPrint(const FormContext &context);
 
-    /// Offers that log of that tank first, and shows the window.
+    /// Shows the window with that log and that tank selected.
     void ShowFor(LogTab log, const QString &tankId);
 
 private:

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int columnsOfGrid = 3;
 constexpr int longestNumber = 64;
-constexpr int digitsInSight = 10; ///< however long the names of the keeper's own two are
+constexpr int digitsInSight = 10; ///< even if the names of the user-defined measurements are long
 constexpr int highestPosition = 10000;
 
 const QString badTime =
@@ -134,7 +134,7 @@ QString frm_WaterAddEdit::nameOf(const MeasurementRow &measurement) const
     return NameOf(measurement, measurement.entry.name, g.userFieldNames());
 }
 
-/// Sets the up-down before the box, because its Change writes into the box.
+/// Sets the up-down first, because its Change() writes into the box.
 void frm_WaterAddEdit::set(const Line &line, int position, const QString &text)
 {
     line.upDown->setValue(position);
@@ -157,7 +157,7 @@ void frm_WaterAddEdit::load(Recordset &row)
     for (const Line &line : m_lines) {
         const MeasurementEntry &entry = line.measurement->entry;
         const Value value = row[QLatin1String(line.measurement->column)].value();
-        const double number = value.toDoubleOr(0); // another program may have left it out
+        const double number = value.toDoubleOr(0); // another program may have left it empty
         const double position = qBound(0.0, std::round(number * entry.positionsPerUnit), double(highestPosition));
         set(line, static_cast<int>(position), Format(number, QLatin1String(entry.rowPicture)));
         if (!value.isNull())

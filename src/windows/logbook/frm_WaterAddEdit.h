@@ -1,6 +1,6 @@
-// One water test: its measurements, date, time and comment. The logbook opens the row, fills the controls and
-// shows the window; OK writes the controls into that row, so the window does not know whether it adds or changes. A
-// number is tested when the focus leaves its box, and once more before OK stores.
+// One water test: its measurements, date, time and comment. The logbook opens the row, fills the controls and shows the
+// window; OK writes the controls into that row, so the window does not know whether it adds or changes an entry. A
+// number is checked when the focus leaves its box, and again before OK stores.
 #pragma once
 
 #include <array>
@@ -20,9 +20,9 @@ public:
 
     void Form_Load();
     void setDateOrder() { UseDateOrder(*txt_date, g.options); }
-    /// The values that a new test starts with, by the default water type and not by the tank's.
+    /// The values that a new test starts with. They depend on the default water type, not on that of the tank.
     void setDefaults(const QString &waterType);
-    /// The current row's measurements and comment; the logbook has set its date and time.
+    /// Fills the boxes from the row, except for its date and time, which the logbook has set.
     void load(Recordset &row);
     void ShowWindow(const Recordset &row, const QString &tankId);
 
@@ -49,11 +49,11 @@ private:
     QString nameOf(const MeasurementRow &measurement) const;
     static void set(const Line &line, int position, const QString &text);
 
-    /// Leaving a number box: one bad text can bring up both boxes.
+    /// Runs when the focus leaves a number box. One bad text can bring up both messages.
     bool numberIsGood(const Line &line);
     bool txt_date_LostFocus();
     bool txt_time_LostFocus();
-    /// A key that the mask refuses.
+    /// The mask has refused a key.
     void txt_date_ValidationError();
     void txt_time_ValidationError();
     void upDown_Change(const Line &line);

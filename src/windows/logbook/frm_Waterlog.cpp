@@ -23,7 +23,7 @@ struct ButtonRow
 {
     const char *key;
     const char *toolTip;
-    Command command; ///< null: not there yet
+    Command command; ///< null if there is none yet
     bool groupBefore;
 };
 
@@ -102,8 +102,8 @@ void frm_Waterlog::makeTree()
     TreeView1->setUniformRowHeights(true);
     TreeView1->setMinimumWidth(110);
     TreeView1->setContextMenuPolicy(Qt::CustomContextMenu);
-    // A node is chosen by mouse or keys, and a click on the chosen one reloads it; a click that chooses must not load
-    // twice.
+    // A node can be chosen by mouse or keys, and a click on the chosen node reloads its list. A click that chooses a
+    // node must not load the list twice.
     connect(TreeView1, &QTreeWidget::currentItemChanged, this, guarded([this] {
                 m_nodeJustChanged = QApplication::mouseButtons() != Qt::NoButton;
                 TreeView1_NodeClick();
@@ -116,7 +116,7 @@ void frm_Waterlog::makeTree()
                 m_nodeJustChanged = false;
                 TreeView1_MouseUp(TreeView1->viewport()->mapToGlobal(position));
             }));
-    OnListKey(*TreeView1, Qt::Key_Insert, button(QStringLiteral("addentries"))); // an entry of the tank chosen by keys
+    OnListKey(*TreeView1, Qt::Key_Insert, button(QStringLiteral("addentries"))); // for a tank chosen by keys
 }
 
 void frm_Waterlog::makeLists()
@@ -151,7 +151,7 @@ void frm_Waterlog::connectList(ListView &list, LogTab tab)
     OnListKey(list, Qt::Key_Insert, button(QStringLiteral("addentries")));
     connect(&list, &ListView::MouseUp, this,
             guarded([this](Qt::MouseButton button, const QPoint &position) { list_MouseUp(button, position); }));
-    if (tab != LivestockTab) // the livestock list has no such handler
+    if (tab != LivestockTab) // the livestock list has no handler for clicks
         on(&list, &ListView::Click, this, &frm_Waterlog::list_Click);
 }
 

@@ -1,9 +1,9 @@
-// The logbook: a tree of the tanks, and the three logs of the tank selected, a list each. It holds no data: a list is
-// read afresh whenever something changes. Every command first takes the tree's tank in hand, whatever tank another
-// window has dealt with since, and then works on its own copy of it. The entry windows are driven from here: a row is
-// opened, the window's controls are filled, the row is handed to the window, and when it returns the list is reloaded.
-// What the three logs have in common is here once; what differs between them is a row of the table of the logs
-// (logic/logbook/LogKinds.h) or a path of its own (EntryPaths.cpp).
+// The logbook: a tree of the tanks, and a list for each of the three logs of the selected tank. It holds no data: a
+// list is read again whenever something changes. Every command first makes the tank of the tree the current one,
+// whichever tank another window has used since, and then works on its own copy of it. The logbook drives the entry
+// windows: it opens a row, fills the window's controls, hands the row over, and reloads the list when the window
+// returns. The common code of the three logs is here; their differences are rows in the table of the logs
+// (logic/logbook/LogKinds.h) or functions in EntryPaths.cpp.
 #pragma once
 
 #include <array>
@@ -27,23 +27,24 @@ class frm_Waterlog : public ChildForm
 public:
     explicit frm_Waterlog(const FormContext &context);
 
-    /// Name of the tank selected; empty while the tree is rebuilt, and the last one while "All Tanks" is selected.
+    /// The name of the selected tank. It is empty while the tree is rebuilt, and stays the last one while "All Tanks"
+    /// is selected.
     QString CurrentTankText;
 
-    // The commands of menus, pop-ups and toolbar, for the log on show.
+    // The commands of menus, pop-up menus and toolbar. They work on the log that is shown.
     void Add_Entries();
     void Change_Entries();
     void Delete_Entries();
     void Move_Entries();
     void Print_Entries();
     void Graph_Entries();
-    /// Reloads the list on show: "descending" by date, any other text ascending.
+    /// Reloads the list that is shown, by date: "descending", or ascending for any other text.
     void Refresh_Listview(const QString &order);
-    /// Rebuilds the tree, which ends with "All Tanks" selected, and reloads the list.
+    /// Rebuilds the tree, selects "All Tanks" and reloads the list.
     void Refresh_Treeview();
-    /// Rebuilds the tree if the tanks are no longer those that it shows.
+    /// Rebuilds the tree if it no longer shows the present tanks.
     void Follow_Tanks();
-    /// Brings the main menu and the toolbar into step with the log and the tank on show.
+    /// Updates the main menu and the toolbar for the log and the tank that are shown.
     void Update_Menu_Captions();
 
     void Form_Load();
@@ -71,7 +72,7 @@ private:
         QString name;
     };
     using EntryPath = void (frm_Waterlog::*)(const Tank &);
-    /// A log as this window has it.
+    /// What this window has for each log.
     struct Log
     {
         LogTab tab;
@@ -89,7 +90,7 @@ private:
     void connectList(ListView &list, LogTab tab);
 
     LogTab tab() const;
-    /// The log on show.
+    /// The log that is shown.
     const Log &log() const { return logs[tab()]; }
     ListView &list() const { return *(this->*log().list); }
     bool isTankSelected() const;
@@ -99,9 +100,10 @@ private:
     void LoadWaterList(const QString &order);
     void LoadLivestockList(const QString &order);
     void LoadMaintList(const QString &order);
-    /// What the three loaders do alike: takes the tank in hand, tells it in the panel, reads the rows and shows them.
+    /// The common part of the three loaders: makes the tank of the tree the current one, shows its name above the list,
+    /// reads the rows and shows them.
     void loadList(LogTab tab, const QString &order);
-    /// Makes the tree's tank the tank in hand.
+    /// Makes the tank of the tree the current one ("in hand") and returns it.
     Tank takeTankInHand();
     /// Sets gTankWaterType for the livestock window.
     void readWaterType(const Tank &tank);
@@ -124,27 +126,26 @@ private:
     void Delete_EntriesLives(const Tank &tank);
     void Delete_EntriesMaint(const Tank &tank);
     void deleteEntry(LogTab log, const Tank &tank);
-    /// The entry selected in the list on show; nothing, after a box with that text, where none is.
+    /// The entry selected in the list that is shown. If none is, shows `ifNone` and returns nothing.
     std::optional<ShownEntry> selectedEntry(const QString &ifNone);
-    /// The date in a row's text, read month first where that gives a date, else in the order that it was shown in.
+    /// The date in a row's text: read month first, or in the date order in which it was shown if that gives no date.
     std::optional<QDate> dateAsTyped(const ShownEntry &entry) const;
-    /// A row to be filled by an entry window.
+    /// An empty row, which an entry window fills.
     Recordset newRow(LogTab log);
-    /// The row of an entry under that date; nothing, after a box, where the log has none. `undone` is what then does
-    /// not happen: "deleted".
+    /// The row of an entry, looked up under that date. If the log has none, a message says so, in which `undone` is
+    /// what was not done ("deleted"), and nothing is returned.
     std::optional<Recordset> rowOf(LogTab log, const Tank &tank, const ShownEntry &entry,
                                    const std::optional<QDate> &date, const QString &undone);
     void tellNoRow(const ShownEntry &entry, const std::optional<QDate> &date, const QString &undone);
-    /// The livestock window with the lists of that tank's water.
+    /// The livestock window, with the lists for the water of that tank.
     frm_LivesAddEdit &freshLivestockWindow(const Tank &tank);
-    /// Asks whether an entry may be deleted; `entry` is its description.
+    /// Asks whether the entry with that description may be deleted.
     bool mayDelete(const QString &entry, const Tank &tank);
 
-    std::array<std::shared_ptr<const LogRows>, logTabs.size()> m_rows; ///< what the lists show
+    std::array<std::shared_ptr<const LogRows>, logTabs.size()> m_rows; ///< the rows that the lists show
     std::map<QString, MenuEntry *> m_buttons;
     QString ListSortOrder;
-    DateOrder m_shownOrder =
-        {}; ///< DateOrder when the list on show was loaded: its rows stay so until they are loaded again
+    DateOrder m_shownOrder = {}; ///< the date order in which the shown list was loaded
     bool FirstActivation = true;
     bool m_nodeJustChanged = false;
 };

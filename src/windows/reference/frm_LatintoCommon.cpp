@@ -100,7 +100,7 @@ void frm_LatintoCommon::makeControls()
 void frm_LatintoCommon::Form_Load()
 {
     lstv_Names->setSort(true, 0, 0);
-    opt_Salt->setChecked(true); // which loads the list
+    opt_Salt->setChecked(true); // this loads the list
 }
 
 void frm_LatintoCommon::Form_Activate()

@@ -1,6 +1,6 @@
-// Dates as the rows of a list: shown with their weekday, their task where the run shows one, and at last the sorting
-// key, which no list shows. A row is a date and the number of its rule; texts are made when a cell is painted, so that
-// the schedule of two years costs little. The preview and the schedule are such lists.
+// The dates of reminders as rows of a list, for the preview and the schedule: each date with its weekday, its task if
+// the run shows one, and in a hidden last column the sorting key. A row is a date and the number of its rule. Texts are
+// made only when a cell is painted, so that a schedule of two years costs little.
 #pragma once
 
 #include <vector>
@@ -17,7 +17,7 @@ public:
     }
 
     void add(const QDate &date, int rule) { m_rows.push_back({qint32(date.toJulianDay()), rule}); }
-    /// By date; those of one day stay in the order in which they came.
+    /// Sorts by date. Rows of the same day keep their order.
     void sort();
 
     int count() const override { return int(m_rows.size()); }
@@ -33,6 +33,6 @@ private:
 
     OccurrenceRun m_run;
     QString m_datePicture;
-    QStringList m_tasks; ///< by the number of the rule
+    QStringList m_tasks; ///< indexed by the number of the rule
     std::vector<Row> m_rows;
 };

@@ -29,7 +29,7 @@ frm_Maintsched::frm_Maintsched(const FormContext &context) : ChildForm(context)
     on(lstv_MaintSched, &ListView::Click, this, &frm_Maintsched::lstv_MaintSched_Click);
     connect(lstv_MaintSched->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (lstv_MaintSched->SelectedItem() > 0)
-            lstv_MaintSched_Click(); // by keys as by mouse
+            lstv_MaintSched_Click(); // the selection can also change by keys
     });
     on(lstv_MaintSched, &ListView::DblClick, this, &frm_Maintsched::lstv_MaintSched_DblClick);
     OnListKey(*lstv_MaintSched, Qt::Key_Delete, *cmd_DeleteTask);
@@ -51,7 +51,7 @@ void frm_Maintsched::Form_Load()
 
 void frm_Maintsched::Form_Activate()
 {
-    main.offerPrint(*this, true); // though there is nothing to print here
+    main.offerPrint(*this, true); // enabled although there is nothing to print here
     SetListViewStyle(*lstv_MaintSched);
 }
 

@@ -1,5 +1,5 @@
-// The list of all reminders, from which they are added, changed and deleted. A reminder is known by its task. Each fill
-// of the list brings the upcoming reminders of the toolbar up to date.
+// The list of all reminders, where they are added, changed and deleted. A reminder is identified by its task. Filling
+// the list also updates the upcoming reminders in the toolbar.
 #pragma once
 
 #include <optional>
@@ -14,15 +14,16 @@ class frm_Maintsched : public ChildForm, public Ui::frm_Maintsched
     Q_OBJECT
 public:
     explicit frm_Maintsched(const FormContext &context);
-    /// Fills the list; a failure is told here, and the window opens nevertheless.
+    /// Fills the list. If that fails, a message says so and the window still opens.
     void Form_Load();
     void Form_Activate() override;
     void FillTaskList();
 
 private:
-    /// Writes the rule into the row that is being added or changed; false, after a box, where its task exists already.
+    /// Writes the rule into the row that is being added or changed. If its task exists already, shows a message and
+    /// returns false.
     bool stored(Recordset &row, const RecurrenceRule &rule);
-    /// The task of the selected row; nothing, after a box in those words, where none is selected.
+    /// The task of the selected row. If none is selected, shows `otherwise` and returns nothing.
     std::optional<QString> selectedTask(const QString &otherwise);
 
     void lstv_MaintSched_Click();

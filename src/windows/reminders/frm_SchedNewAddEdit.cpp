@@ -10,7 +10,7 @@
 
 using Editor = frm_SchedNewAddEdit;
 
-/// An option of the left column and the panel that it brings up.
+/// An option of the left column and the panel that it shows.
 struct frm_SchedNewAddEdit::PatternRow
 {
     Pattern pattern;
@@ -18,7 +18,7 @@ struct frm_SchedNewAddEdit::PatternRow
     QWidget *Ui::frm_SchedNewAddEdit::*panel;
 };
 
-/// One of two ways inside a pattern, and the controls that are its own.
+/// One of the two variants of a pattern, and the controls that belong to it.
 struct frm_SchedNewAddEdit::VariantRow
 {
     QRadioButton *Ui::frm_SchedNewAddEdit::*option;
@@ -33,7 +33,7 @@ const std::array<Editor::PatternRow, 5> Editor::patternRows = {{
     {Pattern::Yearly, &Editor::opt_Yearly, &Editor::pic_Yearly},
 }};
 
-// Two rows a pattern: the option of the one puts the controls of the other out of use. What stands in them stays.
+// Two rows for each pattern: the option of one disables the controls of the other, which keep their values.
 using Controls = std::vector<QWidget *>;
 const std::array<Editor::VariantRow, 6> Editor::variantRows = {{
     {&Editor::opt_DailyEveryXDays,
@@ -81,7 +81,7 @@ void frm_SchedNewAddEdit::connectControls()
                                       {ud_month3, txt_MonthlyNumofMonths2},
                                       {ud_Yearly, txt_YearlyDay}}) {
         upDown->setBoundBox(box);
-        box->setFixedWidth(box->fontMetrics().horizontalAdvance(u'0') * 6); // of 16 bits, in any font
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance(u'0') * 6); // wide enough for 16 bits in any font
         on(box, &QLineEdit::textChanged, this, &Editor::UpdateEnglishDescription);
     }
     on(txt_OnceDate, &QLineEdit::textChanged, this, &Editor::UpdateEnglishDescription);
@@ -110,7 +110,7 @@ void frm_SchedNewAddEdit::Form_Load()
     for (QRadioButton *first : {opt_DailyEveryXDays, opt_MonthlyXdayofEveryMonth, opt_YearlyEvery, opt_Daily})
         first->setChecked(true);
     for (const VariantRow &row : variantRows)
-        opt_Variant_Click(row); // also of those that have been off from the start
+        opt_Variant_Click(row); // also for those that were never checked
     for (MaskedBox *box : {txt_StartDate, txt_endDate, txt_OnceDate})
         UseDateOrder(*box, g.options);
 }
@@ -203,7 +203,7 @@ void frm_SchedNewAddEdit::show(const EditorFields &f)
     cbo_YearlyXth->setCurrentIndex(f.cbo_YearlyXth);
     cbo_YearlyWeekday->setCurrentIndex(f.cbo_YearlyWeekday);
     cbo_YearlyMonth2->setCurrentIndex(f.cbo_YearlyMonth2);
-    txt_EnglishDesc->setText(f.txt_EnglishDesc); // last: each control set above has made a sentence of its own
+    txt_EnglishDesc->setText(f.txt_EnglishDesc); // last, because each control set above changes the sentence
 }
 
 bool frm_SchedNewAddEdit::AddNewTask(const RecurrenceRule &start, const Store &store)
@@ -255,7 +255,7 @@ void frm_SchedNewAddEdit::UpdateEnglishDescription() { txt_EnglishDesc->setText(
 
 void frm_SchedNewAddEdit::cal_Click(MaskedBox &box)
 {
-    // The day remains the one that was chosen, whatever its century: the box knows the date behind its text.
+    // The chosen day keeps its century, because the date behind the text is remembered.
     if (const auto chosen = AskCalendar(g, ReadRangeDate(dateOf(box), dates())))
         put(box, PutDate(*chosen, dates()));
 }

@@ -1,6 +1,6 @@
-// The editor of one reminder: a task, a pattern with its values, a range of dates. It says the rule in one sentence as
-// it is composed, and shows its dates on demand. It knows no table: it is given the rule, and hands the new one to
-// whoever stores it. The list of reminders opens it.
+// The editor of one reminder: a task, a pattern with its values, and a range of dates. It describes the rule in a
+// sentence while it is edited, and shows its dates on demand. It does not use the database: it is given a rule and a
+// function that stores the new one. The list of reminders opens it.
 #pragma once
 
 #include <array>
@@ -19,19 +19,20 @@ class frm_SchedNewAddEdit : public DialogForm, public Ui::frm_SchedNewAddEdit
 {
     Q_OBJECT
 public:
-    /// Stores a rule; false, after a box, where it may not be stored as it is: the editor then goes on with it.
+    /// Stores a rule. If the rule cannot be stored, it shows a message and returns false, and the editor stays open.
     using Store = std::function<bool(const RecurrenceRule &)>;
 
     explicit frm_SchedNewAddEdit(const FormContext &context);
     void Form_Load();
 
-    /// Composes a new rule, which starts as a daily one with the task and the range of that one. True if it was stored.
+    /// Edits a new rule, which starts as a daily one with the task and the range of `start`. Returns true if it was
+    /// stored.
     bool AddNewTask(const RecurrenceRule &start, const Store &store);
-    /// Shows a rule to be changed. True if it was stored.
+    /// Edits an existing rule. Returns true if it was stored.
     bool ShowExistingTask(const RecurrenceRule &rule, const Store &store);
 
-    bool EditCancelled = true;                ///< until OK has been pressed on a rule that holds, and that was stored
-    std::array<QCheckBox *, 7> chk_WeeklyDay; ///< from Sunday
+    bool EditCancelled = true;                ///< until OK has stored a valid rule
+    std::array<QCheckBox *, 7> chk_WeeklyDay; ///< starting with Sunday
 
 private:
     struct PatternRow;
@@ -55,12 +56,12 @@ private:
     void put(MaskedBox &box, const DateBox &date);
     EditorFields fields() const;
     void show(const EditorFields &fields);
-    /// Is the rule as composed good to be stored? If not, says why and puts the focus there.
+    /// Whether the rule is valid. If not, shows why and moves the focus to the fault.
     bool EditForm();
     void complain(const EditorComplaint &complaint);
     bool showUntilDone(const Store &store);
 
-    RecurrenceRule m_rule; ///< what its new pattern does not need stays as it was
+    RecurrenceRule m_rule; ///< columns that the new pattern does not use are kept
     Store m_store;
-    std::map<const MaskedBox *, QDate> m_put; ///< the date behind a text that the program put in
+    std::map<const MaskedBox *, QDate> m_put; ///< the date behind each text that the program put in
 };

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int firstYear = 1995; ///< of the end of a range
+constexpr int firstYear = 1995; ///< the first year in which a range may end
 
 } // namespace
 

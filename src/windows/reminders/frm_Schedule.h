@@ -1,5 +1,5 @@
-// All reminders as one dated list, for two years from today or for a range of dates, and that list on paper. It writes
-// nothing; the list stands until it is generated again.
+// The dates of all reminders in one list, for two years from today or for a range of dates, shown and printed. It
+// writes nothing. The list does not change until it is generated again.
 #pragma once
 
 #include <optional>
@@ -26,15 +26,15 @@ public:
     void Print_Schedule();
 
 private:
-    /// Brings the date order in force to the two boxes while they are empty. Dates that are there keep the order in
-    /// which they were written: read in another, they would become other days.
+    /// Uses the current date order for the two boxes while they are empty. Dates in them keep the order in which they
+    /// were typed, because in another order they would become other days.
     void followDateOrder();
     void opt_range_Click();
     void cal_Click(MaskedBox &box);
     void cmd_Generate_Click();
 
     std::optional<QDate> dateIn(const MaskedBox &box) const;
-    /// The range of the two boxes; nothing, after a box, where it is none.
+    /// The range in the two boxes. If it is not valid, shows a message and returns nothing.
     std::optional<DateRange> askedRange();
     void generate(const std::vector<RecurrenceRule> &rules, const std::optional<DateRange> &range);
 

@@ -1,4 +1,4 @@
-// Arrangements of the children that the MDI area has not, or not as a keeper would have them.
+// Arrangements of the child windows that the MDI area lacks or does differently.
 #pragma once
 
 #include <Qt>
@@ -6,8 +6,8 @@
 class QMdiArea;
 class QMdiSubWindow;
 
-/// Lays the children that are not minimised one behind the other, each seen by its title. They keep their sizes, which
-/// the MDI area's own cascade does not.
+/// Places the children that are not minimised one behind the other, with their titles visible. They keep their sizes,
+/// which the MDI area's own cascade changes.
 void CascadeWindows(QMdiArea &area);
 /// Fills the area with the children that are not minimised: one above the other (horizontal), or side by side
 /// (vertical).

@@ -1,5 +1,5 @@
-// A modal window. Esc and the title bar do what its Cancel does; a window without Cancel names its closing button
-// there.
+// A modal window. Esc and the title bar's button call Cancel(); a window without a Cancel button calls the handler of
+// its closing button there.
 #pragma once
 
 #include <QDialog>
@@ -13,15 +13,15 @@ class DialogForm : public QDialog
 public:
     static constexpr bool isDialog = true;
 
-    void Form_Load() {} ///< runs when the window has been made; a window that has one hides this one
+    void Form_Load() {} ///< runs once the window is made; a window with a Form_Load of its own hides this one
     void reject() final { Cancel(); }
 
 protected:
     explicit DialogForm(const FormContext &context) : QDialog(context.parent), g(context.globals), main(context.main) {}
 
-    /// Leaves without storing.
+    /// Closes the window without storing.
     virtual void Cancel() = 0;
-    /// A beep and a warning; the focus goes to the box. False, so that a check can end with it.
+    /// Beeps, shows a warning and moves the focus to the box. Returns false, so that a check can return its result.
     bool refuse(const QString &text, QWidget *box, const QString &title = QStringLiteral("Oops!"))
     {
         Beep();

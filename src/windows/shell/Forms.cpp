@@ -7,7 +7,7 @@ namespace {
 
 Forms *inUse = nullptr;
 
-/// What goes away with a window: an MDI child's frame takes its window with it.
+/// The widget to hide or delete for a window: the frame of an MDI child, which owns it, or else the window itself.
 QWidget *frameOf(QWidget *form)
 {
     auto *frame = qobject_cast<QMdiSubWindow *>(form->parentWidget());
@@ -20,7 +20,7 @@ Forms::Forms(Globals &globals) : m_globals(globals), m_previous(std::exchange(in
 
 Forms::~Forms()
 {
-    // Dialogs first, the main window last: the others may speak to it while they go.
+    // The main window is deleted last, because the others may use it in their destructors.
     for (auto &[type, form] : m_forms)
         if (form && form != m_main)
             delete frameOf(form);
@@ -61,7 +61,8 @@ void Forms::showModal(QDialog &dialog)
     const Pin pin(dialog);
     const QPointer<QWidget> before = QApplication::activeWindow();
     dialog.exec();
-    // Without a window manager nobody else gives the activity back. Before it there may have been a menu, or no window.
+    // Without a window manager, nothing else makes the former window active again. The former window may have been a
+    // menu, or there may have been none.
     QWidget *back = before && before->isVisible() ? before.data() : dialog.parentWidget();
     if (back && back->isVisible())
         back->activateWindow();

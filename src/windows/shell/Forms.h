@@ -1,7 +1,7 @@
-// One instance of each window, made at its first use: Form<frm_X>() gives it, Unload() destroys its controls. A window
-// whose own code is still on the stack is freed only when that code has returned (Forms::Pin, and every modal showing).
-// Windows are made with what they work with (FormContext), and their Form_Load runs before anyone else sees them. The
-// main window is made first.
+// The registry of windows, with one instance of each, made at its first use: Form<frm_X>() returns it, Unload() deletes
+// it. A window whose own code is still on the stack is deleted only when that code has returned (Forms::Pin, and every
+// modal window while it is shown). A window is made with a FormContext, and its Form_Load runs before any other code
+// sees it. The main window must be made first.
 #pragma once
 
 #include <map>
@@ -14,20 +14,20 @@
 #include "windows/shell/MainWindow.h"
 #include "windows/shell/WindowMemory.h"
 
-/// What a window is made with. Everything in it lives longer than the window.
+/// What a window is made with. All of it outlives the window.
 struct FormContext
 {
     Globals &globals;
     MainWindow &main;
-    QWidget *parent; ///< of a dialog: the main window
+    QWidget *parent; ///< the main window for a dialog, otherwise null
 };
 
 class Forms
 {
 public:
-    /// Becomes the registry in use; the values are the caller's and must live longer.
+    /// Becomes the registry in use. `globals` belongs to the caller and must outlive it.
     explicit Forms(Globals &globals);
-    /// Destroys every window that is left.
+    /// Deletes all windows that are left.
     ~Forms();
     Forms(const Forms &) = delete;
     Forms &operator=(const Forms &) = delete;
@@ -45,7 +45,7 @@ public:
             if constexpr (!std::is_base_of_v<MainWindow, F>)
                 made->Form_Load();
         }
-        return *qobject_cast<F *>(slot.data()); // which does not compile for a class without Q_OBJECT
+        return *qobject_cast<F *>(slot.data()); // does not compile for a class without Q_OBJECT
     }
     /// The window if it is loaded, visible or not; null otherwise.
     template <class F> F *loaded() const
@@ -54,11 +54,11 @@ public:
         return found == m_forms.end() ? nullptr : static_cast<F *>(found->second.data());
     }
 
-    /// Hides a window and destroys it, at once forgotten: its next use makes a new one.
+    /// Hides a window and deletes it. It leaves the registry at once, so that its next use makes a new one.
     void unload(QWidget &form);
     /// Shows a dialog and waits until it is closed or unloaded.
     void showModal(QDialog &dialog);
-    /// Keeps a window alive while a method of it waits.
+    /// Keeps a window alive while one of its functions waits.
     class Pin
     {
     public:
@@ -95,7 +95,7 @@ private:
     std::map<const QMetaObject *, QPointer<QWidget>> m_forms;
     std::map<QWidget *, Hold> m_holds;
     QPointer<QWidget> m_main;
-    MainWindow *m_mainWindow = nullptr; ///< the same
+    MainWindow *m_mainWindow = nullptr; ///< the same object as m_main
     Forms *m_previous;
 };
 

@@ -1,4 +1,4 @@
-// What the entries of the main window's menus do.
+// The commands of the main window's menus.
 #include <optional>
 #include <QCoreApplication>
 
@@ -35,14 +35,14 @@
 
 namespace {
 
-/// The logbook, if it is on the screen, though it may be an icon there.
+/// The logbook if it is shown, even minimised; otherwise null.
 frm_Waterlog *visibleLogbook()
 {
     auto *logbook = Forms::current().loaded<frm_Waterlog>();
     return logbook && logbook->isShown() ? logbook : nullptr;
 }
 
-/// What happened to the backup, and why the database could not be opened again after it.
+/// Says whether the backup was made, and why the database could not be opened again afterwards.
 QString withBackup(const RuntimeFailure &notOpened, const std::optional<RuntimeFailure> &failure, const QString &target)
 {
     const QString outcome = failure ? QStringLiteral("not backed up: ") + failure->description()
@@ -53,14 +53,14 @@ QString withBackup(const RuntimeFailure &notOpened, const std::optional<RuntimeF
         .arg(outcome, notOpened.description().section(u'\n', 1));
 }
 
-/// The graph offers the tanks that there are now.
+/// Updates the graph's list of tanks.
 void followTanksInGraph()
 {
     if (auto *graph = Forms::current().loaded<frm_WaterGraph>())
         graph->Follow_Tanks();
 }
 
-/// After a command of the tree's menu.
+/// Runs after each command of the tree's menu.
 void followTanksOfTheTree()
 {
     Form<frm_Waterlog>().Refresh_Treeview();
@@ -101,8 +101,8 @@ void frm_OMKMDIMain::mnu_FileBackup_Click()
 {
     const auto chosen =
         Doors::current().saveDialog({QStringLiteral("Backup Ostrelmark Database As ..."), m_backupFile, {}, {}, false});
-    QDir::setCurrent(g.gCurrentDir); // the dialog may have moved it
-    // Cancel leaves the name of an earlier backup in place, and that backup is made again, after the question below.
+    QDir::setCurrent(g.gCurrentDir); // the dialog may have changed it
+    // After Cancel, an earlier backup of this session is made again under its name, after the question below.
     if (chosen)
         m_backupFile = *chosen;
     const QString target = m_backupFile;
@@ -123,7 +123,7 @@ void frm_OMKMDIMain::backUpTo(const QString &target)
     std::optional<RuntimeFailure> failure;
     {
         const HourGlass waiting;
-        g.gDatabase->LetGo(); // and every recordset lapses
+        g.gDatabase->LetGo(); // this also ends every recordset
         try {
             BackUpDatabase(g.gDatabase->fileName(), target);
         } catch (const RuntimeFailure &e) {
@@ -131,7 +131,7 @@ void frm_OMKMDIMain::backUpTo(const QString &target)
         }
     }
     try {
-        // Before the box: the window in front may ask the database for something once the box is gone.
+        // Before the message, because the window in front may use the database as soon as the message box closes.
         g.gDatabase->OpenAgain();
     } catch (const RuntimeFailure &notOpened) {
         throw RuntimeFailure(notOpened.number(), withBackup(notOpened, failure, target));
@@ -154,7 +154,7 @@ void frm_OMKMDIMain::mnu_FilePrint_Click()
 
 void frm_OMKMDIMain::mnu_FilePageSetup_Click()
 {
-    // The dialog sets up the printer itself; pages and copies asked for here are not used.
+    // The dialog sets up the printer itself. The pages and copies that are entered in it are not used.
     Doors::current().printDialog({QStringLiteral("Page Setup"), false, {}});
 }
 
@@ -177,7 +177,7 @@ void frm_OMKMDIMain::mnu_ToolsTanksetup_Click()
     Form<frm_TankMaint>().Show_List();
     CheckTanks();
     if (auto *logbook = visibleLogbook())
-        logbook->Follow_Tanks(); // an entry for a tank that is gone would be lost to sight
+        logbook->Follow_Tanks(); // an entry for a deleted tank would never be seen again
     followTanksInGraph();
 }
 
@@ -189,13 +189,14 @@ void frm_OMKMDIMain::mnu_ToolsReminderSchedule_Click() { ShowChild(Form<frm_Sche
 
 void frm_OMKMDIMain::mnu_ToolsDisease_Click()
 {
-    // Without the keeper's own: the second click of a double click would open a second wizard behind the first.
+    // Keys and clicks are excluded, because the second click of a double click would open a second wizard behind the
+    // first.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     WizardCancelled = false;
     while (!WizardCancelled) {
         const QPointer<frm_DiagnosisQA> wizard = &Form<frm_DiagnosisQA>();
         wizard->Question_Disclaimer();
-        delete wizard; // its code has returned. A deletion that is put off would wait for the end of this loop.
+        delete wizard; // safe here, because its code has returned; deleteLater() would take effect only after this loop
     }
 }
 

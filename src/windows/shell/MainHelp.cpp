@@ -1,4 +1,4 @@
-// The help, as the main window opens it: at its contents, at its search, or, by F1, at the page of the window in front.
+// Opens the help: at its contents, at its search, or, for F1, at the page of the window in front.
 #include <QApplication>
 #include <QKeyEvent>
 
@@ -25,7 +25,7 @@ void frm_OMKMDIMain::mnu_HelpSearch_Click() { showHelp({HelpRequest::At::Search}
 
 QString frm_OMKMDIMain::formInFront() const
 {
-    // A box or a file dialog is no form: its page is that of the form that it stands over.
+    // A message box or a file dialog has no page of its own, so the page of the window below it is shown.
     for (const QWidget *window = QApplication::activeWindow(); window; window = window->parentWidget()) {
         if (window == this)
             return m_activeChild ? m_activeChild->objectName() : objectName();
@@ -40,7 +40,7 @@ bool frm_OMKMDIMain::helpKey(const QKeyEvent &key)
     if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier || key.isAutoRepeat())
         return false;
     if (QWidget *menu = QApplication::activePopupWidget())
-        menu->close(); // it would hold mouse and keys
+        menu->close(); // a menu grabs the mouse and the keyboard
     guarded([this] { showHelp({HelpRequest::At::Window, formInFront()}); })();
     return true;
 }

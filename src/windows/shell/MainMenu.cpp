@@ -40,9 +40,9 @@ struct EntryRow
     MenuEntry *MainMenu::*entry;
     const char *name;
     const char *caption;
-    char shortcut; ///< pressed with Ctrl; 0 for none
+    char shortcut; ///< key that is pressed with Ctrl; 0 for none
     int marks;
-    Handler handler; ///< null: not there yet, or nothing stands behind it
+    Handler handler; ///< null if the entry does nothing
 };
 
 #define ENTRY(name) &MainMenu::name, #name

@@ -1,5 +1,5 @@
-// The entries of the main window's menus and its pop-ups, each a public member under its own name, made from one table
-// (MainMenu.cpp) that a reader can hold against the screen.
+// The entries of the main window's menus and pop-up menus, each a public member under its own name. All are made from
+// one table in MainMenu.cpp, which can be compared with the screen.
 #pragma once
 
 class MenuEntry;
@@ -23,8 +23,8 @@ struct MainMenu
     MenuEntry *mnu_GraphOptions;
 
     QMenu *mnu_File, *mnu_Edit, *mnu_View, *mnu_Tools, *mnu_Window, *mnu_Help;
-    QMenu *mnu_tankPopup, *mnu_LogPopup, *mnu_GraphPopup; ///< shown as pop-ups only
+    QMenu *mnu_tankPopup, *mnu_LogPopup, *mnu_GraphPopup; ///< shown only as pop-up menus
 
-    /// Makes all of them; those with a handler call it on the window.
+    /// Makes all menus and entries. An entry with a handler calls it on the window.
     void makeMenus(frm_OMKMDIMain &window, QMenuBar &bar);
 };

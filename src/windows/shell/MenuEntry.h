@@ -1,5 +1,5 @@
-// An entry of a menu, or a button of a toolbar, with what it does. One that has no action yet stays disabled, whatever
-// the windows say of it: nothing that a keeper can press does nothing.
+// An entry of a menu or a button of a toolbar, with its action. An entry without an action stays disabled, even if a
+// window enables it, so that every entry that can be chosen does something.
 #pragma once
 
 #include <functional>
@@ -34,6 +34,6 @@ private:
     std::function<void()> m_action;
 };
 
-/// A button of a toolbar under its key, which is the name of its control too, with its tip and its picture.
+/// Adds a button to a toolbar. `key` is also the object name of its widget.
 MenuEntry *AddToolButton(QToolBar &bar, const QString &key, const QString &toolTip, const char *image,
                          std::function<void()> action);

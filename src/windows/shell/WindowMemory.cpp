@@ -20,14 +20,14 @@
 
 namespace {
 
-/// Windows whose size follows from what they show.
+/// Windows whose size depends on their content.
 const QStringList ofToldSize = {
     QStringLiteral("frm_DiagnosisQA"),     QStringLiteral("frm_Caltool"), QStringLiteral("frm_OMKaboutbox"),
     QStringLiteral("frm_OMKCredits"),      QStringLiteral("frm_OMKtod"),  QStringLiteral("frm_OMKupgrade"),
     QStringLiteral("frm_SchedNewAddEdit"),
 };
 
-/// What must be in sight of a window's upper edge, in pixels, for it to be seen and dragged.
+/// How much of a window's upper edge must be visible, in pixels, so that it can be seen and dragged.
 constexpr QSize handle(80, 24);
 
 struct Geometry
@@ -37,7 +37,7 @@ struct Geometry
     bool maximized = false;
 };
 
-/// "940x560", and of the main window "1100x740+40+-8" or "1100x740+40+0 maximized".
+/// Returns "940x560", or for the main window "1100x740+40+-8" or "1100x740+40+0 maximized".
 QString textOf(const Geometry &geometry)
 {
     QString text = QStringLiteral("%1x%2").arg(geometry.size.width()).arg(geometry.size.height());
@@ -62,7 +62,7 @@ std::optional<Geometry> geometryIn(const QString &text)
 /// The largest size of a window on a screen: what the desktop leaves free, without the window's own frame.
 QSize roomOn(const QScreen &screen) { return screen.availableSize() - childFrame; }
 
-/// The screen on which a window there can be seen and dragged; null where there is none.
+/// The screen on which a window of this geometry can be seen and dragged; null if there is none.
 const QScreen *screenOf(const Geometry &geometry)
 {
     const QRect edge(geometry.place.value_or(QPoint()), QSize(geometry.size.width(), handle.height()));
@@ -94,11 +94,12 @@ protected:
     }
 
 private:
-    using State = std::map<QString, QString>; ///< by the key in the settings
+    using State = std::map<QString, QString>; ///< keyed as in the settings
 
     bool isMain() const { return qobject_cast<QMainWindow *>(&m_window) != nullptr; }
 
-    /// Nothing if the window has no size of its own, because the child is maximized, an icon, or tiled.
+    /// Returns nothing for a child that is maximized, minimized, shaded or tiled, because it has no size of its own
+    /// then.
     std::optional<Geometry> geometry() const
     {
         if (const auto *frame = qobject_cast<QMdiSubWindow *>(m_window.parentWidget())) {
@@ -113,7 +114,7 @@ private:
                                                           : Geometry{m_window.size(), m_window.pos()};
     }
 
-    /// The main window's are those of its children, which keep them themselves.
+    /// None for the main window, because the lists in it belong to its children.
     QList<ListView *> lists() const { return isMain() ? QList<ListView *>() : m_window.findChildren<ListView *>(); }
     QString keyOf(const ListView &list) const { return m_window.objectName() + u'.' + list.objectName(); }
 
@@ -160,12 +161,12 @@ private:
                 if (const auto before = m_shown.find(key); before == m_shown.end() || before->second != value)
                     Doors::current().settings().setValue(key, value, SettingsStore::Section::Windows);
         } catch (const RuntimeFailure &) {
-            return; // only the size of a window: the next window that he changes is tried again
+            return; // not reported, because only a window's size is lost; the next change is stored again
         }
     }
 
     QWidget &m_window;
-    State m_shown; ///< as the window was when it came up
+    State m_shown; ///< the state when the window was shown
 };
 
 } // namespace

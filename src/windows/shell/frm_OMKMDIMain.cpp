@@ -43,7 +43,7 @@ struct ButtonRow
     bool groupBefore;
 };
 
-// The key "compatability" is written so everywhere: button, image and look-up must agree.
+// The key "compatability" is misspelled everywhere: button, image and look-up must agree.
 constexpr ButtonRow buttonRows[] = {
     {"tanksetup", "Setup Tanks for Logging", "setup", &MainMenu::mnu_ToolsTanksetup, false},
     {"logbook", "Logbook - Logging of Water Quality, Maintenance, Livestock", "testlog", &MainMenu::mnu_ToolsLogbook,
@@ -64,7 +64,8 @@ const QString noTankText = QStringLiteral("You have no tanks set up in Ostrelmar
                                           "the \"Setup / Manage Tanks\" button on the "
                                           "main menu.");
 
-/// Settings that cannot be written are told, and the start goes on: nobody is locked out of his data for a setting.
+/// If the settings cannot be written, a message says so and the start goes on: a setting must not keep keepers from
+/// their data.
 void saveAtStart(const QString &key, const QString &value)
 {
     try {
@@ -83,7 +84,7 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiAr
 {
     setWindowTitle(QStringLiteral(" Ostrelmark 98"));
     setWindowIcon(Icon("ostrelmark"));
-    setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's would hide the strip with the reminders
+    setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu could hide the reminders
     makeMenus(*this, *menuBar());
     makeToolbar();
     makeStatusBar();
@@ -92,7 +93,7 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiAr
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     const bool dark = palette().window().color().lightness() < 128;
-    m_area->setBackground(dark ? QColor(0x22, 0x2b, 0x30) : QColor(0xc9, 0xdb, 0xe1)); // calm water
+    m_area->setBackground(dark ? QColor(0x22, 0x2b, 0x30) : QColor(0xc9, 0xdb, 0xe1)); // the colour of calm water
     setCentralWidget(m_area);
     connect(m_area, &QMdiArea::subWindowActivated, this,
             guarded([this](QMdiSubWindow *window) { subWindowActivated(window); }));
@@ -103,13 +104,13 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiAr
 
 frm_OMKMDIMain::~frm_OMKMDIMain()
 {
-    m_area->disconnect(this); // a child that is left goes with it, and tells nobody
+    m_area->disconnect(this); // children deleted with it must not call back
 }
 
 void frm_OMKMDIMain::makeToolbar()
 {
     auto *strip =
-        new QToolBar(this); // the strip at the top, that keeps the reminders in sight when the buttons are hidden
+        new QToolBar(this); // the strip at the top, which keeps the reminders visible when the buttons are hidden
     strip->setObjectName(QStringLiteral("Picture1"));
     strip->setMovable(false);
     Picture1 = strip;
@@ -163,7 +164,7 @@ void frm_OMKMDIMain::MDIForm_Load()
     QApplication::processEvents();
     Top20List();
     show();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // painted, before the splash is made ready
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // paints the window before the splash
     showSplash();
     if (tipIsDue() && !isEnding())
         mnu_HelpTod_Click();
@@ -206,7 +207,7 @@ void frm_OMKMDIMain::Top20List()
 void frm_OMKMDIMain::RefillReminders()
 {
     if (auto *list = Forms::current().loaded<frm_Maintsched>())
-        list->FillTaskList(); // which fills the toolbar as well
+        list->FillTaskList(); // this also fills the toolbar's list
     else
         Top20List();
 }
@@ -221,7 +222,7 @@ void frm_OMKMDIMain::showSplash()
 bool frm_OMKMDIMain::tipIsDue()
 {
     const QString stored = GetSetting(QStringLiteral("Show_Tips"), QStringLiteral("Not Found")).toUpper();
-    // "ELSE" is a word of the settings like the others; any word that is not one of the four changes nothing.
+    // "ELSE" is a valid word of this setting. A word other than these four changes nothing.
     if (stored == u"NOT FOUND" || stored == u"ELSE") {
         g.gShowTips = true;
         saveAtStart(QStringLiteral("Show_Tips"), QStringLiteral("Yes"));
@@ -257,18 +258,18 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
 {
     auto *frame = qobject_cast<QMdiSubWindow *>(child.parentWidget());
     if (!frame) {
-        const QSize size = child.size() + childFrame; // as the window asks for
+        const QSize size = child.size() + childFrame; // the size that the window asks for
         frame = new QMdiSubWindow;
         frame->setWidget(&child);
         frame->setAttribute(Qt::WA_DeleteOnClose);
-        // Else Tab comes from the last control to the frame, which hands it to the control that the child begins with,
-        // and those before that one are never reached.
+        // Otherwise Tab would go from the last control to the frame, which passes the focus to the child's first
+        // control, and the controls before that one would never be reached.
         frame->setFocusPolicy(Qt::NoFocus);
         frame->setWindowIcon(child.windowIcon());
-        // However small the main window is, which scrolls: controls without any room would paint on empty pictures.
+        // Even in a small main window, which then scrolls: controls without any room would paint on empty pixmaps.
         frame->setMinimumSize(child.minimumSizeHint().expandedTo(child.minimumSize()) + childFrame);
         frame->resize(size.boundedTo(m_area->viewport()->size()));
-        m_area->addSubWindow(frame); // of its own size already, so that it gets a place where it is seen whole
+        m_area->addSubWindow(frame); // resized before, so that it gets a place where all of it is visible
     }
     if (frame->isMinimized())
         frame->showNormal();
@@ -301,23 +302,23 @@ void frm_OMKMDIMain::subWindowActivated(QMdiSubWindow *window)
 {
     auto *child = window ? dynamic_cast<ChildForm *>(window->widget()) : nullptr;
     if (!m_area->currentSubWindow())
-        disablePrint(); // the last child has closed; a dialog in front leaves the current one
+        disablePrint(); // the last child has closed; a dialog in front does not change the current child
     if (!child || child == m_activeChild)
-        return; // nothing in front, for now: a dialog or another program is no loss of focus
+        return; // a dialog or another program in front does not count as a loss of focus
     if (m_activeChild)
         m_activeChild->Form_LostFocus();
     m_activeChild = child;
-    disablePrint(); // unless the child says otherwise
+    disablePrint(); // until the child enables it
     child->Form_Activate();
 }
 
 void frm_OMKMDIMain::MDIForm_Activate()
 {
-    // Some desktops let a keeper bring this window to the front under an open box. Nothing may change for the command
-    // that waits for the box; the child is told when it has closed.
+    // Some desktops let the keeper bring this window to the front under an open message box. Nothing may change for the
+    // command that waits for the box; the child is told when the box has closed.
     if (QApplication::activeModalWidget())
         return;
-    disablePrint(); // unless the child says otherwise
+    disablePrint(); // until the child enables it
     if (m_activeChild && m_activeChild->isShown())
         m_activeChild->Form_Activate();
 }
@@ -332,7 +333,7 @@ void frm_OMKMDIMain::changeEvent(QEvent *event)
 bool frm_OMKMDIMain::event(QEvent *event)
 {
     const bool handled = QMainWindow::event(event);
-    // The last dialog has closed. The window gets no activation if it had one under the dialog already.
+    // The last dialog has closed. If the window was already active under the dialog, it is not activated again.
     if (event->type() == QEvent::WindowUnblocked)
         QMetaObject::invokeMethod(this, guarded([this] {
                                       if (isActiveWindow())
@@ -342,8 +343,8 @@ bool frm_OMKMDIMain::event(QEvent *event)
     return handled;
 }
 
-/// A press brings a child to the front whatever it meets: a control that takes no focus, as a tool button, does not do
-/// it by itself.
+/// A mouse press anywhere in a child brings it to the front. Qt does that only for controls that take the focus, which
+/// a tool button does not.
 void frm_OMKMDIMain::bringToFront(const QWidget &pressed)
 {
     for (const QWidget *widget = &pressed; widget; widget = widget->parentWidget()) {
@@ -382,7 +383,7 @@ void frm_OMKMDIMain::closeEvent(QCloseEvent *event)
 
 void frm_OMKMDIMain::cbo_Reminders_Click()
 {
-    // For reading only: the next reminder, at the top, is the one displayed.
+    // The list is only for reading: it always shows its first entry, the next reminder.
     if (cbo_Reminders->count() > 0)
         cbo_Reminders->setCurrentIndex(0);
 }

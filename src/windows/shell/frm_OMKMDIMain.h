@@ -1,6 +1,6 @@
-// The main window, parent of every other: menus, toolbar with the upcoming reminders, the children, the status bar. It
-// opens the database, runs the steps of the start, and passes commands on to the windows; what a tool does is the
-// tool's. Its menu handlers only call the windows' public operations.
+// The main window, the parent of all others: menus, toolbar with the upcoming reminders, child windows, status bar. It
+// opens the database, runs the steps of the start, and passes commands on to the windows. Its menu handlers only call
+// public functions of the windows.
 #pragma once
 
 #include <map>
@@ -29,13 +29,13 @@ public:
     explicit frm_OMKMDIMain(Globals &globals);
     ~frm_OMKMDIMain() override;
 
-    /// The start, step by step. Throws RuntimeFailure where the database cannot be opened or upgraded; no window is
-    /// left on the screen then.
+    /// Runs the start step by step. Throws RuntimeFailure if the database cannot be opened or upgraded; then no window
+    /// is left on the screen.
     void MDIForm_Load();
-    /// Tells the active child that it is in front: after a dialog, or another program, closed over it. Does nothing
-    /// while a box or a dialog is open.
+    /// Tells the active child that it is in front again after a dialog or another program. Does nothing while a message
+    /// box or a dialog is open.
     void MDIForm_Activate();
-    /// Closes the children, which store what they keep, and unloads the window that holds the settings.
+    /// Closes the children, which store their settings, and unloads the Options window.
     void MDIForm_Unload();
 
     void ShowChild(ChildForm &child) override;
@@ -46,14 +46,14 @@ public:
     void Top20List() override;
     void RefillReminders() override;
     MainMenu &menu() override { return *this; }
-    /// A tool button of the toolbar by its key.
+    /// The tool button with that key.
     MenuEntry &button(const QString &key) { return *m_buttons.at(key); }
-    /// Warns where there is no tank, and lets the buttons that need one follow.
+    /// Enables the buttons that need a tank if there is one, and warns if there is none.
     void CheckTanks();
-    /// The buttons that need a tank follow the tanks, without a word.
+    /// Enables the buttons that need a tank if there is one, without a message.
     void EnableTankButtons();
 
-    // What the entries of the menus do.
+    // The commands of the menus.
     void mnu_FileNew_Click();
     void mnu_FileOpen_Click();
     void mnu_FileDelete_Click();
@@ -97,7 +97,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     bool event(QEvent *event) override;
-    /// For the whole program: presses in children, F1 in any window, and copying from any list.
+    /// Filters the events of the whole program: mouse presses in children, F1 in any window, and copying from any list.
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
@@ -108,21 +108,21 @@ private:
     void bringToFront(const QWidget &pressed);
     bool helpKey(const QKeyEvent &key);
     void cbo_Reminders_Click();
-    /// Sets gDbVersion; upgrades a database of an earlier version.
+    /// Sets gDbVersion, and upgrades the database if it is of an earlier version.
     void CheckDatabaseVersion();
     void showSplash();
-    /// Whether the tip of the day is due, by the setting Show_Tips; writes it at the first run.
+    /// Whether to show the tip of the day, according to the setting Show_Tips, which is written at the first run.
     bool tipIsDue();
     void showHelp(const HelpRequest &request);
-    /// Name of the form that the keeper is at: a dialog, the active child, or this window.
+    /// The name of the window in use: a dialog, the active child, or this window.
     QString formInFront() const;
-    /// What the keeper asked for with the database closed, and open again afterwards; tells how it went.
+    /// Makes the backup while the database is closed, opens the database again, and reports the result.
     void backUpTo(const QString &target);
 
     Globals &g;
     QMdiArea *m_area;
     QLabel *m_panel;
-    QAction *m_toolbarPlace; ///< shows and hides Toolbar1: the strip would bring a hidden one back
+    QAction *m_toolbarPlace; ///< shows and hides Toolbar1, because the strip would show a hidden widget again
     std::map<QString, MenuEntry *> m_buttons;
     QPointer<ChildForm> m_activeChild;
     QString m_backupFile; ///< the name last chosen for a backup

@@ -15,7 +15,7 @@ namespace {
 struct GraphType
 {
     const char *text;
-    int code; ///< the chart's type number
+    int code; ///< the type number of the chart
 };
 
 constexpr GraphType graphTypes[] = {
@@ -34,7 +34,7 @@ frm_OMKOptions::frm_OMKOptions(const FormContext &context) : DialogForm(context)
     connectControls();
 }
 
-/// Four check boxes a column; those of the user's measurements start a column of their own.
+/// Four check boxes for each column. The user-defined measurements start a new column.
 void frm_OMKOptions::makeChecks()
 {
     constexpr int perColumn = 4;
@@ -86,7 +86,7 @@ void frm_OMKOptions::connectControls()
 void frm_OMKOptions::Get_Initial_Properties()
 {
     m_config = ReadOptions(g);
-    const OptionsMembers inForce = g.options; // the clicks that the showing makes are copied to the members
+    const OptionsMembers inForce = g.options; // filling the controls changes g.options through their handlers
     fillLists();
     showGeneral(inForce);
     showGraphSettings(inForce);
@@ -138,7 +138,7 @@ void frm_OMKOptions::showGraphSettings(const OptionsMembers &options)
             m_checks[i]->setText(Caption(NameOf(row, nullptr, g.userFieldNames())));
         m_checks[i]->setChecked(options.GraphChecks[qsizetype(i)] == u'1');
     }
-    cbo_GraphType->setCurrentIndex(cbo_GraphType->findData(options.GraphStyle)); // none for an unknown code
+    cbo_GraphType->setCurrentIndex(cbo_GraphType->findData(options.GraphStyle)); // selects nothing for an unknown code
     chk_SkipZeroValues->setChecked(options.GraphSkipZeroes == 1);
     (options.GraphPrintColor == 1 ? opt_ColorPrinting : opt_BWPrinting)->setChecked(true);
 }
@@ -162,7 +162,7 @@ void frm_OMKOptions::ShowOptions(int tab)
     Unload(*this);
 }
 
-// Stores before the dialog goes: if that fails, it stays with what was entered, and nothing counts as stored.
+// Stores before the dialog closes: if that fails, it stays open with what was entered, and nothing is stored.
 void frm_OMKOptions::cmdOK_Click()
 {
     g.options.GraphChecks = graphChecks();
@@ -171,8 +171,8 @@ void frm_OMKOptions::cmdOK_Click()
     hide();
 }
 
-// Takes back before the dialog goes what its clicks have changed: the window behind it reads the options when it comes
-// to the front. Nothing is read for that, so it succeeds whatever has become of the file.
+// Restores what the clicks have changed before the dialog closes, because the window behind it reads the options when
+// it comes to the front. It reads nothing from the file, so it cannot fail.
 void frm_OMKOptions::cmdCancel_Click()
 {
     g.options = m_inForce;
@@ -198,7 +198,7 @@ bool frm_OMKOptions::CheckUserFieldNames()
     return true;
 }
 
-// A click copies the control's value to its member, so the members change while the dialog is open.
+// A click copies the control's value to its member, so g.options changes while the dialog is open.
 void frm_OMKOptions::opt_Salt_Click() { g.options.DefaultWaterType = QStringLiteral("SALT"); }
 void frm_OMKOptions::opt_Fresh_Click() { g.options.DefaultWaterType = QStringLiteral("FRESH"); }
 void frm_OMKOptions::opt_Dateform_MMDDYY_Click() { g.options.DateOrder = DateOrder::MMDDYY; }

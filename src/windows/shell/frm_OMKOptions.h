@@ -1,5 +1,5 @@
-// The keeper's preferences: a dialog of three tabs. Their values are in Globals (options, gDefaultWaterType,
-// gUserFieldName1 and 2) and outlive the window.
+// The dialog for the keeper's preferences, with three tabs. The values are in Globals (options, gDefaultWaterType,
+// gUserFieldName1 and gUserFieldName2) and outlive the window.
 #pragma once
 
 #include <array>
@@ -14,12 +14,12 @@ class frm_OMKOptions : public DialogForm, public Ui::frm_OMKOptions
 public:
     explicit frm_OMKOptions(const FormContext &context);
 
-    /// Brings every stored value into force and shows it. Throws RuntimeFailure where CONFIG cannot be read.
+    /// Reads all stored values into Globals and shows them. Throws RuntimeFailure if CONFIG cannot be read.
     void Get_Initial_Properties();
-    /// The dialog, opened at a tab: 0 General, 1 Graphing, 2 Livestock Lists. Only OK stores; whatever else closes it
-    /// brings the stored values back.
+    /// Shows the dialog at a tab: 0 General, 1 Graphing, 2 Livestock Lists. OK stores; closing it in any other way
+    /// restores the values that it was opened with.
     void ShowOptions(int tab);
-    /// Whether both user field names are good: not blank, and not the same. Says what is wrong.
+    /// Whether both user field names are valid: not blank and not equal. If not, shows what is wrong.
     bool CheckUserFieldNames();
 
 protected:
@@ -55,6 +55,6 @@ private:
     QString graphChecks() const;
     /// The check boxes of the measurements, in the order of GraphChecks.
     std::array<QCheckBox *, measurementCount> m_checks;
-    Recordset m_config;       ///< the row of CONFIG, kept from the loading until OK changes it
-    OptionsMembers m_inForce; ///< what the dialog was opened on
+    Recordset m_config;       ///< the row of CONFIG, which OK changes
+    OptionsMembers m_inForce; ///< the values that the dialog was opened with
 };

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Paints the picture afresh at any scale. It is read when it is first seen, not at the start of the program.
+/// Draws the picture sharp at any scale. The file is read at the first painting, not at the start of the program.
 class Picture : public QWidget
 {
 public:
@@ -85,7 +85,7 @@ void frm_OMKaboutbox::ShowBox()
     ShowModal();
 }
 
-/// The desktop puts the main window in its place only after it has been shown: the splash goes along.
+/// The splash screen follows the main window, which the desktop moves to its place only after it is shown.
 bool frm_OMKaboutbox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == parentWidget() && event->type() == QEvent::Move && g.gSplashMode)
@@ -109,7 +109,7 @@ void frm_OMKaboutbox::tim_splash_Timer()
 
 void frm_OMKaboutbox::mouseReleaseEvent(QMouseEvent *event)
 {
-    // On the way up, so that nothing of the click is left for the window below.
+    // Closes on the release, so that no part of the click reaches the window below.
     if (rect().contains(event->position().toPoint()))
         Form_Click();
 }

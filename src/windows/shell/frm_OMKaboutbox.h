@@ -1,5 +1,6 @@
 // The about box: picture, version, revision. While gSplashMode is true it is the splash screen of the start, without a
-// frame, and goes by its timer alone; else a click, Esc or Enter closes it, and Ctrl+Shift+T opens the thank-you page.
+// frame, and only its timer closes it. Otherwise a click, Esc or Enter closes it, and Ctrl+Shift+T opens the thank-you
+// page.
 #pragma once
 
 #include "windows/shell/DialogForm.h"
@@ -12,7 +13,7 @@ class frm_OMKaboutbox : public DialogForm
 public:
     explicit frm_OMKaboutbox(const FormContext &context);
 
-    /// Shows the box in the way that gSplashMode tells, and waits until it is closed.
+    /// Shows the box or, if gSplashMode is true, the splash screen, and waits until it is closed.
     void ShowBox();
 
 protected:

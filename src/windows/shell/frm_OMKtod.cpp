@@ -12,11 +12,11 @@
 
 namespace {
 
-// "Next Tip" draws from 0 to 81, below the length of the list: the last tips are seen only when the window opens.
+// "Next Tip" draws a number from 0 to 81, fewer than there are tips: the last ones are seen only when the window opens.
 constexpr int nextDraws = 82;
 constexpr int pictureSize = 72;
 
-/// A whole number from 0 up to, and without, the limit.
+/// A random whole number from 0 to limit - 1.
 int draw(int limit) { return int(Doors::current().random() * limit); }
 
 } // namespace
@@ -97,14 +97,14 @@ void frm_OMKtod::cmd_nexttip_Click()
         g.gTipNumber = draw(nextDraws);
     while (g.gTipNumber == before);
     if (g.gTipNumber > nextDraws || g.gTipNumber < 1)
-        g.gTipNumber = 1; // so tip 1 comes twice as often as the others
+        g.gTipNumber = 1; // tip 1 therefore comes twice as often as the others
     showTip();
 }
 
 void frm_OMKtod::chk_ShowTipsAtStartup_Click()
 {
     if (g.gShowTips == chk_ShowTipsAtStartup->isChecked())
-        return; // shown as it is stored: settings that cannot be written must not stop a start
+        return; // not a change by the keeper: settings that cannot be written must not stop the start
     g.gShowTips = chk_ShowTipsAtStartup->isChecked();
     SaveSetting(QStringLiteral("Show_Tips"), g.gShowTips ? QStringLiteral("Yes") : QStringLiteral("No"));
 }

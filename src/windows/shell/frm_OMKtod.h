@@ -1,5 +1,5 @@
-// The tip of the day: one hint about fishkeeping or about the program, at the start while the keeper wants it, and from
-// the Help menu. The check box writes the setting Show_Tips at once.
+// The tip of the day: a hint about fishkeeping or about the program. It is shown at the start while the keeper wants
+// it, and from the Help menu. The check box writes the setting Show_Tips at once.
 #pragma once
 
 #include "windows/shell/DialogForm.h"
@@ -15,7 +15,7 @@ public:
     explicit frm_OMKtod(const FormContext &context);
 
     void Form_Load();
-    /// Shows a tip drawn from all, and waits until the window is closed.
+    /// Shows a random tip and waits until the window is closed.
     void ShowTip() { ShowModal(); }
 
     QPlainTextEdit *txt_tod;

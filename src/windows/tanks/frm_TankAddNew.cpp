@@ -73,11 +73,11 @@ void frm_TankAddNew::ChangeTank(const QString &tankName)
     m_tank = g.gDatabase->OpenForUpdate(QStringLiteral("tanklst"), tankByName, {tankName});
     m_tank.MoveFirst();
     m_tank.Edit();
-    m_waterType = m_tank[QStringLiteral("TankWaterType")].text(); // a code without an option stays as it is
+    m_waterType = m_tank[QStringLiteral("TankWaterType")].text(); // an unknown code has no option and is kept
     if (auto *option = waterTypeOption(m_waterType))
         option->setChecked(true);
     const QString size = m_tank[QStringLiteral("tanksize")].text();
-    ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), biggestTank))); // it starts at the size shown
+    ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), biggestTank))); // the arrows start at the size shown
     ShowWhole(*txt_tanksize, size);
     ShowWhole(*txt_tankname, tankName);
     ShowWhole(*txt_long_desc, m_tank[QStringLiteral("Tankdesc")].text());
@@ -95,7 +95,8 @@ bool frm_TankAddNew::fieldsAreGood()
 {
     const QString size = txt_tanksize->text();
     const QString name = txt_tankname->Text();
-    // A file from elsewhere may hold more than can be typed. It is no fault of the keeper, who has not edited it.
+    // A file from elsewhere may hold longer texts than can be typed. They are accepted as long as the keeper has not
+    // edited them.
     const bool tooBig = Val(size) > biggestTank && m_shown.isEdited(*txt_tanksize);
     const auto tooLong = [this](const MaskedBox &box) {
         return box.Text().size() > longestName && m_shown.isEdited(box);
@@ -104,7 +105,7 @@ bool frm_TankAddNew::fieldsAreGood()
         return refuse(QStringLiteral("The tank size must be a number less than 10,000 gallons."), txt_tanksize);
     if (tooBig)
         return refuse(QStringLiteral("The tank size must be less than 10,000 gallons."), txt_tanksize);
-    if (tooLong(*txt_tankname)) // exactly 50 pass, whatever the words say
+    if (tooLong(*txt_tankname)) // exactly 50 are accepted, although the message says "less than"
         return refuse(QStringLiteral("The tank name must be less than 50 characters."), txt_tankname);
     if (name.isEmpty())
         return refuse(QStringLiteral("You must enter a name for your tank."), txt_tankname);
@@ -140,7 +141,7 @@ void frm_TankAddNew::put(const char *column, const QWidget &box, const Value &va
 
 void frm_TankAddNew::store()
 {
-    if (DialogMode == u"add") // begun once more: nothing stays of a try that was refused
+    if (DialogMode == u"add") // started again, so that nothing of a refused attempt remains
         m_tank.AddNew();
     else
         m_tank.Edit();

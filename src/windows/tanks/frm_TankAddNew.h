@@ -1,5 +1,5 @@
-// The one dialog for adding and for changing a tank. It keeps the row in progress; OK writes the controls into it. The
-// water type that is stored is that of the option clicked last, or the row's own, which may have no option.
+// The dialog for adding or changing a tank. It holds the row, and OK writes the controls into it. The stored water type
+// is that of the option clicked last, or else the row's own, for which there may be no option.
 #pragma once
 
 #include "platform/controls/LeavingChecks.h"
@@ -15,22 +15,21 @@ public:
 
     /// Opens the dialog for a new tank.
     void AddNewTank();
-    /// Opens the dialog on the tank of that name, for frm_TankMaint.ChangeTankInfo. Throws NoCurrentRecord if there is
-    /// none.
+    /// Opens the dialog for the tank of that name. Throws NoCurrentRecord if there is none.
     void ChangeTank(const QString &tankName);
 
     QString DialogMode; ///< "add" or "edit"
 
 private:
     void Cancel() override { cmd_Cancel_Click(); }
-    /// The option of a water type's code; null for a code that is none.
+    /// The option for the code of a water type; null for an unknown code.
     QRadioButton *waterTypeOption(const QString &code);
-    /// Checks in their order; false, after its box, at the first fault.
+    /// Runs the checks in their order. At the first fault it shows the message and returns false.
     bool fieldsAreGood();
     bool txt_tanksize_LostFocus();
-    /// A new tank's identity: the date and time of its making; a tank made in the same second gets the next free one.
+    /// The id of a new tank: the date and time at which it is made, or the next free second if that is taken.
     QString newTankId();
-    /// Writes the box into the row, if the keeper has edited it.
+    /// Writes the value into the row if the keeper has edited the box.
     void put(const char *column, const QWidget &box, const Value &value);
     void store();
 
@@ -40,5 +39,5 @@ private:
     LeavingChecks m_checks;
     ShownTexts m_shown;
     Recordset m_tank;    ///< the row that is being added or changed
-    QString m_waterType; ///< its water's code, of the option chosen last
+    QString m_waterType; ///< the code of the option chosen last
 };

@@ -10,8 +10,8 @@ namespace {
 const QString allTanks = QStringLiteral("SELECT * FROM Tanklst ORDER BY [tankname] COLLATE CASEBLIND ASC");
 const QString tankByName = QStringLiteral("where tankname = ?");
 
-// What belongs to a tank, in the order in which it goes. The tank's own row is gone by then: the last one is a safety
-// net.
+// Deletes what belongs to a tank, in this order. The tank's own row is already deleted by then; the last statement is a
+// safety net.
 const QString cascade[] = {
     QStringLiteral("DELETE FROM MAINTLOG WHERE MAINTTANKNAME = ?"),
     QStringLiteral("DELETE FROM LIVESTOCK WHERE TANKNAME = ?"),
@@ -39,7 +39,7 @@ frm_TankMaint::frm_TankMaint(const FormContext &context) : DialogForm(context)
 
 void frm_TankMaint::Show_List()
 {
-    fillList(); // cleared first: the window may be loaded, hidden, and filled already
+    fillList(); // clears it first, because the window may be loaded and filled already
     ShowModal();
 }
 
@@ -75,13 +75,13 @@ void frm_TankMaint::ChangeTankInfo(const QString &tankName)
 
 void frm_TankMaint::DeleteTankInfo(const QString &tankName)
 {
-    const QString name = nameOrSelection(tankName); // in the words of the change path, here too
+    const QString name = nameOrSelection(tankName); // the message says "change" here as well; keepers know it that way
     if (name.isEmpty())
         return;
     g.gTankName = name;
     Recordset tank = g.gDatabase->OpenForUpdate(QStringLiteral("tanklst"), tankByName, {name});
     tank.MoveFirst();
-    const QString id = tank[QStringLiteral("tankid")].text(); // another tank may come in hand while the box is up
+    const QString id = tank[QStringLiteral("tankid")].text(); // the current tank may change under the message box
     g.gTankId = id;
     Beep();
     g.gMessage =

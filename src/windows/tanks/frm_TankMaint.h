@@ -1,5 +1,5 @@
-// The list of tanks, from which they are added, changed and deleted. Nothing is pending in it: both of its lower
-// buttons just close. The main window's tree commands call ChangeTankInfo and DeleteTankInfo with the tree's tank,
+// The list of tanks, where they are added, changed and deleted. Changes take effect at once, so OK and Cancel both just
+// close the window. The commands of the tree's menu call ChangeTankInfo and DeleteTankInfo with the tank of the tree,
 // without showing the list.
 #pragma once
 
@@ -14,15 +14,16 @@ public:
 
     /// Fills the list and shows the window.
     void Show_List();
-    /// Opens the dialog of a tank; an empty name means the list's selection.
+    /// Opens the dialog for a tank. An empty name means the tank selected in the list.
     void ChangeTankInfo(const QString &tankName);
-    /// Deletes a tank with all its entries, after a question; an empty name means the list's selection.
+    /// Deletes a tank with all its entries, after a question. An empty name means the tank selected in the list.
     void DeleteTankInfo(const QString &tankName);
 
 private:
     void Cancel() override { cmd_Cancel_Click(); }
     void fillList();
-    /// The list's selection where the name is empty; nothing, after a box, where there is none either.
+    /// Returns the name, or the tank selected in the list if the name is empty. If none is selected either, shows a
+    /// message and returns an empty text.
     QString nameOrSelection(const QString &tankName);
     QString selection() const;
 
