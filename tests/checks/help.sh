@@ -1,5 +1,5 @@
 # Checks that the help has one keyword with the name of each window, and that each link, picture and keyword leads to a page, and to
-# a place in the page, that exists. The arguments are the folder of the help and the full path of src/. Prints what is missing.
+# a place in the page, that exists. The arguments are the folder of the help and the full path of src/windows. Prints what is missing.
 cd "$1" || exit 2
 broken=0
 missing() {
