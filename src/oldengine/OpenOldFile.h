@@ -1,11 +1,11 @@
-// The start on a file of the old engine: it is read into a draft by a program of its own, the old file is kept beside
-// as OM-old-engine.MDB, and the draft takes its place. Whatever fails, and whenever the program is killed, the old file
-// is whole under one of the two names, and the next start begins anew or finds all done. main() calls it once the
-// keeper's folder is entered, before the database is opened.
+// What the start does with a file of the old engine: a separate program reads it into a draft, the old file is kept as
+// OM-old-engine.MDB, and the draft takes its place. Whatever fails, and whenever the program is killed, the old file is
+// intact under one of the two names, and the next start either begins again or finds everything done. main() calls this
+// after it has entered the keeper's folder and before it opens the database.
 #pragma once
 
 #include <QString>
 
-/// Does nothing where the file is not there or not of the old engine. False where not all of it could be read and the
-/// keeper does not want the rest: the folder is then as it was, as after a RuntimeFailure.
+/// Does nothing if there is no such file or if it is not of the old engine. Returns false if parts of it could not be
+/// read and the keeper does not want the rest. After that, and after a RuntimeFailure, the folder is unchanged.
 bool OpenOldFile(const QString &databaseName);

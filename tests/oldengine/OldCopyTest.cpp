@@ -177,8 +177,8 @@ TEST_F(OldCopyTest, NamesAreMatchedInAnyCaseAndWhatIsUnknownIsLeftOutAndTold)
     source.add("Switchboard", {{"Id", OldType::Long, 0}}, {});
     const OldOutcome outcome = copy();
     EXPECT_EQ(outcome.changed.join(' '),
-              "The column \"Photo\" of the table TANKLST is not one of Ostrelmark and was left out. "
-              "The table \"Switchboard\" (rows: 0) is not one of Ostrelmark and was left out.");
+              "The column \"Photo\" of the table TANKLST is not part of Ostrelmark and was left out. "
+              "The table \"Switchboard\" (rows: 0) is not part of Ostrelmark and was left out.");
 }
 
 TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
@@ -189,7 +189,7 @@ TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
         QString says;
     } rows[] = {
         {[](FakeSource &s) { s.removeTable("MAINTLOG"); },
-         "3265 The file has no table MAINTLOG. It is damaged, or of another program."},
+         "3265 The file has no table MAINTLOG. It is damaged, or it belongs to another program."},
         {[](FakeSource &s) { s.table("MAINTLOG").columns.clear(); },
          "3343 The description of the table MAINTLOG cannot be read."},
         {[](FakeSource &s) { s.removeColumn("WATERLOG ph"); }, "3265 The table WATERLOG has no column ph."},
@@ -199,7 +199,7 @@ TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
              s.removeColumn("WATERLOG ph");
              s.addColumn("WATERLOG ph", OldType::Text);
          },
-         "13 The column ph of the table WATERLOG holds another kind of values than this program stores there."},
+         "13 The column ph of the table WATERLOG does not have the type of values that this program stores in it."},
         {[](FakeSource &s) { s.clearRows("CONFIG"); }, "3343 The table CONFIG has no row."},
         {[](FakeSource &s) {
              s.clearRows("CONFIG");
