@@ -57,7 +57,8 @@ std::optional<double> decimalIn(QByteArrayView bytes, int scale)
 
 constexpr int secondsOfADay = 24 * 60 * 60;
 
-/// Days since 1899-12-30, from the year 100 to 9999. The fraction is always the time of day: -1.25 is 6:00 on 1899-12-29.
+/// Days since 1899-12-30, from the year 100 to 9999. The fraction is always the time of day: -1.25 is 6:00 on
+/// 1899-12-29.
 std::optional<double> momentIn(QByteArrayView bytes)
 {
     const auto moment = numberIn<double>(bytes);
