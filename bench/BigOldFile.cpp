@@ -8,13 +8,13 @@
 
 namespace {
 
-// Of the later format: a page begins with its kind, a page of rows has its table's page at 4, and keeps from 12 on how
-// many rows it has, and where they are.
+// The later format. The first byte of a page is its kind. A page with rows has at 4 the page of its table, at 12 the
+// number of its rows, and after that where they are.
 constexpr int pageSize = 4096;
 constexpr char rowsPage = 1, mapPage = 5;
 constexpr int ownerAt = 4, rowCountAt = 12, slotsAt = 14, offsetBits = 0x1fff;
 constexpr int dayInRow = 2; // the first column of fixed size
-// A table's page: how many rows, and which row of which page is the map of its pages.
+// The page of a table has the number of its rows, and says which row of which page is the map of its pages.
 constexpr int tableRowsAt = 16, tableMapAt = 55;
 
 class BigFile
@@ -58,7 +58,7 @@ private:
             write<double>(page, day, read<double>(page, day) + days);
         }
     }
-    /// A map with a page of its own, whose bits tell the table's pages.
+    /// Gives the table a map that fills a page of its own, with one bit for each page of the file.
     void writeMap(int tablePage, const std::vector<int> &pages)
     {
         const auto pointer = read<quint32>(tablePage, tableMapAt);
@@ -74,7 +74,7 @@ private:
         char *place = at(int(pointer >> 8)) + map;
         *place = 1;
         qToLittleEndian(quint32(bits), place + 1);
-        std::fill_n(place + 5, 64, '\0'); // more pages of bits
+        std::fill_n(place + 5, 64, '\0'); // the places of further pages of the map
     }
 
     QByteArray m_bytes;

@@ -1,9 +1,9 @@
-// A file of the old engine with as many water tests as wanted, for measuring. Nothing of ours writes such files, so one
-// of the tests' files is multiplied: the pages with its water tests are appended again and again, each time with later
-// days.
+// Makes a file of the old engine with many water tests, for measuring. We cannot write such files, so this copies one
+// of the files of the tests and appends the pages with its water tests again and again, each time with later days.
 #pragma once
 
 #include <QString>
 
-/// Writes `to` from a file of the later format, `times` times its water tests. Throws std::runtime_error.
+/// Writes `to`, with `times` times the water tests of `from`, which must have the later format. Throws
+/// std::runtime_error.
 void WriteBigOldFile(const QString &from, const QString &to, int times);

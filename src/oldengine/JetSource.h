@@ -1,6 +1,7 @@
-// A file of the old engine, read with libmdb, which may crash or stall on a damaged one: only the program in
-// ReadOldFile.cpp uses this. The library finds tables, columns and pages; rows and memos are walked here, because the
-// library says nothing of what it cannot read.
+// Reads a file of the old engine with libmdb. That library may crash or stall on a damaged file, so only the program in
+// ReadOldFile.cpp uses this class. The library reads the pages, the descriptions of the tables and the places of the
+// cells in a row. The list of tables, the rows and the memos are read here, because the library does not report what it
+// could not read.
 #pragma once
 
 #include <memory>
@@ -10,7 +11,7 @@
 class JetSource : public OldSource
 {
 public:
-    /// Throws RuntimeFailure: FileNotFound, UnrecognizedFormat, PermissionDenied where the file has a password.
+    /// Throws RuntimeFailure: UnrecognizedFormat, or PermissionDenied if the file cannot be read or has a password.
     explicit JetSource(const QString &path);
     ~JetSource() override;
 
@@ -21,6 +22,8 @@ public:
 private:
     struct Library; // the handles of libmdb
     class Walk;
+
+    std::vector<std::pair<QString, quint32>> readCatalog();
 
     std::unique_ptr<Library> m_library;
     int m_codePage = 0;

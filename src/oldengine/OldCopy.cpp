@@ -19,13 +19,13 @@
 
 namespace {
 
-/// What makes a row of a table the only one of its kind, and how a second one is told apart: it moves to the next free
-/// second, or its texts get a number.
+/// The columns that must be unique in a table. A second row with the same values is changed: in a log it moves to the
+/// next free second, elsewhere its texts get a number.
 struct Key
 {
     const char *table;
-    const char *date, *time;         ///< null: none
-    std::vector<const char *> texts; ///< each unique by itself where there is no date
+    const char *date, *time;         ///< null in a table that is not a log
+    std::vector<const char *> texts; ///< in a log unique together with date and time, elsewhere each by itself
 };
 
 const std::vector<Key> keys{
@@ -69,13 +69,13 @@ public:
     OldOutcome run();
 
 private:
-    /// A column of the new table, where it is in the old one, and what it holds.
+    /// A column of the new table.
     struct Column
     {
         QString name;
         ColumnKind kind;
-        int from;
-        int unread = 0; ///< values so far
+        int from;       ///< index of the column in the old table
+        int unread = 0; ///< how many values could not be read so far
     };
     struct Target
     {
@@ -117,7 +117,7 @@ OldOutcome Copy::run()
         m_rowsOfAll += require(QLatin1String(table.name)).rows;
     m_version = readVersion();
     m_connection = std::make_shared<Connection>(m_draft);
-    // A draft that was cut off is thrown away: no journal, and one sync at the end.
+    // An incomplete draft is thrown away, so it needs no journal, and only one sync at the end.
     m_connection->run("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; BEGIN", m_doing);
     WriteEmptyTables(*m_connection, m_doing);
     for (const schema::Table &table : schema::tables())
@@ -138,14 +138,14 @@ const OldTable &Copy::require(const QString &table) const
     if (!from)
         throw RuntimeFailure(
             Failure::NoSuchColumn,
-            QStringLiteral("The file has no table %1. It is damaged, or of another program.").arg(table));
+            QStringLiteral("The file has no table %1. It is damaged, or it belongs to another program.").arg(table));
     if (from->columns.empty())
         throw RuntimeFailure(Failure::UnrecognizedFormat,
                              QStringLiteral("The description of the table %1 cannot be read.").arg(table));
     return *from;
 }
 
-/// As ReadDatabaseVersion has it.
+/// In the form that ReadDatabaseVersion returns.
 QString Copy::readVersion()
 {
     const OldTable &config = require(QStringLiteral("CONFIG"));
@@ -167,7 +167,8 @@ QString Copy::readVersion()
     return *version;
 }
 
-/// The columns of a new table, found in the old one. Those of a later version that the file does not have go again.
+/// Finds the columns of a new table in the old one. Columns of a later version that the old table does not have are
+/// removed from the new one.
 Copy::Target Copy::prepare(const QString &table)
 {
     Target target{table, &require(table), {}, {}};
@@ -188,8 +189,8 @@ Copy::Target Copy::prepare(const QString &table)
         if (!CanBeRead(target.from->columns[std::size_t(from)].type, kind))
             throw RuntimeFailure(
                 Failure::TypeMismatch,
-                QStringLiteral("The column %1 of the table %2 holds another kind of values than this program stores "
-                               "there.")
+                QStringLiteral("The column %1 of the table %2 does not have the type of values that this program "
+                               "stores in it.")
                     .arg(name, table));
         target.columns.push_back({name, kind, from});
         names << name;
@@ -202,7 +203,7 @@ Copy::Target Copy::prepare(const QString &table)
 void Copy::copyRows(Target &target)
 {
     const Key *key = keyOf(target.name);
-    std::vector<Row> again; // what came second waits until all others have their place
+    std::vector<Row> again; // a second row with the same key waits until all other rows have been stored
     qint64 rows = 0;
     tellProgress(target.name);
     const qint64 lost = m_source.readRows(*target.from, [&](std::span<const OldCell> cells) {
@@ -253,7 +254,7 @@ Copy::Row Copy::valuesOf(std::span<const OldCell> cells, Target &target) const
     return row;
 }
 
-/// False where there is such a row already.
+/// False if there is already a row with the same key.
 bool Copy::insert(const Target &target, const Row &row)
 {
     try {
@@ -268,7 +269,8 @@ bool Copy::insert(const Target &target, const Row &row)
     }
 }
 
-/// `last` is where the last row of that moment went, so that a thousand of one moment are not tried a million times.
+/// `last` remembers the second that the previous row of the same moment got. Without it, a thousand rows of one moment
+/// would need half a million attempts.
 void Copy::insertMoved(const Target &target, const Key &key, Row row, QHash<QString, QDateTime> &last)
 {
     const auto at = [&](const char *name) -> Value & {
@@ -311,10 +313,11 @@ void Copy::tellUnread(const Target &target, qint64 lostRows, qint64 rows)
     if (missing > 0)
         m_outcome.unread << QStringLiteral("%1: %2 of %3 rows").arg(target.name).arg(missing).arg(rows + missing);
     else if (rows > target.from->rows)
-        m_outcome.changed << QStringLiteral("The table %1 counts %2 rows and has %3; all came over.")
-                                 .arg(target.name)
-                                 .arg(target.from->rows)
-                                 .arg(rows);
+        m_outcome.changed
+            << QStringLiteral("The file says that the table %1 has %2 rows, but there are %3. All of them came over.")
+                   .arg(target.name)
+                   .arg(target.from->rows)
+                   .arg(rows);
     for (const Column &column : target.columns)
         if (column.unread > 0)
             m_outcome.unread << QStringLiteral("%1: the column %2 in %3 of %4 rows")
@@ -330,20 +333,20 @@ void Copy::tellLeftOut()
             std::ranges::find_if(m_targets, [&](const Target &t) { return isSame(t.name, table.name); });
         if (target == m_targets.end()) {
             m_outcome.changed << QStringLiteral(
-                                     "The table \"%1\" (rows: %2) is not one of Ostrelmark and was left out.")
+                                     "The table \"%1\" (rows: %2) is not part of Ostrelmark and was left out.")
                                      .arg(table.name)
                                      .arg(table.rows);
             continue;
         }
         for (const OldColumn &column : table.columns)
             if (std::ranges::none_of(target->columns, [&](const Column &c) { return isSame(c.name, column.name); }))
-                m_outcome.changed << QStringLiteral(
-                                         "The column \"%1\" of the table %2 is not one of Ostrelmark and was left out.")
-                                         .arg(column.name, target->name);
+                m_outcome.changed
+                    << QStringLiteral("The column \"%1\" of the table %2 is not part of Ostrelmark and was left out.")
+                           .arg(column.name, target->name);
     }
 }
 
-/// Of the draft, as it will be read: every row is in it, it is whole, and it is on the disk.
+/// Checks that every row is in the draft and that the draft is intact, and syncs it to the disk.
 void Copy::check()
 {
     const auto require = [this](bool good) {

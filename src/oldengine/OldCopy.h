@@ -1,6 +1,7 @@
-// Copies a file of the old engine, table by table and row by row, into a new database of the same version. Tables and
-// columns are matched whatever the case of their names; what that version needs and the file has not is refused, what
-// it does not know is left out and told. Plain logic: the file is an OldSource, which the tests write by hand.
+// Copies a file of the old engine, table by table and row by row, into a new database of the same version. The case of
+// the names of tables and columns does not matter. A file without a table or column of its version is refused; tables
+// and columns that Ostrelmark does not have are left out and reported. This is plain logic: it reads an OldSource,
+// which is a real file in the program and made up in the tests.
 #pragma once
 
 #include <functional>
@@ -21,27 +22,27 @@ struct OldTable
 {
     QString name;
     std::vector<OldColumn> columns; ///< empty where the table's description cannot be read
-    qint64 rows = 0;                ///< as the file counts them
+    qint64 rows = 0;                ///< the number that the file gives
 };
 
 struct OldCell
 {
     enum class State { Null, Present, Unreadable } state = State::Null;
-    QByteArrayView bytes; ///< of a Boolean one byte
+    QByteArrayView bytes; ///< a Boolean has one byte
 };
 
 class OldSource
 {
 public:
     virtual ~OldSource() = default;
-    virtual int codePage() const = 0; ///< as OldTextReader wants it
+    virtual int codePage() const = 0; ///< see OldTextReader
     virtual const std::vector<OldTable> &tables() const = 0;
-    /// Calls `take` with the cells of each row that is not deleted, one a column. Returns how many rows could not be
-    /// read, as far as it knows.
+    /// Calls `take` for each row that is not deleted, with one cell for each column. Returns how many rows could not be
+    /// read, as far as this is known.
     virtual qint64 readRows(const OldTable &table, const std::function<void(std::span<const OldCell>)> &take) = 0;
 };
 
-/// Fills the draft, an empty file, and checks it; then it is on the disk. `progress` is called now and then, at least
-/// once a few hundred rows. Throws RuntimeFailure, with words that say what is missing or failed.
+/// Fills the draft, which must be an empty file, checks it, and syncs it to the disk. Calls `progress` at least once in
+/// a few hundred rows. Throws a RuntimeFailure whose text says what is missing or what failed.
 OldOutcome CopyOldDatabase(OldSource &source, const QString &draft,
                            const std::function<void(const OldProgress &)> &progress);

@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr QByteArrayView mark("\0\1\0\0Standard Jet DB", 20); // with the 0 that ends it
+constexpr QByteArrayView mark("\0\1\0\0Standard Jet DB", 20); // including the 0 at its end
 constexpr qsizetype formatAt = 20, codedFrom = 24;
 constexpr char format3 = 0, format4 = 1;
-constexpr qsizetype codePageAt = 0x3c, passwordAt = 0x42, madeAt = 0x72; // when the file was made, as days
+constexpr qsizetype codePageAt = 0x3c, passwordAt = 0x42, madeAt = 0x72; // when the file was made, in days
 constexpr qsizetype passwordSize3 = 20, passwordSize4 = 40;
 constexpr int usualCodePage = 1252;
 
@@ -26,7 +26,7 @@ bool hasMark(QByteArrayView bytes)
            (bytes[formatAt] == format3 || bytes[formatAt] == format4);
 }
 
-/// The engine codes the page with RC4 and always the same key.
+/// The engine encodes the page with RC4, always with the same key.
 QByteArray decoded(QByteArrayView bytes)
 {
     constexpr std::array<quint8, 4> key{0xc7, 0xda, 0x39, 0x6b};
@@ -47,7 +47,7 @@ QByteArray decoded(QByteArrayView bytes)
     return plain;
 }
 
-/// An empty password is all zeros; the later format hides it under the day on which the file was made.
+/// An empty password consists of zeros. The later format combines it with the day on which the file was made (by xor).
 bool hasPassword(const QByteArray &page, bool isFormat4)
 {
     std::array<char, 4> cover{};

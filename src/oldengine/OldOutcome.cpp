@@ -18,7 +18,7 @@ QJsonObject objectOf(const OldOutcome &outcome)
             {"unread", QJsonArray::fromStringList(outcome.unread)}};
 }
 
-/// Without the standard words of its number, which come again when it is made anew.
+/// Leaves out the standard words of the number, because the constructor of RuntimeFailure adds them again.
 QJsonObject objectOf(const RuntimeFailure &failure)
 {
     return {{"failure", int(failure.number())}, {"words", failure.description().section(u'\n', 1)}};

@@ -1,5 +1,5 @@
-// What the program that reads a file of the old engine tells the start, a line each: how far it is, and as its last
-// line how it ended. The lines are JSON, so that words of any kind go through.
+// What the program that reads a file of the old engine reports to the start. Each line says how far it is, and the last
+// line says how it ended. The lines are JSON, so that they can contain any text.
 #pragma once
 
 #include <optional>
@@ -15,7 +15,7 @@
 struct OldProgress
 {
     QString table;
-    int percent = 0; ///< of all rows of the file
+    int percent = 0; ///< how many of all rows in the file have been read
 };
 
 /// What a keeper calls the rows of a table.
@@ -47,13 +47,13 @@ struct OldCount
 struct OldOutcome
 {
     std::vector<OldCount> counts;
-    QStringList changed; ///< sentences: what is not quite as it was in the file, and what was left out
-    QStringList unread;  ///< sentences: what the file has and could not be read
+    QStringList changed; ///< sentences about what is different from the old file, and what was left out
+    QStringList unread;  ///< phrases for what is in the file but could not be read
 };
 
 using OldLine = std::variant<OldProgress, OldOutcome, RuntimeFailure>;
 
-/// With the line's end.
+/// The line ends with a line feed.
 QByteArray WriteOldLine(const OldLine &line);
-/// Nothing where it is no such line.
+/// Returns nothing for any other line.
 std::optional<OldLine> ReadOldLine(const QByteArray &line);

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A number from the first bytes of a cell, little-endian; nothing where there are too few.
+/// Reads a little-endian number from the bytes of a cell. Returns nothing if there are too few bytes.
 template <class Number> std::optional<Number> numberIn(QByteArrayView bytes, qsizetype at = 0)
 {
     if (bytes.size() < at + qsizetype(sizeof(Number)))
@@ -24,7 +24,7 @@ template <class Number> std::optional<Value> wholeIn(QByteArrayView bytes)
     return number ? std::optional<Value>(qint64(*number)) : std::nullopt;
 }
 
-/// Only what is finite is a number.
+/// Infinity and NaN are not values that we store.
 std::optional<Value> finite(std::optional<double> number)
 {
     return number && std::isfinite(*number) ? std::optional<Value>(*number) : std::nullopt;
@@ -41,7 +41,7 @@ std::optional<double> shortestDecimal(std::optional<float> single)
     return number;
 }
 
-/// A sign, and four words of which the first counts most.
+/// A sign, and then a number of four words, the most significant first.
 std::optional<double> decimalIn(QByteArrayView bytes, int scale)
 {
     long double number = 0;
@@ -57,7 +57,8 @@ std::optional<double> decimalIn(QByteArrayView bytes, int scale)
 
 constexpr int secondsOfADay = 24 * 60 * 60;
 
-/// Days since 1899-12-30; before it the fraction still counts forwards. From the year 100 to 9999.
+/// Days since 1899-12-30, from the year 100 to 9999. The fraction is always the time of day: -1.25 is 6:00 on
+/// 1899-12-29.
 std::optional<double> momentIn(QByteArrayView bytes)
 {
     const auto moment = numberIn<double>(bytes);
@@ -96,7 +97,8 @@ std::optional<Value> numberOf(QByteArrayView bytes, OldType type, int scale)
     }
 }
 
-/// Two bytes say that the text is compressed: one byte a character until a 0, then two until the next 0, and so on.
+/// A compressed text begins with two bytes as a mark. Then each character takes one byte until a 0, after that two
+/// bytes until the next 0, and so on.
 QByteArray uncompressed(QByteArrayView bytes)
 {
     QByteArray utf16;
@@ -149,7 +151,7 @@ OldTextReader::OldTextReader(int codePage)
         return;
     const QByteArray name = "CP" + QByteArray::number(codePage);
     m_converter = iconv_open("UTF-16LE", name.constData());
-    if (m_converter == iconv_t(-1)) // a page that nobody knows: most files have this one
+    if (m_converter == iconv_t(-1)) // an unknown page; most files have this one
         m_converter = iconv_open("UTF-16LE", "CP1252");
 }
 
@@ -172,7 +174,7 @@ QString OldTextReader::readCodePage(QByteArrayView bytes) const
     if (std::all_of(bytes.begin(), bytes.end(), [](char c) { return quint8(c) < 0x80; }))
         return QString::fromLatin1(bytes);
     std::vector<char16_t> out(std::size_t(bytes.size()) + 1);
-    char *from = const_cast<char *>(bytes.data()); // the converter does not write there
+    char *from = const_cast<char *>(bytes.data()); // iconv() does not write there
     char *to = reinterpret_cast<char *>(out.data());
     std::size_t fromLeft = std::size_t(bytes.size()), toLeft = out.size() * sizeof(char16_t);
     iconv(m_converter, nullptr, nullptr, nullptr, nullptr);

@@ -1,6 +1,6 @@
-// One cell of a file of the old engine as a value of ours. The engine keeps its numbers in eight types, its days and
-// times as a fraction of a day, and its texts in a Windows code page or in UTF-16. Plain logic on the bytes of a cell:
-// who reads them from the file is JetSource.
+// Turns one cell of a file of the old engine into a value of ours. The engine stores numbers in eight types, dates and
+// times as days and fractions of a day, and texts in a Windows code page or in UTF-16. This is plain logic on the bytes
+// of a cell, which JetSource reads from the file.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@
 #include "store/Rows.h"
 #include "store/Value.h"
 
-/// Type of a column; the numbers are those of the file.
+/// The type of a column, with the numbers that the file uses.
 enum class OldType : int {
     Boolean = 1,
     Byte = 2,
@@ -26,21 +26,21 @@ enum class OldType : int {
     Decimal = 16,
 };
 
-/// Can a column of that type be read where the schema has that kind? Types that are not listed above cannot.
+/// Whether a column of that type can be stored in a column of that kind. False for all types that are not listed above.
 bool CanBeRead(OldType type, ColumnKind as);
 
 /// Turns the bytes of texts into texts.
 class OldTextReader
 {
 public:
-    /// Of a Windows code page such as 1252; 0 for UTF-16, which the engine may keep compressed.
+    /// `codePage` is a Windows code page such as 1252, or 0 for UTF-16, which the engine may compress.
     explicit OldTextReader(int codePage);
     ~OldTextReader();
     OldTextReader(const OldTextReader &) = delete;
     OldTextReader &operator=(const OldTextReader &) = delete;
 
-    /// A byte that means nothing in the code page is taken as the character of that number. Nothing where UTF-16 ends
-    /// in the middle of a character.
+    /// A byte that is undefined in the code page becomes the Unicode character with the same number. Returns nothing if
+    /// UTF-16 ends in the middle of a character.
     std::optional<QString> read(QByteArrayView bytes) const;
 
 private:
@@ -48,9 +48,9 @@ private:
     void *m_converter = nullptr;
 };
 
-/// The value of a cell that is not Null. A single is the shortest decimal that reads back to the same single; a day
-/// loses its time of day; a time loses its day and is rounded to the nearest second, 23:59:59.7 down to 23:59:59: its
-/// day stands in another column. `scale` is the number of decimals of a Decimal. Nothing where the bytes are no such
-/// value. CanBeRead(type, as) must hold.
+/// The value of a cell that is not Null. A single becomes the shortest decimal that reads back to the same single. A
+/// date loses its time of day. A time loses its date and is rounded to the nearest second; only 23:59:59.7 is rounded
+/// down, because the next second would belong to the next day, and the day is in another column. `scale` is the number
+/// of decimals of a Decimal. Returns nothing if the bytes are not such a value. CanBeRead(type, as) must be true.
 std::optional<Value> ReadOldValue(QByteArrayView bytes, OldType type, int scale, ColumnKind as,
                                   const OldTextReader &texts);

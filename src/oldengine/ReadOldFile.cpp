@@ -1,6 +1,6 @@
-// ostrelmark-read-old FILE DRAFT: reads one file of the old engine into one draft, an empty file, and tells on its
-// output how far it is and how it ended (OldOutcome.h). The start runs it as a program of its own, because a damaged
-// file may crash or stall the library that reads it: the limits below end it, and nothing but the draft is lost.
+// ostrelmark-read-old FILE DRAFT: reads a file of the old engine into a draft, which must be an empty file, and reports
+// on its output how far it is and how it ended (OldOutcome.h). It is a separate program, because a damaged file may
+// crash or stall the library that reads it. The limits below end it in such a case, and only the draft is lost.
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -18,7 +18,7 @@ namespace {
 
 constexpr rlim_t mostMemory = rlim_t(1) << 30;
 constexpr unsigned mostSecondsWithoutProgress = 60;
-/// The draft keeps each number in eight bytes and each text once, with an index or two.
+/// The draft needs about as much room as the file. These limits are far above that.
 constexpr rlim_t mostGrowth = 16, leastRoom = 64 << 20;
 
 void limit(__rlimit_resource what, rlim_t most)
@@ -29,7 +29,7 @@ void limit(__rlimit_resource what, rlim_t most)
 
 void setLimits(const char *file)
 {
-#ifndef __SANITIZE_ADDRESS__ // whose shadow alone takes more
+#ifndef __SANITIZE_ADDRESS__ // AddressSanitizer needs more than this for itself
     limit(RLIMIT_AS, mostMemory);
 #endif
     limit(RLIMIT_CORE, 0);
@@ -37,7 +37,7 @@ void setLimits(const char *file)
     if (::stat(file, &status) == 0)
         limit(RLIMIT_FSIZE, leastRoom + mostGrowth * rlim_t(status.st_size));
     ::alarm(mostSecondsWithoutProgress);
-    // They would change how the library reads a file.
+    // These variables would change how the library reads a file.
     for (const char *name : {"MDB_JET3_CHARSET", "MDB_JET4_CHARSET", "MDBICONV", "MDBOPTS"})
         ::unsetenv(name);
 }
@@ -47,7 +47,7 @@ void say(const OldLine &line)
     const QByteArray bytes = WriteOldLine(line);
     if (std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stdout) != std::size_t(bytes.size()) ||
         std::fflush(stdout) != 0)
-        std::_Exit(1); // nobody listens any more
+        std::_Exit(1); // the program that started this one has ended
 }
 
 void tellProgress(const OldProgress &progress)
@@ -79,5 +79,5 @@ int main(int argc, char **argv)
         say(RuntimeFailure(Failure::OutOfMemory));
         status = 1;
     }
-    std::_Exit(status); // what the library has not freed goes with the process
+    std::_Exit(status); // nothing needs to be freed
 }

@@ -28,14 +28,14 @@ const QString boxTitle = QStringLiteral("Old Database");
 constexpr int pollMilliseconds = 50;
 constexpr int mostNotesInBox = 8;
 
-/// Throws if there is a journal, because SQLite would apply it to the new file.
+/// SQLite would apply such a journal to the new file.
 void requireNoJournal(const QString &path)
 {
     const QString journal = FindFile(path + QStringLiteral("-journal"));
     if (!journal.isEmpty())
         throw RuntimeFailure(Failure::PermissionDenied,
-                             QStringLiteral("%1 belongs to a newer database than the file beside it, %2, which is of "
-                                            "an early release. Put one of the two into another folder.")
+                             QStringLiteral("%1 belongs to a newer database than the file beside it, %2, which comes "
+                                            "from an early release. Put one of the two into another folder.")
                                  .arg(journal, path));
 }
 
@@ -44,21 +44,21 @@ class Reading
 public:
     Reading(const QString &from, const QString &draft) : m_from(from), m_draft(draft) {}
 
-    /// Runs the program that reads the file, and shows its progress. Throws the failure that the program reports, or
-    /// one of its own if the program ended without a result.
+    /// Runs the program that reads, and shows its progress. Throws the failure that it reports, or another one if it
+    /// ends without a report.
     OldOutcome run(frm_OMKupgrade &window)
     {
         const HourGlass waiting;
         window.Show(QStringLiteral("Reading the old database"), 0);
         QProcess reader;
-        reader.setStandardErrorFile(QProcess::nullDevice()); // only technical messages of a library
-        // The reader is killed when this program ends, for whatever reason.
+        reader.setStandardErrorFile(QProcess::nullDevice()); // messages of the library about pages
+        // The reader is killed when this program ends for any reason.
         reader.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
         reader.start(PrivateProgram(readerName), {m_from, m_draft}, QIODevice::ReadOnly);
         if (!reader.waitForStarted())
             throw RuntimeFailure(
                 Failure::CouldNotFindFile,
-                QStringLiteral("Reading it needs the program %1, which belongs to Ostrelmark's installation.")
+                QStringLiteral("The program %1, which reads such files, cannot be started. Install Ostrelmark again.")
                     .arg(PrivateProgram(readerName)));
         while (reader.state() != QProcess::NotRunning || reader.canReadLine()) {
             if (!reader.canReadLine())
@@ -71,7 +71,7 @@ public:
             throw RuntimeFailure(*m_failure);
         if (!m_outcome || reader.exitStatus() != QProcess::NormalExit)
             throw RuntimeFailure(Failure::UnrecognizedFormat,
-                                 QStringLiteral("The file is damaged: what is in it leads nowhere."));
+                                 QStringLiteral("The file is damaged so much that it cannot be read."));
         return *m_outcome;
     }
 
@@ -98,7 +98,7 @@ private:
     std::optional<RuntimeFailure> m_failure;
 };
 
-/// The first lines, each with a dash, because the message box must fit on the screen.
+/// Only the first lines, so that the box fits on the screen.
 QString listOf(const QStringList &lines)
 {
     QString list;
@@ -120,8 +120,8 @@ bool keeperWantsTheRest(const OldOutcome &outcome, const QString &path)
                   vbYesNo + vbExclamation + vbDefaultButton2, boxTitle, detailsOf(outcome.unread)) == MsgBoxAnswer::Yes;
 }
 
-/// The new file gets the permissions of the old one, and its owner may always write it: the old one may come from a
-/// read-only disc.
+/// Gives the new file the permissions of the old one, and lets its owner write to it: an old file that was copied from
+/// a CD is read-only.
 void setMode(const QString &draft, const QString &old)
 {
     struct stat status = {};
@@ -129,7 +129,7 @@ void setMode(const QString &draft, const QString &old)
         ::chmod(QFile::encodeName(draft).constData(), (status.st_mode & 0777) | S_IRUSR | S_IWUSR);
 }
 
-/// Renames the old file and puts the draft in its place.
+/// Copies the old file to its other name, and renames the draft to the old name. Returns the other name.
 QString exchange(Draft &draft, const QString &path)
 {
     const QDir folder = QFileInfo(path).absoluteDir();
@@ -181,8 +181,8 @@ bool OpenOldFile(const QString &databaseName)
         tellOutcome(outcome, exchange(draft, path));
     } catch (const RuntimeFailure &failure) {
         throw RuntimeFailure(failure.number(),
-                             QStringLiteral("The database %1 is of an early release and could not be read into a new "
-                                            "one. It is as it was.\n%2")
+                             QStringLiteral("The database %1 comes from an early release and could not be read into a "
+                                            "new one. It has not been changed.\n%2")
                                  .arg(path, failure.description().section(u'\n', 1)));
     }
     return true;

@@ -1,10 +1,11 @@
-// What is ours of the reading, without the library and without a file: values, the head of a file, tables and columns,
-// entries at the same second, what is refused and what is told.
+// The plain logic of the reading, without the library: values, the head of a file, tables and columns, entries at the
+// same second, what is refused and what is reported.
 #include <cmath>
 #include <limits>
 
 #include "FakeSource.h"
-#include "OldFiles.h"
+#include "oldengine/OldFile.h"
+#include "store/FaultVfs.h"
 
 namespace {
 
@@ -96,29 +97,15 @@ TEST(OldValues, TextsInACodePage)
 TEST(OldFile, TheHeadTellsFormatCodePageAndPassword)
 {
     for (const OldFile &file : oldFiles) {
-        EXPECT_TRUE(IsOldEngineFile(file.path()));
         QByteArray head = file.bytes().first(oldHeaderSize);
-        EXPECT_EQ(ReadOldHeader(head).codePage, file.name.contains("jet3") ? 1252 : 0);
+        head[0x3c] = char(head[0x3c] ^ 1252 ^ 1251);
+        EXPECT_EQ(ReadOldHeader(head).codePage, file.name.contains("jet3") ? 1251 : 0);
         EXPECT_FALSE(ReadOldHeader(head).hasPassword);
-        EXPECT_EQ(numberOf([&] { ReadOldHeader(head.chopped(1)); }), int(Failure::UnrecognizedFormat));
         head[0x44] = char(head[0x44] ^ 'x');
         EXPECT_TRUE(ReadOldHeader(head).hasPassword);
         head[20] = 2; // a later engine
         EXPECT_EQ(numberOf([&] { ReadOldHeader(head); }), int(Failure::UnrecognizedFormat));
     }
-    EXPECT_FALSE(IsOldEngineFile(OMK_OLD_FILES "/rows-1.0/CONFIG.csv"));
-}
-
-TEST(OldOutcome, ALineComesBackAsItWent)
-{
-    const OldOutcome outcome{{{"WATERLOG", 5'000'000'000}}, {"a\nb"}, {"\"é\""}};
-    const auto back = std::get<OldOutcome>(*ReadOldLine(WriteOldLine(outcome)));
-    EXPECT_EQ(back.counts[0].rows, 5'000'000'000);
-    EXPECT_EQ(back.changed + back.unread, QStringList({"a\nb", "\"é\""}));
-    const RuntimeFailure failure(Failure::DiskFull, "Line one.\nLine two.");
-    const auto failed = std::get<RuntimeFailure>(*ReadOldLine(WriteOldLine(failure)));
-    EXPECT_EQ(failed.description(), failure.description());
-    EXPECT_FALSE(ReadOldLine("Segmentation fault\n"));
 }
 
 struct OldCopyTest : testing::Test
@@ -155,7 +142,7 @@ TEST_F(OldCopyTest, ADatabaseOfTheSameVersionComesOut)
 {
     for (const auto &[version, number] : {std::pair{"0.0 ", "10"}, {"1.1 ", "11"}, {"2.0 ", "20"}}) {
         source = FakeSource(version);
-        source.row("TANKLST", {{"tankname", utf16("Reef")}, {"tanksize", bytesOf(120.1F)}});
+        source.row("TANKLST", {{"tankname", utf16("Reef")}, {"tanksize", bytesOf(120.1)}});
         const OldOutcome outcome = copy();
         EXPECT_EQ(outcome.changed + outcome.unread, QStringList());
         EXPECT_EQ(asked("PRAGMA user_version"), number);
@@ -171,14 +158,14 @@ TEST_F(OldCopyTest, ADatabaseOfTheSameVersionComesOut)
 TEST_F(OldCopyTest, NamesAreMatchedInAnyCaseAndWhatIsUnknownIsLeftOutAndTold)
 {
     source.table("WATERLOG").columns[0].name = "TANKNAME";
-    source.row("WATERLOG", {{"TANKNAME", utf16("R")}, {"ph", bytesOf(8.1F)}});
+    source.row("WATERLOG", {{"TANKNAME", utf16("R")}, {"ph", bytesOf(8.1)}});
     source.table("WATERLOG").name = "waterlog";
     source.addColumn("TANKLST Photo", OldType(11));
-    source.add("Switchboard", {{"Id", OldType::Long, 0}}, {});
+    source.addTable({"Switchboard", {{"Id", OldType::Long, 0}}, 0});
     const OldOutcome outcome = copy();
     EXPECT_EQ(outcome.changed.join(' '),
-              "The column \"Photo\" of the table TANKLST is not one of Ostrelmark and was left out. "
-              "The table \"Switchboard\" (rows: 0) is not one of Ostrelmark and was left out.");
+              "The column \"Photo\" of the table TANKLST is not part of Ostrelmark and was left out. "
+              "The table \"Switchboard\" (rows: 0) is not part of Ostrelmark and was left out.");
 }
 
 TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
@@ -189,7 +176,7 @@ TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
         QString says;
     } rows[] = {
         {[](FakeSource &s) { s.removeTable("MAINTLOG"); },
-         "3265 The file has no table MAINTLOG. It is damaged, or of another program."},
+         "3265 The file has no table MAINTLOG. It is damaged, or it belongs to another program."},
         {[](FakeSource &s) { s.table("MAINTLOG").columns.clear(); },
          "3343 The description of the table MAINTLOG cannot be read."},
         {[](FakeSource &s) { s.removeColumn("WATERLOG ph"); }, "3265 The table WATERLOG has no column ph."},
@@ -199,7 +186,7 @@ TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
              s.removeColumn("WATERLOG ph");
              s.addColumn("WATERLOG ph", OldType::Text);
          },
-         "13 The column ph of the table WATERLOG holds another kind of values than this program stores there."},
+         "13 The column ph of the table WATERLOG does not have the type of values that this program stores in it."},
         {[](FakeSource &s) { s.clearRows("CONFIG"); }, "3343 The table CONFIG has no row."},
         {[](FakeSource &s) {
              s.clearRows("CONFIG");
@@ -258,7 +245,7 @@ TEST_F(OldCopyTest, WhatCannotBeReadIsCountedAndTheRestComesOver)
 {
     for (int i = 0; i < 4; ++i)
         source.row("WATERLOG", test(100 + i));
-    source.row("WATERLOG", {{"tankname", utf16("R")}, {"Comment", "?"}, {"ph", bytesOf(8.0F)}});
+    source.row("WATERLOG", {{"tankname", utf16("R")}, {"Comment", "?"}, {"ph", bytesOf(8.0)}});
     source.table("WATERLOG").rows = 8;
     source.lost["ANIMALLIST"] = 1;
     const OldOutcome outcome = copy();
@@ -266,4 +253,16 @@ TEST_F(OldCopyTest, WhatCannotBeReadIsCountedAndTheRestComesOver)
               "WATERLOG: 3 of 8 rows WATERLOG: the column Comment in 1 of 5 rows ANIMALLIST: 1 of 1 rows");
     EXPECT_EQ(asked("SELECT count(*) FROM WATERLOG"), "5");
     EXPECT_EQ(asked("SELECT ph FROM WATERLOG WHERE Comment IS NULL AND ph = 8"), "8.0");
+}
+
+TEST_F(OldCopyTest, AFullDiskIsReported)
+{
+    for (int i = 0; i < 2000; ++i)
+        source.row("WATERLOG", test(100 + i));
+    FaultVfs vfs;
+    for (FaultPlan plan{.code = SQLITE_FULL, .forEver = true}; plan.after < 45; plan.after += 9) {
+        vfs.plan(plan);
+        EXPECT_EQ(refusal().section(' ', 0, 0), QString::number(int(Failure::DiskFull))) << "after " << plan.after;
+        EXPECT_TRUE(vfs.hasStruck());
+    }
 }

@@ -101,22 +101,6 @@ struct OldFilesTest : testing::Test
     QTemporaryDir folder;
 };
 
-TEST_F(OldFilesTest, EveryRowComesOverCellByCell)
-{
-    for (const OldFile &file : oldFiles) {
-        SCOPED_TRACE(file.name.toStdString());
-        const auto last = read(file.path());
-        ASSERT_TRUE(last && std::holds_alternative<OldOutcome>(*last));
-        const auto &outcome = std::get<OldOutcome>(*last);
-        EXPECT_EQ(outcome.unread, QStringList());
-        EXPECT_EQ(outcome.changed.size(), file.name.contains("jet3")); // which has a table of some other use
-        expectWhole(outcome);
-        const auto database = Database::OpenDatabase(draft());
-        for (const QString &table : tableNames)
-            expectSame(rowsOf(*database, file, table), table);
-    }
-}
-
 TEST_F(OldFilesTest, CutOffAtAPageItIsOpenedRightOrToldOrRefused)
 {
     const bool all = argument("--cuts=", {}) == "all";
