@@ -58,9 +58,10 @@ Read dateRead(const DataColumn &column, const QString &text, const ImportOptions
 {
     const auto date = ReadFileDate(text, options);
     if (!date)
-        return refuse(options.dateOrder.isEmpty()
-                          ? QStringLiteral("This is no date such as 2026-11-24. (For another order see --date-order.)")
-                          : QStringLiteral("This is no date in the order that was chosen."));
+        return refuse(
+            options.dateOrder
+                ? QStringLiteral("This is no date in the order that was chosen.")
+                : QStringLiteral("This is no date such as 2026-11-24. (For another order see --date-order.)"));
     if (column.kind == CellKind::EntryDate && !CanBeTyped(*date))
         return refuse(
             QStringLiteral("The year must be between %1 and %2.").arg(lastTypedYear() - 99).arg(lastTypedYear()));
@@ -107,7 +108,7 @@ std::optional<QDate> ReadFileDate(const QString &text, const ImportOptions &opti
 {
     if (const auto date = readIsoDate(text.toStdString()))
         return date;
-    return options.dateOrder.isEmpty() ? std::nullopt : ReadDateInOrder(text, options.dateOrder);
+    return options.dateOrder ? ReadDateInOrder(text, *options.dateOrder) : std::nullopt;
 }
 
 Read ReadCell(const DataColumn &column, const CsvCell &cell, const QString &text, const ImportOptions &options,

@@ -1,5 +1,6 @@
 #include "data/CsvReader.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <cstring>
@@ -63,7 +64,6 @@ struct CsvReader::Parser
         csv_set_delim(&csv, static_cast<unsigned char>(delimiter));
         csv_set_space_func(&csv, isNoBlank);
         csv_set_realloc_func(&csv, growUpToLongest);
-        csv_set_blk_size(&csv, std::size_t(blockSize));
     }
     ~Parser() { csv_free(&csv); }
 
@@ -127,7 +127,7 @@ struct CsvReader::Parser
     CsvFault faultHere() const
     {
         if (csv.status == CSV_ENOMEM)
-            return {line, QStringLiteral("A value is longer than 64 MB. Perhaps a quotation mark is missing.")};
+            return {line, QStringLiteral("A value is longer than 16 MB. Perhaps a quotation mark is missing.")};
         if (isEnded)
             return {line,
                     QStringLiteral("A value begins with a quotation mark and the file ends before a second one.")};
@@ -163,6 +163,8 @@ bool CsvReader::fill()
         const QByteArray block = p.read();
         p.isEnded = block.isEmpty();
         const auto size = std::size_t(block.size());
+        csv_set_blk_size(&p.csv,
+                         std::max(csv_get_buffer_size(&p.csv), std::size_t(blockSize))); // a long value doubles it
         const bool isGood =
             p.isEnded ? csv_fini(&p.csv, Parser::takeCell, Parser::takeEnd, &p) == 0
                       : csv_parse(&p.csv, block.constData(), size, Parser::takeCell, Parser::takeEnd, &p) == size;

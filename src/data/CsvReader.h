@@ -26,7 +26,7 @@ struct CsvCell
 class CsvReader
 {
 public:
-    static constexpr std::size_t longestValue = 64 * 1024 * 1024; ///< bytes; more is taken for a missing quotation mark
+    static constexpr std::size_t longestValue = 16 * 1024 * 1024; ///< bytes; more is taken for a missing quotation mark
     static constexpr std::size_t mostCells = 1000;                ///< that are kept of a record
 
     /// Whether values can be separated by this character: ASCII, no letter, digit, control character but tab,

@@ -55,7 +55,8 @@ void CsvWriter::text(std::string_view utf8)
     const std::size_t begin = m_buffer.size();
     const std::size_t atMost = 2 * utf8.size() + 2;
     m_buffer.resize(begin + atMost);
-    m_buffer.resize(begin + csv_write(m_buffer.data() + begin, atMost, utf8.data(), utf8.size()));
+    const char *bytes = utf8.empty() ? "" : utf8.data(); // of a null pointer csv_write would write nothing
+    m_buffer.resize(begin + csv_write(m_buffer.data() + begin, atMost, bytes, utf8.size()));
 }
 
 void CsvWriter::text(const QString &text)

@@ -7,14 +7,14 @@
 
 #include <QString>
 
-#include "logic/logbook/LogTab.h"
+#include "logic/logbook/LogKinds.h"
 
 struct Globals;
 
 struct ExportOptions
 {
-    QString folder;        ///< is made if it does not exist
-    QString tank;          ///< the name of the only tank to be exported, without reminders; empty for all
+    QString folder = {};   ///< is made if it does not exist
+    QString tank = {};     ///< the name of the only tank to be exported, without reminders; empty for all
     bool replaces = false; ///< files of these names
 };
 

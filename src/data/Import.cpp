@@ -119,7 +119,7 @@ void RowImport::take(const CsvReader &reader)
                  .arg(m_header.places.size()));
         return;
     }
-    if (read(reader.cells()) && (!m_table.isReminders() || completeReminder()))
+    if (read(reader.cells()) && (!m_table.isReminders || completeReminder()))
         store();
 }
 
@@ -333,9 +333,6 @@ std::optional<QString> OptionFault(const ImportOptions &options)
     if (!CsvReader::canDelimit(options.delimiter))
         return QStringLiteral(
             "The delimiter must be one character that is no part of a value, such as \";\" or a tab.");
-    const QStringList orders{QString(), QStringLiteral("MMDDYY"), QStringLiteral("DDMMYY"), QStringLiteral("YYMMDD")};
-    if (!orders.contains(options.dateOrder))
-        return QStringLiteral("The date order must be MMDDYY, DDMMYY or YYMMDD.");
     return std::nullopt;
 }
 

@@ -9,19 +9,21 @@
 
 #include <QString>
 
+#include "text/Dates.h"
+
 struct Globals;
 
 struct ImportOptions
 {
     /// Names in the header and the columns that they stand for; the case of both does not matter. An empty column
     /// leaves the values out.
-    std::vector<std::pair<QString, QString>> map;
-    QString dateOrder;         ///< "MMDDYY", "DDMMYY" or "YYMMDD" of dates that are not ISO; empty: all must be
-    char delimiter = ',';      ///< see CsvReader::canDelimit
-    bool decimalComma = false; ///< numbers have "," before their decimals instead of "."
-    bool replaces = false;     ///< rows that are there and differ get the values of the file
-    bool isDryRun = false;     ///< everything is checked and counted, nothing is stored
-    QString tank;              ///< the tank of all rows of a file of entries that has no column for it
+    std::vector<std::pair<QString, QString>> map = {};
+    std::optional<DateOrder> dateOrder = {}; ///< of dates that are not ISO; nothing: all must be
+    char delimiter = ',';                    ///< see CsvReader::canDelimit
+    bool decimalComma = false;               ///< numbers have "," before their decimals instead of "."
+    bool replaces = false;                   ///< rows that are there and differ get the values of the file
+    bool isDryRun = false;                   ///< everything is checked and counted, nothing is stored
+    QString tank = {};                       ///< the tank of all rows of a file of entries that has no column for it
 };
 
 /// Reads "pH=ph,NO3=nitrate". A name may contain commas and "="; the last "=" before the comma counts. Nothing where a

@@ -101,7 +101,7 @@ bool isDay(const QString &words)
            std::all_of(day.begin(), day.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
-QString wordsOf(const RecurrenceRule &rule, const QString &dateOrder)
+QString wordsOf(const RecurrenceRule &rule, DateOrder dateOrder)
 {
     const QString &detail = rule.RecurrenceDetail;
     switch (formOf(rule)) {
@@ -141,7 +141,7 @@ const char *columnOf(const QString &control)
 
 } // namespace
 
-QString DetailInWords(const RecurrenceRule &rule, const QString &dateOrder)
+QString DetailInWords(const RecurrenceRule &rule, DateOrder dateOrder)
 {
     const QString words = wordsOf(rule, dateOrder);
     if (formOf(rule) == Form::Date)

@@ -14,7 +14,7 @@
 #include "text/Dates.h"
 
 /// The rule's detail in words, or as it is stored where it has none. `dateOrder` is the user's.
-QString DetailInWords(const RecurrenceRule &rule, const QString &dateOrder);
+QString DetailInWords(const RecurrenceRule &rule, DateOrder dateOrder);
 
 /// Reads the words for the rule's pattern and returns the detail that is stored; nothing if they are none. Names may be
 /// cut to three letters. `readDate` reads the date of a reminder that occurs once.

@@ -1,5 +1,6 @@
 #include "data/Tables.h"
 
+#include "logic/logbook/LogKinds.h"
 #include "logic/reminders/RecurrenceRule.h"
 #include "logic/shell/Globals.h"
 
@@ -45,34 +46,32 @@ auto price(const char *name)
     return [name](const QString &text) { return BadPrice(QLatin1String(name), text); };
 }
 
-DataColumn tankColumn(const char *stored)
+/// A log with the columns that say whose entry a row is, and of when.
+DataTable logOf(LogTab tab, const char *file, const char *entry, const QDateTime &now)
 {
-    return {.name = QStringLiteral("tank"),
-            .stored = QLatin1String(stored),
-            .kind = CellKind::Tank,
-            .ifEmpty = noTank,
-            .isKey = true};
-}
-
-DataColumn dateColumn(const char *stored, const QDateTime &now)
-{
-    return {.name = QStringLiteral("date"),
-            .stored = QLatin1String(stored),
-            .kind = CellKind::EntryDate,
-            .start = now.date(),
-            .ifEmpty = noDate,
-            .isKey = true};
-}
-
-DataColumn timeColumn(const char *stored, const QDateTime &now)
-{
+    const LogKind &kind = KindOf(tab);
     const QTime time = now.time();
-    return {.name = QStringLiteral("time"),
-            .stored = QLatin1String(stored),
-            .kind = CellKind::Time,
-            .start = QTime(time.hour(), time.minute(), time.second()),
-            .ifEmpty = noTime,
-            .isKey = true};
+    return {.file = QLatin1String(file),
+            .table = QLatin1String(kind.table),
+            .entry = QLatin1String(entry),
+            .column = QLatin1String(kind.tankColumn),
+            .columns = {{.name = QStringLiteral("tank"),
+                         .stored = QLatin1String(kind.tankColumn),
+                         .kind = CellKind::Tank,
+                         .ifEmpty = noTank,
+                         .isKey = true},
+                        {.name = QStringLiteral("date"),
+                         .stored = QLatin1String(kind.dateColumn),
+                         .kind = CellKind::EntryDate,
+                         .start = now.date(),
+                         .ifEmpty = noDate,
+                         .isKey = true},
+                        {.name = QStringLiteral("time"),
+                         .stored = QLatin1String(kind.timeColumn),
+                         .kind = CellKind::Time,
+                         .start = QTime(time.hour(), time.minute(), time.second()),
+                         .ifEmpty = noTime,
+                         .isKey = true}}};
 }
 
 /// A column whose values may be empty.
@@ -120,11 +119,7 @@ DataTable tanks(const Globals &g)
 
 DataTable water(const Globals &g, const QDateTime &now)
 {
-    DataTable table{QStringLiteral("water.csv"),
-                    QStringLiteral("WATERLOG"),
-                    QStringLiteral("water test"),
-                    QStringLiteral("tankname"),
-                    {tankColumn("tankname"), dateColumn("logdate", now), timeColumn("logtime", now)}};
+    DataTable table = logOf(WaterTab, "water.csv", "water test", now);
     for (const MeasurementRow &row : measurements) {
         const StartValue &start = g.gDefaultWaterType == u"SALT" ? row.entry.salt : row.entry.fresh;
         const auto complaint = [&row, names = g.userFieldNames()](const QString &text) {
@@ -143,51 +138,44 @@ DataTable water(const Globals &g, const QDateTime &now)
 
 DataTable livestock(const QDateTime &now)
 {
-    return {QStringLiteral("livestock.csv"),
-            QStringLiteral("LIVESTOCK"),
-            QStringLiteral("livestock entry"),
-            QStringLiteral("tankname"),
-            {tankColumn("tankname"),
-             dateColumn("dateadded", now),
-             timeColumn("timeadded", now),
-             {.name = QStringLiteral("animal"),
-              .stored = QStringLiteral("animalname"),
-              .kind = CellKind::Line,
-              .ifEmpty = QLatin1String(noAnimal),
-              .complaint = limited(animalLimit),
-              .isKey = true},
-             {.name = QStringLiteral("quantity"),
-              .stored = QStringLiteral("quantity"),
-              .kind = CellKind::Number,
-              .start = double(startAnimals),
-              .ifEmpty = QLatin1String(animalsLimit.ifNoNumber),
-              .complaint = limited(animalsLimit)},
-             plain("status", "Status", CellKind::Line, nothing, limited(statusLimit)),
-             plain("price_paid", "price_paid", CellKind::Number, {}, price("Price Paid")),
-             plain("price_sold", "price_sold", CellKind::Number, {}, price("Price Sold")),
-             plain("date_lost", "datelost", CellKind::EntryDate, {}, nullptr),
-             plain("where_purchased", "where_purch", CellKind::Line, nothing, limited(placeLimit)),
-             notes("comment", "Comment", startNote)}};
+    DataTable table = logOf(LivestockTab, "livestock.csv", "livestock entry", now);
+    table.columns.insert(table.columns.end(),
+                         {{.name = QStringLiteral("animal"),
+                           .stored = QStringLiteral("animalname"),
+                           .kind = CellKind::Line,
+                           .ifEmpty = QLatin1String(noAnimal),
+                           .complaint = limited(animalLimit),
+                           .isKey = true},
+                          {.name = QStringLiteral("quantity"),
+                           .stored = QStringLiteral("quantity"),
+                           .kind = CellKind::Number,
+                           .start = double(startAnimals),
+                           .ifEmpty = QLatin1String(animalsLimit.ifNoNumber),
+                           .complaint = limited(animalsLimit)},
+                          plain("status", "Status", CellKind::Line, nothing, limited(statusLimit)),
+                          plain("price_paid", "price_paid", CellKind::Number, {}, price("Price Paid")),
+                          plain("price_sold", "price_sold", CellKind::Number, {}, price("Price Sold")),
+                          plain("date_lost", "datelost", CellKind::EntryDate, {}, nullptr),
+                          plain("where_purchased", "where_purch", CellKind::Line, nothing, limited(placeLimit)),
+                          notes("comment", "Comment", startNote)});
+    return table;
 }
 
 DataTable maintenance(const QDateTime &now)
 {
-    return {QStringLiteral("maintenance.csv"),
-            QStringLiteral("MAINTLOG"),
-            QStringLiteral("maintenance entry"),
-            QStringLiteral("mainttankname"),
-            {tankColumn("mainttankname"),
-             dateColumn("maintlogdate", now),
-             timeColumn("maintlogtime", now),
-             {.name = QStringLiteral("task"),
-              .stored = QStringLiteral("maintlogtask"),
-              .kind = CellKind::Line,
-              .ifEmpty = QLatin1String(noTask),
-              .complaint = limited(taskLimit)},
-             plain("description", "maintlogdesc", CellKind::Line, startNote, limited(descriptionLimit)),
-             plain("quantity", "maintlogqty", CellKind::Number, double(startQuantity), limited(quantityLimit)),
-             plain("unit", "maintlogunit", CellKind::Line, nothing, limited(unitLimit)),
-             notes("notes", "maintlognote", startNote)}};
+    DataTable table = logOf(MaintenanceTab, "maintenance.csv", "maintenance entry", now);
+    table.columns.insert(
+        table.columns.end(),
+        {{.name = QStringLiteral("task"),
+          .stored = QStringLiteral("maintlogtask"),
+          .kind = CellKind::Line,
+          .ifEmpty = QLatin1String(noTask),
+          .complaint = limited(taskLimit)},
+         plain("description", "maintlogdesc", CellKind::Line, startNote, limited(descriptionLimit)),
+         plain("quantity", "maintlogqty", CellKind::Number, double(startQuantity), limited(quantityLimit)),
+         plain("unit", "maintlogunit", CellKind::Line, nothing, limited(unitLimit)),
+         notes("notes", "maintlognote", startNote)});
+    return table;
 }
 
 DataTable reminders(const QDateTime &now)

@@ -49,7 +49,7 @@ struct DataTable
     QString table;  ///< in the store
     QString entry;  ///< what a row is, such as "water test"
     QString column; ///< that holds the tankid of the entry's tank; empty if the rows are no entries of tanks
-    std::vector<DataColumn> columns;
+    std::vector<DataColumn> columns = {};
     bool isReminders = false;
 
     bool isTanks() const { return columns.front().kind == CellKind::TankName; }

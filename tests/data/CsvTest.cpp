@@ -67,9 +67,8 @@ TEST_F(CsvTest, TheCutsOfTheBlocksDoNotShow)
     for (int shift = 0; shift < 12; ++shift) {
         QByteArray content = "h\r\n" + QByteArray(shift, 'x') + "\r\n";
         QString expected = shift > 0 ? "1:[h] 2:[" + QString(shift, 'x') + "]" : QString("1:[h]");
-        for (int line = 3; content.size() < 200'000; line += 3) {
-            content += "a\"\"b,\"c\r\nd\"\"e\"\r\n\r\n";
-            content.replace("a\"\"b", "ab");
+        for (int line = 3; content.size() < 70'000; line += 3) {
+            content += "ab,\"c\r\nd\"\"e\"\r\n\r\n";
             expected += QString(" %1:[ab][c\r\nd\"e]").arg(line);
         }
         ASSERT_EQ(read(content), expected) << shift;
@@ -78,11 +77,11 @@ TEST_F(CsvTest, TheCutsOfTheBlocksDoNotShow)
 
 TEST_F(CsvTest, ARecordOfManyValuesAndAVeryLongValueNeedNoMoreMemory)
 {
-    writeFile(path(), QByteArray(5'000'000, ',') + "\nb\n");
+    writeFile(path(), QByteArray(1'000'000, ',') + "\nb\n");
     CsvReader wide(path(), ',');
     ASSERT_TRUE(wide.next());
     EXPECT_EQ(wide.cells().size(), CsvReader::mostCells);
-    EXPECT_EQ(wide.cellCount(), 5'000'001u);
+    EXPECT_EQ(wide.cellCount(), 1'000'001u);
     ASSERT_TRUE(wide.next());
     EXPECT_EQ(wide.cells().size(), 1u);
 

@@ -65,7 +65,7 @@ struct DataTest : testing::Test
     void addTank(const QString &name)
     {
         run("INSERT INTO TANKLST (tankname, tankid, tanksize, TankWaterType) VALUES (?, ?, 55, '1')",
-            {name, "id of " + name});
+            {name, QString("id of " + name)});
     }
     /// The first value of a query as text.
     QString asked(const QString &sql) { return g.gDatabase->OpenRecordset(sql).rows()->text(0, 0); }

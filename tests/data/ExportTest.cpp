@@ -26,7 +26,7 @@ struct ExportTest : DataTest
         run("INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime, maintlogtask, maintlogqty, maintlognote) "
             "VALUES "
             "('id of Pond', '2026-01-03', '09:00:00', 'Clean', 'many', ?)",
-            {"a\r\nb"});
+            {QString("a\r\nb")});
         run("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "
             "SchedRSubtype, SchedDetailText) "
             "VALUES ('Once', '2026-01-01', '2028-01-01', 1, 4, 0, '12/31/26'), ('Week', '2026-01-01', 'soon', 2, 1, "
@@ -62,7 +62,7 @@ TEST_F(ExportTest, EachFileHasAHeaderAndItsRowsInOrder)
                           "\"Week\",2026-01-01,\"soon\",\"weekly\",,2,\"Monday, Wednesday\",\r\n"},
     };
     for (const auto &[name, content] : expected)
-        EXPECT_EQ(there()[name], content) << name.toStdString();
+        EXPECT_EQ(there()[name].toStdString(), content.toStdString()) << name.toStdString();
     EXPECT_EQ(there().size(), expected.size());
 }
 

@@ -58,25 +58,26 @@ TEST_F(ImportTest, SpreadsheetsOfOtherCountriesAreRead)
          {.map = *ReadMap("colour=")},
          ""},
         {"tank;date;time;ph;nitrate;colour\nReef;2.1.2026;01:05:00 pm;8,1;1,5;blue\n",
-         {.map = *ReadMap("colour="), .dateOrder = "DDMMYY", .delimiter = ';', .decimalComma = true},
+         {.map = *ReadMap("colour="), .dateOrder = DateOrder::DDMMYY, .delimiter = ';', .decimalComma = true},
          "2026-01-02 13:05:00 8.1 1.5"},
         {"tank,date,time,ph,nitrate\nReef,1/2/26,1:5:9,1e1,-.5\n",
-         {.dateOrder = "MMDDYY"},
+         {.dateOrder = DateOrder::MMDDYY},
          "2026-01-02 01:05:09 10.0 -0.5"},
         {"tank,date,time,ph,nitrate\nReef,26-01-02,13:05:00,+8, 5 \n",
-         {.dateOrder = "YYMMDD"},
+         {.dateOrder = DateOrder::YYMMDD},
          "2026-01-02 13:05:00 8.0 5.0"},
         {"tank,date,time,ph,nitrate\nReef,2026-01-02,13:05:00,8,5\n",
-         {.dateOrder = "DDMMYY"},
+         {.dateOrder = DateOrder::DDMMYY},
          "2026-01-02 13:05:00 8.0 5.0"},
         {"date,time,ph,nitrate\n2026-01-02,13:05:00,8,5\n", {.tank = "Reef"}, "2026-01-02 13:05:00 8.0 5.0"},
     };
     for (const Case &c : cases) {
         import(c.content, c.options);
         EXPECT_EQ(faults.isEmpty(), *c.expected != 0) << c.content << faults.join('\n').toStdString();
-        if (*c.expected)
+        if (*c.expected) {
             EXPECT_EQ(asked("SELECT logdate || ' ' || logtime || ' ' || ph || ' ' || nitrate FROM WATERLOG"),
                       c.expected);
+        }
         run("DELETE FROM WATERLOG");
     }
 }
@@ -106,7 +107,7 @@ const FaultCase headerFaults[] = {
     {"tank;date;ph\n", "line 1: The header has no column that is known."},
     {"tank,date,time,ph,foo\n", "line 1, foo: water.csv has no such column. It has tank, date, time, ammonia"},
     {"tank,date,time,foo\n", "line 1, foo: No table has this column beside the others."},
-    {"tank,ph,animal\n", "line 1, animal: water.csv has no such column."},
+    {"tank,ph,animal\n", "line 1, animal: No table has this column beside the others."},
     {"tank,date,ph,PH\n", "line 1, PH: The header has this column twice."},
     {"tank,ph,NO3,nitrate\n", "line 1, nitrate: The header has this column twice.", {.map = *ReadMap("no3=nitrate")}},
     {"tank,ph,\n", "line 1: A column of the header has no name."},
@@ -118,7 +119,7 @@ const FaultCase headerFaults[] = {
     {"tank,p\xffh\n", "line 1: The letters are not encoded in UTF-8."},
     {"\xff\xfet\0a\0", "line 1: The letters are not encoded in UTF-8."},
     {"ph\n8\n", "line 1: There is no tank named \"Pond\".", {.tank = "Pond"}},
-    {"tank,ph\nReef,8\n", "line 1, tank: The file names the tanks itself.", {.tank = "Reef"}},
+    {"tank,ph\nReef,8\n", "line 1, tank: The file names the tanks itself,", {.tank = "Reef"}},
 };
 
 const FaultCase valueFaults[] = {
@@ -149,7 +150,7 @@ const FaultCase valueFaults[] = {
     {"tank,date\nReef,24.11.2026\n", "line 2, date \"24.11.2026\": This is no date such as 2026-11-24. (For another"},
     {"tank,date\nReef,11/24/2026\nReef,29.2.2025\n",
      "line 2, date \"11/24/2026\": This is no date in the order\nline 3, date",
-     {.dateOrder = "DDMMYY"}},
+     {.dateOrder = DateOrder::DDMMYY}},
     {"tank,date\nReef,1929-12-31\nReef,2030-01-01\nReef,0026-01-01\nReef,1930-01-01\nReef,2029-12-31\n",
      "line 2, date \"1929-12-31\": The year must be between 1930 and 2029.\nline 3, date\nline 4, date"},
     {"tank,time\nReef,25:00:00\nReef,00:30:00 AM\nReef,13:00:00 PM\nReef,12:00:60 PM\nReef,12\n",
@@ -215,7 +216,7 @@ TEST_F(ImportTest, EachFaultIsToldWithItsPlaceAndNothingIsStored)
     ReadOptions(g);
     const auto check = [this](const FaultCase &c) {
         const QByteArray content =
-            QByteArray(c.content).startsWith("\xff\xfe") ? QByteArray("\xff\xfet\0a\0", 6) : c.content;
+            QByteArray(c.content).startsWith("\xff\xfe") ? QByteArray("\xff\xfet\0a\0", 6) : QByteArray(c.content);
         const ImportResult result = import(content, c.options);
         const QStringList expected = QString::fromUtf8(c.faults).split('\n');
         EXPECT_EQ(result.faults, faults.size());
@@ -237,7 +238,6 @@ TEST_F(ImportTest, TheOptionsThemselvesAreChecked)
         EXPECT_FALSE(OptionFault({.delimiter = delimiter})) << delimiter;
     for (const char delimiter : {'"', '\n', '\r', '\0', 'a', '5', '.', '-', '\xff'})
         EXPECT_TRUE(OptionFault({.delimiter = delimiter})) << delimiter;
-    EXPECT_TRUE(OptionFault({.dateOrder = "YYDDMM"}));
 }
 
 TEST_F(ImportTest, ARowThatIsThereIsPassedOverAndOneThatDiffersIsAFault)

@@ -140,7 +140,7 @@ private:
     /// of an older version.
     void addReminders()
     {
-        const DateConventions dates{"MMDDYY", "MM/DD/YY"};
+        const DateConventions dates{DateOrder::MMDDYY, "MM/DD/YY"};
         int count = 0;
         for (int type = 0; type < 5; ++type)
             for (int variant = 0; variant < 2; ++variant)
@@ -181,6 +181,12 @@ private:
 
 struct RoundTripTest : DataTest
 {
+    static void expectSame(const QStringList &out, const QStringList &back)
+    {
+        ASSERT_EQ(out.size(), back.size());
+        for (qsizetype row = 0; row < out.size(); ++row)
+            ASSERT_EQ(out[row].toStdString(), back[row].toStdString());
+    }
     /// Exports the database, imports the files into a new one and compares all rows; then imports them once more.
     void goOutAndComeBack(const QString &there)
     {
@@ -198,7 +204,7 @@ struct RoundTripTest : DataTest
                     << file.path.toStdString();
             }
         for (const QString &table : dataTables)
-            EXPECT_EQ(rowsOf(*g.gDatabase, table), rowsOf(*back.gDatabase, table)) << table.toStdString();
+            expectSame(rowsOf(*g.gDatabase, table), rowsOf(*back.gDatabase, table));
     }
 };
 
@@ -206,7 +212,7 @@ TEST_F(RoundTripTest, AllRowsComeBackTheSame)
 {
     Filler(*g.gDatabase).fill(rowsOfThisRun());
     goOutAndComeBack("out");
-    g.options.DateOrder = "DDMMYY"; // nothing in a file depends on the options of either side
+    g.options.DateOrder = DateOrder::DDMMYY; // nothing in a file depends on the options of either side
     g.options.DatePicture = "DD.MM.YY";
     goOutAndComeBack("german");
 }

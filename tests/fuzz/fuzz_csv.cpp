@@ -42,10 +42,10 @@ qint64 rowsIn(Database &database)
 
 ImportOptions optionsFrom(Input &input)
 {
-    const char *const orders[] = {"", "MMDDYY", "DDMMYY", "YYMMDD"};
+    const std::optional<DateOrder> orders[] = {{}, DateOrder::MMDDYY, DateOrder::DDMMYY, DateOrder::YYMMDD};
     ImportOptions options;
     options.delimiter = ",;\t|"[input.choice(4)];
-    options.dateOrder = QLatin1String(orders[input.choice(4)]);
+    options.dateOrder = orders[input.choice(4)];
     const int flags = input.choice(16);
     options.decimalComma = flags & 1;
     options.replaces = flags & 2;

@@ -28,8 +28,6 @@ private:
     /// Checks in their order; false, after its box, at the first fault.
     bool fieldsAreGood();
     bool txt_tanksize_LostFocus();
-    /// A new tank's identity: the date and time of its making; a tank made in the same second gets the next free one.
-    QString newTankId();
     /// Writes the box into the row, if the keeper has edited it.
     void put(const char *column, const QWidget &box, const Value &value);
     void store();
