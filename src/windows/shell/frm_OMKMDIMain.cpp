@@ -238,17 +238,19 @@ bool frm_OMKMDIMain::tipIsDue()
 
 void frm_OMKMDIMain::CheckTanks()
 {
-    g.gNoTanks = QStringLiteral("N");
-    const bool none =
-        g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC"))
-            .isEmpty();
-    if (none) {
-        Beep();
-        MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
-        g.gNoTanks = QStringLiteral("Y");
-    }
-    button(QStringLiteral("logbook")).Enabled(!none);
-    button(QStringLiteral("graphing")).Enabled(!none);
+    EnableTankButtons();
+    if (g.gNoTanks == u"N")
+        return;
+    Beep();
+    MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
+}
+
+void frm_OMKMDIMain::EnableTankButtons()
+{
+    const bool none = g.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM TANKLST LIMIT 1")).isEmpty();
+    g.gNoTanks = none ? QStringLiteral("Y") : QStringLiteral("N");
+    for (const char *key : {"logbook", "graphing"})
+        button(QLatin1String(key)).Enabled(!none);
 }
 
 void frm_OMKMDIMain::ShowChild(ChildForm &child)
