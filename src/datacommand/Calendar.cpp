@@ -22,7 +22,8 @@ constexpr QUuid eventNames(0x6f6d6b61, 0x1998, 0x4d42, 0x8a, 0x71, 0x72, 0x65, 0
 
 icaltimetype icalDay(const QDate &date)
 {
-    icaltimetype time = icaltime_null_date();
+    icaltimetype time = icaltime_null_time(); // the library's date without a time has an hour of -1, and counts wrong
+    time.is_date = 1;
     time.year = date.year();
     time.month = date.month();
     time.day = date.day();

@@ -63,18 +63,18 @@ std::vector<TableRule> tableRules()
          "SELECT *, tankname AS NameOfTank FROM TANKLST",
          {text("tankname", shortText, true), text("tankid", HUGE_VAL, true), text("Tankdesc", shortText),
           number("tanksize", 9999), text("TankWaterType", 1, true)}},
-        {"water test",
+        {"water test of",
          "SELECT l.*, t.tankname AS NameOfTank, logdate AS Day, logtime AS Clock "
          "FROM WATERLOG l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
          waterColumns()},
-        {"livestock entry",
+        {"livestock entry of",
          "SELECT l.*, t.tankname AS NameOfTank, dateadded AS Day, timeadded AS "
          "Clock "
          "FROM LIVESTOCK l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
          {moment("dateadded", Holds::Date), moment("timeadded", Holds::Time), text("animalname", shortText, true),
           number("quantity", 32000), text("Status", 30), number("price_paid", 1e12), number("price_sold", 1e12),
           moment("datelost", Holds::Date, false), text("where_purch", shortText)}},
-        {"maintenance entry",
+        {"maintenance entry of",
          "SELECT l.*, t.tankname AS NameOfTank, maintlogdate AS Day, "
          "maintlogtime AS Clock "
          "FROM MAINTLOG l LEFT JOIN TANKLST t ON t.tankid = l.mainttankname",

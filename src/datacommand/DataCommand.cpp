@@ -101,7 +101,7 @@ int RunDataCommand(std::span<char *const> arguments)
 {
     CLI::App app("Takes the data of Ostrelmark out and brings it back, on a terminal.", "ostrelmark-data");
     app.set_version_flag("--version", "Ostrelmark " OMK_REVISION);
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1); // a wrong verb is named, which the parser does not do where one is required
     std::string folder;
     app.add_option("--folder", folder,
                    "The folder of your data. Without it, that is the current "
@@ -116,6 +116,10 @@ int RunDataCommand(std::span<char *const> arguments)
         app.parse(int(arguments.size()), arguments.data());
     } catch (const CLI::ParseError &error) {
         return app.exit(error) == 0 ? DataDone : DataWrongUse;
+    }
+    if (!work) {
+        Complain(QStringLiteral("say what to do. \"ostrelmark-data --help\" lists the verbs."));
+        return DataWrongUse;
     }
     try {
         KeepersData data(fileName(folder));

@@ -125,7 +125,7 @@ bool mayBeListed(const RecurrenceRule &rule)
 
 TEST(Calendar, RandomRulesHaveTheDatesOfTheSchedule)
 {
-    for (unsigned seed = 1; seed <= 10; ++seed) {
+    for (unsigned seed = 1; seed <= 2; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         RandomRules random(seed);
         const DateRange range{QDate(2026, 3, 14).addDays(random.pick(-300, 300)), QDate(2028, 3, 14)};

@@ -14,7 +14,7 @@ TEST_F(DataCommand, AWrongCallIsToldApartFromAFailure)
         {{"--help"}, 0, "upcoming"},
         {{"calendar", "--help"}, 0, "--from"},
         {{"--version"}, 0, "Ostrelmark 2."},
-        {{}, 2, "subcommand is required"},
+        {{}, 2, "say what to do"},
         {{"frobnicate"}, 2, "frobnicate"},
         {{"upcoming", "--days", "0"}, 2, "--days"},
         {{"upcoming", "--days", "many"}, 2, "--days"},
