@@ -191,6 +191,7 @@ TEST_F(BoxesTest, OneLineIsTakenOfATextOfSeveralHoweverItComes)
             box->setCursorPosition(0);
             enter(*box, QStringLiteral("my \nyour"));
             EXPECT_EQ(box->text(), QStringLiteral("mytank"));
+            EXPECT_EQ(box->cursorPosition(), 2);
             EXPECT_TRUE(box->hasAcceptableInput()) << "or Return would do nothing";
         }
         date->setText({});

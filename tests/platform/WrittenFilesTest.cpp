@@ -1,6 +1,7 @@
 // The files that the program writes for a keeper beside his database: PDFs and settings. A failure leaves what was
 // there.
 #include <csignal>
+#include <functional>
 
 #include <sys/resource.h>
 
@@ -11,9 +12,11 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrintPreviewDialog>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -26,6 +29,28 @@
 #include "platform/desktop/PaintedPages.h"
 #include "platform/desktop/Paper.h"
 #include "support/TestFiles.h"
+
+/// A keeper who looks at the dialog in front fifty times a second. After ten seconds he gives up and leaves every
+/// dialog, so that a fault fails the test and does not hang it.
+class Attendant
+{
+public:
+    explicit Attendant(const std::function<void(QWidget *)> &look)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this, look] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (++m_looks <= 500)
+                look(dialog);
+            else if (dialog)
+                dialog->close();
+        });
+        m_timer.start(20);
+    }
+
+private:
+    QTimer m_timer;
+    int m_looks = 0;
+};
 
 struct WrittenFiles : testing::Test
 {
@@ -97,9 +122,7 @@ TEST_F(WrittenFiles, APdfIsAskedForByTheNameThatItGets)
     writeFile(mine, "another report");
     DesktopDoors doors;
     QStringList questions;
-    QTimer keeper;
-    QObject::connect(&keeper, &QTimer::timeout, [&] {
-        QWidget *dialog = QApplication::activeModalWidget();
+    const Attendant keeper([&](QWidget *dialog) {
         if (auto *question = qobject_cast<QMessageBox *>(dialog)) {
             questions << question->text();
             question->button(QMessageBox::No)->click();
@@ -113,7 +136,6 @@ TEST_F(WrittenFiles, APdfIsAskedForByTheNameThatItGets)
             files->reject();
         }
     });
-    keeper.start(20);
     EXPECT_EQ(doors.saveDialog(AskForPdf("Print Log", "Log")), std::nullopt);
     EXPECT_EQ(questions.size(), 1);
     EXPECT_TRUE(std::exchange(questions, {}).join(' ').contains("mine.pdf"));
@@ -139,10 +161,8 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
                 return action;
         return static_cast<QAction *>(nullptr);
     };
-    QTimer keeper;
     int step = 0;
-    QObject::connect(&keeper, &QTimer::timeout, [&] {
-        QWidget *dialog = QApplication::activeModalWidget();
+    const Attendant keeper([&](QWidget *dialog) {
         if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
             files->selectFile(name + ".pdf");
             QTest::keyClick(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
@@ -156,7 +176,6 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
             step = 3;
         }
     });
-    keeper.start(20);
     const auto answer = doors.preview(request);
     Doors::install(former);
     ASSERT_TRUE(answer);
@@ -165,6 +184,22 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
     EXPECT_TRUE(answer->target.keepsOrientation);
     const auto pages = doors.openPages(answer->target);
     EXPECT_LT(pages->width(), pages->height());
+}
+
+TEST_F(WrittenFiles, CopiesAreAskedForOnceAndTheirCountDoesNotStayInThePrinter)
+{
+    const auto printer = std::make_shared<QPrinter>();
+    printer->setOutputFileName(name);
+    const Attendant keeper([](QWidget *dialog) {
+        if (auto *print = qobject_cast<QPrintDialog *>(dialog)) {
+            print->findChild<QSpinBox *>(QStringLiteral("copies"))->setValue(3);
+            print->accept();
+        }
+    });
+    const auto answer = AskPrinter(nullptr, {"Print Log", false, "Log"}, printer);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->copies, 3);
+    EXPECT_EQ(printer->copyCount(), 1) << "or each of the three documents would come three times";
 }
 
 TEST_F(WrittenFiles, APrinterKeepsTheChosenPaper)

@@ -13,8 +13,10 @@ protected:
     {
         const char *const tanks[][3] = {
             {"Reef", "r1", "3"}, {"Same", "Same", "2"}, {"Bowl", "b1", "1"}, {"Marsh", "k1", "4"}, {"Pond", "p1", "5"}};
+        Database::Transaction whole(*keeper.g().gDatabase);
         for (const auto &[name, id, water] : tanks)
             keeper.addTank(name, id, water);
+        whole.commit();
         open("Reef");
     }
     void open(const QString &tank)

@@ -1,4 +1,5 @@
 // The entry windows of the three logs: what holds for each of them, by a table of what differs.
+#include <optional>
 #include <ranges>
 
 #include "Desk.h"
@@ -21,17 +22,22 @@ struct Fault
     bool onLeaving = false; ///< it is told as soon as the box is left
 };
 
+/// A box, what is typed into it, and the column that gets it.
+struct Box
+{
+    QString name, typed, column;
+    std::optional<QString> left = {}; ///< a change empties the box, and then this is in the column
+};
+
 struct Log
 {
     LogTab tab;
     void (*inNext)(const Action &);
-    const char *file;           ///< the table, and its columns of tank, date and time
-    QStringList moment;         ///< the boxes of date and time
-    const char *boxes;          ///< the others, each with what is typed into it
-    const char *columns;        ///< where that comes to stand
-    const char *cleared, *left; ///< boxes that a change clears, and what then stands in the columns
-    const char *taken;          ///< the refusal of a second entry
-    std::vector<Fault> faults;  ///< in the order of the checks
+    const char *file;          ///< the table, and its columns of tank, date and time
+    QStringList moment;        ///< the boxes of date and time
+    std::vector<Box> boxes;    ///< the others
+    const char *taken;         ///< the refusal of a second entry
+    std::vector<Fault> faults; ///< in the order of the checks
 };
 
 void PrintTo(const Log &log, std::ostream *out) { *out << log.file; }
@@ -41,11 +47,20 @@ const Log logs[] = {
      next<frm_WaterAddEdit>,
      "WATERLOG tankname logdate logtime",
      {"txt_date", "txt_time"},
-     "txt_ammonia 0.125|txt_nitrite 2.5|txt_nitrate 3.5|txt_ph 4.5|txt_sg 1.025|txt_temp 15.5|txt_oxygen -1.5|"
-     "txt_dkh 17.5|txt_calcium 415.5|txt_copper 19.5|txt_orp 333.5|txt_user1 21.5|txt_user2 22.5|txt_Comment a\n\"b\"'",
-     "Ammonia nitrite nitrate ph sg temp oxygen dkh calcium copper orp custom1 custom2 Comment",
-     "txt_Comment",
-     "0.125|2.5|3.5|4.5|1.025|15.5|-1.5|17.5|415.5|19.5|333.5|21.5|22.5|",
+     {{"txt_ammonia", "0.125", "Ammonia"},
+      {"txt_nitrite", "2.5", "nitrite"},
+      {"txt_nitrate", "3.5", "nitrate"},
+      {"txt_ph", "4.5", "ph"},
+      {"txt_sg", "1.025", "sg"},
+      {"txt_temp", "15.5", "temp"},
+      {"txt_oxygen", "-1.5", "oxygen"},
+      {"txt_dkh", "17.5", "dkh"},
+      {"txt_calcium", "415.5", "calcium"},
+      {"txt_copper", "19.5", "copper"},
+      {"txt_orp", "333.5", "orp"},
+      {"txt_user1", "21.5", "custom1"},
+      {"txt_user2", "22.5", "custom2"},
+      {"txt_Comment", "a\n\"b\"'", "Comment", ""}},
      "Oops!/48/This tank already has a water test at that date and time.",
      {{"txt_ammonia", "999.001", "Ammonia entries must be less than 1000.", "999", true},
       {"txt_ph", "99.001", "Ph entries", "99", true},
@@ -61,11 +76,14 @@ const Log logs[] = {
      next<frm_LivesAddEdit>,
      "LIVESTOCK tankname dateadded timeadded",
      {"txt_DateAdded", "txt_timeadded"},
-     "lst_AnimalList Nan's \"Tang\"|txt_quantity 3|lst_where Zoo|txt_pricepaid 12.5|txt_pricesold 7.5|"
-     "txt_datelost 26-05-25|lst_Status sold|txt_Comment shy\nfish",
-     "animalname printf('%d',quantity) where_purch price_paid price_sold substr(datelost,3) Status Comment",
-     "lst_where txt_pricepaid txt_pricesold txt_datelost", // an empty price or date leaves what was there
-     "Nan's \"Tang\"|3||12.5|7.5|26-05-25|sold|shy\nfish",
+     {{"lst_AnimalList", "Nan's \"Tang\"", "animalname"},
+      {"txt_quantity", "3", "printf('%d',quantity)"},
+      {"lst_where", "Zoo", "where_purch", ""},
+      {"txt_pricepaid", "12.5", "price_paid", "12.5"}, // an empty price or date leaves what was there
+      {"txt_pricesold", "7.5", "price_sold", "7.5"},
+      {"txt_datelost", "26-05-25", "substr(datelost,3)", "26-05-25"},
+      {"lst_Status", "sold", "Status"},
+      {"txt_Comment", "shy\nfish", "Comment"}},
      "Oops!/48/This tank already has an entry for that animal at that date and time.",
      {{"lst_AnimalList", "", "You must enter an animal name"},
       {"lst_AnimalList", QString(51, 'a'), "Your animal description must", QString(50, 'a')},
@@ -84,10 +102,11 @@ const Log logs[] = {
      next<frm_MaintAddEdit>,
      "MAINTLOG mainttankname maintlogdate maintlogtime",
      {"txt_logdate", "txt_logtime"},
-     "lst_mainttasklist Feeding|txt_description aged|txt_quantity 12.5|lst_unit litres|txt_maintlognotes a\n\"b\"'",
-     "maintlogtask maintlogdesc maintlogqty maintlogunit maintlognote",
-     "txt_description txt_quantity lst_unit txt_maintlognotes",
-     "Feeding| |0.0|| ",
+     {{"lst_mainttasklist", "Feeding", "maintlogtask"},
+      {"txt_description", "aged", "maintlogdesc", " "},
+      {"txt_quantity", "12.5", "maintlogqty", "0.0"},
+      {"lst_unit", "litres", "maintlogunit", ""},
+      {"txt_maintlognotes", "a\n\"b\"'", "maintlognote", " "}},
      "Oops/48/That identical combination of Date and Time already exists for this task. Make your new time unique by "
      "changing at least one number.",
      {{"txt_quantity", "-1e309", "Quantity entries must be a number.", "1", true},
@@ -107,9 +126,10 @@ protected:
     explicit Entries(const QStringList &file) :
         Desk(GetParam().tab), table(file[0]), tankColumn(file[1]), dateColumn(file[2]), timeColumn(file[3])
     {
-        for (const QString &box : QString(log.boxes).split('|')) {
-            names.push_back(box.section(' ', 0, 0));
-            typed << box.section(' ', 1);
+        for (const Box &box : log.boxes) {
+            names << box.name;
+            typed << box.typed;
+            columns << box.column;
         }
     }
     /// Rows at half past nine, with the day of the month in the first column.
@@ -119,7 +139,7 @@ protected:
             addEntry(log.tab, id, date + " 09:30:00", qPrintable(firstColumn()), date.right(2));
         hand::clickTank(*logbook, keeper.g().gTankName);
     }
-    QString firstColumn() const { return QString(log.columns).section(' ', 0, 0); }
+    QString firstColumn() const { return columns[0]; }
     void give(const char *button, int row, const Action &action)
     {
         log.inNext(action);
@@ -150,9 +170,8 @@ protected:
     }
     QString values(const QString &date)
     {
-        return keeper.stored(
-            QString("%1 AS x FROM %2 WHERE %3 = 'r1' AND %4 = '%5'")
-                .arg(QString(log.columns).replace(' ', "||'|'||"), table, tankColumn, dateColumn, date));
+        return keeper.stored(QString("%1 AS x FROM %2 WHERE %3 = 'r1' AND %4 = '%5'")
+                                 .arg(columns.join("||'|'||"), table, tankColumn, dateColumn, date));
     }
     QString remove(int row, MsgBoxAnswer answer)
     {
@@ -166,7 +185,7 @@ protected:
     const bool readsAsTyped = log.tab == MaintenanceTab; ///< a change: the row's date month first
     const bool findsByName = log.tab != LivestockTab;    ///< a deletion: the tank
     const QString table, tankColumn, dateColumn, timeColumn;
-    QStringList names, typed;
+    QStringList names, typed, columns;
 };
 
 TEST_P(Entries, ValuesLandInTheirColumnsAndAChangeRewritesItsRowAlone)
@@ -184,13 +203,17 @@ TEST_P(Entries, ValuesLandInTheirColumnsAndAChangeRewritesItsRowAlone)
     give("changeentries", 1, [&](QWidget &w) {
         EXPECT_EQ(shown(w, log.moment).toLower(), "26-05-16|09:05:07 pm");
         EXPECT_EQ(held(w), typed.join('|'));
-        for (const QString &box : QString(log.cleared).split(' '))
-            hand::type(control<QWidget>(w, box), "");
+        for (const Box &box : log.boxes)
+            if (box.left)
+                hand::type(control<QWidget>(w, box.name), "");
         fill(w, "26-05-18", "09:05:07 pm");
         hand::press(Qt::Key_Return);
     });
     EXPECT_EQ(moments(), "Same 2026-05-16 09:30:00, r1 2026-05-17 09:30:00, r1 2026-05-18 21:05:07");
-    EXPECT_EQ(values("2026-05-18"), log.left);
+    QStringList left;
+    for (const Box &box : log.boxes)
+        left << box.left.value_or(box.typed);
+    EXPECT_EQ(values("2026-05-18"), left.join('|'));
     EXPECT_EQ(keeper.told(), "0");
 }
 

@@ -1,6 +1,5 @@
 #include "Desk.h"
 #include "windows/logbook/frm_WaterAddEdit.h"
-#include "windows/tanks/frm_TankAddNew.h"
 
 /// "Reef" has three water tests, a fish and a task.
 class Logbook : public Desk
@@ -108,7 +107,7 @@ TEST_F(Logbook, HeadingsSortByTextAndTheDateHeadingByTheDatabase)
     }
 }
 
-TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowAndTheTankBelowThem)
+TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowBelowThem)
 {
     for (const bool byMenu : {false, true}) {
         keeper.inNext<frm_WaterAddEdit>([](frm_WaterAddEdit &w) {
@@ -124,18 +123,6 @@ TEST_F(Logbook, DoubleClickAndTheRightButtonActOnTheRowAndTheTankBelowThem)
         EXPECT_EQ(list().SelectedItem(), 0);
         EXPECT_TRUE(isInFront(*main));
     }
-    keeper.doors.answers = {MsgBoxAnswer::OK};
-    hand::clickTank(*logbook, "Marsh", Qt::RightButton);
-    clickEntry(*main->mnu_tankPopup, "mnu_TankDelete");
-    EXPECT_EQ(keeper.count("TANKLST WHERE tankname = 'Marsh'"), 0);
-    keeper.inNext<frm_TankAddNew>([](frm_TankAddNew &w) {
-        hand::type(*w.txt_tankname, "Bay");
-        hand::press(Qt::Key_Return);
-    });
-    hand::clickTank(*logbook, "Reef", Qt::RightButton);
-    clickEntry(*main->mnu_tankPopup, "mnu_TankAddNew");
-    EXPECT_EQ(keeper.count("TANKLST WHERE tankname IN ('Bay', 'Reef')"), 2);
-    EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->childCount(), 5);
 }
 
 TEST_F(Logbook, ARowIsOpenedInTheOrderThatItIsShownInWhateverWasChosenSince)

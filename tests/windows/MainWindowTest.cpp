@@ -58,11 +58,12 @@ TEST_F(TheMainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARes
     EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->childCount(), 0);
     keeper.addTank("Reef", "1");
     setUpTanks();
-    execute("UPDATE TANKLST SET tankname = 'Cove'");
-    setUpTanks();
-    EXPECT_EQ(logbook->TreeView1->topLevelItem(0)->child(0)->text(0), "Cove");
     EXPECT_TRUE(main->button("logbook").isEnabled());
     EXPECT_EQ(keeper.told() + keeper.g().gNoTanks, "0N");
+    keeper.doors.answers = {MsgBoxAnswer::OK};
+    hand::clickTank(*logbook, "Reef", Qt::RightButton);
+    clickEntry(*main->mnu_tankPopup, "mnu_TankDelete");
+    EXPECT_FALSE(main->button("graphing").isEnabled()) << "from the tree's menu, too";
 }
 
 TEST_F(TheMainWindow, ViewTakesTheToolbarAwayButNotTheReminders)

@@ -169,12 +169,9 @@ TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
     mouse::click(schedule.cmd_Generate);
     EXPECT_EQ(hand::column(*schedule.lstv_Reminders, 1), "Feed");
     EXPECT_EQ(keeper.told().count("Reminders without dates/55/"), 1);
-    openList();
-    EXPECT_EQ(list->lstv_MaintSched->Count(), 6);
-    hand::press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(keeper.count("MAINTSCHED"), 6);
     keeper.doors.answers = {MsgBoxAnswer::Delete};
     mouse::click(schedule.cmd_Generate);
-    EXPECT_EQ(hand::column(*list->lstv_MaintSched, 0), "Feed") << "an open list follows";
     EXPECT_EQ(keeper.count("MAINTSCHED"), 1);
 }
 

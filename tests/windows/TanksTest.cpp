@@ -89,9 +89,13 @@ TEST_F(Tanks, WhatIsLongerThanItsBoxIsShownWholeAndKeptUntilItIsEdited)
     EXPECT_EQ(stored(), "0.12566010,12345.066010,1500.576010");
     inTank("12345*", [](frm_TankAddNew &w) { // the limit on typing holds again
         hand::type(*w.txt_tanksize, "99999");
+        w.txt_long_desc->setFocus();
+        w.txt_long_desc->setSelection(5, 20);
+        hand::press(Qt::Key_Delete);
+        EXPECT_EQ(w.txt_long_desc->cursorPosition(), 5);
         mouse::click(w.cmd_OK);
     });
-    EXPECT_TRUE(stored().contains(",9999.066010,")) << stored().toStdString();
+    EXPECT_TRUE(stored().contains(",9999.064010,")) << stored().toStdString();
     EXPECT_EQ(keeper.told(), "0");
 }
 

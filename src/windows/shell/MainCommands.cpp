@@ -60,6 +60,14 @@ void followTanksInGraph()
         graph->Follow_Tanks();
 }
 
+/// After a command of the tree's menu.
+void followTanksOfTheTree()
+{
+    Form<frm_Waterlog>().Refresh_Treeview();
+    followTanksInGraph();
+    Form<frm_OMKMDIMain>().EnableTankButtons();
+}
+
 void tellNoBackup(const RuntimeFailure &failure)
 {
     Beep();
@@ -249,22 +257,19 @@ void frm_OMKMDIMain::mnu_HelpAbout_Click()
 void frm_OMKMDIMain::mnu_TankAddNew_Click()
 {
     Form<frm_TankAddNew>().AddNewTank();
-    Form<frm_Waterlog>().Refresh_Treeview();
-    followTanksInGraph();
+    followTanksOfTheTree();
 }
 
 void frm_OMKMDIMain::mnu_TankDelete_Click()
 {
     Form<frm_TankMaint>().DeleteTankInfo(Form<frm_Waterlog>().CurrentTankText);
-    Form<frm_Waterlog>().Refresh_Treeview();
-    followTanksInGraph();
+    followTanksOfTheTree();
 }
 
 void frm_OMKMDIMain::mnu_TankProperties_Click()
 {
     Form<frm_TankMaint>().ChangeTankInfo(Form<frm_Waterlog>().CurrentTankText);
-    Form<frm_Waterlog>().Refresh_Treeview();
-    followTanksInGraph();
+    followTanksOfTheTree();
 }
 
 void frm_OMKMDIMain::mnu_GraphOptions_Click()

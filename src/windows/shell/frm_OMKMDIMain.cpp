@@ -158,6 +158,8 @@ void frm_OMKMDIMain::MDIForm_Load()
     g.gCurrentDir = QDir::currentPath();
     g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
     CheckDatabaseVersion();
+    constexpr int milliseconds = 30'000; // over the panel, which the next progress would write over
+    g.gDatabase->KeepDailyCopies([this](const QString &words) { statusBar()->showMessage(words, milliseconds); });
     ReadOptions(g);
     g.gGraphPageSize = 20;
     QApplication::processEvents();
@@ -238,17 +240,19 @@ bool frm_OMKMDIMain::tipIsDue()
 
 void frm_OMKMDIMain::CheckTanks()
 {
-    g.gNoTanks = QStringLiteral("N");
-    const bool none =
-        g.gDatabase->OpenRecordset(QStringLiteral("SELECT * FROM TANKLST ORDER BY [tankname] COLLATE CASEBLIND ASC"))
-            .isEmpty();
-    if (none) {
-        Beep();
-        MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
-        g.gNoTanks = QStringLiteral("Y");
-    }
-    button(QStringLiteral("logbook")).Enabled(!none);
-    button(QStringLiteral("graphing")).Enabled(!none);
+    EnableTankButtons();
+    if (g.gNoTanks == u"N")
+        return;
+    Beep();
+    MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
+}
+
+void frm_OMKMDIMain::EnableTankButtons()
+{
+    const bool none = g.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM TANKLST LIMIT 1")).isEmpty();
+    g.gNoTanks = none ? QStringLiteral("Y") : QStringLiteral("N");
+    for (const char *key : {"logbook", "graphing"})
+        button(QLatin1String(key)).Enabled(!none);
 }
 
 void frm_OMKMDIMain::ShowChild(ChildForm &child)

@@ -50,6 +50,8 @@ public:
     MenuEntry &button(const QString &key) { return *m_buttons.at(key); }
     /// Warns where there is no tank, and lets the buttons that need one follow.
     void CheckTanks();
+    /// The buttons that need a tank follow the tanks, without a word.
+    void EnableTankButtons();
 
     // What the entries of the menus do.
     void mnu_FileNew_Click();
