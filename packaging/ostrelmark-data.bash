@@ -17,13 +17,29 @@ _ostrelmark_data() {
     COMPREPLY=()
     case $before in
     --folder) compopt -o dirnames && return ;;
-    --days | --from | --to) return ;;
+    --date-order) mapfile -t COMPREPLY < <(compgen -W "DMY MDY YMD" -- "$word") && return ;;
+    --days | --delimiter | --from | --map | --tank | --to) return ;;
     esac
     case $verb in
-    "") mapfile -t COMPREPLY < <(compgen -W "calendar check restore upcoming --folder --help --version" -- "$word") ;;
+    "") mapfile -t COMPREPLY < <(compgen -W "calendar check export import restore upcoming --folder --help --version" -- "$word") ;;
     calendar)
         case $word in
         -*) mapfile -t COMPREPLY < <(compgen -W "--from --to --folder --help" -- "$word") ;;
+        *) compopt -o default ;;
+        esac
+        ;;
+    export)
+        case $word in
+        -*) mapfile -t COMPREPLY < <(compgen -W "--tank --force --folder --help" -- "$word") ;;
+        *) compopt -o dirnames ;;
+        esac
+        ;;
+    import)
+        case $word in
+        -*)
+            local options="--map --tank --date-order --delimiter --decimal-comma --replace --dry-run --folder --help"
+            mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+            ;;
         *) compopt -o default ;;
         esac
         ;;

@@ -6,10 +6,12 @@
 #include <CLI/CLI.hpp>
 #include <QFile>
 
+#include "data/CsvReader.h"
 #include "datacommand/Calendar.h"
 #include "datacommand/Check.h"
 #include "datacommand/KeepersData.h"
 #include "datacommand/Restore.h"
+#include "datacommand/Spreadsheets.h"
 #include "datacommand/TerminalDoors.h"
 #include "datacommand/Upcoming.h"
 #include "platform/core/RuntimeFailure.h"
@@ -60,6 +62,76 @@ Work offerCheck(CLI::App &)
     return [](KeepersData &data) { return CheckData(data); };
 }
 
+Work offerExport(CLI::App &line)
+{
+    struct Options
+    {
+        std::string folder, tank;
+        bool force = false;
+    };
+    const auto options = std::make_shared<Options>();
+    line.add_option("DIR", options->folder,
+                    "The folder for tanks.csv, water.csv, livestock.csv, maintenance.csv and "
+                    "reminders.csv; it is made if it does not exist")
+        ->required();
+    line.add_option("--tank", options->tank, "Only this tank, without the reminders");
+    line.add_flag("--force", options->force, "Replace files of these names");
+    return [options](KeepersData &data) {
+        return ExportData(data, {fileName(options->folder), QString::fromStdString(options->tank), options->force});
+    };
+}
+
+/// A check for the delimiter of a file, which becomes that character.
+const CLI::Validator delimiter(
+    [](std::string &text) {
+        if (text == "tab" || text == "\\t")
+            text = "\t";
+        return text.size() == 1 && CsvReader::canDelimit(text[0])
+                   ? std::string()
+                   : "\"" + text + "\" is not a delimiter such as \";\" or tab";
+    },
+    "CHARACTER");
+
+const CLI::Validator columnMap(
+    [](std::string &text) {
+        return ReadMap(QString::fromStdString(text)) ? std::string()
+                                                     : "\"" + text + "\" is not like \"pH=ph,NO3=nitrate\"";
+    },
+    "NAME=COLUMN,...");
+
+const std::map<std::string, DateOrder> dateOrders = {
+    {"DMY", DateOrder::DDMMYY}, {"MDY", DateOrder::MMDDYY}, {"YMD", DateOrder::YYMMDD}};
+
+Work offerImport(CLI::App &line)
+{
+    struct Options
+    {
+        std::string file, map, delimiter = ",", tank;
+        ImportOptions import;
+    };
+    const auto options = std::make_shared<Options>();
+    line.add_option("FILE", options->file, "The CSV file; its first line names the columns")->required();
+    line.add_option("--map", options->map,
+                    "What the names of the file mean; a name with nothing after its = is left out")
+        ->check(columnMap);
+    line.add_option("--tank", options->tank, "The tank of all rows, if the file has no column for it");
+    line.add_option("--date-order", options->import.dateOrder, "The order of dates that are not like 2026-11-24")
+        ->transform(CLI::CheckedTransformer(dateOrders, CLI::ignore_case).description("DMY, MDY or YMD"));
+    line.add_option("--delimiter", options->delimiter,
+                    "What separates the values: one character, or tab; a comma if it is left out")
+        ->check(delimiter);
+    line.add_flag("--decimal-comma", options->import.decimalComma, "Numbers are written like 7,8");
+    line.add_flag("--replace", options->import.replaces, "Change rows that are there already to those of the file");
+    line.add_flag("--dry-run", options->import.isDryRun, "Check the file and store nothing");
+    return [options](KeepersData &data) {
+        ImportOptions import = options->import;
+        import.map = *ReadMap(QString::fromStdString(options->map));
+        import.tank = QString::fromStdString(options->tank);
+        import.delimiter = options->delimiter[0];
+        return ImportData(data, fileName(options->file), import);
+    };
+}
+
 Work offerRestore(CLI::App &line)
 {
     const auto copy = std::make_shared<std::string>();
@@ -85,6 +157,8 @@ constexpr Verb verbs[] = {
      "Look for damage in the file, and for entries that no window would have "
      "taken",
      offerCheck},
+    {"export", "Write all data as CSV files for any spreadsheet", offerExport},
+    {"import", "Read a CSV file: one of the export, or any whose first line names the columns", offerImport},
     {"restore", "List the copies of the database, or put one in its place", offerRestore},
     {"upcoming", "Print the reminders of the next days, a line each", offerUpcoming},
 };
