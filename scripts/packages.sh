@@ -1,7 +1,7 @@
 # The distribution's packages that Ostrelmark is built with, and functions that install them and build. run, test and packaging/deb
 # source this file. If all packages are installed, nothing is asked or downloaded.
 
-build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libsqlite3-dev libqcustomplot-dev mdbtools-dev fonts-liberation fonts-dejavu-core"
+build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libsqlite3-dev libqcustomplot-dev mdbtools-dev libcli11-dev libcsv-dev libical-dev fonts-liberation fonts-dejavu-core"
 test_packages="libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool"
 package_packages="dpkg-dev file lintian desktop-file-utils appstream"
 

@@ -15,8 +15,11 @@
 #include "platform/core/Files.h"
 #include "platform/core/RuntimeFailure.h"
 #include "store/Connection.h"
+#include "store/Database.h"
 #include "store/DatabaseFile.h"
 #include "store/Draft.h"
+#include "store/Inspection.h"
+#include "store/Version.h"
 
 namespace {
 
@@ -118,14 +121,6 @@ public:
             count -= std::size_t(written);
         }
     }
-    /// Gives the copy the permissions of the database. Not every file system supports them.
-    void setModeOf(const QString &path)
-    {
-        struct stat status = {};
-        if (::stat(QFile::encodeName(path).constData(), &status) == 0)
-            ::fchmod(m_file, status.st_mode & 0777);
-    }
-    void sync() { check(::fsync(m_file) == 0); }
 
 private:
     void check(bool good) const
@@ -137,15 +132,14 @@ private:
     QString m_doing;
 };
 
-template <class From> void copyInto(const Draft &draft, From &source, const QString &database, const QString &doing)
+template <class From> void copyInto(Draft &draft, From &source, const QString &database, const QString &doing)
 {
     Output output(draft.path(), doing);
     source.read([&output](const char *bytes, std::size_t count) {
         output.write(bytes, count);
         return true;
     });
-    output.setModeOf(database);
-    output.sync();
+    draft.complete(database);
 }
 
 template <class From> bool isSame(From &source, const QString &path)
@@ -202,6 +196,47 @@ bool belongsTo(const QString &database, const QString &target)
     return false;
 }
 
+/// A journal belongs to one state of its file: the engine would apply it to any other file under that name.
+void requireNoJournal(const QString &path)
+{
+    for (const char *ending : {"-journal", "-wal"})
+        if (QFileInfo::exists(path + QLatin1String(ending)))
+            throw RuntimeFailure(
+                Failure::PermissionDenied,
+                QStringLiteral("A change of %1 was cut off, and %2 is left of it. Move both into another folder, or "
+                               "only the second if there is no other, and try again.")
+                    .arg(path, QFileInfo(path).fileName() + QLatin1String(ending)));
+}
+
+/// Finishes or undoes what a crash cut off in the present file, as any use of it would.
+void settle(const QString &path)
+{
+    try {
+        if (QFileInfo::exists(path))
+            Source(path, QStringLiteral("Reading the present database \"%1\".").arg(path));
+    } catch (const RuntimeFailure &failure) {
+        if (failure.number() != Failure::UnrecognizedFormat) // a damaged file is kept as it is
+            throw;
+    }
+    requireNoJournal(path);
+}
+
+/// `path` is what is checked, `copy` is what is named.
+void requireWholeCopy(const QString &path, const QString &copy)
+{
+    const auto refuse = [](const QString &why) { throw RuntimeFailure(Failure::UnrecognizedFormat, why); };
+    try {
+        const auto database = Database::OpenDatabase(path);
+        if (const QStringList damage = FindDamage(*database); !damage.isEmpty())
+            refuse(QStringLiteral("%1 is damaged: %2").arg(path, damage.front()));
+        if (const QString version = ReadDatabaseVersion(*database); NumberOfVersion(version) == 0)
+            refuse(
+                QStringLiteral("%1 is of version %2, which this program does not know.").arg(path, version.trimmed()));
+    } catch (const RuntimeFailure &failure) {
+        throw RuntimeFailure(failure.number(), failure.description().section(u'\n', 1).replace(path, copy));
+    }
+}
+
 QString doingKeep(const QString &path)
 {
     return QStringLiteral("Keeping a copy of the old database \"%1\" beside it.").arg(path);
@@ -231,6 +266,25 @@ void BackUpDatabase(const QString &database, const QString &target)
     Draft draft(realPath(target), doing);
     copyInto(draft, source, database, doing);
     draft.replace();
+}
+
+QString RestoreDatabase(const QString &database, const QString &copy, const std::function<void()> &beforeChange)
+{
+    const QString target = realPath(database);
+    if (belongsTo(target, copy))
+        throw RuntimeFailure(Failure::PermissionDenied, QStringLiteral("\"%1\" is the database itself.").arg(copy));
+    const QString doing = QStringLiteral("Putting \"%1\" in the place of the database.").arg(copy);
+    requireNoJournal(copy);
+    PlainSource source(copy, doing);
+    Draft draft(target, doing);
+    copyInto(draft, source, {}, doing);
+    requireWholeCopy(draft.path(), copy);
+    draft.complete(target); // only now: it may be read-only
+    settle(target);
+    beforeChange();
+    const QString kept = QFileInfo::exists(target) ? KeepOldFile(target, QStringLiteral("-before-restore")) : QString();
+    draft.replace();
+    return kept;
 }
 
 QString KeepOldDatabase(const QString &database, const QString &version)

@@ -208,6 +208,8 @@ bool Statement::step()
 
 int Statement::run()
 {
+    if (!sqlite3_stmt_readonly(m_statement))
+        m_connection->aboutToChange();
     const int before = sqlite3_total_changes(m_connection->handle());
     while (step()) {
     }

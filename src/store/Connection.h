@@ -3,6 +3,7 @@
 // use of it throws ObjectNotSet. Only .cpp files include sqlite3.h.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -33,6 +34,15 @@ public:
     void run(const char *sql, const QString &doing);
     void rollBack() noexcept;
     bool inTransaction() const;
+
+    /// Called by aboutToChange().
+    std::function<void()> beforeChange;
+    /// Every change begins with it, once a transaction: it is not called again within one.
+    void aboutToChange()
+    {
+        if (beforeChange && !inTransaction())
+            beforeChange();
+    }
 
     /// Throws the RuntimeFailure for a result code of the engine, with the engine's message and `doing`.
     [[noreturn]] void fail(int code, const QString &doing) const;

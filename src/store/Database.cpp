@@ -7,6 +7,7 @@
 #include "platform/core/Files.h"
 #include "platform/core/RuntimeFailure.h"
 #include "store/Connection.h"
+#include "store/Copies.h"
 #include "store/DatabaseFile.h"
 #include "store/RecordsetState.h"
 
@@ -90,6 +91,7 @@ void Database::connect(const QString &fileName)
     connection->run("PRAGMA journal_mode = DELETE", doing);
     m_fileName = path;
     m_connection = connection;
+    watchChanges();
 }
 
 Database::~Database()
@@ -196,6 +198,24 @@ void Database::Append(const QString &table, const FieldDef &field)
                 .arg(quoted(tableName(table)), quoted(field.Name), declarationOf(field)));
 }
 
+void Database::KeepDailyCopies(std::function<void(const QString &)> failed)
+{
+    m_copies = std::make_shared<DailyCopies>(m_fileName, std::move(failed));
+    watchChanges();
+}
+
+void Database::watchChanges()
+{
+    if (!m_copies || !m_connection)
+        return;
+    m_connection->beforeChange = [copies = m_copies, connection = std::weak_ptr(m_connection)] {
+        if (const auto open = connection.lock())
+            copies->beforeChange(open);
+    };
+}
+
+void Database::AboutToChange() { connection()->aboutToChange(); }
+
 void Database::LetGo()
 {
     Close();
@@ -214,6 +234,7 @@ void Database::Close()
 
 Database::Transaction::Transaction(Database &database) : m_connection(database.connection())
 {
+    m_connection->aboutToChange();
     m_connection->run("BEGIN IMMEDIATE", QStringLiteral("Starting to change the database."));
 }
 

@@ -2,6 +2,7 @@
 // RuntimeFailure of its own and is not changed. The store shows nothing: windows turn failures into boxes.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -25,6 +26,7 @@ struct FieldDef
 };
 
 class Connection; // internal to the store: the SQLite handle
+class DailyCopies;
 
 class Database
 {
@@ -63,6 +65,12 @@ public:
     /// Adds a column to a table; it is Null in every row. A text of size 0 gets the default size of 255.
     void Append(const QString &table, const FieldDef &field);
 
+    /// Keeps a copy of the file before the first change of each day from now on, also after LetGo() (see Copies.h).
+    /// `failed` gets a sentence for the keeper, at most once a day, when that was not possible.
+    void KeepDailyCopies(std::function<void(const QString &)> failed);
+    /// Makes the copy of the day now, for a change that does not go through this object.
+    void AboutToChange();
+
     /// Closes the file for as long as others work on it; recordsets lapse. The next use opens it again. If that fails,
     /// it throws as OpenDatabase does, and the use after that tries once more.
     void LetGo();
@@ -96,9 +104,11 @@ private:
     std::shared_ptr<Connection> connection();
     QString tableName(const QString &table);
     Recordset open(const QString &sql, const Parameters &parameters, const QString &table);
+    void watchChanges();
 
     std::shared_ptr<Connection> m_connection;
     QString m_fileName;
     Access m_access = Access::Shared;
-    bool m_opensAgain = false; ///< by the next use, after LetGo()
+    bool m_opensAgain = false;             ///< by the next use, after LetGo()
+    std::shared_ptr<DailyCopies> m_copies; ///< null unless they are kept
 };

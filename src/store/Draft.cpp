@@ -4,6 +4,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <stdio.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -35,21 +36,23 @@ void removeWithJournal(const QString &path)
     ::unlink(encoded(path + QStringLiteral("-journal")).constData());
 }
 
-/// Drafts of that file whose process no longer runs; a kill or a power cut left them.
-void removeStrayDrafts(const QString &fileName)
+/// Drafts whose process no longer runs, of that file or, if it is empty, of all files; a kill or a power cut left them.
+void removeStrayDrafts(const QDir &folder, const QString &fileName)
 {
-    const QFileInfo file(fileName);
-    const QDir folder = file.absoluteDir();
-    const QString start = file.fileName() + mark;
     for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden)) {
+        const qsizetype end = name.lastIndexOf(mark);
+        if (end <= 0 || (!fileName.isEmpty() && name.first(end) != fileName))
+            continue;
         bool isNumber = false;
-        const int process = name.startsWith(start) ? name.mid(start.size()).toInt(&isNumber) : 0;
+        const int process = name.mid(end + mark.size()).toInt(&isNumber);
         if (isNumber && process > 0 && ::kill(process, 0) != 0 && errno == ESRCH)
             removeWithJournal(folder.filePath(name));
     }
 }
 
 } // namespace
+
+void RemoveStrayDrafts(const QDir &folder) { removeStrayDrafts(folder, {}); }
 
 void throwErrno(int error, const QString &doing)
 {
@@ -69,7 +72,7 @@ void throwExists(const QString &path)
 Draft::Draft(const QString &fileName, const QString &doing) :
     m_path(fileName + mark + QString::number(::getpid())), m_name(fileName), m_doing(doing)
 {
-    removeStrayDrafts(fileName);
+    removeStrayDrafts(QFileInfo(fileName).absoluteDir(), QFileInfo(fileName).fileName());
     const int file = ::open(encoded(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (file < 0)
         throwErrno(errno, m_doing);
@@ -77,6 +80,20 @@ Draft::Draft(const QString &fileName, const QString &doing) :
 }
 
 Draft::~Draft() { removeWithJournal(m_path); }
+
+void Draft::complete(const QString &like)
+{
+    const int file = ::open(encoded(m_path).constData(), O_WRONLY | O_CLOEXEC);
+    if (file < 0)
+        throwErrno(errno, m_doing);
+    struct stat status = {};
+    if (::stat(encoded(like).constData(), &status) == 0)
+        ::fchmod(file, status.st_mode & 0777); // not every file system supports it
+    const int error = ::fsync(file) == 0 ? 0 : errno;
+    ::close(file);
+    if (error != 0)
+        throwErrno(error, m_doing);
+}
 
 void Draft::giveName()
 {

@@ -1,5 +1,5 @@
 // Dates and times as the store keeps them: "YYYY-MM-DD" and "HH:MM:SS", so that order by text is order in time. Used by
-// the reader of rows, by the binding of parameters and by Value; nothing above the store sees these texts.
+// the reader of rows, by the binding of parameters and by Value; above the store, files for other programs have them.
 #pragma once
 
 #include <optional>

@@ -18,6 +18,8 @@ public:
     bool EOF_() const { return !m_hasRow; }
     /// Throws NoCurrentRecord past the end.
     void MoveNext();
+    /// The current row, as row 0, for direct access by the numbers of the columns; it is valid until MoveNext.
+    const Rows &row() const { return m_row; }
     /// A value of the current row; the case of the name does not matter. Throws NoSuchColumn, and NoCurrentRecord after
     /// the last row.
     Value value(const QString &name) const;

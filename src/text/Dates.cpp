@@ -177,15 +177,15 @@ bool IsDate(const QString &text) { return ReadDate(text).has_value(); }
 
 std::optional<QDate> ReadTypedDate(const QString &text, DateOrder dateOrder)
 {
+    const auto date = ReadDate(text);
+    return date ? date : ReadDateInOrder(text, dateOrder);
+}
+
+std::optional<QDate> ReadDateInOrder(const QString &text, DateOrder dateOrder)
+{
     const auto fields = threeNumbers(text, dateDelimiters);
-    if (!fields)
-        return std::nullopt;
-    for (const DateOrder tried : {DateOrder::MMDDYY, dateOrder}) {
-        const Order &order = orderOf(tried);
-        if (const auto date = dateOf((*fields)[order.month], (*fields)[order.day], (*fields)[order.year]))
-            return date;
-    }
-    return std::nullopt;
+    const Order &order = orderOf(dateOrder);
+    return fields ? dateOf((*fields)[order.month], (*fields)[order.day], (*fields)[order.year]) : std::nullopt;
 }
 
 int lastTypedYear() { return std::max(2029, Now().date().year() + 2); }

@@ -39,6 +39,9 @@ bool IsDate(const QString &text);
 /// Reads a date as it was typed: month first or, if that gives no valid date, in the user's order.
 std::optional<QDate> ReadTypedDate(const QString &text, DateOrder dateOrder);
 
+/// Reads a date in that order and in no other. Digits, delimiters and years are those of ReadDate.
+std::optional<QDate> ReadDateInOrder(const QString &text, DateOrder dateOrder);
+
 /// The last year that two digits can mean: 2029, and from 2028 on two years ahead of the clock, so that a date two
 /// years ahead can always be typed.
 int lastTypedYear();

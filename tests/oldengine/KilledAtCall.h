@@ -3,6 +3,7 @@
 #pragma once
 
 #include <set>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/ptrace.h>
@@ -12,7 +13,7 @@
 
 #include <gtest/gtest.h>
 #include <QFile>
-#include <QString>
+#include <QStringList>
 
 class KilledAtCall
 {
@@ -20,14 +21,20 @@ public:
     explicit KilledAtCall(const QString &folder) : m_folder(folder) {}
 
     /// False where the program came to its end before.
-    bool run(int call, const QString &program, const QString &argument)
+    bool run(int call, const QString &program, const QStringList &arguments)
     {
-        const QByteArray name = QFile::encodeName(program), with = QFile::encodeName(argument);
+        QList<QByteArray> texts{QFile::encodeName(program)};
+        for (const QString &argument : arguments)
+            texts << QFile::encodeName(argument);
+        std::vector<char *> argv;
+        for (QByteArray &text : texts)
+            argv.push_back(text.data());
+        argv.push_back(nullptr);
         const pid_t child = ::fork();
         if (child == 0) {
             ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
             ::raise(SIGSTOP);
-            ::execl(name.constData(), name.constData(), with.constData(), nullptr);
+            ::execv(argv[0], argv.data());
             ::_exit(127);
         }
         m_processes = {child};

@@ -172,7 +172,7 @@ TEST_F(OpenOldFileTest, KilledAtAnyWriteTheOldFileIsWholeAndTheNextStartComesThr
         for (const QString &name : QDir(folder.path()).entryList(QDir::Files))
             QFile::remove(path(name));
         put(file.bytes());
-        if (!calls.run(call, QCoreApplication::applicationDirPath() + "/omk_open_old", path()))
+        if (!calls.run(call, QCoreApplication::applicationDirPath() + "/omk_open_old", {path()}))
             break;
         ++kills;
         const auto content = contentOf(folder.path());

@@ -4,30 +4,9 @@
 
 #include <cstdio>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "StoreFixture.h"
-
-/// Limits the size of the files that this process writes, as if the disk were full. A write beyond the limit fails or,
-/// with `death`, kills the process.
-class SmallDisk
-{
-public:
-    SmallDisk(rlim_t bytes, bool death)
-    {
-        ::signal(SIGXFSZ, death ? SIG_DFL : SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{bytes, m_former.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~SmallDisk() { ::setrlimit(RLIMIT_FSIZE, &m_former); }
-
-private:
-    rlimit m_former{};
-};
 
 struct BackupTest : StoreTest
 {

@@ -2,8 +2,10 @@
 // acts as another program, and functions that return the failure of a piece of work.
 #pragma once
 
+#include <csignal>
 #include <functional>
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -69,6 +71,24 @@ public:
 
 private:
     sqlite3 *m_handle = nullptr;
+};
+
+/// Limits the size of the files that this process writes, as if the disk were full. A write beyond the limit fails or,
+/// with `death`, kills the process.
+class SmallDisk
+{
+public:
+    SmallDisk(rlim_t bytes, bool death)
+    {
+        ::signal(SIGXFSZ, death ? SIG_DFL : SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SmallDisk() { ::setrlimit(RLIMIT_FSIZE, &m_former); }
+
+private:
+    rlimit m_former{};
 };
 
 struct StoreTest : testing::Test

@@ -1,5 +1,6 @@
 // The backup as a keeper makes it from the File menu, with the logbook open.
 #include "Desk.h"
+#include "support/TestFiles.h"
 #include "windows/logbook/frm_WaterAddEdit.h"
 
 class Backup : public Desk
@@ -69,4 +70,23 @@ TEST_F(Backup, CopiesAsksRemembersTheNameAndTellsWhatFailed)
     const QString refused = backUp(path("OM.MDB"));
     EXPECT_TRUE(refused.startsWith("1|Database Backup/48/The database was not backed up.\n\nPermission denied."));
     EXPECT_TRUE(refused.contains(path("OM.MDB"))) << refused.toStdString();
+}
+
+TEST_F(Backup, TheFirstChangeOfADayKeepsACopyAndTheStatusBarSaysWhereThatFails)
+{
+    const auto addTest = [this] {
+        keeper.doors.clock = keeper.doors.clock.addDays(1);
+        give<frm_WaterAddEdit>("addentries", 0, [](frm_WaterAddEdit &w) { mouse::click(w.cmd_OK); });
+        EXPECT_EQ(keeper.told(), "0");
+    };
+    const int before = keeper.count("WATERLOG");
+    addTest();
+    EXPECT_EQ(QDir(path("copies")).entryList(QDir::Files), QStringList("OM-2026-03-15.MDB"));
+    EXPECT_EQ(main->statusBar()->currentMessage(), "");
+    QDir(path("copies")).removeRecursively();
+    writeFile(path("copies"), "in the way");
+    addTest();
+    EXPECT_TRUE(main->statusBar()->currentMessage().startsWith("No copy of the logbook was made today: "))
+        << main->statusBar()->currentMessage().toStdString();
+    EXPECT_EQ(keeper.count("WATERLOG"), before + 2);
 }

@@ -40,13 +40,21 @@ void UndatedReminders::add(const RecurrenceRule &rule, WalkFault fault)
                                                    : reason(fault)});
 }
 
+QStringList UndatedReminders::lines() const
+{
+    QStringList all;
+    for (const Entry &entry : m_entries)
+        all << entry.task + u" (" + entry.reason + u')';
+    return all;
+}
+
 bool UndatedReminders::tell(Globals &g) const
 {
     if (m_entries.empty())
         return false;
-    QStringList all;
-    for (const Entry &entry : m_entries)
-        all << u"\u2022 " + entry.task + u" (" + entry.reason + u')';
+    QStringList all = lines();
+    for (QString &line : all)
+        line.prepend(u"\u2022 ");
     QStringList shown = all.mid(0, mostLines);
     const bool more = all.size() > mostLines;
     if (more)

@@ -14,6 +14,8 @@ class UndatedReminders
 {
 public:
     void add(const RecurrenceRule &rule, WalkFault fault);
+    /// Each task with what is wrong, such as "Feed (it has no end date)".
+    QStringList lines() const;
     /// Shows the message box if there are any. Returns true if the keeper had them deleted. Throws RuntimeFailure.
     bool tell(Globals &globals) const;
 

@@ -66,16 +66,21 @@ QString KeepersFolder::choose(const QString &argument)
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/ostrelmark";
 }
 
+bool KeepersFolder::lock(const QString &folder)
+{
+    // The lock is on the folder itself. The system takes it back when the process ends in whatever way, so none is left
+    // over.
+    m_lock = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    return m_lock < 0 || ::flock(m_lock, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
 bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
 {
     const QDir place(QDir(folder).absolutePath());
     if (!QDir().mkpath(place.path()))
         throw RuntimeFailure(Failure::PathNotFound,
                              QStringLiteral("The folder %1 for your data could not be made.").arg(place.path()));
-    // The lock is on the folder itself. The system releases it however the process ends. On a file system without such
-    // locks there is none, and only the database's own locks protect the data.
-    m_lock = ::open(QFile::encodeName(place.path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (m_lock >= 0 && ::flock(m_lock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    if (!lock(place.path())) {
         MsgBox(QStringLiteral("Another Ostrelmark has the logbook in this folder open:\n%1\n\nGo on in its window. If "
                               "you find none, log out and in again, which ends it. A second logbook can be open "
                               "beside it from a folder of its own: ostrelmark FOLDER")

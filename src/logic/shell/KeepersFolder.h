@@ -23,6 +23,10 @@ public:
     /// the database cannot be made, and CouldNotFindFile if the folder was used before and has lost its database.
     bool open(const QString &folder, const QString &dataFolder);
 
+    /// Locks a folder that is there until this object goes. False where another program has it. Where a file system
+    /// knows no such lock there is none, and the database's own locks guard the data alone.
+    bool lock(const QString &folder);
+
 private:
     int m_lock = -1; ///< file descriptor of the folder
 };

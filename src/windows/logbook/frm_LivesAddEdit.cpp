@@ -1,7 +1,5 @@
 #include "windows/logbook/frm_LivesAddEdit.h"
 
-#include <cmath>
-
 #include <QComboBox>
 #include <QCompleter>
 #include <QGridLayout>
@@ -14,6 +12,7 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "logic/logbook/EntryRules.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/MaskedBox.h"
@@ -24,11 +23,6 @@
 #include "windows/common/DateBoxes.h"
 
 namespace {
-
-constexpr int longestName = 50;
-constexpr int longestStatus = 30;
-constexpr double mostAnimals = 32000;
-constexpr double beyondPrices = 1e12; ///< in any currency; below this a double holds hundredths exactly
 
 const QString note = QStringLiteral("Note!");
 const QString badDate = QStringLiteral("You must enter a valid date to add a livestock entry to the log.");
@@ -170,8 +164,8 @@ void frm_LivesAddEdit::setDateOrder()
 void frm_LivesAddEdit::setDefaults()
 {
     setToNow(*txt_DateAdded, *txt_timeadded);
-    txt_quantity->setText(QStringLiteral("1"));
-    txt_Comment->setPlainText(QStringLiteral(" "));
+    txt_quantity->setText(QString::number(startAnimals));
+    txt_Comment->setPlainText(startNote);
 }
 
 void frm_LivesAddEdit::load(Recordset &row)
@@ -216,39 +210,28 @@ bool frm_LivesAddEdit::priceIsGood(QLineEdit &box, const QString &name)
 {
     if (box.text().isEmpty() || !m_shown.isEdited(box))
         return true;
-    const std::optional<double> price = ReadNumber(box.text());
-    if (!price)
-        return refuse(name + u" must be a number.", &box);
-    if (std::abs(*price) >= beyondPrices)
-        return refuse(name + u" must have at most 12 digits before the decimal point.", &box);
-    return true;
+    const Complaint bad = BadPrice(name, box.text());
+    return !bad || refuse(*bad, &box);
 }
 
 bool frm_LivesAddEdit::fieldsAreGood()
 {
     const QString animal = lst_AnimalList->currentText();
-    // Exactly 50 and 30 characters and exactly 32,000 animals are accepted, although the messages say "less than".
     if (animal.isEmpty())
-        return refuse(
-            QStringLiteral(
-                "You must enter an animal name or pick one from the list to add a livestock entry to the log."),
-            lst_AnimalList);
-    if (animal.size() > longestName)
-        return refuse(QStringLiteral("Your animal description must be less than 50 characters."), lst_AnimalList, note);
-    if (lst_where->currentText().size() > longestName)
-        return refuse(QStringLiteral("Your place of purchase must be less than 50 characters."), lst_where, note);
+        return refuse(QLatin1String(noAnimal), lst_AnimalList);
+    if (const auto tooLong = TooLong(animalLimit, animal))
+        return refuse(*tooLong, lst_AnimalList, note);
+    if (const auto tooLong = TooLong(placeLimit, lst_where->currentText()))
+        return refuse(*tooLong, lst_where, note);
     if (!datesAndPricesAreGood())
         return false;
-    if (lst_Status->currentText().size() > longestStatus)
-        return refuse(QStringLiteral("Your status description must be less than 30 characters."), lst_Status, note);
-    if (Val(txt_quantity->Text()) > mostAnimals)
-        return refuse(
-            QStringLiteral(
-                "Your quantity must be less than 32,000. (Besides, what size tank do you hold 32,000 fish in?)"),
-            txt_quantity, note);
+    if (const auto tooLong = TooLong(statusLimit, lst_Status->currentText()))
+        return refuse(*tooLong, lst_Status, note);
+    if (const auto tooMany = TooMuch(animalsLimit, txt_quantity->Text()))
+        return refuse(*tooMany, txt_quantity, note);
     // The store would refuse these texts; here the messages of the other windows are shown instead.
-    if (!ReadNumber(txt_quantity->Text()))
-        return refuse(QStringLiteral("Quantity entries must be a number."), txt_quantity);
+    if (const auto noNumber = NoNumber(animalsLimit, txt_quantity->Text()))
+        return refuse(*noNumber, txt_quantity);
     if (!IsBoxTime(txt_timeadded->Text()))
         return refuse(QStringLiteral(
                           "You must enter a valid time in \"HH:MM:SS am\" format to add a livestock entry to the log."),

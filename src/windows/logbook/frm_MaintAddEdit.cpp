@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "logic/logbook/EntryRules.h"
 #include "logic/shell/ErrorHandler.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
@@ -18,15 +19,10 @@
 
 namespace {
 
-constexpr int longestTask = 50;
-constexpr int longestUnit = 10;
-constexpr double mostQuantity = 9999;
-
 const QString note = QStringLiteral("Note!");
 const QString badDate = QStringLiteral("You must enter a valad date to add a maintenence entry to the log.");
 const QString badTime =
     QStringLiteral("You must enter a valid time in \"HH:MM:SS am\" format to add a maintenence entry to the log.");
-const QString badQuantity = QStringLiteral("Quantity entries must be a number.");
 
 const QString tasks = QStringLiteral("SELECT maintlogtask FROM (SELECT animalname as maintlogtask from animallist "
                                      "where animaltype = 'M' union select maintlogtask from maintlog) "
@@ -126,9 +122,9 @@ void frm_MaintAddEdit::Form_Load()
 void frm_MaintAddEdit::setDefaults()
 {
     setToNow(*txt_logdate, *txt_logtime);
-    txt_maintlognotes->setPlainText(QStringLiteral(" "));
-    txt_description->setText(QStringLiteral(" "));
-    txt_quantity->setText(QStringLiteral("0"));
+    txt_maintlognotes->setPlainText(startNote);
+    txt_description->setText(startNote);
+    txt_quantity->setText(QString::number(startQuantity));
 }
 
 void frm_MaintAddEdit::load(Recordset &row)
@@ -166,7 +162,8 @@ void frm_MaintAddEdit::txt_logtime_ValidationError() { refuse(badTime, txt_logti
 
 bool frm_MaintAddEdit::txt_quantity_LostFocus()
 {
-    return txt_quantity->Text().isEmpty() || IsStorable(txt_quantity->Text()) || refuse(badQuantity, txt_quantity);
+    const Complaint noNumber = NoNumber(quantityLimit, txt_quantity->Text());
+    return txt_quantity->Text().isEmpty() || !noNumber || refuse(*noNumber, txt_quantity);
 }
 
 void frm_MaintAddEdit::ud_quantity_Change() { txt_quantity->setText(QString::number(ud_quantity->Value())); }
@@ -181,26 +178,25 @@ bool frm_MaintAddEdit::store()
     put(row, "maintlogtime", *txt_logtime);
     const QString task = lst_mainttasklist->currentText();
     if (task.isEmpty())
-        return refuse(QStringLiteral("You must enter a task for your entry"), lst_mainttasklist, note);
-    if (task.size() > longestTask) // exactly 50 are accepted
-        return refuse(QStringLiteral("Your task description must be less than 50 characters."), lst_mainttasklist,
-                      note);
+        return refuse(QLatin1String(noTask), lst_mainttasklist, note);
+    if (const auto tooLong = TooLong(taskLimit, task))
+        return refuse(*tooLong, lst_mainttasklist, note);
     put(row, "maintlogtask", *lst_mainttasklist);
     if (txt_quantity->Text().isEmpty())
-        txt_quantity->setText(QStringLiteral("0"));
-    if (Val(txt_quantity->Text()) > mostQuantity)
-        return refuse(QStringLiteral("Your quantity must be less than 10,000."), txt_quantity, note);
+        txt_quantity->setText(QString::number(startQuantity));
+    if (const auto tooMuch = TooMuch(quantityLimit, txt_quantity->Text()))
+        return refuse(*tooMuch, txt_quantity, note);
     put(row, "maintlogqty", *txt_quantity);
     if (txt_description->text().isEmpty())
-        txt_description->setText(QStringLiteral(" "));
-    if (txt_description->text().size() > longestTask)
-        return refuse(QStringLiteral("Your description must be 50 characters or less."), txt_description, note);
+        txt_description->setText(startNote);
+    if (const auto tooLong = TooLong(descriptionLimit, txt_description->text()))
+        return refuse(*tooLong, txt_description, note);
     put(row, "maintlogdesc", *txt_description);
-    if (lst_unit->currentText().size() > longestUnit)
-        return refuse(QStringLiteral("Your \"unit of measure\" entry must be 10 characters or less."), lst_unit, note);
+    if (const auto tooLong = TooLong(unitLimit, lst_unit->currentText()))
+        return refuse(*tooLong, lst_unit, note);
     put(row, "maintlogunit", *lst_unit);
     if (txt_maintlognotes->toPlainText().isEmpty())
-        txt_maintlognotes->setPlainText(QStringLiteral(" "));
+        txt_maintlognotes->setPlainText(startNote);
     put(row, "maintlognote", *txt_maintlognotes);
     row.Update();
     return true;

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "logic/logbook/EntryRules.h"
 #include "platform/controls/Caption.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
@@ -149,7 +150,7 @@ void frm_WaterAddEdit::setDefaults(const QString &waterType)
         const StartValue &start = waterType == u"SALT" ? entry.salt : entry.fresh;
         set(line, start.position, QLatin1String(start.text));
     }
-    txt_Comment->setPlainText(QStringLiteral(" "));
+    txt_Comment->setPlainText(startNote);
 }
 
 void frm_WaterAddEdit::load(Recordset &row)
@@ -172,18 +173,12 @@ void frm_WaterAddEdit::ShowWindow(const Recordset &row, const QString &tankId) {
 
 bool frm_WaterAddEdit::numberIsGood(const Line &line)
 {
-    const MeasurementRow &measurement = *line.measurement;
-    const QString text = line.box->Text();
-    bool good = true;
-    if (!IsStorable(text)) {
-        g.gMessage = nameOf(measurement) + u" entries must be a number.";
-        good = refuse(g.gMessage, line.box);
+    const QStringList complaints = MeasurementComplaints(*line.measurement, g.userFieldNames(), line.box->Text());
+    for (const QString &complaint : complaints) {
+        g.gMessage = complaint;
+        refuse(complaint, line.box);
     }
-    if (Val(text) > measurement.entry.limit) {
-        g.gMessage = nameOf(measurement) + u" entries " + QLatin1String(measurement.entry.tooLarge);
-        good = refuse(g.gMessage, line.box);
-    }
-    return good;
+    return complaints.isEmpty();
 }
 
 bool frm_WaterAddEdit::txt_date_LostFocus()

@@ -159,6 +159,8 @@ void frm_OMKMDIMain::MDIForm_Load()
     g.gCurrentDir = QDir::currentPath();
     g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
     CheckDatabaseVersion();
+    constexpr int milliseconds = 30'000; // over the panel, which the next progress would write over
+    g.gDatabase->KeepDailyCopies([this](const QString &words) { statusBar()->showMessage(words, milliseconds); });
     ReadOptions(g);
     g.gGraphPageSize = 20;
     QApplication::processEvents();

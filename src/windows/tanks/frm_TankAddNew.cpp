@@ -1,5 +1,6 @@
 #include "windows/tanks/frm_TankAddNew.h"
 
+#include "logic/logbook/EntryRules.h"
 #include "logic/shell/ErrorHandler.h"
 #include "platform/controls/FocusAtFault.h"
 #include "platform/controls/Guarded.h"
@@ -20,9 +21,6 @@ constexpr WaterType waterTypes[] = {
     {"3", &Ui::frm_TankAddNew::opt_Reef},       {"4", &Ui::frm_TankAddNew::Opt_Brackish},
     {"5", &Ui::frm_TankAddNew::opt_Pond},
 };
-
-constexpr int longestName = 50;
-constexpr double biggestTank = 9999; // gallons
 
 const QString tankByName = QStringLiteral("where tankname = ?");
 
@@ -60,8 +58,8 @@ void frm_TankAddNew::AddNewTank()
         opt_Saltwater->setChecked(true);
     else if (g.gDefaultWaterType == u"FRESH")
         opt_Freshwater->setChecked(true);
-    ud_tanksize->setValue(55);
-    txt_tanksize->setText(QStringLiteral("55"));
+    ud_tanksize->setValue(startTankSize);
+    txt_tanksize->setText(QString::number(startTankSize));
     DialogMode = QStringLiteral("add");
     main.disablePrint();
     ShowModal();
@@ -77,7 +75,7 @@ void frm_TankAddNew::ChangeTank(const QString &tankName)
     if (auto *option = waterTypeOption(m_waterType))
         option->setChecked(true);
     const QString size = m_tank[QStringLiteral("tanksize")].text();
-    ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), biggestTank))); // the arrows start at the size shown
+    ud_tanksize->setValue(static_cast<int>(qBound(0.0, Val(size), tankSizeLimit.most))); // it starts at the size shown
     ShowWhole(*txt_tanksize, size);
     ShowWhole(*txt_tankname, tankName);
     ShowWhole(*txt_long_desc, m_tank[QStringLiteral("Tankdesc")].text());
@@ -95,24 +93,20 @@ bool frm_TankAddNew::fieldsAreGood()
 {
     const QString size = txt_tanksize->text();
     const QString name = txt_tankname->Text();
-    // A file from elsewhere may hold longer texts than can be typed. They are accepted as long as the keeper has not
-    // edited them.
-    const bool tooBig = Val(size) > biggestTank && m_shown.isEdited(*txt_tanksize);
-    const auto tooLong = [this](const MaskedBox &box) {
-        return box.Text().size() > longestName && m_shown.isEdited(box);
+    // A file from elsewhere may hold more than can be typed. It is no fault of the keeper, who has not edited it.
+    const auto edited = [this](const QWidget &box, const Complaint &complaint) {
+        return m_shown.isEdited(box) ? complaint : std::nullopt;
     };
     if (size.isEmpty())
-        return refuse(QStringLiteral("The tank size must be a number less than 10,000 gallons."), txt_tanksize);
-    if (tooBig)
-        return refuse(QStringLiteral("The tank size must be less than 10,000 gallons."), txt_tanksize);
-    if (tooLong(*txt_tankname)) // exactly 50 are accepted, although the message says "less than"
-        return refuse(QStringLiteral("The tank name must be less than 50 characters."), txt_tankname);
-    if (name.isEmpty())
-        return refuse(QStringLiteral("You must enter a name for your tank."), txt_tankname);
-    if (name.contains(u'"'))
-        return refuse(QStringLiteral("The tank name cannot contain a quote(\") character."), txt_tankname);
-    if (tooLong(*txt_long_desc))
-        return refuse(QStringLiteral("The long description must be less than 50 characters."), txt_long_desc);
+        return refuse(QLatin1String(noTankSize), txt_tanksize);
+    if (const auto tooBig = edited(*txt_tanksize, TooMuch(tankSizeLimit, size)))
+        return refuse(*tooBig, txt_tanksize);
+    if (const auto tooLong = edited(*txt_tankname, TooLong(tankNameLimit, name)))
+        return refuse(*tooLong, txt_tankname);
+    if (const auto bad = BadTankName(name))
+        return refuse(*bad, txt_tankname);
+    if (const auto tooLong = edited(*txt_long_desc, TooLong(tankDescriptionLimit, txt_long_desc->Text())))
+        return refuse(*tooLong, txt_long_desc);
     return true;
 }
 
@@ -120,17 +114,7 @@ bool frm_TankAddNew::txt_tanksize_LostFocus()
 {
     if (txt_tanksize->text().isEmpty() || IsNumeric(txt_tanksize->text()))
         return true;
-    return refuse(QStringLiteral("Tanksize entries must be a number."), txt_tanksize);
-}
-
-QString frm_TankAddNew::newTankId()
-{
-    QDateTime moment = Now();
-    for (;; moment = moment.addSecs(1)) {
-        const QString id = moment.toString(QStringLiteral("MM/dd/yyyy hh:mm:ss"));
-        if (g.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM tanklst WHERE tankid = ?"), {id}).isEmpty())
-            return id;
-    }
+    return refuse(QLatin1String(tankSizeLimit.ifNoNumber), txt_tanksize);
 }
 
 void frm_TankAddNew::put(const char *column, const QWidget &box, const Value &value)
@@ -151,7 +135,8 @@ void frm_TankAddNew::store()
     put("tanknotes", *txt_tanknotes, txt_tanknotes->toPlainText());
     m_tank[QStringLiteral("TankWaterType")].setValue(m_waterType);
     if (DialogMode == u"add") {
-        const QString id = newTankId();
+        QDateTime moment = Now();
+        const QString id = NewTankId(*g.gDatabase, moment);
         m_tank[QStringLiteral("tankid")].setValue(id);
         m_tank.Update();
         g.gTankId = id;

@@ -27,8 +27,6 @@ private:
     /// Runs the checks in their order. At the first fault it shows the message and returns false.
     bool fieldsAreGood();
     bool txt_tanksize_LostFocus();
-    /// The id of a new tank: the date and time at which it is made, or the next free second if that is taken.
-    QString newTankId();
     /// Writes the value into the row if the keeper has edited the box.
     void put(const char *column, const QWidget &box, const Value &value);
     void store();

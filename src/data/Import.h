@@ -1,0 +1,59 @@
+// Imports a CSV file into the database: one that the export wrote, or any other whose header names the columns. Each
+// value is checked by the rules of the entry windows. Either all rows are stored or none, in one transaction.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include <QString>
+
+#include "text/Dates.h"
+
+struct Globals;
+
+struct ImportOptions
+{
+    /// Names in the header and the columns that they stand for; the case of both does not matter. An empty column
+    /// leaves the values out.
+    std::vector<std::pair<QString, QString>> map = {};
+    std::optional<DateOrder> dateOrder = {}; ///< of dates that are not ISO; nothing: all must be
+    char delimiter = ',';                    ///< see CsvReader::canDelimit
+    bool decimalComma = false;               ///< numbers have "," before their decimals instead of "."
+    bool replaces = false;                   ///< rows that are there and differ get the values of the file
+    bool isDryRun = false;                   ///< everything is checked and counted, nothing is stored
+    QString tank = {};                       ///< the tank of all rows of a file of entries that has no column for it
+};
+
+/// Reads "pH=ph,NO3=nitrate". A name may contain commas and "="; the last "=" before the comma counts. Nothing where a
+/// "=" is missing.
+std::optional<std::vector<std::pair<QString, QString>>> ReadMap(const QString &text);
+
+/// What is wrong with the options themselves; nothing if they can be used.
+std::optional<QString> OptionFault(const ImportOptions &options);
+
+struct ImportFault
+{
+    qint64 line = 0; ///< from 1
+    QString column;  ///< as the header names it; empty for a fault of the whole row or file
+    QString value;   ///< as in the file
+    QString reason;  ///< a sentence
+};
+
+/// The fault as one line of text without control characters; a long value is cut.
+QString FaultText(const ImportFault &fault);
+
+struct ImportResult
+{
+    QString entry; ///< what a row is, such as "water test"; empty if the header does not tell
+    qint64 added = 0;
+    qint64 replaced = 0;
+    qint64 passedOver = 0; ///< rows that were there already, equal in all columns of the file
+    qint64 faults = 0;     ///< if there are any, nothing was stored
+};
+
+/// Imports the file into g.gDatabase; ReadOptions must have been called. `tell` is called for each fault, in the order
+/// of the lines. Throws RuntimeFailure if the file or the database cannot be read or written; nothing is stored then.
+ImportResult Import(const Globals &g, const QString &fileName, const ImportOptions &options,
+                    const std::function<void(const ImportFault &)> &tell);

@@ -1,0 +1,230 @@
+#include "datacommand/Check.h"
+
+#include <cmath>
+#include <optional>
+#include <vector>
+
+#include "datacommand/DataCommand.h"
+#include "datacommand/KeepersData.h"
+#include "datacommand/Restore.h"
+#include "datacommand/TerminalDoors.h"
+#include "logic/common/Measurements.h"
+#include "logic/reminders/ReminderRun.h"
+#include "logic/reminders/RuleFields.h"
+#include "platform/core/RuntimeFailure.h"
+#include "store/Inspection.h"
+#include "text/Dates.h"
+
+namespace {
+
+enum class Holds { Text, Number, Date, Time };
+
+struct ColumnRule
+{
+    QString column;
+    Holds holds;
+    double most = HUGE_VAL; ///< the greatest number, or the length of a text
+    bool isNeeded = false;
+};
+
+/// The entries of a table, and how a line names one of them.
+struct TableRule
+{
+    const char *entry;
+    const char *select; ///< with the columns NameOfTank, and "Day" and "Clock" if
+                        ///< its entries have a moment
+    std::vector<ColumnRule> columns;
+};
+
+constexpr double shortText = 50;
+
+std::vector<ColumnRule> waterColumns()
+{
+    std::vector<ColumnRule> columns{{QStringLiteral("logdate"), Holds::Date, 0, true},
+                                    {QStringLiteral("logtime"), Holds::Time, 0, true}};
+    for (const MeasurementRow &row : measurements)
+        columns.push_back({QLatin1String(row.column), Holds::Number, row.entry.limit});
+    return columns;
+}
+
+std::vector<TableRule> tableRules()
+{
+    const auto text = [](const char *column, double most, bool isNeeded = false) {
+        return ColumnRule{QLatin1String(column), Holds::Text, most, isNeeded};
+    };
+    const auto number = [](const char *column, double most) {
+        return ColumnRule{QLatin1String(column), Holds::Number, most};
+    };
+    const auto moment = [](const char *column, Holds holds, bool isNeeded = true) {
+        return ColumnRule{QLatin1String(column), holds, 0, isNeeded};
+    };
+    return {
+        {"tank",
+         "SELECT *, tankname AS NameOfTank FROM TANKLST",
+         {text("tankname", shortText, true), text("tankid", HUGE_VAL, true), text("Tankdesc", shortText),
+          number("tanksize", 9999), text("TankWaterType", 1, true)}},
+        {"water test of",
+         "SELECT l.*, t.tankname AS NameOfTank, logdate AS Day, logtime AS Clock "
+         "FROM WATERLOG l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
+         waterColumns()},
+        {"livestock entry of",
+         "SELECT l.*, t.tankname AS NameOfTank, dateadded AS Day, timeadded AS "
+         "Clock "
+         "FROM LIVESTOCK l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
+         {moment("dateadded", Holds::Date), moment("timeadded", Holds::Time), text("animalname", shortText, true),
+          number("quantity", 32000), text("Status", 30), number("price_paid", 1e12), number("price_sold", 1e12),
+          moment("datelost", Holds::Date, false), text("where_purch", shortText)}},
+        {"maintenance entry of",
+         "SELECT l.*, t.tankname AS NameOfTank, maintlogdate AS Day, "
+         "maintlogtime AS Clock "
+         "FROM MAINTLOG l LEFT JOIN TANKLST t ON t.tankid = l.mainttankname",
+         {moment("maintlogdate", Holds::Date), moment("maintlogtime", Holds::Time),
+          text("maintlogtask", shortText, true), text("maintlogdesc", shortText), text("maintlogunit", 10),
+          number("maintlogqty", 9999)}},
+    };
+}
+
+/// What is wrong with a value; nothing if a window could have stored it.
+std::optional<QString> faultOf(const ColumnRule &rule, const Value &value)
+{
+    const auto *text = std::get_if<QString>(&value.variant());
+    if (value.isNull() || (text && text->isEmpty()))
+        return rule.isNeeded ? std::optional(QStringLiteral("is missing")) : std::nullopt;
+    switch (rule.holds) {
+    case Holds::Text:
+        if (double(value.text().size()) > rule.most)
+            return QStringLiteral("has %1 characters; the window takes %2").arg(value.text().size()).arg(rule.most);
+        break;
+    case Holds::Number:
+        if (text)
+            return QStringLiteral("is \"%1\", which is no number").arg(*text);
+        if (value.toDouble() > rule.most)
+            return QStringLiteral("is %1; the window takes at most %2").arg(value.text()).arg(rule.most, 0, 'g', 15);
+        break;
+    case Holds::Date:
+        if (!std::holds_alternative<QDate>(value.variant()))
+            return QStringLiteral("is \"%1\", which is no date").arg(value.text());
+        break;
+    case Holds::Time:
+        if (!std::holds_alternative<QTime>(value.variant()))
+            return QStringLiteral("is \"%1\", which is no time").arg(value.text());
+        break;
+    }
+    return std::nullopt;
+}
+
+/// A part of an entry's name: dates and times as ISO, all else as it is.
+QString partOf(const Value &value)
+{
+    if (const auto *date = std::get_if<QDate>(&value.variant()))
+        return date->toString(Qt::ISODate);
+    if (const auto *time = std::get_if<QTime>(&value.variant()))
+        return time->toString(Qt::ISODate);
+    return value.isNull() ? QStringLiteral("?") : value.text();
+}
+
+QString nameOf(const TableRule &rule, const RowStream &rows)
+{
+    QString name = QLatin1String(rule.entry) + u" \"" + partOf(rows.value(QStringLiteral("NameOfTank"))) + u'"';
+    if (QLatin1String(rule.select).contains(QLatin1String("Clock")))
+        name += u", " + partOf(rows.value(QStringLiteral("Day"))) + u' ' + partOf(rows.value(QStringLiteral("Clock")));
+    return name;
+}
+
+QStringList findBadValues(Globals &globals)
+{
+    QStringList found;
+    for (const TableRule &rule : tableRules())
+        for (RowStream rows = globals.gDatabase->OpenForwardOnly(QLatin1String(rule.select)); !rows.EOF_();
+             rows.MoveNext())
+            for (const ColumnRule &column : rule.columns)
+                if (const auto fault = faultOf(column, rows.value(column.column)))
+                    found << nameOf(rule, rows) + u": " + column.column + u' ' + *fault;
+    return found;
+}
+
+QStringList findLostEntries(Globals &globals)
+{
+    constexpr const char *logs[][4] = {{"WATERLOG", "tankname", "water test", "water tests"},
+                                       {"LIVESTOCK", "tankname", "livestock entry", "livestock entries"},
+                                       {"MAINTLOG", "mainttankname", "maintenance entry", "maintenance entries"}};
+    QStringList found;
+    for (const auto &[table, column, one, many] : logs) {
+        const QString sql = QStringLiteral("SELECT %2 AS tank, count(*) AS n FROM %1 WHERE NOT "
+                                           "EXISTS (SELECT 1 FROM "
+                                           "TANKLST WHERE tankid = %2) GROUP BY %2")
+                                .arg(QLatin1String(table), QLatin1String(table) + u'.' + QLatin1String(column));
+        for (RowStream rows = globals.gDatabase->OpenForwardOnly(sql); !rows.EOF_(); rows.MoveNext())
+            found << QStringLiteral("%1 of the tank with the id \"%2\"")
+                         .arg(Counted(qint64(rows.value(QStringLiteral("n")).toDouble()), one, many),
+                              rows.text(QStringLiteral("tank")));
+    }
+    return found;
+}
+
+const DateRange allDates{QDate(1, 1, 1), QDate(9999, 12, 31)};
+
+/// Reminders without dates, and those that the editor would not store as they
+/// are.
+QStringList findBadReminders(Globals &globals)
+{
+    const auto rules = LoadReminders(globals);
+    QStringList found =
+        RunReminders(globals, rules, {scheduleRun, {}, [](const QDate &, int) {}, [](const QString &, int) {}}).lines();
+    const DateConventions dates{globals.options.DateOrder, globals.options.DatePicture};
+    for (const RecurrenceRule &rule : rules) {
+        bool occurs = false;
+        if (Walk(rule, scheduleRun, allDates, dates.order, [&occurs](const QDate &) { occurs = true; }))
+            continue; // named already
+        if (!occurs) {
+            found << rule.TaskDescription + u" (it never occurs)";
+            continue;
+        }
+        EditorFields fields;
+        fields.txt_TaskDescription = rule.TaskDescription;
+        ShowRecurrence(rule, dates, fields);
+        if (const auto complaint = EditFault(fields, dates))
+            found << QStringLiteral("%1 (%2)").arg(rule.TaskDescription, complaint->text);
+    }
+    return found;
+}
+
+/// One kind of finding: its lines, and what to do. Returns how many there are.
+qsizetype tell(const QString &title, const QStringList &found, const QString &advice)
+{
+    if (found.isEmpty())
+        return 0;
+    Say(title);
+    for (const QString &line : found)
+        Say(u"  " + OnOneLine(line));
+    Say(u"  What to do: " + advice);
+    return found.size();
+}
+
+const QString restoreAdvice = QStringLiteral("make a copy of the folder first. \"ostrelmark-data "
+                                             "restore\" lists older copies and puts one in place.");
+
+} // namespace
+
+int CheckData(KeepersData &data)
+{
+    Globals &globals = data.open();
+    if (tell(QStringLiteral("The file is damaged:"), FindDamage(*globals.gDatabase), restoreAdvice) > 0)
+        return DataFault; // what else is read from it means nothing
+    qsizetype count = tell(QStringLiteral("The tables are not those of Ostrelmark:"),
+                           FindSchemaFaults(*globals.gDatabase), restoreAdvice);
+    if (count > 0)
+        return DataFault;
+    count += tell(QStringLiteral("Values that no window would have taken:"), findBadValues(globals),
+                  QStringLiteral("open these entries in Ostrelmark and correct what the lines name."));
+    count += tell(QStringLiteral("Entries of tanks that are gone:"), findLostEntries(globals),
+                  QStringLiteral("no tank shows them. An older copy may still "
+                                 "have the tank: \"ostrelmark-data "
+                                 "restore\" lists the copies."));
+    count += tell(QStringLiteral("Reminders that are not in order:"), findBadReminders(globals),
+                  QStringLiteral("change or delete them in \"Add or Change Reminders\"."));
+    Say(QStringLiteral("%1: %2; %3.")
+            .arg(globals.gDatabase->fileName(), ContentInWords(CountContent(*globals.gDatabase)),
+                 count == 0 ? QStringLiteral("nothing was found") : Counted(count, "finding", "findings")));
+    return count == 0 ? DataDone : DataFault;
+}

@@ -1,0 +1,134 @@
+// Tests of the CSV reader and writer alone.
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+
+#include "data/CsvReader.h"
+#include "data/CsvWriter.h"
+#include "platform/core/RuntimeFailure.h"
+#include "support/ScriptedDoors.h"
+#include "support/TestFiles.h"
+
+namespace {
+
+struct CsvTest : testing::Test
+{
+    QString path(const QString &name = "a.csv") const { return folder.filePath(name); }
+
+    /// The records as "line:[value][value]", with ~ for nothing, and at last "line!" for a fault.
+    QString read(const QByteArray &content, char delimiter = ',')
+    {
+        writeFile(path(), content);
+        CsvReader reader(path(), delimiter);
+        QString all;
+        while (reader.next()) {
+            all += QString::number(reader.line()) + ':';
+            for (const CsvCell &cell : reader.cells())
+                all += cell.isNull ? QString("~")
+                                   : '[' + QString::fromUtf8(cell.bytes.data(), qsizetype(cell.bytes.size())) + ']';
+            all += ' ';
+        }
+        EXPECT_FALSE(reader.next()) << "it has ended";
+        if (reader.fault())
+            all += QString::number(reader.fault()->line) + '!';
+        return all.trimmed();
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(CsvTest, RecordsAreReadWithTheirLines)
+{
+    const std::pair<QByteArray, QString> cases[] = {
+        {"", ""},
+        {"\xef\xbb\xbf", ""},
+        {"\xef\xbb\xbf"
+         "a,b\r\n1,2\r\n",
+         "1:[a][b] 2:[1][2]"},
+        {"a\nb", "1:[a] 2:[b]"},
+        {"a\rb\r", "1:[a] 2:[b]"},
+        {"\r\n\n\ra,b\n\n\nc,d\n\n", "4:[a][b] 7:[c][d]"},
+        {"a,,\"\"\n,\n", "1:[a]~[] 2:~~"},
+        {"a,\"b\nc\r\nd\re\",f\ng\n", "1:[a][b\nc\r\nd\re][f] 5:[g]"},
+        {"\"a\"\"b\",\" c \", d \n", "1:[a\"b][ c ][ d ]"},
+        {"a,b\n1,2\n3,\"x", "1:[a][b] 2:[1][2] 3!"},
+        {"a,b\n1,\"2\n\"\n3,4\"5\n6,7\n", "1:[a][b] 2:[1][2\n] 4!"},
+        {"a\n\"b\"c\n", "1:[a] 2!"},
+        {"a\n\n\"b\n\n c \"d\"\n", "1:[a] 5!"},
+    };
+    for (const auto &[content, expected] : cases)
+        EXPECT_EQ(read(content), expected) << content.constData();
+    EXPECT_EQ(read("a;b,c\n", ';'), "1:[a][b,c]");
+    EXPECT_EQ(read("a\t\tb\n", '\t'), "1:[a]~[b]");
+}
+
+// A value, a line end or a quotation mark may be anywhere where the file is cut into blocks.
+TEST_F(CsvTest, TheCutsOfTheBlocksDoNotShow)
+{
+    for (int shift = 0; shift < 12; ++shift) {
+        QByteArray content = "h\r\n" + QByteArray(shift, 'x') + "\r\n";
+        QString expected = shift > 0 ? "1:[h] 2:[" + QString(shift, 'x') + "]" : QString("1:[h]");
+        for (int line = 3; content.size() < 70'000; line += 3) {
+            content += "ab,\"c\r\nd\"\"e\"\r\n\r\n";
+            expected += QString(" %1:[ab][c\r\nd\"e]").arg(line);
+        }
+        ASSERT_EQ(read(content), expected) << shift;
+    }
+}
+
+TEST_F(CsvTest, ARecordOfManyValuesAndAVeryLongValueNeedNoMoreMemory)
+{
+    writeFile(path(), QByteArray(1'000'000, ',') + "\nb\n");
+    CsvReader wide(path(), ',');
+    ASSERT_TRUE(wide.next());
+    EXPECT_EQ(wide.cells().size(), CsvReader::mostCells);
+    EXPECT_EQ(wide.cellCount(), 1'000'001u);
+    ASSERT_TRUE(wide.next());
+    EXPECT_EQ(wide.cells().size(), 1u);
+
+    QByteArray endless = "a\nb,\"";
+    endless += QByteArray(qsizetype(CsvReader::longestValue) + 1000, 'x');
+    EXPECT_EQ(read(endless), "1:[a] 2!");
+}
+
+TEST_F(CsvTest, AFileThatCannotBeReadIsAFailure)
+{
+    const auto number = [](const QString &name) {
+        try {
+            CsvReader reader(name, ',');
+        } catch (const RuntimeFailure &failure) {
+            return int(failure.number());
+        }
+        return 0;
+    };
+    EXPECT_EQ(number(path("none.csv")), int(Failure::FileNotFound));
+    EXPECT_EQ(number(folder.path()), int(Failure::PermissionDenied));
+}
+
+TEST_F(CsvTest, WhatIsWrittenIsWholeUnderItsNameOrNotThere)
+{
+    {
+        CsvWriter csv(path());
+        csv.bare("n");
+        csv.text(QString("t"));
+        csv.endRow();
+        csv.number(0.1);
+        csv.text(QString("a\"b,\nc"));
+        csv.null();
+        csv.text(QString(""));
+        csv.number(-1.7976931348623157e308);
+        csv.text(std::string_view("\xff"));
+        csv.endRow();
+        csv.end();
+        EXPECT_EQ(contentOf(folder.path()).count("a.csv"), 0u);
+        csv.giveName(false);
+    }
+    EXPECT_EQ(contentOf(folder.path()),
+              (std::map<QString, QByteArray>{{"a.csv", "n,\"t\"\r\n0.1,\"a\"\"b,\nc\",,\"\",-1.7976931348623157e+308,"
+                                                       "\"\xef\xbf\xbd\"\r\n"}}));
+    CsvWriter other(path());
+    other.end();
+    EXPECT_THROW(other.giveName(false), RuntimeFailure);
+    EXPECT_NE(contentOf(folder.path())["a.csv"], "");
+}
+
+} // namespace

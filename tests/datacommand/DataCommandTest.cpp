@@ -1,0 +1,124 @@
+// The command line of ostrelmark-data, and the verbs that only read.
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include "CommandFixture.h"
+
+struct DataCommand : CommandTest
+{
+};
+
+TEST_F(DataCommand, AWrongCallIsToldApartFromAFailure)
+{
+    const std::tuple<QStringList, int, const char *> rows[] = {
+        {{"--help"}, 0, "upcoming"},
+        {{"calendar", "--help"}, 0, "--from"},
+        {{"--version"}, 0, "Ostrelmark 2."},
+        {{}, 2, "say what to do"},
+        {{"frobnicate"}, 2, "frobnicate"},
+        {{"upcoming", "--days", "0"}, 2, "--days"},
+        {{"upcoming", "--days", "many"}, 2, "--days"},
+        {{"calendar"}, 2, "FILE"},
+        {{"upcoming", "--folder", "/nowhere/at/all"}, 1, "There is no folder /nowhere/at/all."},
+        {{"upcoming", "--folder", folder.path() + "/empty"}, 1, "OM.MDB was looked for in the folder"},
+    };
+    QDir(folder.path()).mkdir("empty");
+    for (const auto &[arguments, status, words] : rows) {
+        const Told told = run(arguments);
+        EXPECT_EQ(told.status, status) << arguments.join(' ').toStdString();
+        EXPECT_TRUE((status == 0 ? told.out : told.err).contains(words)) << testing::PrintToString(told);
+        EXPECT_TRUE(status != 1 || told.err.count('\n') == 1) << "one line: " << told.err.toStdString();
+    }
+    EXPECT_TRUE(QDir(path("empty")).isEmpty()) << "a verb creates no logbook";
+}
+
+TEST_F(DataCommand, UpcomingGivesALineForEachDateInOrder)
+{
+    addReminder("feed", "2026-03-10", "2026-12-31", 2);
+    addReminder("Clean\nthe \x1b[31mfilter", "2026-03-14", "2026-12-31", 4);
+    EXPECT_EQ(run({"upcoming", "--days", "1"}).out, "Sat 03/14/26 Clean the  [31mfilter\nSat 03/14/26 feed\n");
+    EXPECT_EQ(run({"upcoming"}).out.count('\n'), 6) << "from the 14th to the 20th";
+    doors.settings().setValue("Date_Order", "DDMMYY");
+    doors.settings().setValue("Date_Delim", ".");
+    EXPECT_EQ(run({"upcoming", "--days", "3"}).out.section('\n', 2, 2), "Mon 16.03.26 feed");
+    change("DELETE FROM MAINTSCHED");
+    const Told none = run({"upcoming"});
+    EXPECT_EQ(none.status, 0);
+    EXPECT_EQ(none.out + none.err, "");
+}
+
+TEST_F(DataCommand, ReadsBesideTheProgramAndDoesNotRestoreThere)
+{
+    addReminder("Feed", "2026-03-10", "2026-12-31", 2);
+    writeFile(path("OM-old.MDB"), contentOf(folder.path())["OM.MDB"]);
+    const int program = ::open(qPrintable(folder.path()), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(::flock(program, LOCK_EX | LOCK_NB), 0);
+    const auto before = contentOf(folder.path());
+    for (const QString verb : {"upcoming", "check", "restore"})
+        EXPECT_EQ(run({verb}).status, 0) << verb.toStdString();
+    const Told told = run({"restore", "OM-old.MDB"});
+    EXPECT_EQ(told.status, 1);
+    EXPECT_TRUE(told.err.contains("Ostrelmark has the folder")) << told.err.toStdString();
+    EXPECT_EQ(contentOf(folder.path()), before);
+    ::close(program);
+    EXPECT_EQ(run({"restore", "OM-old.MDB"}).status, 0);
+}
+
+TEST_F(DataCommand, CheckFindsWhatNoWindowWouldHaveTaken)
+{
+    addTank("Reef");
+    change("INSERT INTO WATERLOG (tankname, logdate, logtime, nitrate) VALUES ('id Reef', '2026-03-01', '09:00:00', "
+           "10)");
+    addReminder("Feed", "2026-03-10", "2026-12-31", 2);
+    Told told = run({"check"});
+    EXPECT_EQ(told.status, 0) << told.out.toStdString();
+    EXPECT_TRUE(told.out.endsWith(": 1 tank, 1 entry, 1 reminder; nothing was found.\n")) << told.out.toStdString();
+
+    const std::pair<const char *, const char *> rows[] = {
+        {"UPDATE WATERLOG SET nitrate = 1e9",
+         "water test of \"Reef\", 2026-03-01 09:00:00: nitrate is 1000000000; the window takes at most"},
+        {"UPDATE WATERLOG SET ph = 'acid'", "ph is \"acid\", which is no number"},
+        {"UPDATE WATERLOG SET logdate = '2026-02-30'", "logdate is \"2026-02-30\", which is no date"},
+        {"UPDATE WATERLOG SET logtime = NULL", "logtime is missing"},
+        {"UPDATE WATERLOG SET tankname = 'gone'", "1 water test of the tank with the id \"gone\""},
+        {"UPDATE TANKLST SET tanksize = 10000", "tank \"Reef\": tanksize is 10000; the window takes at most 9999"},
+        {"INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname, quantity) VALUES ('id Reef', "
+         "'2026-03-01', '09:00:00', '', 32001)",
+         "animalname is missing|quantity is 32001"},
+        {"INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime, maintlogtask, maintlogunit) VALUES ('id "
+         "Reef', '2026-03-01', '09:00:00', 'Clean', 'hectolitres')",
+         "maintlogunit has 11 characters; the window takes 10"},
+        {"UPDATE MAINTSCHED SET SchedStartDate = NULL", "Feed (it has no start date)"},
+        {"UPDATE MAINTSCHED SET SchedRtype = 9", "Feed (it never occurs)"},
+        {"UPDATE MAINTSCHED SET SchedRtype = 2, SchedDetailText = '30'", "Feed (When choosing the same day"},
+        {"DROP INDEX WATERLOG_entry", "The index WATERLOG_ENTRY is missing"},
+        {"ALTER TABLE TANKLST DROP COLUMN tanknotes", "The table TANKLST has no column tanknotes."},
+    };
+    const QByteArray good = contentOf(folder.path())["OM.MDB"];
+    for (const auto &[sql, words] : rows) {
+        change(sql);
+        told = run({"check"});
+        EXPECT_EQ(told.status, 1) << sql;
+        for (const QString &word : QString(words).split('|'))
+            EXPECT_TRUE(told.out.contains(word)) << sql << '\n' << told.out.toStdString();
+        EXPECT_TRUE(told.out.contains("What to do: ")) << told.out.toStdString();
+        QFile::remove(path());
+        writeFile(path(), good);
+    }
+}
+
+TEST_F(DataCommand, CheckFindsADamagedFile)
+{
+    addTank("Reef");
+    change("INSERT INTO WATERLOG (tankname, logdate, logtime) WITH RECURSIVE n (i) AS (SELECT 0 UNION ALL SELECT i + 1 "
+           "FROM n WHERE i < 900) SELECT 'id Reef', date('2020-01-01', i || ' days'), '09:00:00' FROM n");
+    QByteArray bytes = contentOf(folder.path())["OM.MDB"];
+    std::fill_n(bytes.end() - 3 * 4096, 4096, '\xff');
+    QFile::remove(path());
+    writeFile(path(), bytes);
+    const Told told = run({"check"});
+    EXPECT_EQ(told.status, 1);
+    EXPECT_TRUE(told.out.contains("The file is damaged:")) << told.out.toStdString() << told.err.toStdString();
+    EXPECT_TRUE(told.out.contains("ostrelmark-data restore"));
+    EXPECT_EQ(contentOf(folder.path())["OM.MDB"], bytes);
+}

@@ -1,0 +1,128 @@
+// A copy takes the place of the database only if it is whole, and the present file is kept.
+#include "CommandFixture.h"
+#include "OldDatabase.h"
+
+struct Restore : CommandTest
+{
+    Restore()
+    {
+        addTank("Old");
+        QDir(folder.path()).mkdir("copies");
+        writeFile(path(copyName), contentOf(folder.path())["OM.MDB"]);
+        change("UPDATE TANKLST SET tankname = 'New'");
+    }
+    QString tank() { return asked("SELECT tankname FROM TANKLST"); }
+    QStringList files() { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); }
+
+    const QString copyName = "copies/OM-2026-03-10.MDB";
+};
+
+TEST_F(Restore, TheListNamesEveryCopyWithWhatItHolds)
+{
+    writeFile(path("OM-broken.MDB"), "no database");
+    writeFile(path("note.txt"), "no copy");
+    const Told told = run({"restore"});
+    EXPECT_EQ(told.status, 0);
+    EXPECT_EQ(told.out.count('\n'), 2) << told.out.toStdString();
+    const qint64 size = QFileInfo(path(copyName)).size();
+    EXPECT_TRUE(told.out.contains(QLocale::c().toString(size) + " bytes  copies/OM-2026-03-10.MDB  1 tank, 0 entries, "
+                                                                "0 reminders\n"))
+        << told.out.toStdString();
+    EXPECT_TRUE(told.out.contains("OM-broken.MDB  (no database")) << told.out.toStdString();
+    EXPECT_TRUE(told.out.contains(QFileInfo(path(copyName)).lastModified().toString("yyyy-MM-dd hh:mm")));
+}
+
+TEST_F(Restore, ACopyIsFoundByItsPathItsNameOrItsDate)
+{
+    for (const QString &name : {path(copyName), copyName, copyName.section('/', 1), QString("2026-03-10")}) {
+        const Told told = run({"restore", name});
+        EXPECT_EQ(told.status, 0) << told.err.toStdString();
+        EXPECT_EQ(tank(), "Old");
+        EXPECT_TRUE(told.out.contains("1 tank, 0 entries, 0 reminders"));
+        EXPECT_TRUE(told.out.contains("The former database was kept as " + path("OM-before-restore")));
+        change("UPDATE TANKLST SET tankname = 'New'");
+    }
+    EXPECT_EQ(OtherProgram(path("OM-before-restore.MDB")).run("SELECT tankname FROM TANKLST"), "New");
+    EXPECT_EQ(OtherProgram(path("copies/OM-2026-03-14.MDB")).run("SELECT tankname FROM TANKLST"), "New")
+        << "the copy of the day";
+    EXPECT_EQ(OtherProgram(path(copyName)).run("SELECT tankname FROM TANKLST"), "Old");
+}
+
+TEST_F(Restore, ALostDatabaseComesBack)
+{
+    QFile::remove(path());
+    const Told told = run({"restore", copyName});
+    EXPECT_EQ(told.status, 0) << told.err.toStdString();
+    EXPECT_EQ(tank(), "Old");
+    EXPECT_EQ(files(), QStringList("OM.MDB"));
+}
+
+TEST_F(Restore, ADamagedDatabaseIsKeptToo)
+{
+    QFile::remove(path());
+    writeFile(path(), "nothing that can be read");
+    EXPECT_EQ(run({"restore", copyName}).status, 0);
+    EXPECT_EQ(tank(), "Old");
+    EXPECT_EQ(contentOf(folder.path())["OM-before-restore.MDB"], "nothing that can be read");
+}
+
+TEST_F(Restore, AnOldVersionIsLeftToTheUpgrade)
+{
+    WriteOldDatabase(path("OM-version-1.1.MDB"), "1.1", 3);
+    const Told told = run({"restore", "OM-version-1.1.MDB"});
+    EXPECT_EQ(told.status, 0) << told.err.toStdString();
+    EXPECT_TRUE(told.out.contains("The next start of Ostrelmark upgrades it")) << told.out.toStdString();
+    EXPECT_EQ(asked("SELECT db_version FROM CONFIG"), "1.1 ");
+}
+
+TEST_F(Restore, TheOldestCopyCanBeRestoredAlthoughTheCopyOfTheDayTakesItsPlace)
+{
+    for (int day = 1; day <= 9; ++day)
+        QFile::copy(path(copyName), path(QString("copies/OM-2026-02-0%1.MDB").arg(day)));
+    OtherProgram(path("copies/OM-2026-02-01.MDB")).run("UPDATE TANKLST SET tankname = 'Oldest'");
+    EXPECT_EQ(run({"restore", "2026-02-01"}).status, 0);
+    EXPECT_EQ(tank(), "Oldest");
+    EXPECT_EQ(QDir(path("copies")).entryList(QDir::Files).size(), 10);
+}
+
+TEST_F(Restore, WhatIsNoWholeDatabaseIsRefusedAndNothingChanges)
+{
+    QByteArray damaged = contentOf(path("copies")).begin()->second;
+    std::fill_n(damaged.end() - 2 * 4096, 4096, '\xff');
+    writeFile(path("OM-damaged.MDB"), damaged);
+    writeFile(path("OM-short.MDB"), damaged.first(damaged.size() / 2));
+    writeFile(path("OM-text.MDB"), "no database");
+    QFile::copy(path(copyName), path("OM-future.MDB"));
+    OtherProgram(path("OM-future.MDB")).run("UPDATE CONFIG SET db_version = '9.9 '");
+    QFile::copy(path(copyName), path("OM-unfinished.MDB"));
+    writeFile(path("OM-unfinished.MDB-journal"), "pages");
+    const auto before = contentOf(folder.path()), copies = contentOf(path("copies"));
+    const std::pair<const char *, const char *> rows[] = {
+        {"OM-damaged.MDB", "is damaged"},
+        {"OM-short.MDB", "end of the file is missing"},
+        {"OM-text.MDB", "too short"},
+        {"OM-future.MDB", "version 9.9"},
+        {"OM-unfinished.MDB", "OM-unfinished.MDB-journal"},
+        {"OM.MDB", "is the database itself"},
+        {"OM-none.MDB", "There is no copy OM-none.MDB"},
+        {"1999-01-01", "There is no copy 1999-01-01"},
+    };
+    for (const auto &[name, words] : rows) {
+        const Told told = run({"restore", name});
+        EXPECT_EQ(told.status, 1) << name;
+        EXPECT_TRUE(told.err.contains(words)) << name << ": " << told.err.toStdString();
+        EXPECT_EQ(contentOf(folder.path()), before) << name;
+        EXPECT_EQ(contentOf(path("copies")), copies) << name;
+    }
+}
+
+TEST_F(Restore, AChangeThatWasCutOffIsFinishedOrLeftBeforeTheFileGoes)
+{
+    // A journal that nobody can roll back must not be applied to the copy afterwards.
+    QFile::remove(path());
+    writeFile(path("OM.MDB-journal"), "pages");
+    const Told told = run({"restore", copyName});
+    EXPECT_EQ(told.status, 1);
+    EXPECT_TRUE(told.err.contains("OM.MDB-journal")) << told.err.toStdString();
+    EXPECT_EQ(files(), QStringList("OM.MDB-journal"));
+}
