@@ -49,7 +49,7 @@ Work offerCalendar(CLI::App &line)
         std::string file, from, to;
     };
     const auto options = std::make_shared<Options>();
-    line.add_option("FILE", options->file, "The file to write, such as reminders.ics")->required();
+    line.add_option("FILE", options->file, "The file to write, such as reminders.ics")->required()->type_name("");
     line.add_option("--from", options->from, "The first day; today if it is left out")->check(isoDate);
     line.add_option("--to", options->to, "The last day; two years after the first if it is left out")->check(isoDate);
     return [options](KeepersData &data) {
@@ -138,7 +138,8 @@ Work offerRestore(CLI::App &line)
     line.add_option("COPY", *copy,
                     "The copy to put in place: a file, a name of the list, or "
                     "the date of a daily copy. Without it, "
-                    "the copies are listed.");
+                    "the copies are listed.")
+        ->type_name("");
     return [copy](KeepersData &data) { return copy->empty() ? ListCopies(data) : RestoreCopy(data, fileName(*copy)); };
 }
 
@@ -175,15 +176,17 @@ int RunDataCommand(std::span<char *const> arguments)
 {
     CLI::App app("Takes the data of Ostrelmark out and brings it back, on a terminal.", "ostrelmark-data");
     app.set_version_flag("--version", "Ostrelmark " OMK_REVISION);
+    app.get_formatter()->label("SUBCOMMAND", "VERB");
     app.require_subcommand(0, 1); // a wrong verb is named, which the parser does not do where one is required
     std::string folder;
     app.add_option("--folder", folder,
                    "The folder of your data. Without it, that is the current "
                    "directory if it holds an OM.MDB, else "
-                   "ostrelmark in $XDG_DATA_HOME or in ~/.local/share.");
+                   "ostrelmark in $XDG_DATA_HOME or in ~/.local/share.")
+        ->type_name("DIR");
     Work work;
     for (const Verb &verb : verbs) {
-        CLI::App *line = app.add_subcommand(verb.name, verb.summary)->fallthrough();
+        CLI::App *line = app.add_subcommand(verb.name, verb.summary)->fallthrough()->group("Verbs");
         line->callback([&work, chosen = verb.offer(*line)] { work = chosen; });
     }
     try {

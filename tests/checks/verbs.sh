@@ -1,6 +1,6 @@
 # Checks that each verb of ostrelmark-data is in its man page, in the completion of bash and in the help. The arguments are the program
 # and the project's folder. Prints what is missing.
-verbs=$("$1" --help | sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p')
+verbs=$("$1" --help | sed -n '/^Verbs:/,$s/^  \([a-z]*\) .*/\1/p')
 cd "$2" || exit 2
 broken=0
 for verb in $verbs; do

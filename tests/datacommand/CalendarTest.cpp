@@ -132,7 +132,8 @@ TEST(Calendar, RandomRulesHaveTheDatesOfTheSchedule)
         std::vector<CalendarEntry> entries;
         for (int i = 0; i < 400; ++i) {
             CalendarEntry entry{random.next(), {}};
-            Walk(entry.rule, scheduleRun, range, "MMDDYY", [&](const QDate &date) { entry.dates.push_back(date); });
+            Walk(entry.rule, scheduleRun, range, DateOrder::MMDDYY,
+                 [&](const QDate &date) { entry.dates.push_back(date); });
             std::ranges::sort(entry.dates);
             entries.push_back(entry);
         }
@@ -168,7 +169,7 @@ TEST(Calendar, WeeksBeginOnTheFirstDayOfTheReminderOrAreListed)
     rule.RecurrenceInterval = 2;
     rule.RecurrenceDetail = "0100100";
     CalendarEntry entry{rule, {}};
-    Walk(rule, scheduleRun, {QDate(2026, 1, 1), QDate(2028, 1, 1)}, "MMDDYY",
+    Walk(rule, scheduleRun, {QDate(2026, 1, 1), QDate(2028, 1, 1)}, DateOrder::MMDDYY,
          [&](const QDate &date) { entry.dates.push_back(date); });
     std::ranges::sort(entry.dates);
     ASSERT_EQ(entry.dates[1], QDate(2026, 3, 23));

@@ -34,7 +34,7 @@ TEST_F(CopiesTest, TheFirstChangeOfADayIsPrecededByACopyWhateverChangesTheFile)
     const std::function<void()> changes[] = {
         [this] { addingWater(2, 7).Update(); },
         [this] {
-            Recordset rows = db->OpenRecordset("SELECT * FROM WATERLOG");
+            Recordset rows = db->OpenForUpdate("WATERLOG");
             rows.Edit();
             rows["ph"].setValue(6.5);
             rows.Update();
@@ -46,7 +46,7 @@ TEST_F(CopiesTest, TheFirstChangeOfADayIsPrecededByACopyWhateverChangesTheFile)
             addingWater(4, 7).Update();
             whole.commit();
         },
-        [this] { db->OpenRecordset("SELECT * FROM WATERLOG").Delete(); },
+        [this] { db->OpenForUpdate("WATERLOG").Delete(); },
     };
     int day = 14;
     for (const auto &change : changes) {
