@@ -93,6 +93,7 @@ TEST_F(OpenOldFileTest, AnOlderKeptFileStaysAndANameInSmallLettersIsFound)
     EXPECT_EQ(contentOf(folder.path())["om-old-engine.mdb"], "another");
     EXPECT_EQ(contentOf(folder.path())["om-old-engine-2.mdb"], oldFiles[0].bytes());
     EXPECT_EQ(QFile::permissions(path("om-old-engine-2.mdb")) & QFile::WriteOwner, 0);
+    EXPECT_EQ(QFile::permissions(path("om.mdb")) & (QFile::WriteOwner | QFile::ReadGroup), QFile::WriteOwner);
     expectEveryRow(oldFiles[0], false);
 }
 
