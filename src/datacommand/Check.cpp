@@ -1,6 +1,7 @@
 #include "datacommand/Check.h"
 
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "datacommand/Restore.h"
 #include "datacommand/TerminalDoors.h"
 #include "logic/common/Measurements.h"
+#include "logic/logbook/EntryRules.h"
 #include "logic/reminders/ReminderRun.h"
 #include "logic/reminders/RuleFields.h"
 #include "platform/core/RuntimeFailure.h"
@@ -36,7 +38,7 @@ struct TableRule
     std::vector<ColumnRule> columns;
 };
 
-constexpr double shortText = 50;
+constexpr qsizetype anyLength = std::numeric_limits<qsizetype>::max();
 
 std::vector<ColumnRule> waterColumns()
 {
@@ -49,8 +51,8 @@ std::vector<ColumnRule> waterColumns()
 
 std::vector<TableRule> tableRules()
 {
-    const auto text = [](const char *column, double most, bool isNeeded = false) {
-        return ColumnRule{QLatin1String(column), Holds::Text, most, isNeeded};
+    const auto text = [](const char *column, qsizetype longest, bool isNeeded = false) {
+        return ColumnRule{QLatin1String(column), Holds::Text, double(longest), isNeeded};
     };
     const auto number = [](const char *column, double most) {
         return ColumnRule{QLatin1String(column), Holds::Number, most};
@@ -61,8 +63,9 @@ std::vector<TableRule> tableRules()
     return {
         {"tank",
          "SELECT *, tankname AS NameOfTank FROM TANKLST",
-         {text("tankname", shortText, true), text("tankid", HUGE_VAL, true), text("Tankdesc", shortText),
-          number("tanksize", 9999), text("TankWaterType", 1, true)}},
+         {text("tankname", tankNameLimit.longest, true), text("tankid", anyLength, true),
+          text("Tankdesc", tankDescriptionLimit.longest), number("tanksize", tankSizeLimit.most),
+          text("TankWaterType", 1, true)}},
         {"water test of",
          "SELECT l.*, t.tankname AS NameOfTank, logdate AS Day, logtime AS Clock "
          "FROM WATERLOG l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
@@ -71,16 +74,17 @@ std::vector<TableRule> tableRules()
          "SELECT l.*, t.tankname AS NameOfTank, dateadded AS Day, timeadded AS "
          "Clock "
          "FROM LIVESTOCK l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
-         {moment("dateadded", Holds::Date), moment("timeadded", Holds::Time), text("animalname", shortText, true),
-          number("quantity", 32000), text("Status", 30), number("price_paid", 1e12), number("price_sold", 1e12),
-          moment("datelost", Holds::Date, false), text("where_purch", shortText)}},
+         {moment("dateadded", Holds::Date), moment("timeadded", Holds::Time),
+          text("animalname", animalLimit.longest, true), number("quantity", animalsLimit.most),
+          text("Status", statusLimit.longest), number("price_paid", beyondPrices), number("price_sold", beyondPrices),
+          moment("datelost", Holds::Date, false), text("where_purch", placeLimit.longest)}},
         {"maintenance entry of",
          "SELECT l.*, t.tankname AS NameOfTank, maintlogdate AS Day, "
          "maintlogtime AS Clock "
          "FROM MAINTLOG l LEFT JOIN TANKLST t ON t.tankid = l.mainttankname",
          {moment("maintlogdate", Holds::Date), moment("maintlogtime", Holds::Time),
-          text("maintlogtask", shortText, true), text("maintlogdesc", shortText), text("maintlogunit", 10),
-          number("maintlogqty", 9999)}},
+          text("maintlogtask", taskLimit.longest, true), text("maintlogdesc", descriptionLimit.longest),
+          text("maintlogunit", unitLimit.longest), number("maintlogqty", quantityLimit.most)}},
     };
 }
 

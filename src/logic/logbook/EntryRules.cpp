@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr double beyondPrices = 1e12; ///< of any currency; up to here a hundredth is exact
-
 const QString tankOfId = QStringLiteral("SELECT tankid FROM tanklst WHERE tankid = ?");
 
 } // namespace

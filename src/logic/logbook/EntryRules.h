@@ -47,6 +47,8 @@ inline constexpr NumberLimit animalsLimit{
 inline constexpr NumberLimit quantityLimit{9999, "Your quantity must be less than 10,000.",
                                            "Quantity entries must be a number."};
 
+inline constexpr double beyondPrices = 1e12; ///< of any currency; up to here a hundredth is exact
+
 inline constexpr char noTankSize[] = "The tank size must be a number less than 10,000 gallons.";
 inline constexpr char noTankName[] = "You must enter a name for your tank.";
 inline constexpr char noAnimal[] =
