@@ -53,5 +53,8 @@ Figure barChartFigure();
 Figure lineChartFigure();
 /// A file of the old engine read into a new database, beside mdb-export of its water tests alone.
 Figure oldFileFigure(const QString &folder);
+/// The tests of the database as a CSV file in the folder, out and into an empty database, beside the shell of SQLite.
+Figure exportFigure(const QString &databaseFile, const QString &folder);
+Figure importFigure(const QString &databaseFile, const QString &folder);
 /// On a desk where the tank is in hand, from the menu to the painted window, beside two statements of bare SQL.
 Figure openGraphFigure(const QString &databaseFile, const QString &tankId);

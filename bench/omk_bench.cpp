@@ -48,6 +48,8 @@ bool measureIn(const QString &folder, int argc, char **argv)
                                 dropAnimalFigure(),
                                 pdfFigure(folder),
                                 oldFileFigure(folder),
+                                exportFigure(file, folder),
+                                importFigure(file, folder),
                                 barChartFigure(),
                                 lineChartFigure(),
                                 openGraphFigure(file, tank)};
