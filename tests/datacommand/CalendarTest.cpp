@@ -110,12 +110,9 @@ private:
     int m_number = 0;
 };
 
-/// Every date of a rule that a week or a month of the calendar knows can be told by a recurrence. Only days that not
-/// every month has, and weeks that do not begin on a Sunday, may have to be listed.
+/// Every reminder can be told by a recurrence, except some on days that not every month has.
 bool mayBeListed(const RecurrenceRule &rule)
 {
-    if (rule.is(Pattern::Weekly))
-        return rule.RecurrenceInterval > 1;
     const bool isDay = rule.RecurrenceSubtype == 0;
     return isDay && ((rule.is(Pattern::Monthly) && rule.RecurrenceDetail.toInt() > 28) ||
                      (rule.is(Pattern::Yearly) && rule.RecurrenceInterval > 28));
@@ -158,7 +155,7 @@ TEST(Calendar, RandomRulesHaveTheDatesOfTheSchedule)
     }
 }
 
-TEST(Calendar, WeeksBeginOnTheFirstDayOfTheReminderOrAreListed)
+TEST(Calendar, WeeksBeginOnTheFirstDayOfTheReminder)
 {
     // Every two weeks from a Wednesday on Monday and Thursday: the Monday belongs to the week of the Thursday before.
     RecurrenceRule rule;
@@ -174,6 +171,7 @@ TEST(Calendar, WeeksBeginOnTheFirstDayOfTheReminderOrAreListed)
     std::ranges::sort(entry.dates);
     ASSERT_EQ(entry.dates[1], QDate(2026, 3, 23));
     const QByteArray text = MakeCalendar({&entry, 1}, QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC));
+    EXPECT_TRUE(text.contains("WKST=")) << text.toStdString();
     EXPECT_FALSE(text.contains("WKST=SU")) << text.toStdString();
     EXPECT_EQ(eventsOf(text)["Task"].dates, entry.dates);
 }
