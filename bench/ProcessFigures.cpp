@@ -5,8 +5,8 @@
 #include <QCoreApplication>
 #include <QProcess>
 
+#include "logic/logbook/LogKinds.h"
 #include "OwnProcess.h"
-#include "windows/logbook/LogRows.h"
 
 namespace {
 
@@ -32,7 +32,10 @@ Sample runFromStart(const QString &program, const QString &what)
 Figure openTankFigure(const QString &folder, const QString &tankId)
 {
     const QString database = folder + u"/OM.MDB";
-    const QString select = QLatin1String(logKinds[WaterTab].select) + QLatin1String(logKinds[WaterTab].ascending);
+    const LogKind &water = KindOf(WaterTab);
+    const QString select =
+        QStringLiteral("SELECT * FROM %1 WHERE %2 = ? ORDER BY %3")
+            .arg(QLatin1String(water.table), QLatin1String(water.tankColumn), QLatin1String(water.list.ascending));
     return {.name = QStringLiteral("Opening a tank with 100,000 tests, ms"),
             .target = 2,
             .ours = [=] { return run(QStringLiteral("bench_open_tank"), {folder}); },

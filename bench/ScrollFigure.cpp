@@ -25,7 +25,7 @@ class PlainModel : public QAbstractTableModel
 public:
     explicit PlainModel(std::shared_ptr<const Rows> rows) : m_rows(std::move(rows))
     {
-        for (const LogColumn &column : logKinds[WaterTab].columns) {
+        for (const LogColumn &column : KindOf(WaterTab).list.columns) {
             const QString picture = QLatin1String(column.picture);
             const qsizetype point = picture.indexOf(u'.');
             m_columns.push_back({QLatin1String(column.heading),

@@ -54,17 +54,18 @@ Read numberRead(const DataColumn &column, QString text, const ImportOptions &opt
     return Value(int(*number));
 }
 
-Read dateRead(const DataColumn &column, const QString &text, const ImportOptions &options)
+/// The boxes of the entry windows show two digits of a year, so that an entry's must be one of a hundred years.
+Read dateRead(const DataColumn &column, const QString &text, const CellContext &context)
 {
-    const auto date = ReadFileDate(text, options);
+    const auto date = ReadFileDate(text, context.options);
     if (!date)
         return refuse(
-            options.dateOrder
+            context.options.dateOrder
                 ? QStringLiteral("This is no date in the order that was chosen.")
                 : QStringLiteral("This is no date such as 2026-11-24. (For another order see --date-order.)"));
-    if (column.kind == CellKind::EntryDate && !CanBeTyped(*date))
-        return refuse(
-            QStringLiteral("The year must be between %1 and %2.").arg(lastTypedYear() - 99).arg(lastTypedYear()));
+    const int firstYear = context.lastYear - 99;
+    if (column.kind == CellKind::EntryDate && (date->year() < firstYear || date->year() > context.lastYear))
+        return refuse(QStringLiteral("The year must be between %1 and %2.").arg(firstYear).arg(context.lastYear));
     return Value(*date);
 }
 
@@ -111,22 +112,21 @@ std::optional<QDate> ReadFileDate(const QString &text, const ImportOptions &opti
     return options.dateOrder ? ReadDateInOrder(text, *options.dateOrder) : std::nullopt;
 }
 
-Read ReadCell(const DataColumn &column, const CsvCell &cell, const QString &text, const ImportOptions &options,
-              const QHash<QString, QString> &tankIds)
+Read ReadCell(const DataColumn &column, const CsvCell &cell, const QString &text, const CellContext &context)
 {
     const QString trimmed = text.trimmed();
     if (cell.isNull || (trimmed.isEmpty() && !isText(column.kind)) || (text.isEmpty() && !column.ifEmpty.isEmpty()))
         return column.ifEmpty.isEmpty() ? Read(Value()) : refuse(column.ifEmpty);
     switch (column.kind) {
-    case CellKind::Tank: return tankRead(text, tankIds);
+    case CellKind::Tank: return tankRead(text, context.tankIds);
     case CellKind::TankName:
     case CellKind::Line:
     case CellKind::Notes:
     case CellKind::Detail: return textRead(column, text);
     case CellKind::Number:
-    case CellKind::Whole: return numberRead(column, trimmed, options);
+    case CellKind::Whole: return numberRead(column, trimmed, context.options);
     case CellKind::Date:
-    case CellKind::EntryDate: return dateRead(column, trimmed, options);
+    case CellKind::EntryDate: return dateRead(column, trimmed, context);
     case CellKind::Time: return timeRead(trimmed);
     case CellKind::WaterType:
     case CellKind::Pattern: return wordRead(column, trimmed);

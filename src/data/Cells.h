@@ -7,6 +7,7 @@
 
 #include "data/CsvReader.h"
 #include "data/Tables.h"
+#include "text/Dates.h"
 
 struct ImportOptions;
 
@@ -22,6 +23,13 @@ std::variant<QString, Refusal> DecodedText(const CsvCell &cell);
 /// A date as the file may have it: ISO, or in the order of the options.
 std::optional<QDate> ReadFileDate(const QString &text, const ImportOptions &options);
 
-/// `tankIds` are the tanks of the database by their names.
+/// What the values of a file are read by, apart from their columns.
+struct CellContext
+{
+    const ImportOptions &options;
+    QHash<QString, QString> tankIds; ///< of the tanks of the database, by their names
+    int lastYear = lastTypedYear();  ///< asked once, because it asks the clock
+};
+
 std::variant<Value, Refusal> ReadCell(const DataColumn &column, const CsvCell &cell, const QString &text,
-                                      const ImportOptions &options, const QHash<QString, QString> &tankIds);
+                                      const CellContext &context);

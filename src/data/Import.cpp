@@ -57,7 +57,7 @@ private:
     const ImportOptions &m_options;
     ImportResult &m_result;
     const TellFault &m_tell;
-    QHash<QString, QString> m_tankIds;
+    CellContext m_context;
     QDateTime m_newTank; ///< the moment that the next new tank is identified by
     QString m_insert, m_select, m_update;
     std::vector<std::size_t> m_given; ///< the columns that are in the file and no part of the key
@@ -72,7 +72,7 @@ RowImport::RowImport(const Globals &globals, const Header &header, const ImportO
                      ImportResult &result, const TellFault &tell) :
     g(globals),
     m_database(*globals.gDatabase), m_header(header), m_table(*header.table), m_options(options), m_result(result),
-    m_tell(tell), m_tankIds(tanksByName(m_database)), m_newTank(now)
+    m_tell(tell), m_context{options, tanksByName(m_database)}, m_newTank(now)
 {
     QStringList columns, marks, keys, given, assignments;
     for (std::size_t i = 0; i < m_table.columns.size(); ++i) {
@@ -137,7 +137,7 @@ bool RowImport::read(const std::vector<CsvCell> &cells)
         const auto *decoded = std::get_if<QString>(&text);
         m_texts.back() =
             decoded ? *decoded : QString::fromUtf8(cells[i].bytes.data(), qsizetype(cells[i].bytes.size()));
-        const auto value = decoded ? ReadCell(m_table.columns[place], cells[i], *decoded, m_options, m_tankIds)
+        const auto value = decoded ? ReadCell(m_table.columns[place], cells[i], *decoded, m_context)
                                    : std::variant<Value, Refusal>(std::get<Refusal>(text));
         if (const auto *refusal = std::get_if<Refusal>(&value)) {
             tell(m_header.names[qsizetype(i)], m_texts.back(), refusal->reason);

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "store/Database.h"
-#include "text/Dates.h"
 #include "text/Numbers.h"
 
 namespace {
@@ -58,8 +57,6 @@ Complaint BadPrice(const QString &name, const QString &text)
         return name + u" must have at most 12 digits before the decimal point.";
     return std::nullopt;
 }
-
-bool CanBeTyped(const QDate &date) { return date.year() <= lastTypedYear() && date.year() > lastTypedYear() - 100; }
 
 QString NewTankId(Database &database, QDateTime &moment)
 {

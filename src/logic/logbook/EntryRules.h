@@ -73,9 +73,6 @@ QStringList MeasurementComplaints(const MeasurementRow &measurement, const UserF
 /// A price that is no number or too large to be stored to the hundredth. `name` is the caption of its box.
 Complaint BadPrice(const QString &name, const QString &text);
 
-/// Whether the date has a year that two digits can mean: the boxes of the entry windows show no more.
-bool CanBeTyped(const QDate &date);
-
 /// The identity of a new tank: a moment as text, which no other tank has. Starts at `moment` and leaves there the one
 /// that it took.
 QString NewTankId(Database &database, QDateTime &moment);
