@@ -1,4 +1,5 @@
-// Reads a value of a CSV file as its column stores it, by the rules of the entry windows.
+// Converts a value of a CSV file into the value that its column stores, by the rules of the entry windows. Used by the
+// import.
 #pragma once
 
 #include <variant>
@@ -10,18 +11,18 @@
 
 struct ImportOptions;
 
-/// Why a value is refused: a sentence.
+/// Why a value is refused; a sentence.
 struct Refusal
 {
     QString reason;
 };
 
-/// The text of a value; refused if the bytes are no UTF-8.
+/// The text of a value; refused if the bytes are not UTF-8.
 std::variant<QString, Refusal> DecodedText(const CsvCell &cell);
 
-/// A date as the file may have it: ISO, or in the order of the options.
+/// A date as a file may contain it: ISO, or in the order that the options say.
 std::optional<QDate> ReadFileDate(const QString &text, const ImportOptions &options);
 
-/// `tankIds` are the tanks of the database by their names.
+/// `tankIds` has the tankid of each tank in the database by its name.
 std::variant<Value, Refusal> ReadCell(const DataColumn &column, const CsvCell &cell, const QString &text,
                                       const ImportOptions &options, const QHash<QString, QString> &tankIds);
