@@ -83,7 +83,7 @@ QString recurrence(const RecurrenceRule &rule)
     }
 }
 
-/// Midnight of the day: with plain dates the library never returns when it skips ahead.
+/// Midnight of the day. With dates that have no time, the library never returns from skipping ahead.
 icaltimetype icalMidnight(const QDate &date)
 {
     icaltimetype time = icaltime_null_time();

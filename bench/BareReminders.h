@@ -1,5 +1,5 @@
 // The floors of the reminder figures: a thousand rules of all patterns, expanded without windows or a database, once by
-// the literal walk of the fuzz target and once by a calendar library.
+// the simple algorithm of the fuzz target and once by a calendar library.
 #pragma once
 
 #include <map>

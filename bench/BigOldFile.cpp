@@ -8,8 +8,8 @@
 
 namespace {
 
-// The later format. The first byte of a page is its kind. A page with rows has at 4 the page of its table, at 12 the
-// number of its rows, and after that where they are.
+// A file of Jet 4. The first byte of a page is its kind. A page with rows has at 4 the page of its table, at 12 the
+// number of its rows, and after that the places of the rows.
 constexpr int pageSize = 4096;
 constexpr char rowsPage = 1, mapPage = 5;
 constexpr int ownerAt = 4, rowCountAt = 12, slotsAt = 14, offsetBits = 0x1fff;

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// The time of SQLite's shell, from its start to its end.
+/// The time of the shell of SQLite, from its start to its end.
 Sample runShell(const QStringList &arguments, const QString &output)
 {
     QProcess shell;

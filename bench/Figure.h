@@ -23,11 +23,11 @@ struct Figure
     std::function<Sample()> ours;
     std::function<Sample()> floor;
     int repetitions = 15;
-    QString extraName = {}; ///< with its unit; empty where there is no second row
+    QString extraName = {}; ///< with its unit; empty if there is no second row
     double extraTarget = 0;
 };
 
-/// These run programs in processes of their own, which lie beside omk_bench.
+/// These run programs that are beside omk_bench, each in a process of its own.
 Figure openTankFigure(const QString &folder, const QString &tankId);
 Figure startFigure(const QString &folder);
 /// These need a desk where a tank is open.
@@ -53,8 +53,9 @@ Figure barChartFigure();
 Figure lineChartFigure();
 /// A file of the old engine read into a new database, beside mdb-export of its water tests alone.
 Figure oldFileFigure(const QString &folder);
-/// The tests of the database as a CSV file in the folder, out and into an empty database, beside the shell of SQLite.
+/// Exporting the tests of the database to a CSV file in the folder, and importing them into an empty database, beside
+/// the shell of SQLite.
 Figure exportFigure(const QString &databaseFile, const QString &folder);
 Figure importFigure(const QString &databaseFile, const QString &folder);
-/// On a desk where the tank is in hand, from the menu to the painted window, beside two statements of bare SQL.
+/// Opening the graph of the desk's tank, from the menu to the painted window, beside two plain SQL statements.
 Figure openGraphFigure(const QString &databaseFile, const QString &tankId);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int times = 500; ///< the 200 water tests of the file
 
-/// The time of a program, from its start to its end; what it writes is thrown away.
+/// The time of a program, from its start to its end; its output is discarded.
 Sample run(const QString &program, const QStringList &arguments)
 {
     QProcess process;

@@ -1,5 +1,5 @@
 // Counts how often this process has asked the system to sync a file or a folder to disk.
 #pragma once
 
-/// Since the process began.
+/// The number of calls since the process began.
 long syncCalls();

@@ -87,7 +87,7 @@ bool measureAndPrint(const std::vector<Figure> &figures, int argc, char **argv)
                 ->Repetitions(figure.repetitions);
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    benchmark::ClearRegisteredBenchmarks(); // they hold widgets, which must go before the application object
+    benchmark::ClearRegisteredBenchmarks(); // they own widgets, which must be destroyed before the application object
     if (collector.failed)
         return false;
     std::printf("%-42s %10s %10s %8s %8s\n", "Figure (medians)", "ours", "floor", "ratio", "target");

@@ -24,7 +24,7 @@ int main(int argc, char **argv)
     Application application(argc, argv);
     DesktopDoors doors;
     Doors::install(&doors);
-    KeepersFolder folder; // the last to go: the database is closed before another program comes in
+    KeepersFolder folder; // destroyed last, so that the database is closed before another program can lock the folder
     Globals globals;
     Forms forms(globals);
     setEndHook([&globals] {

@@ -23,13 +23,13 @@ constexpr double keptByWaterChange = 1 - 10 / 55.0; // ten of 55 gallons, each S
 const char *const commentsOfCycle[] = {" ", "No animals yet", " ", "Skimmer cleaned", " "};
 const char *const commentsLater[] = {" ", "Fed brine shrimp", "Glass cleaned", " ", "All animals well"};
 
-/// From 0 at the start up to 1 on the peak day and back; the steeper, the shorter.
+/// Rises from 0 at the start to 1 on the peak day and falls again; the greater `steepness`, the shorter the peak.
 double hump(double day, double peakDay, double steepness)
 {
     return std::pow(day / peakDay * std::exp(1 - day / peakDay), steepness);
 }
 
-/// As a test kit would tell it that has so many steps to a unit.
+/// The value as a test kit would show it that has so many steps per unit.
 double rounded(double value, double stepsPerUnit) { return std::round(value * stepsPerUnit) / stepsPerUnit; }
 
 QString commentOf(int test, double day, bool beforeWaterChange)

@@ -1,5 +1,5 @@
 // omk_olddb FILE 1.0|1.1 [ROWS]: writes a database of an older version with made-up entries, by default 5000 in each
-// log, to try the upgrade with.
+// log, for trying out the upgrade.
 #include <cstdio>
 
 #include <QCoreApplication>

@@ -32,7 +32,7 @@ Read tankRead(const QString &name, const QHash<QString, QString> &tankIds)
     return Value(*found);
 }
 
-/// Thousands must not be separated: 1,250 would be read as another number where the comma is a decimal sign.
+/// Refuses separated thousands: if the comma were a decimal sign, 1,250 would be read as another number.
 Read numberRead(const DataColumn &column, QString text, const ImportOptions &options)
 {
     const QChar decimalSign = options.decimalComma ? u',' : u'.', other = options.decimalComma ? u'.' : u',';
@@ -73,7 +73,7 @@ Read timeRead(const QString &text)
 {
     auto time = ReadTime(text);
     if (!time)
-        time = ReadTime(text + u":00"); // a spreadsheet may leave the seconds out
+        time = ReadTime(text + u":00"); // a spreadsheet may leave out the seconds
     if (!time)
         return refuse(QStringLiteral("This is no time such as 13:05:00 or 01:05:00 pm."));
     return Value(*time);

@@ -1,4 +1,5 @@
-// Reads a value of a CSV file as its column stores it, by the rules of the entry windows.
+// Converts a value of a CSV file into the value that its column stores, by the rules of the entry windows. Used by the
+// import.
 #pragma once
 
 #include <variant>
@@ -11,23 +12,23 @@
 
 struct ImportOptions;
 
-/// Why a value is refused: a sentence.
+/// Why a value is refused; a sentence.
 struct Refusal
 {
     QString reason;
 };
 
-/// The text of a value; refused if the bytes are no UTF-8.
+/// The text of a value; refused if the bytes are not UTF-8.
 std::variant<QString, Refusal> DecodedText(const CsvCell &cell);
 
-/// A date as the file may have it: ISO, or in the order of the options.
+/// A date as a file may contain it: ISO, or in the order that the options say.
 std::optional<QDate> ReadFileDate(const QString &text, const ImportOptions &options);
 
-/// What the values of a file are read by, apart from their columns.
+/// What reading a value depends on besides its column.
 struct CellContext
 {
     const ImportOptions &options;
-    QHash<QString, QString> tankIds; ///< of the tanks of the database, by their names
+    QHash<QString, QString> tankIds; ///< the tankid of each tank in the database, by its name
     int lastYear = lastTypedYear();  ///< asked once, because it asks the clock
 };
 

@@ -23,7 +23,7 @@ void *growUpToLongest(void *memory, std::size_t size)
     return size > CsvReader::longestValue ? nullptr : std::realloc(memory, size);
 }
 
-/// How many lines end in a text; CR and LF together are one end.
+/// How many lines end within a text; CR and LF together end one line.
 qint64 lineEnds(std::string_view text)
 {
     qint64 count = 0;
@@ -44,18 +44,18 @@ struct CsvReader::Parser
     struct Record
     {
         qint64 line;
-        std::size_t first, kept, count; ///< of its places
+        std::size_t first, kept, count; ///< its first place, how many places are kept, and how many values it has
     };
 
     QFile file;
     csv_parser csv;
-    std::string text; ///< the values of the records that are not taken yet, one behind the other
+    std::string text; ///< the values of all records below, one after the other
     std::vector<Place> places;
     std::vector<Record> records;
-    std::size_t taken = 0; ///< records that were given
+    std::size_t taken = 0; ///< how many records next() has returned
     Record open{1, 0, 0, 0};
-    qint64 line = 1;          ///< where the parser is
-    bool afterReturn = false; ///< the last line ended with CR, so that an LF belongs to it
+    qint64 line = 1;          ///< the line that the parser is at
+    bool afterReturn = false; ///< the last line ended with CR, so an LF that follows belongs to it
     bool isStart = true, isEnded = false;
 
     Parser(const QString &fileName, char delimiter) : file(fileName)
@@ -100,7 +100,7 @@ struct CsvReader::Parser
         open = {line, places.size(), 0, 0};
     }
 
-    /// Forgets the records that were given. The values of a record that has begun stay.
+    /// Forgets the records that next() has returned, but keeps the values of a record that is not complete yet.
     void forgetTaken()
     {
         const std::size_t keptFrom = open.kept > 0 ? places[open.first].at : text.size();
@@ -131,7 +131,7 @@ struct CsvReader::Parser
         if (isEnded)
             return {line,
                     QStringLiteral("A value begins with a quotation mark and the file ends before a second one.")};
-        // The value in progress began on `line`; what was read of it in this block may have line ends of its own.
+        // The unfinished value began on `line`, and the part of it that was read may itself contain line ends.
         const std::string_view seen(reinterpret_cast<const char *>(csv.entry_buf), csv.entry_pos);
         return {line + lineEnds(seen),
                 QStringLiteral("A quotation mark is inside a value. A value with quotation marks is put between "

@@ -10,7 +10,7 @@
 
 #include <QString>
 
-/// What ends the reading of a file.
+/// The fault at which the reading of a file ends.
 struct CsvFault
 {
     qint64 line;    ///< from 1
@@ -20,17 +20,17 @@ struct CsvFault
 struct CsvCell
 {
     std::string_view bytes;
-    bool isNull; ///< nothing at all; false for an empty text in quotation marks
+    bool isNull; ///< true for nothing at all, false for an empty text in quotation marks
 };
 
 class CsvReader
 {
 public:
-    static constexpr std::size_t longestValue = 16 * 1024 * 1024; ///< bytes; more is taken for a missing quotation mark
-    static constexpr std::size_t mostCells = 1000;                ///< that are kept of a record
+    static constexpr std::size_t longestValue = 16 * 1024 * 1024; ///< bytes; a longer one lacks a quotation mark
+    static constexpr std::size_t mostCells = 1000;                ///< only so many values of a record are kept
 
-    /// Whether values can be separated by this character: ASCII, no letter, digit, control character but tab,
-    /// quotation mark, point or minus.
+    /// Whether values can be separated by this character: tab, or a printable ASCII character that is not a letter,
+    /// digit, quotation mark, point, plus or minus.
     static bool canDelimit(char delimiter);
 
     /// Opens the file. Throws RuntimeFailure: FileNotFound, or PermissionDenied if it cannot be read.
@@ -39,8 +39,8 @@ public:
     CsvReader(const CsvReader &) = delete;
     CsvReader &operator=(const CsvReader &) = delete;
 
-    /// Goes to the next record. Returns false at the end of the file and at a fault. Throws DeviceError if the file
-    /// cannot be read further.
+    /// Moves to the next record. Returns false at the end of the file and at a fault. Throws DeviceError if reading
+    /// fails.
     bool next();
     /// The line on which the record begins, from 1.
     qint64 line() const { return m_line; }
@@ -48,7 +48,7 @@ public:
     const std::vector<CsvCell> &cells() const { return m_cells; }
     /// How many values the record has; more than cells() if there are more than mostCells.
     std::size_t cellCount() const { return m_cellCount; }
-    /// Set if the file is no CSV from some line on; every record before that line was given.
+    /// Set if the file is not valid CSV from some line on; all records before that line were returned.
     const std::optional<CsvFault> &fault() const { return m_fault; }
 
 private:

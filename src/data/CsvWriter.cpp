@@ -19,7 +19,7 @@ CsvWriter::CsvWriter(const QString &fileName) :
 {
     if (!m_file)
         fail();
-    std::setvbuf(m_file.get(), nullptr, _IONBF, 0); // m_buffer serves
+    std::setvbuf(m_file.get(), nullptr, _IONBF, 0); // m_buffer is the only buffer
 }
 
 CsvWriter::~CsvWriter() = default;
@@ -55,7 +55,7 @@ void CsvWriter::text(std::string_view utf8)
     const std::size_t begin = m_buffer.size();
     const std::size_t atMost = 2 * utf8.size() + 2;
     m_buffer.resize(begin + atMost);
-    const char *bytes = utf8.empty() ? "" : utf8.data(); // of a null pointer csv_write would write nothing
+    const char *bytes = utf8.empty() ? "" : utf8.data(); // for a null pointer, csv_write would write nothing
     m_buffer.resize(begin + csv_write(m_buffer.data() + begin, atMost, bytes, utf8.size()));
 }
 

@@ -1,6 +1,6 @@
-// Writes a file of comma-separated values (RFC 4180): UTF-8, lines that end with CR and LF. Texts are in quotation
-// marks and all else is not, so that an empty text differs from nothing and a spreadsheet can tell a text of digits
-// from a number. The file is written under a temporary name; it is whole under its own name or not there.
+// Writes a file of comma-separated values (RFC 4180) in UTF-8, with lines that end with CR and LF. Only texts are in
+// quotation marks, so that an empty text differs from nothing, and a text of digits from a number. The file is written
+// under a temporary name, and gets its own name only when it is complete.
 #pragma once
 
 #include <cstdio>
@@ -23,9 +23,9 @@ public:
     CsvWriter &operator=(const CsvWriter &) = delete;
 
     void null();
-    void bare(std::string_view bytes); ///< a number, a date or a name without quotation marks, commas and line ends
-    void number(double value);         ///< the shortest digits that give the same number again, with a "."
-    void text(std::string_view utf8);  ///< what is not UTF-8 is replaced
+    void bare(std::string_view bytes); ///< must not contain quotation marks, commas or line ends
+    void number(double value);         ///< the shortest digits that read back to the same number, with a "."
+    void text(std::string_view utf8);  ///< bytes that are not UTF-8 are replaced
     void text(const QString &text);
     void endRow();
 
@@ -44,5 +44,5 @@ private:
     Draft m_draft;
     std::unique_ptr<std::FILE, int (*)(std::FILE *)> m_file;
     std::string m_buffer;
-    bool m_isFirst = true; ///< in its row
+    bool m_isFirst = true; ///< the next value is the first of its row
 };

@@ -22,7 +22,7 @@ struct Tank
 const QString allTanks = QStringLiteral("SELECT tankname, tankid FROM TANKLST ORDER BY tankname COLLATE CASEBLIND");
 const QString config = QStringLiteral("SELECT * FROM CONFIG");
 
-/// The tanks to be exported: all, or the one of that name or identity.
+/// The tanks that meet the condition, in the order of their names.
 template <class Chosen> std::vector<Tank> tanksOf(Database &database, Chosen chosen)
 {
     std::vector<Tank> tanks;
@@ -45,7 +45,7 @@ public:
         m_csv.endRow();
     }
 
-    /// The entries of a tank, or the tank itself, by its identity.
+    /// Writes the entries of a tank, or in the table of tanks the tank itself.
     void writeTank(const Tank &tank)
     {
         const QString column = m_table.isTanks() ? QStringLiteral("tankid") : m_table.column;
@@ -67,7 +67,7 @@ private:
     qint64 m_rows = 0;
 };
 
-/// The order of the rows is that of their keys, which the unique index gives without sorting.
+/// Rows are in the order of their keys, because the unique index gives this order without sorting.
 QString TableExport::order() const
 {
     QStringList keys;
@@ -115,7 +115,7 @@ void TableExport::writeCell(const Rows &row, int column, const QString &tank)
     writeValue(row, column);
 }
 
-/// A value by its own type: another program may have put a text where a number belongs.
+/// Writes a value by its own type, because another program may have stored a text in a column of numbers.
 void TableExport::writeValue(const Rows &row, int column)
 {
     if (const std::string_view utf8 = row.utf8(0, column); !utf8.empty())
@@ -155,7 +155,7 @@ qint64 entriesOfNoTank(Database &database, const DataTable &table)
     return qint64(database.OpenRecordset(sql.arg(table.table, table.column)).rows()->number(0, 0));
 }
 
-/// The tables that are exported: reminders belong to no tank.
+/// The tables that are exported. With a tank there are no reminders, because they do not belong to a tank.
 std::vector<DataTable> tablesFor(const Globals &g, const ExportOptions &options)
 {
     std::vector<DataTable> tables = DataTables(g, Now());
@@ -182,7 +182,7 @@ std::optional<QString> refusal(const ExportOptions &options, const std::vector<D
 ExportResult Export(const Globals &g, const ExportOptions &options)
 {
     ExportResult result;
-    // While this row is being read, no other program can change the database, so that all files are of one state.
+    // No other program can change the database while this query is open, so all files show the same state.
     const RowStream hold = g.gDatabase->OpenForwardOnly(config);
     const std::vector<DataTable> tables = tablesFor(g, options);
     const std::vector<Tank> tanks =

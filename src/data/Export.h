@@ -1,5 +1,5 @@
-// Writes the keeper's data as CSV files that any spreadsheet reads and the import takes back: one file for the tanks,
-// one for each log and one for the reminders. A row names its tank; dates are ISO, numbers have a decimal point.
+// Writes the keeper's data as CSV files that any spreadsheet and the import can read: one file for the tanks, one for
+// each log and one for the reminders. A row names its tank; dates are ISO, and numbers have a decimal point.
 #pragma once
 
 #include <optional>
@@ -13,9 +13,9 @@ struct Globals;
 
 struct ExportOptions
 {
-    QString folder = {};   ///< is made if it does not exist
-    QString tank = {};     ///< the name of the only tank to be exported, without reminders; empty for all
-    bool replaces = false; ///< files of these names
+    QString folder = {};   ///< created if it does not exist
+    QString tank = {};     ///< exports only the tank of this name, without reminders; empty for everything
+    bool replaces = false; ///< whether existing files are replaced
 };
 
 struct ExportedFile
@@ -26,16 +26,15 @@ struct ExportedFile
 
 struct ExportResult
 {
-    QString refusal; ///< why nothing was written: a sentence; empty if all files were written
+    QString refusal; ///< a sentence that says why nothing was written; empty if all files were written
     std::vector<ExportedFile> files;
-    qint64 lost = 0; ///< entries of tanks that are gone, which no file has
+    qint64 lost = 0; ///< how many entries are in no file, because their tanks no longer exist
 };
 
-/// Exports g.gDatabase; ReadOptions must have been called. All files are of one state of the database; each is whole or
-/// not there, and none gets its name before all are written. Throws RuntimeFailure if the database cannot be read or a
-/// file cannot be written.
+/// Exports g.gDatabase; ReadOptions must have been called. All files show the same state of the database, and none gets
+/// its name before all are complete. Throws RuntimeFailure if the database cannot be read or a file cannot be written.
 ExportResult Export(const Globals &g, const ExportOptions &options);
 
-/// Writes one log, of the tank of that tankid or of all tanks, and returns the number of its rows. Replaces an existing
-/// file. Throws RuntimeFailure.
+/// Writes one log, for the tank with that tankid or for all tanks, and returns the number of its rows. Replaces an
+/// existing file. Throws RuntimeFailure.
 qint64 ExportLog(const Globals &g, LogTab log, const std::optional<QString> &tankId, const QString &fileName);

@@ -8,7 +8,7 @@ namespace {
 
 using Tell = std::function<void(const QString &, const QString &)>;
 
-/// A name of the header and the column that it stands for by the user's map; an empty column is left out.
+/// A name in the header, and the column that it stands for in the user's map; empty if its values are left out.
 struct NamedColumn
 {
     QString name, column;
@@ -82,7 +82,7 @@ QStringList missingIn(const DataTable &table, const std::vector<NamedColumn> &co
     return missing;
 }
 
-/// Tells what keeps the columns from being those of the table that has most of them.
+/// Reports why the columns are not those of any table, by comparing them with the table that has most of them.
 void tellNoTable(std::span<const DataTable> tables, const std::vector<NamedColumn> &columns, qsizetype count,
                  const Tell &tell)
 {

@@ -1,4 +1,4 @@
-// Finds the table and the columns that the header of a CSV file names.
+// Reads the header of a CSV file: finds the table whose columns it names. Used by the import.
 #pragma once
 
 #include <functional>
@@ -17,14 +17,14 @@ struct Header
     static constexpr int leftOut = -1;
 
     const DataTable *table = nullptr;
-    QStringList names;       ///< as they are in the file
-    std::vector<int> places; ///< of each value of a row: the place of its column in the table, or leftOut
+    QStringList names;       ///< as in the file
+    std::vector<int> places; ///< for each value of a row, the place of its column in the table, or leftOut
 
     bool has(int place) const;
 };
 
-/// The table is the one that has all columns of the header. Nothing if there is none; then each fault was told, with
-/// the name that it concerns (empty for none) and a sentence.
+/// Finds the only table that has all columns of the header. Returns nothing if there is none; then `tell` was called
+/// for each fault, with the name of the column (empty for a fault of the whole header) and a sentence.
 std::optional<Header> ReadHeader(std::span<const DataTable> tables, const QStringList &names,
                                  const ImportOptions &options,
                                  const std::function<void(const QString &name, const QString &reason)> &tell);

@@ -30,13 +30,13 @@ QHash<QString, QString> tanksByName(Database &database)
 
 QString joined(const QStringList &names, const QString &with = QStringLiteral(", ")) { return names.join(with); }
 
-/// The rows of one file, on their way into one table.
+/// Stores the rows of one file in one table.
 class RowImport
 {
 public:
     RowImport(const Globals &g, const Header &header, const ImportOptions &options, const QDateTime &now,
               ImportResult &result, const TellFault &tell);
-    /// Checks and stores the record that the reader is at.
+    /// Checks and stores the current record of the reader.
     void take(const CsvReader &reader);
 
 private:
@@ -58,14 +58,14 @@ private:
     ImportResult &m_result;
     const TellFault &m_tell;
     CellContext m_context;
-    QDateTime m_newTank; ///< the moment that the next new tank is identified by
+    QDateTime m_newTank; ///< the date and time from which the next new tank gets its tankid
     QString m_insert, m_select, m_update;
-    std::vector<std::size_t> m_given; ///< the columns that are in the file and no part of the key
-    qint64 m_lastBefore = 0;          ///< the last row of the table before the import
+    std::vector<std::size_t> m_given; ///< the columns that are in the file and not part of the key
+    qint64 m_lastBefore = 0;          ///< the number of the last row of the table before the import
     std::unordered_set<qint64> m_replaced;
     qint64 m_line = 0;
-    std::vector<Value> m_starts, m_values; ///< one for each column of the table
-    QStringList m_texts;                   ///< the values of the row as they are in the file
+    std::vector<Value> m_starts, m_values; ///< initial and current value for each column of the table
+    QStringList m_texts;                   ///< the values of the row as in the file
 };
 
 RowImport::RowImport(const Globals &globals, const Header &header, const ImportOptions &options, const QDateTime &now,
@@ -164,7 +164,8 @@ RecurrenceRule RowImport::ruleOf(const std::vector<Value> &values) const
             .EnglishDescription = value("sentence").text()};
 }
 
-/// Checks the row as the reminder editor does, and makes the detail and, if the file has none, the sentence.
+/// Checks the row as the reminder editor does, and fills in the detail and, if the file has no column for it, the
+/// sentence.
 bool RowImport::completeReminder()
 {
     RecurrenceRule rule = ruleOf(m_values);
@@ -211,7 +212,8 @@ void RowImport::store()
         meetExisting();
 }
 
-/// Two details of a reminder are equal if they mean the same: a date may be stored with two or four digits of its year.
+/// Two details of a reminder are equal if they mean the same, because a date may be stored with two or four digits of
+/// its year.
 bool RowImport::isEqual(std::size_t place, const Value &stored) const
 {
     if (m_values[place] == stored)
@@ -225,7 +227,7 @@ bool RowImport::isEqual(std::size_t place, const Value &stored) const
            DetailInWords(ours, g.options.DateOrder) == DetailInWords(theirs, g.options.DateOrder);
 }
 
-/// The key of the row is in the table already.
+/// Called if the table already has a row with the same key.
 void RowImport::meetExisting()
 {
     const Recordset found = m_database.OpenRecordset(m_select, keyValues());
@@ -262,7 +264,7 @@ void RowImport::meetExisting()
     ++m_result.replaced;
 }
 
-/// The names in the first record of the file. Nothing if there are none; the fault was told.
+/// The names in the first record of the file. Returns nothing, and reports the fault, if there are none.
 std::optional<QStringList> namesIn(CsvReader &reader, const TellHeader &tell)
 {
     if (!reader.next()) {
@@ -286,7 +288,7 @@ std::optional<QStringList> namesIn(CsvReader &reader, const TellHeader &tell)
     return names;
 }
 
-/// Entries without a column for the tank are of this one.
+/// Makes this the tank of all entries of a file without a column for the tank.
 void startWithTank(std::vector<DataTable> &tables, const QString &tankId)
 {
     for (DataTable &table : tables)
@@ -295,7 +297,7 @@ void startWithTank(std::vector<DataTable> &tables, const QString &tankId)
                 column.start = tankId;
 }
 
-/// Reads the first record and finds its table among `tables`. Nothing if that fails; the faults were told.
+/// Reads the first record and finds its table among `tables`. Returns nothing, and reports the faults, if that fails.
 std::optional<Header> headerOf(CsvReader &reader, Database &database, std::vector<DataTable> &tables,
                                const ImportOptions &options, const TellHeader &tell)
 {
@@ -321,7 +323,7 @@ std::optional<std::vector<std::pair<QString, QString>>> ReadMap(const QString &t
         name += (name.isEmpty() ? QString() : QStringLiteral(",")) + part;
         const qsizetype sign = name.lastIndexOf(u'=');
         if (sign < 0)
-            continue; // a name with a comma
+            continue; // the name contains a comma
         map.emplace_back(name.left(sign).trimmed(), name.mid(sign + 1).trimmed());
         name.clear();
     }

@@ -1,5 +1,5 @@
 // Imports a CSV file into the database: one that the export wrote, or any other whose header names the columns. Each
-// value is checked by the rules of the entry windows. Either all rows are stored or none, in one transaction.
+// value is checked by the rules of the entry windows. One transaction stores either all rows or none.
 #pragma once
 
 #include <functional>
@@ -15,22 +15,22 @@ struct Globals;
 
 struct ImportOptions
 {
-    /// Names in the header and the columns that they stand for; the case of both does not matter. An empty column
-    /// leaves the values out.
+    /// Names in the header and the columns that they stand for; their case does not matter. If the column is empty, the
+    /// values are left out.
     std::vector<std::pair<QString, QString>> map = {};
-    std::optional<DateOrder> dateOrder = {}; ///< of dates that are not ISO; nothing: all must be
+    std::optional<DateOrder> dateOrder = {}; ///< of dates that are not ISO; if not set, all must be ISO
     char delimiter = ',';                    ///< see CsvReader::canDelimit
     bool decimalComma = false;               ///< numbers have "," before their decimals instead of "."
-    bool replaces = false;                   ///< rows that are there and differ get the values of the file
-    bool isDryRun = false;                   ///< everything is checked and counted, nothing is stored
-    QString tank = {};                       ///< the tank of all rows of a file of entries that has no column for it
+    bool replaces = false;                   ///< existing rows that differ get the values of the file
+    bool isDryRun = false;                   ///< everything is checked and counted, but nothing is stored
+    QString tank = {};                       ///< the tank of all entries, if the file has no column for the tank
 };
 
-/// Reads "pH=ph,NO3=nitrate". A name may contain commas and "="; the last "=" before the comma counts. Nothing where a
-/// "=" is missing.
+/// Reads "pH=ph,NO3=nitrate". A name may contain commas and "="; the last "=" before the comma counts. Returns nothing
+/// if a "=" is missing.
 std::optional<std::vector<std::pair<QString, QString>>> ReadMap(const QString &text);
 
-/// What is wrong with the options themselves; nothing if they can be used.
+/// What is wrong with the options themselves; nothing if they are valid.
 std::optional<QString> OptionFault(const ImportOptions &options);
 
 struct ImportFault
@@ -46,11 +46,11 @@ QString FaultText(const ImportFault &fault);
 
 struct ImportResult
 {
-    QString entry; ///< what a row is, such as "water test"; empty if the header does not tell
+    QString entry; ///< what a row is, such as "water test"; empty if the header does not say so
     qint64 added = 0;
     qint64 replaced = 0;
-    qint64 passedOver = 0; ///< rows that were there already, equal in all columns of the file
-    qint64 faults = 0;     ///< if there are any, nothing was stored
+    qint64 passedOver = 0; ///< rows that already exist, with the same values in all columns of the file
+    qint64 faults = 0;     ///< if this is not 0, nothing was stored
 };
 
 /// Imports the file into g.gDatabase; ReadOptions must have been called. `tell` is called for each fault, in the order

@@ -24,7 +24,7 @@ Form formOf(const RecurrenceRule &rule)
     return rule.is(Pattern::Once) ? Form::Date : Form::AsStored;
 }
 
-/// The place of a name in its list, by the whole name or its first three letters; -1 if it is not there.
+/// The position of a name in its list, found by the whole name or its first three letters; -1 if it is not there.
 int placeOf(const QString &name, const QStringList &names)
 {
     for (int i = 0; i < names.size(); ++i)
@@ -36,7 +36,7 @@ int placeOf(const QString &name, const QStringList &names)
 
 int ordinalOf(const QString &name)
 {
-    // The fourth is stored as "Forth"; a keeper may spell it.
+    // The list has "Forth", but a keeper may write "Fourth".
     return name.compare(u"fourth", Qt::CaseInsensitive) == 0 ? placeOf(QStringLiteral("Forth"), OrdinalNames())
                                                              : placeOf(name, OrdinalNames());
 }
@@ -74,7 +74,7 @@ QString monthWeekdayInWords(const QString &detail)
     return words;
 }
 
-/// "First Monday", and with `ofMonth` "First Monday of March".
+/// Reads "First Monday" or, with `ofMonth`, "First Monday of March".
 std::optional<QString> monthWeekdayFromWords(const QString &words, bool ofMonth)
 {
     const QStringList parts = words.split(u' ', Qt::SkipEmptyParts);
@@ -93,7 +93,7 @@ std::optional<QString> monthFromWords(const QString &words)
     return month < 0 ? std::nullopt : std::optional(QString::number(month));
 }
 
-/// One or two digits; blanks around them are as typed.
+/// Whether the text is one or two digits, with or without blanks around them.
 bool isDay(const QString &words)
 {
     const QString day = words.trimmed();

@@ -46,7 +46,7 @@ auto price(const char *name)
     return [name](const QString &text) { return BadPrice(QLatin1String(name), text); };
 }
 
-/// A log with the columns that say whose entry a row is, and of when.
+/// A log with the columns for the tank, the date and the time of an entry.
 DataTable logOf(LogTab tab, const char *file, const char *entry, const QDateTime &now)
 {
     const LogKind &kind = KindOf(tab);

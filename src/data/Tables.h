@@ -1,6 +1,6 @@
-// The files that the keeper's data are exported to and imported from: which table each file holds, and for each column
-// its name in the header, its place in the store, what a row without it starts with, and the rule of the entry window
-// for its values. Export and import go by these tables alone, so that what one writes the other reads.
+// The CSV files of the keeper's data: which table each file holds, and for each column its name in the header, its
+// place in the store, its initial value in a file without the column, and the rule of the entry window for its values.
+// Export and import both use these tables, so that each reads what the other wrote.
 #pragma once
 
 #include <functional>
@@ -15,17 +15,17 @@
 struct Globals;
 
 enum class CellKind {
-    TankName, ///< of the row itself
-    Tank,     ///< of an entry: a tank's name in the file, its identity in the store
+    TankName, ///< the name of the tank that the row describes
+    Tank,     ///< the tank of an entry: its name in the file, its tankid in the store
     Line,     ///< a text without line breaks
     Notes,    ///< any text
     Number,
-    Whole,     ///< of 16 bits
+    Whole,     ///< a whole number of 16 bits
     Date,      ///< any day
     EntryDate, ///< a day that an entry window can show
     Time,
     WaterType, ///< a word in the file, a digit in the store
-    Pattern,   ///< the same of a reminder
+    Pattern,   ///< of a reminder: likewise
     Detail,    ///< of a reminder: see ReminderDetail.h
 };
 
@@ -34,21 +34,21 @@ struct DataColumn
     QString name;   ///< in the header; lower case
     QString stored; ///< the column of the table
     CellKind kind;
-    Value start = {};     ///< in a row of a file that lacks the column
-    QString ifEmpty = {}; ///< what is said of an empty value; empty if the row may have none
-    std::function<Complaint(const QString &)> complaint = {}; ///< of the entry window; may be null
-    bool isKey = false;                                       ///< one of those that identify the row
+    Value start = {};     ///< the value if the file lacks the column
+    QString ifEmpty = {}; ///< the message for an empty value; empty if the value may be empty
+    std::function<Complaint(const QString &)> complaint = {}; ///< the rule of the entry window; may be null
+    bool isKey = false;                                       ///< part of the key that identifies the row
 
-    /// A file must have the column.
+    /// Whether a file must have the column.
     bool isNeeded() const { return !ifEmpty.isEmpty() && start.isNull(); }
 };
 
 struct DataTable
 {
     QString file;   ///< such as "water.csv"
-    QString table;  ///< in the store
+    QString table;  ///< its name in the store
     QString entry;  ///< what a row is, such as "water test"
-    QString column; ///< that holds the tankid of the entry's tank; empty if the rows are no entries of tanks
+    QString column; ///< the column with the tankid of the entry's tank; empty if the rows are not entries of tanks
     std::vector<DataColumn> columns = {};
     bool isReminders = false;
 
@@ -57,12 +57,12 @@ struct DataTable
     int find(const QString &name) const;
 };
 
-/// The five tables: tanks, the three logs, reminders. The keeper's options must have been read (ReadOptions); `now` is
-/// the date and time that new entries start with.
+/// The five tables: tanks, the three logs, reminders. ReadOptions must have been called; `now` is the initial date and
+/// time of new entries.
 std::vector<DataTable> DataTables(const Globals &g, const QDateTime &now);
 
-/// The word for a stored value of a kind that has words, and back; empty if there is none. A stored value is its own
-/// word too.
+/// Convert a stored value of a kind that has words to its word and back; empty if there is none. OfWord also accepts
+/// the stored value itself.
 QString WordOf(CellKind kind, const Value &stored);
 Value OfWord(CellKind kind, const QString &word);
 /// All words of that kind.

@@ -17,12 +17,12 @@
 
 namespace {
 
-/// Identifies the events of this program among those of all others.
+/// The namespace for the identities of our events, so that no other program has the same ones.
 constexpr QUuid eventNames(0x6f6d6b61, 0x1998, 0x4d42, 0x8a, 0x71, 0x72, 0x65, 0x6d, 0x69, 0x6e, 0x64);
 
 icaltimetype icalDay(const QDate &date)
 {
-    icaltimetype time = icaltime_null_time(); // the library's date without a time has an hour of -1, and counts wrong
+    icaltimetype time = icaltime_null_time(); // the library's own date has an hour of -1, with which it counts wrong
     time.is_date = 1;
     time.year = date.year();
     time.month = date.month();
@@ -35,7 +35,7 @@ int weekdayOf(const QDate &date) { return date.dayOfWeek() % 7; }
 
 QString codeOf(int weekday) { return WeekdayNames()[weekday].left(2).toUpper(); }
 
-/// The days of a rule of every n weeks, if its weeks begin on that weekday.
+/// The days of a rule for every n weeks, if its weeks begin on that weekday.
 std::vector<QDate> weeklyDates(const WeekDays &chosen, int interval, int weekStart, const QDate &first,
                                const QDate &last)
 {
@@ -47,9 +47,8 @@ std::vector<QDate> weeklyDates(const WeekDays &chosen, int interval, int weekSta
     return dates;
 }
 
-/// The weeks of a reminder begin on the weekday of its first day. A week that
-/// begins on a Sunday is tried first, because not every calendar knows another
-/// one.
+/// The weeks of a reminder begin on the weekday of its first day. Weeks that begin on Sunday are tried first, because
+/// some calendars know no others.
 QString weeklyRecurrence(const RecurrenceRule &rule, const std::vector<QDate> &dates)
 {
     const WeekDays chosen = ReadWeeklyDetail(rule.RecurrenceDetail);
@@ -76,9 +75,8 @@ QString dayOfMonth(const RecurrenceRule &rule, const QDate &first)
         .arg(codeOf(weekdayOf(first)));
 }
 
-/// A recurrence that should have these dates; empty if there is none. The day
-/// and the month are those of the first date, because the lists take a yearly
-/// reminder for the month before the one that is stored.
+/// A recurrence that should have these dates; empty if there is none. The day and the month are those of the first
+/// date, because the schedule shows a yearly reminder in the month before the stored one.
 QString likelyRecurrence(const RecurrenceRule &rule, const std::vector<QDate> &dates)
 {
     const QDate &first = dates.front();
@@ -95,7 +93,7 @@ QString likelyRecurrence(const RecurrenceRule &rule, const std::vector<QDate> &d
     return {};
 }
 
-/// Whether the library makes just these dates of a recurrence.
+/// Whether the library expands a recurrence to exactly these dates.
 bool gives(const icalrecurrencetype &recurrence, const std::vector<QDate> &dates)
 {
     const std::unique_ptr<icalrecur_iterator, decltype(&icalrecur_iterator_free)> iterator(
@@ -119,7 +117,7 @@ void addDates(icalcomponent *event, const std::vector<QDate> &dates)
     }
 }
 
-/// All dates but the first, which is the start of the event.
+/// Adds all dates except the first, which is the start of the event.
 void addRecurrence(icalcomponent *event, const CalendarEntry &entry)
 {
     if (entry.dates.size() == 1)
@@ -164,7 +162,7 @@ icaltimetype icalMoment(const QDateTime &moment)
     return time;
 }
 
-/// A slip in the name must not cost the keeper another file.
+/// Protects another file if the keeper mistypes the name.
 void requireNoOtherFile(const QString &fileName)
 {
     QFile former(fileName);
@@ -198,7 +196,7 @@ QByteArray MakeCalendar(std::span<const CalendarEntry> entries, const QDateTime 
         ++number;
         if (entry.dates.empty())
             continue;
-        const QString &task = entry.rule.TaskDescription; // unique, but several may have none
+        const QString &task = entry.rule.TaskDescription; // unique, but it may be empty in several reminders
         icalcomponent_add_component(calendar.get(),
                                     makeEvent(entry, task.isEmpty() ? QString::number(number) : task, icalMoment(now)));
     }

@@ -1,8 +1,6 @@
-// The reminders as an iCalendar file (RFC 5545) for any calendar program: one
-// event for each reminder, on exactly the days that the schedule shows for the
-// same range. Where a recurrence rule gives just these days the event has that
-// rule, and otherwise it lists the days. Events keep their identity, so a
-// calendar that reads the file again replaces them.
+// The reminders as an iCalendar file (RFC 5545) for any calendar program: one event for each reminder, on exactly the
+// days that the schedule shows for the same range. If a recurrence rule gives exactly these days, the event has that
+// rule; otherwise it lists the days. Events keep their identity, so a calendar that reads the file again replaces them.
 #pragma once
 
 #include <span>
@@ -26,7 +24,6 @@ struct CalendarEntry
 /// The text of the file. Entries without dates are left out.
 QByteArray MakeCalendar(std::span<const CalendarEntry> entries, const QDateTime &now);
 
-/// Writes the file, or leaves a former one as it was. An invalid `from` is
-/// today, an invalid `to` two years later. Reminders without dates are told,
-/// and give the status DataFault. Throws RuntimeFailure.
+/// Writes the file; if that fails, an existing file does not change. An invalid `from` means today, an invalid `to` two
+/// years later. Reports reminders without dates and then returns DataFault. Throws RuntimeFailure.
 int WriteCalendar(KeepersData &data, const QString &fileName, const QDate &from, const QDate &to);

@@ -29,12 +29,11 @@ struct ColumnRule
     bool isNeeded = false;
 };
 
-/// The entries of a table, and how a line names one of them.
+/// The entries of a table, and what a line calls one of them.
 struct TableRule
 {
     const char *entry;
-    const char *select; ///< with the columns NameOfTank, and "Day" and "Clock" if
-                        ///< its entries have a moment
+    const char *select; ///< has a column NameOfTank, and for entries with a date and time also Day and Clock
     std::vector<ColumnRule> columns;
 };
 
@@ -117,7 +116,7 @@ std::optional<QString> faultOf(const ColumnRule &rule, const Value &value)
     return std::nullopt;
 }
 
-/// A part of an entry's name: dates and times as ISO, all else as it is.
+/// A part of an entry's name: dates and times as ISO, everything else unchanged.
 QString partOf(const Value &value)
 {
     if (const auto *date = std::get_if<QDate>(&value.variant()))
@@ -168,8 +167,7 @@ QStringList findLostEntries(Globals &globals)
 
 const DateRange allDates{QDate(1, 1, 1), QDate(9999, 12, 31)};
 
-/// Reminders without dates, and those that the editor would not store as they
-/// are.
+/// Reminders without dates, and those that the editor would refuse to store.
 QStringList findBadReminders(Globals &globals)
 {
     const auto rules = LoadReminders(globals);
@@ -179,7 +177,7 @@ QStringList findBadReminders(Globals &globals)
     for (const RecurrenceRule &rule : rules) {
         bool occurs = false;
         if (Walk(rule, scheduleRun, allDates, dates.order, [&occurs](const QDate &) { occurs = true; }))
-            continue; // named already
+            continue; // already among those without dates
         if (!occurs) {
             found << rule.TaskDescription + u" (it never occurs)";
             continue;
@@ -193,7 +191,7 @@ QStringList findBadReminders(Globals &globals)
     return found;
 }
 
-/// One kind of finding: its lines, and what to do. Returns how many there are.
+/// Prints one kind of finding: its lines, and what to do. Returns how many lines there are.
 qsizetype tell(const QString &title, const QStringList &found, const QString &advice)
 {
     if (found.isEmpty())
@@ -214,7 +212,7 @@ int CheckData(KeepersData &data)
 {
     Globals &globals = data.open();
     if (tell(QStringLiteral("The file is damaged:"), FindDamage(*globals.gDatabase), restoreAdvice) > 0)
-        return DataFault; // what else is read from it means nothing
+        return DataFault; // nothing else that is read from a damaged file can be trusted
     qsizetype count = tell(QStringLiteral("The tables are not those of Ostrelmark:"),
                            FindSchemaFaults(*globals.gDatabase), restoreAdvice);
     if (count > 0)

@@ -25,14 +25,13 @@ struct Verb
 {
     const char *name;
     const char *summary;
-    /// Adds the verb's arguments and options, and returns its work, which shares
-    /// them with the command line.
+    /// Adds the verb's arguments and options, and returns its work, which shares them with the command line.
     Work (*offer)(CLI::App &line);
 };
 
 QString fileName(const std::string &argument) { return QFile::decodeName(argument.c_str()); }
 
-/// A check for options that are dates.
+/// Checks an option that is a date.
 const CLI::Validator isoDate(
     [](std::string &text) {
         const QDate date = QDate::fromString(QString::fromStdString(text), Qt::ISODate);
@@ -81,7 +80,7 @@ Work offerExport(CLI::App &line)
     };
 }
 
-/// A check for the delimiter of a file, which becomes that character.
+/// Checks the delimiter of a file and replaces its name by the character.
 const CLI::Validator delimiter(
     [](std::string &text) {
         if (text == "tab" || text == "\\t")
@@ -164,7 +163,7 @@ constexpr Verb verbs[] = {
     {"upcoming", "Print the reminders of the next days, a line each", offerUpcoming},
 };
 
-/// One line, whatever the failure says.
+/// The description of a failure on one line.
 QString lineOf(const RuntimeFailure &failure)
 {
     return failure.description().split(u'\n', Qt::SkipEmptyParts).join(u' ');
@@ -177,7 +176,7 @@ int RunDataCommand(std::span<char *const> arguments)
     CLI::App app("Takes the data of Ostrelmark out and brings it back, on a terminal.", "ostrelmark-data");
     app.set_version_flag("--version", "Ostrelmark " OMK_REVISION);
     app.get_formatter()->label("SUBCOMMAND", "VERB");
-    app.require_subcommand(0, 1); // a wrong verb is named, which the parser does not do where one is required
+    app.require_subcommand(0, 1); // not 1, because then the parser's message for a wrong verb would not name it
     std::string folder;
     app.add_option("--folder", folder,
                    "The folder of your data. Without it, that is the current "

@@ -1,6 +1,5 @@
-// The keeper's folder as a verb uses it: its database and options, and the lock
-// that keeps the program and other verbs out while the file is changed. A verb
-// that only reads takes no lock and works beside the program.
+// The keeper's folder for a verb: its database and options, and the lock that keeps out the program and other verbs
+// while the file is being changed. A verb that only reads takes no lock, and can run beside the program.
 #pragma once
 
 #include <QDir>
@@ -11,20 +10,18 @@
 class KeepersData
 {
 public:
-    /// Chooses the folder as the program does, and creates nothing. Throws
-    /// PathNotFound if there is no such folder.
+    /// Chooses the folder as the program does, but creates nothing. Throws PathNotFound if there is no such folder.
     explicit KeepersData(const QString &folder);
 
     const QDir &folder() const { return m_folder; }
-    /// The path of the database, whether it is there or not.
+    /// The path of the database, which may not exist.
     QString databaseName() const;
 
-    /// Locks the folder until this object goes. Throws PermissionDenied where the
-    /// program, or another verb that changes the file, has it.
+    /// Locks the folder as long as this object exists. Throws PermissionDenied if the program, or another verb that
+    /// changes the file, holds the lock.
     void lock();
-    /// Opens the database of the present version and reads the options. Before
-    /// the first change of a day a copy of it is kept, as the program does.
-    /// Throws what Database::OpenDatabase throws.
+    /// Opens the database, which must have the present version, and reads the options. As in the program, a copy is
+    /// made before the first change of a day. Throws what Database::OpenDatabase throws.
     Globals &open();
 
 private:

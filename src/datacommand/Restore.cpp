@@ -19,7 +19,7 @@ namespace {
 
 const QString copiesFolder = QLatin1String(DailyCopies::folderName);
 
-/// What is in a file, or why that is not known.
+/// What a file contains, or why this cannot be said.
 QString contentOf(const QString &path)
 {
     try {
@@ -57,8 +57,8 @@ QString findCopy(const KeepersData &data, const QString &name)
                                                     .arg(name, data.folder().path()));
 }
 
-/// As before every first change of a day. A database that cannot be opened is
-/// kept beside the new one all the same.
+/// Makes the daily copy, as before any first change of a day. If the database cannot be opened there is no such copy,
+/// but RestoreDatabase still keeps the file.
 void keepTodaysCopy(const KeepersData &data)
 {
     try {

@@ -1,5 +1,4 @@
-// The way back to an older state: the list of the copies that are in the
-// keeper's folder, and putting one of them in the place of the database.
+// The verb restore: lists the copies in the keeper's folder, or puts one of them in the place of the database.
 #pragma once
 
 #include <QString>
@@ -13,7 +12,6 @@ QString ContentInWords(const FileContent &content);
 /// Prints the daily copies and the other databases of the folder, newest first.
 int ListCopies(KeepersData &data);
 
-/// Puts a copy in the place of the database, which is kept beside it under
-/// another name. `copy` is a file, a name of the list, or the date of a daily
-/// copy. Throws RuntimeFailure; then nothing has changed.
+/// Puts a copy in the place of the database, which is kept beside it under another name. `copy` is a file, a name from
+/// the list, or the date of a daily copy. Throws RuntimeFailure; then nothing has changed.
 int RestoreCopy(KeepersData &data, const QString &copy);

@@ -42,7 +42,7 @@ void Say(const QString &line) { std::fputs((line + u'\n').toUtf8().constData(), 
 
 void Complain(const QString &line)
 {
-    std::fflush(stdout); // so that the lines of both stay in order on a terminal
+    std::fflush(stdout); // so that the lines of stdout and stderr are in order on a terminal
     std::fputs((u"ostrelmark-data: " + line + u'\n').toUtf8().constData(), stderr);
 }
 

@@ -1,7 +1,5 @@
-// The doors of a program without windows: the system's clock and the user's
-// settings are those of the desktop, and a message box becomes lines on stderr
-// and gets its default answer. Nothing that a verb calls asks a question,
-// prints or shows help.
+// The doors of a program without windows. The clock and the settings are the real ones. A message box becomes lines on
+// stderr and gets its default answer. No verb asks questions, prints on paper or shows help.
 #pragma once
 
 #include <memory>
@@ -30,12 +28,12 @@ private:
     SettingsStore m_settings;
 };
 
-/// A line on stdout, in UTF-8.
+/// Prints a line on stdout, in UTF-8.
 void Say(const QString &line);
-/// A line on stderr, after the name of the program.
+/// Prints a line on stderr, after the name of the program.
 void Complain(const QString &line);
-/// A text of the keeper as part of a line: line breaks and control characters
-/// become blanks, because a terminal would obey them.
+/// A text of the keeper as part of a line: line breaks and control characters become blanks, because a terminal would
+/// obey them.
 QString OnOneLine(QString text);
 /// "1 tank", "1,204 entries".
 QString Counted(qint64 number, const char *one, const char *many);

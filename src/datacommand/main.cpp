@@ -5,8 +5,7 @@
 
 int main(int argc, char **argv)
 {
-    // What is written must not depend on the locale, and without one, as in a
-    // cron job, Qt would print a warning.
+    // The output must not depend on the locale, and without a locale, as in a cron job, Qt would print a warning.
     qputenv("LC_ALL", "C.UTF-8");
     const QCoreApplication application(argc, argv);
     TerminalDoors doors;

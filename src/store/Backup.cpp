@@ -66,7 +66,7 @@ private:
     std::vector<char> m_piece = std::vector<char>(1 << 20);
 };
 
-/// A file that is not a database of ours, while it is copied.
+/// A file that is not a database of ours, while it is being copied.
 class PlainSource
 {
 public:
@@ -97,7 +97,7 @@ private:
     QString m_doing;
 };
 
-/// A file that is being written, without a buffer, so that a full or broken disk fails the very call that meets it.
+/// A file that is being written. It has no buffer, so a full or broken disk makes the call that writes fail at once.
 class Output
 {
 public:
@@ -174,7 +174,7 @@ template <class From> QString keepBeside(From &source, const QString &path, cons
 QString realPath(const QString &target)
 {
     const QFileInfo file(target);
-    const QString real = file.canonicalFilePath(); // empty where there is no such file
+    const QString real = file.canonicalFilePath(); // empty if there is no such file
     return real.isEmpty() ? file.absoluteFilePath() : real;
 }
 
@@ -208,7 +208,7 @@ void requireNoJournal(const QString &path)
                     .arg(path, QFileInfo(path).fileName() + QLatin1String(ending)));
 }
 
-/// Finishes or undoes what a crash cut off in the present file, as any use of it would.
+/// Finishes or undoes a change of the present file that a crash interrupted, as opening the file always does.
 void settle(const QString &path)
 {
     try {
@@ -221,7 +221,7 @@ void settle(const QString &path)
     requireNoJournal(path);
 }
 
-/// `path` is what is checked, `copy` is what is named.
+/// Checks the file at `path`; a failure names `copy` instead.
 void requireWholeCopy(const QString &path, const QString &copy)
 {
     const auto refuse = [](const QString &why) { throw RuntimeFailure(Failure::UnrecognizedFormat, why); };

@@ -1,9 +1,7 @@
-// Copies of the database file, byte for byte: the keeper's backup, what an upgrade keeps of the old file, and the way
-// back to a copy. Either
-// the copy is complete and on the disk, or nothing has changed: a file that was to be replaced is still there. Other
-// programs cannot write to the database while it is being copied. The database itself is never changed. Failures are
-// RuntimeFailure: for the database the same as in OpenDatabase, for the target PermissionDenied, PathNotFound, DiskFull
-// or DeviceError.
+// Copies the database file byte for byte: for the keeper's backup, before an upgrade, and to go back to a copy. Either
+// the copy is complete and on the disk, or nothing has changed, and a file that was to be replaced is still there.
+// Other programs cannot write to the database while it is being copied. Failures are RuntimeFailure: for the database
+// the same as in OpenDatabase, for the target PermissionDenied, PathNotFound, DiskFull or DeviceError.
 #pragma once
 
 #include <functional>
@@ -22,12 +20,13 @@ void BackUpDatabase(const QString &database, const QString &target);
 /// An identical copy, left by an interrupted upgrade, is used again.
 QString KeepOldDatabase(const QString &database, const QString &version);
 
-/// Puts a copy in the place of the database, which may be damaged or missing. The copy must be a whole database of a
-/// known version. The present file is kept beside it as "OM-before-restore.MDB" (or -2 and so on), and its path is
-/// returned; empty if there was none. `beforeChange` is called when the copy has been checked and nothing has changed
-/// yet. Throws UnrecognizedFormat for a bad copy, and PermissionDenied where a change that was cut off is left beside
-/// either file.
+/// Puts a copy in the place of the database, which may be damaged or missing. The copy must be an undamaged database of
+/// a known version. The present file is kept beside it as "OM-before-restore.MDB" (or -2 and so on), and the path of
+/// that file is returned; empty if there was no present file. `beforeChange` is called after the copy has been checked
+/// and before anything changes. Throws UnrecognizedFormat for a bad copy, and PermissionDenied if the journal of an
+/// interrupted change is beside either file.
 QString RestoreDatabase(const QString &database, const QString &copy, const std::function<void()> &beforeChange);
 
-/// The same of a file that is no database of ours: OM.MDB with the ending "-old-engine" becomes "OM-old-engine.MDB".
+/// Keeps a copy of a file that is not a database of ours: OM.MDB with the ending "-old-engine" becomes
+/// "OM-old-engine.MDB". Otherwise like KeepOldDatabase.
 QString KeepOldFile(const QString &path, const QString &ending);

@@ -37,7 +37,7 @@ public:
 
     /// Called by aboutToChange().
     std::function<void()> beforeChange;
-    /// Every change begins with it, once a transaction: it is not called again within one.
+    /// Must be called before each change. Within a transaction it does nothing, because it was called at its start.
     void aboutToChange()
     {
         if (beforeChange && !inTransaction())
@@ -56,7 +56,7 @@ private:
     void keep(const QByteArray &sql, sqlite3_stmt *statement);
 
     sqlite3 *m_handle = nullptr;
-    QByteArray m_keptSql; // the statement that was run last, so that many rows in a row are written with one
+    QByteArray m_keptSql; // the statement that was run last; writing many rows prepares it only once
     sqlite3_stmt *m_kept = nullptr;
 };
 
@@ -73,7 +73,7 @@ public:
     Statement(const Statement &) = delete;
     Statement &operator=(const Statement &) = delete;
 
-    /// Binds the values to the "?" in order; throws SyntaxError if there are more or less.
+    /// Binds the values to the "?" in order; throws SyntaxError if their numbers differ.
     void bind(const std::vector<Value> &values);
     /// True while there is a row.
     bool step();

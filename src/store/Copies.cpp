@@ -33,8 +33,8 @@ bool holdsAnything(const std::shared_ptr<Connection> &connection, const QString 
     return query.step() && sqlite3_column_int(query.handle(), 0) != 0;
 }
 
-/// The engine's own backup, into an empty file. Nobody else knows the draft,
-/// and it is synced as a whole, so that the engine needs no journal for it.
+/// Copies with the engine's own backup into an empty file. No other program uses the draft, and it is synced as a
+/// whole, so the engine needs no journal for it.
 void copyInto(const Draft &draft, const Connection &source, const QString &doing)
 {
     Connection target(draft.path());
@@ -43,13 +43,13 @@ void copyInto(const Draft &draft, const Connection &source, const QString &doing
     if (!backup)
         target.fail(sqlite3_extended_errcode(target.handle()), doing);
     const int copied = sqlite3_backup_step(backup, -1);
-    const int finished = sqlite3_backup_finish(backup); // which does not tell that the source was locked
+    const int finished = sqlite3_backup_finish(backup); // does not report that the source was locked
     if (copied != SQLITE_DONE)
         target.fail(finished == SQLITE_OK ? copied : finished, doing);
 }
 
-/// Removes the oldest copies, except the one that was just made: a clock that
-/// once was ahead may have left younger ones.
+/// Removes the oldest copies, but never the one that was just made: if the clock was wrong once, some copies may have
+/// later dates.
 void removeOldCopies(const QString &newest, int daysToKeep)
 {
     const QFileInfo copy(newest);

@@ -122,7 +122,7 @@ Recordset Database::OpenForUpdate(const QString &table, const QString &which, co
     return open(u"SELECT *, rowid FROM " + quoted(name) + u' ' + which, parameters, name);
 }
 
-/// With a table, the rows can be written, and the last column of the statement is the row's number.
+/// With a table, the rows can be written, and the last column of the statement is the number of the row.
 Recordset Database::open(const QString &sql, const Parameters &parameters, const QString &table)
 {
     auto state = std::make_shared<RecordsetState>();

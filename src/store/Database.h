@@ -47,8 +47,8 @@ public:
     /// row. For the order that a person sees there is the collation CASEBLIND: "ORDER BY tankname COLLATE CASEBLIND".
     /// Throws SyntaxError where the statement is wrong.
     Recordset OpenRecordset(const QString &sql, const Parameters &parameters = {});
-    /// The rows of a table, to be changed, deleted and added to. `which` is what follows the name of the table:
-    /// "WHERE ... ORDER BY ...". Throws as OpenRecordset and Fields do.
+    /// Rows of a table that can be changed and deleted, and to which rows can be added. `which` follows the name of the
+    /// table: "WHERE ... ORDER BY ...". Throws as OpenRecordset and Fields do.
     Recordset OpenForUpdate(const QString &table, const QString &which = {}, const Parameters &parameters = {});
     /// Runs a SELECT whose rows are read one at a time and not kept.
     RowStream OpenForwardOnly(const QString &sql, const Parameters &parameters = {});
@@ -65,14 +65,14 @@ public:
     /// Adds a column to a table; it is Null in every row. A text of size 0 gets the default size of 255.
     void Append(const QString &table, const FieldDef &field);
 
-    /// Keeps a copy of the file before the first change of each day from now on, also after LetGo() (see Copies.h).
-    /// `failed` gets a sentence for the keeper, at most once a day, when that was not possible.
+    /// From now on, also after LetGo(), makes a copy of the file before the first change of each day (see Copies.h).
+    /// `failed` gets a sentence for the keeper, at most once a day, if a copy could not be made.
     void KeepDailyCopies(std::function<void(const QString &)> failed);
     /// Makes the copy of the day now, for a change that does not go through this object.
     void AboutToChange();
 
-    /// Closes the file for as long as others work on it; recordsets lapse. The next use opens it again. If that fails,
-    /// it throws as OpenDatabase does, and the use after that tries once more.
+    /// Closes the file while other code works on it; recordsets lapse. The next use opens it again. If that fails, it
+    /// throws as OpenDatabase does, and the use after that tries again.
     void LetGo();
     /// Opens it again at once.
     void OpenAgain();
@@ -109,6 +109,6 @@ private:
     std::shared_ptr<Connection> m_connection;
     QString m_fileName;
     Access m_access = Access::Shared;
-    bool m_opensAgain = false;             ///< by the next use, after LetGo()
-    std::shared_ptr<DailyCopies> m_copies; ///< null unless they are kept
+    bool m_opensAgain = false;             ///< after LetGo(): the next use opens the file
+    std::shared_ptr<DailyCopies> m_copies; ///< null if no copies are made
 };

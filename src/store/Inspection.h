@@ -1,6 +1,5 @@
-// What a database file holds, and whether it is whole. Used by the data
-// command, by its list of copies and before a copy takes the place of the
-// database.
+// Counts what a database file contains and checks whether it is damaged. Used by the data command, and before a copy
+// takes the place of the database.
 #pragma once
 
 #include <QString>
@@ -14,13 +13,13 @@ struct FileContent
     qint64 entries = 0; ///< of all three logs
     qint64 reminders = 0;
 };
-/// Throws RuntimeFailure where the file is damaged.
+/// Throws RuntimeFailure if the file is damaged.
 FileContent CountContent(Database &database);
 
-/// What the engine finds wrong in the file, at most a hundred lines; none if
-/// the file is whole. It reads all of it.
+/// The damage that the engine finds in the file, at most a hundred lines; none if the file is undamaged. Reads the
+/// whole file.
 QStringList FindDamage(Database &database);
 
-/// In what the tables, columns and indexes differ from those of a new database,
-/// a line each. What a file has in addition is not looked at.
+/// The tables, columns and indexes of a new database that are missing here or different, a line each. Additional ones
+/// are ignored.
 QStringList FindSchemaFaults(Database &database);

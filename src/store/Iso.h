@@ -1,5 +1,5 @@
-// Dates and times as the store keeps them: "YYYY-MM-DD" and "HH:MM:SS", so that order by text is order in time. Used by
-// the reader of rows, by the binding of parameters and by Value; above the store, files for other programs have them.
+// Dates and times as they are stored: "YYYY-MM-DD" and "HH:MM:SS", so that the order by text is the order in time. Used
+// by Rows, Value and the binding of parameters, and also for files that other programs read.
 #pragma once
 
 #include <optional>

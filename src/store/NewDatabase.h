@@ -10,6 +10,6 @@ class Connection;
 /// be written, PathNotFound if there is no such folder, DiskFull. Either the complete file is created or none.
 void CreateDatabase(const QString &fileName);
 
-/// The tables alone, in an empty file, and the numbers that mark it as one of ours. `doing` is what a failure says was
-/// being done.
+/// Creates only the tables, in an empty file, and writes the numbers that mark it as one of ours. `doing` describes the
+/// operation in the text of a failure.
 void WriteEmptyTables(Connection &connection, const QString &doing);

@@ -1,7 +1,7 @@
-// The rows of one SELECT, read once, and a buffer for one row that is being added or changed. One that
-// was opened for update can be written: AddNew or Edit fills the buffer, the fields write into it, and one Update
-// writes one row in one transaction. The buffer lapses when the recordset moves or is opened again; a refused Update
-// keeps it. A copy shares rows and state. After Database::Close or its own Close every use throws ObjectNotSet.
+// The rows of one SELECT, read once, and a buffer for one row that is being added or changed. A recordset that was
+// opened for update can be written: AddNew or Edit fills the buffer, the fields write into it, and one Update writes
+// one row in one transaction. The buffer lapses when the recordset moves or is opened again; a refused Update keeps it.
+// A copy shares rows and state. After Database::Close or its own Close every use throws ObjectNotSet.
 #pragma once
 
 #include <memory>
@@ -20,10 +20,10 @@ class Field
 {
 public:
     Value value() const;
-    /// Writes into the buffer, converted to the column's type. A text becomes a date (read month first), a time or a
-    /// number where the column is one; throws DataTypeConversion if it is not one, Overflow if a number does not fit
-    /// into the column (32 bits in a whole number). Null is always accepted. Throws NoCurrentRecord without AddNew or
-    /// Edit.
+    /// Writes into the buffer, converted to the column's type: for a column of dates, times or numbers, a text is read
+    /// as one (a date month first). Throws DataTypeConversion if the text is not one, Overflow if a number does not fit
+    /// into the column (32 bits in a column of whole numbers), and NoCurrentRecord without AddNew or Edit. Null is
+    /// always accepted.
     void setValue(const Value &value);
     QString text() const { return value().text(); }
 

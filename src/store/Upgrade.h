@@ -27,6 +27,6 @@ std::span<const UpgradeStep> UpgradeSteps(const QString &version);
 /// Does one of those steps add that column, so that a file of that version may lack it?
 bool IsOfLaterVersion(const QString &version, const QString &table, const QString &column);
 
-/// Add one row to ANIMALLIST: a freshwater animal, a maintenance task.
+/// Add one row to ANIMALLIST: a freshwater animal or a maintenance task.
 void AddFreshAnimal(Database &database, const QString &name);
 void AddMaintenanceTask(Database &database, const QString &name);

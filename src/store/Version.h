@@ -10,6 +10,6 @@ inline const QString presentDatabaseVersion = QStringLiteral("2.0 ");
 /// The content of CONFIG.db_version, or "0.0 " if there is no such column.
 QString ReadDatabaseVersion(Database &database);
 
-/// 10, 11 or 20, as the header of a file of that version says, which ReadDatabaseVersion gives or what stands in
-/// CONFIG; 0 for a version that nothing is known of.
+/// The number of a version in the header of a file: 10, 11 or 20; 0 for an unknown version. `version` is the content of
+/// CONFIG or the result of ReadDatabaseVersion.
 int NumberOfVersion(const QString &version);

@@ -17,7 +17,8 @@ double Val(const QString &text);
 /// The value of the whole text. Returns nothing if IsNumeric() is false or the value does not fit into a double.
 std::optional<double> ReadNumber(const QString &text);
 
-/// IsNumeric(), and not below every double. A number above all of them is left to the upper limit of its box.
+/// Like IsNumeric(), but refuses a number that is too far below 0 for a double. One that is too large passes, because
+/// the upper limit of its box refuses it.
 bool IsStorable(const QString &text);
 
 /// Shows a number with a picture of 0, #, "." and ",", such as "##0.000" or "###,##0.00": rounded to the picture's

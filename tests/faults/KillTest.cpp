@@ -116,9 +116,9 @@ struct Kill : testing::Test
 TEST_F(Kill, LosesNothingThatWasSaved)
 {
     Way ways[] = {
-        {"killed at a moment of the clock", Death::None},
-        {"killed in a write or sync of the file", Death::Killed},
-        {"power cut in a write or sync: of what was not synced only pieces are on the disk", Death::PowerCut}};
+        {"killed at a random time", Death::None},
+        {"killed during a write or sync of the file", Death::Killed},
+        {"power cut during a write or sync: only pieces of what was not synced are on the disk", Death::PowerCut}};
     const int wanted = killsWanted();
     unsigned seed = 1;
     for (int kills = 0; kills < wanted && !HasFatalFailure(); ++seed) {
@@ -128,7 +128,7 @@ TEST_F(Kill, LosesNothingThatWasSaved)
         kills += way.cutOff - before;
         ASSERT_LT(seed, unsigned(3 * wanted)) << "the child is not killed";
     }
-    std::printf("| What happened | Times | Moves said to be saved | Lost or half |\n|---|---|---|---|\n");
+    std::printf("| What happened | Times | Moves reported as saved | Lost or incomplete |\n|---|---|---|---|\n");
     for (const Way &way : ways)
         std::printf("| %s | %d | %d | %d |\n", way.name, way.cutOff, way.saved, way.lost);
 }

@@ -1,5 +1,5 @@
-// A file of the old engine that a test makes up: first it has the empty tables of a version, and then the test changes
-// it.
+// A made-up file of the old engine. It starts with the empty tables of a version, and a test then adds tables, columns
+// and rows or removes them.
 #pragma once
 
 #include <map>
@@ -18,7 +18,7 @@ template <class Number> QByteArray bytesOf(Number number)
     return bytes;
 }
 
-/// UTF-16, as the later format stores texts.
+/// UTF-16, in which Jet 4 stores texts.
 inline QByteArray utf16(const QString &text)
 {
     QByteArray bytes;
@@ -95,7 +95,7 @@ public:
         table(name).rows = 0;
     }
 
-    std::map<QString, qint64> lost; ///< for a table, the number of rows that cannot be read
+    std::map<QString, qint64> lost; ///< by table: how many of its rows cannot be read
 
 private:
     std::vector<OldTable> m_tables;

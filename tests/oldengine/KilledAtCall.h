@@ -1,5 +1,5 @@
-// A program that is killed, with every program that it has started, before its n-th call that changes a file of a
-// folder: by the system's own means for debuggers, so that no write can be missed.
+// Runs a program and kills it, with every program that it has started, just before its n-th call that changes a file of
+// a folder. It watches the calls with ptrace, as a debugger does, so that it misses no write.
 #pragma once
 
 #include <set>
@@ -20,7 +20,7 @@ class KilledAtCall
 public:
     explicit KilledAtCall(const QString &folder) : m_folder(folder) {}
 
-    /// False where the program came to its end before.
+    /// Calls count from 0. Returns false if the program ended before that call.
     bool run(int call, const QString &program, const QStringList &arguments)
     {
         QList<QByteArray> texts{QFile::encodeName(program)};
@@ -56,7 +56,7 @@ public:
                 m_processes.erase(process);
             } else {
                 m_processes.insert(process);
-                if (isKilled) // one that was just being started
+                if (isKilled) // a process that was just being started
                     ::kill(process, SIGKILL);
                 else
                     isKilled = goOn(process, status);
@@ -66,7 +66,7 @@ public:
     }
 
 private:
-    /// True where that was the call, and all are killed.
+    /// Lets the process continue. Returns true if it was at the wanted call, and all processes were killed.
     bool goOn(pid_t process, int status)
     {
         const int signal = WSTOPSIG(status);
@@ -75,7 +75,7 @@ private:
                 ::kill(each, SIGKILL);
             return true;
         }
-        // A stop of ours is no signal of theirs, and so is the first of a new process.
+        // A stop that comes from ptrace, or the first stop of a new process, is not a signal for the program.
         const bool isOurs = signal == SIGTRAP || signal == (SIGTRAP | 0x80) || signal == SIGSTOP;
         ::ptrace(PTRACE_SYSCALL, process, nullptr, isOurs ? 0 : signal);
         return false;

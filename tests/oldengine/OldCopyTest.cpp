@@ -1,5 +1,5 @@
-// The plain logic of the reading, without the library: values, the head of a file, tables and columns, entries at the
-// same second, what is refused and what is reported.
+// The plain logic of reading an old file, without the library: values, the head of a file, tables and columns, entries
+// at the same second, what is refused and what is reported.
 #include <cmath>
 #include <limits>
 
@@ -24,7 +24,7 @@ TEST(OldValues, EveryTypeOfTheEngineBecomesAValueOfOurs)
         OldType type;
         QByteArray bytes;
         ColumnKind as;
-        QString text; ///< "none" where the bytes are no value
+        QString text; ///< "none" if the bytes are not a value
     } rows[] = {
         {OldType::Single, bytesOf(7.8F), ColumnKind::Double, textOf(7.8)},
         {OldType::Single, bytesOf(-0.1F), ColumnKind::Double, textOf(-0.1)},
@@ -118,7 +118,7 @@ struct OldCopyTest : testing::Test
         return CopyOldDatabase(source, path(),
                                [this](const OldProgress &p) { percent = std::max(percent, p.percent); });
     }
-    /// The failure's number and the words after the standard ones.
+    /// The failure's number and the part of its description after the standard text.
     QString refusal()
     {
         const auto failure = failureOf([this] { copy(); });
@@ -200,7 +200,7 @@ TEST_F(OldCopyTest, WhatTheVersionNeedsAndTheFileHasNotIsRefusedByName)
         EXPECT_EQ(refusal(), row.says);
     }
     source = FakeSource("1.1 ");
-    source.addColumn("MAINTSCHED SchedRtype", OldType::Integer); // an upgrade of long ago was cut off
+    source.addColumn("MAINTSCHED SchedRtype", OldType::Integer); // added by an upgrade that was interrupted
     EXPECT_EQ(refusal(), "");
 }
 

@@ -1,5 +1,5 @@
-// The files of the old engine that the tests read, and what is in them by their CSV: a line a row, for each column of
-// the CSV its name and value as text.
+// The files of the old engine that the tests read, and their contents as CSV files show them. To compare the two, each
+// row becomes one line of text with the name and the value of each column.
 #pragma once
 
 #include <charconv>
@@ -30,7 +30,7 @@ inline const std::vector<OldFile> oldFiles{
 inline const QStringList tableNames{"TANKLST",    "WATERLOG", "MAINTLOG",  "LIVESTOCK",
                                     "MAINTSCHED", "CONFIG",   "ANIMALLIST"};
 
-/// Field by field; Null where a field is empty and has no quotes.
+/// The fields of a row; a field that is empty and has no quotes is Null.
 using CsvRow = std::vector<std::optional<QString>>;
 
 inline std::vector<CsvRow> readCsv(const QString &path)
@@ -59,7 +59,7 @@ inline std::vector<CsvRow> readCsv(const QString &path)
     return rows;
 }
 
-/// The columns that the files keep as doubles; all other numbers with decimals are singles or currency.
+/// The columns that the files store as doubles; all other numbers with decimals are singles or currency.
 inline const QStringList doubleColumns{"copper", "sg", "custom2", "price_paid", "price_sold"};
 
 inline QString textOf(const Value &value)
@@ -73,8 +73,8 @@ inline QString textOf(const Value &value)
     return value.isNull() ? QString("Null") : value.text();
 }
 
-/// What a field of the CSV is in our database. The CSV has doubles with fifteen digits, and does not tell an empty text
-/// from Null.
+/// The text that a field of the CSV must have in our database. The CSV has doubles with fifteen digits and does not
+/// distinguish an empty text from Null.
 inline QString expectedText(const std::optional<QString> &field, const FieldDef &column)
 {
     if (!field)
@@ -97,7 +97,7 @@ inline QString textOf(const Value &value, const FieldDef &column)
     return text.isEmpty() ? QString("Null") : text;
 }
 
-/// The rows of a table in the columns of its CSV but one, and the rows of the CSV, each sorted.
+/// The rows of a table in our database and in the CSV, each sorted, in the columns of the CSV except `but`.
 struct BothRows
 {
     QStringList ours, expected;
@@ -127,7 +127,7 @@ inline BothRows rowsOf(Database &database, const OldFile &file, const QString &t
     return both;
 }
 
-/// Says no more than the first row that differs.
+/// Reports only the first row that differs.
 inline void expectSame(const BothRows &rows, const QString &table)
 {
     EXPECT_EQ(rows.ours.size(), rows.expected.size()) << table.toStdString();

@@ -1,6 +1,6 @@
-// The files of the old engine through the program that reads them: every row of each, and each cut off and damaged. A
-// few copies where nothing is said; omk_tests_oldengine --copies=1000 --cuts=all is the long run, whose table
-// docs/RELIABILITY.md shows. --reader=PROGRAM takes that of another build, --seed=2 other bytes.
+// Reads files of the old engine with the program that does so in earnest: each file cut off, and with random bytes
+// changed. By default only a few copies are read; omk_tests_oldengine --copies=1000 --cuts=all is the long run, whose
+// table is in docs/RELIABILITY.md. --reader=PROGRAM uses the reader of another build, and --seed=2 changes other bytes.
 #include <cstdio>
 #include <random>
 
@@ -22,14 +22,14 @@ QString argument(const QString &name, const QString &otherwise)
     return otherwise;
 }
 
-/// What came of reading a file.
+/// The outcome of reading a file.
 enum Result { Opened, OpenedWithAnotherValue, Told, Refused, Crashed, Results };
 
 struct OldFilesTest : testing::Test
 {
     QString draft() const { return folder.filePath("draft"); }
 
-    /// Reads a file into a new draft; the last line that the program wrote, if any.
+    /// Reads a file into a new draft. Returns the last line that the program wrote, if any.
     std::optional<OldLine> read(const QString &path)
     {
         QFile::remove(draft());
@@ -44,7 +44,7 @@ struct OldFilesTest : testing::Test
                 last.emplace(std::move(*line));
         return last;
     }
-    /// The sanitizers tell a fault of the library, too, as it ends there.
+    /// The sanitizers also report faults in the library; those are not ours.
     static void expectNoFaultOfOurs(const QByteArray &words)
     {
         if (!words.contains("Sanitizer") && !words.contains("runtime error:"))
@@ -59,7 +59,7 @@ struct OldFilesTest : testing::Test
             }
         }
     }
-    /// The draft of an outcome is a database that opens, whole, and as long as it was said.
+    /// The draft must be an undamaged database that opens and has as many rows as the program reported.
     void expectWhole(const OldOutcome &outcome)
     {
         EXPECT_EQ(OtherProgram(draft()).run("PRAGMA integrity_check"), "ok");
@@ -76,7 +76,7 @@ struct OldFilesTest : testing::Test
             return rows.ours == rows.expected;
         });
     }
-    /// Reads bytes as a file of their own.
+    /// Reads a file with these bytes, a variation of `file`.
     Result resultOf(const OldFile &file, const QByteArray &bytes)
     {
         const QString path = folder.filePath("OM.MDB");
@@ -149,7 +149,7 @@ TEST_F(OldFilesTest, ARowThatMovedToAnotherPageIsFollowedAndADeletedOneIsNot)
     const int moved = start(to, last - 1) - size;
     ASSERT_GT(page(to) + moved, slot(to, last + 1));
     std::memcpy(page(to) + moved, page(from) + start(from, row), std::size_t(size));
-    qToLittleEndian(quint16(moved | 0x8000), slot(to, last)); // no row by itself
+    qToLittleEndian(quint16(moved | 0x8000), slot(to, last)); // not a row of this page
     qToLittleEndian(quint16(last + 1), rowCount(to));
     qToLittleEndian(quint32(to << 8 | last), page(from) + start(from, row));
     qToLittleEndian(quint16(start(from, row) | 0x4000), slot(from, row));

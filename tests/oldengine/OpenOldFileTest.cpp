@@ -1,5 +1,5 @@
-// The start on a file of the old engine: what is in the folder afterwards, what was told, and that nothing is lost
-// where it fails or is killed.
+// The start of the program with a file of the old engine: what is in the folder afterwards, what the keeper is told,
+// and that nothing is lost if the start fails or is killed.
 #include "upgrade/OpenOldFile.h"
 
 #include <QLabel>
@@ -21,7 +21,7 @@ struct OpenOldFileTest : testing::Test
         writeFile(path(name), bytes);
     }
     bool open() { return OpenOldFile(path()); }
-    /// As the start goes on.
+    /// The next step of the start.
     void upgrade()
     {
         auto database = Database::OpenDatabase(path());
@@ -35,7 +35,7 @@ struct OpenOldFileTest : testing::Test
         const auto database = Database::OpenDatabase(path());
         for (const QString &table : tableNames) {
             BothRows rows = rowsOf(*database, file, table, isUpgraded ? "db_version" : "");
-            if (isUpgraded && table == "ANIMALLIST") // which the upgrade from 1.0 adds to
+            if (isUpgraded && table == "ANIMALLIST") // the upgrade from 1.0 adds rows to it
                 rows.ours.removeIf([&](const QString &line) { return !rows.expected.contains(line); });
             expectSame(rows, table);
         }

@@ -1,4 +1,4 @@
-// omk_open_old FILE: the start's step on a file of the old engine, alone, to be killed by a test.
+// omk_open_old FILE: the step of the start that opens a file of the old engine, alone, so that a test can kill it.
 #include <cstdlib>
 
 #include "platform/desktop/Application.h"
@@ -11,5 +11,5 @@ int main(int argc, char **argv)
     const Application application(argc, argv);
     ScriptedDoors doors;
     const bool isOpen = OpenOldFile(QString::fromLocal8Bit(argv[1]));
-    std::_Exit(isOpen ? 0 : 1); // the search for leaks does not work in a process that is watched
+    std::_Exit(isOpen ? 0 : 1); // no search for leaks, which fails in a process that is watched by ptrace
 }

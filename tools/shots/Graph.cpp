@@ -17,7 +17,7 @@ void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals)
     globals.options.GraphChecks = QStringLiteral("1111110110100");
     graph.parentWidget()->resize(560, 440);
     auto &options = Form<frm_OMKOptions>();
-    options.Get_Initial_Properties(); // fills the lists of the window
+    options.Get_Initial_Properties(); // fills the lists in the window
     const QComboBox &styles = *options.cbo_GraphType;
     QWidget sheet;
     auto *grid = new QGridLayout(&sheet);

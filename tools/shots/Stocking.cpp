@@ -17,7 +17,7 @@ void playCompatibility(Album &album, frm_OMKMDIMain &main)
     window.lst_Select->setCurrentIndex(1);
     album.take(window, QStringLiteral("compatibility"));
     window.but_fresh->setChecked(true);
-    window.lst_Select->setCurrentIndex(0); // an animal that is surely compatible with no other
+    window.lst_Select->setCurrentIndex(0); // no other animal is certainly compatible with this one
     album.take(window, QStringLiteral("compatibility-fresh"));
     window.parentWidget()->close();
 }
@@ -44,7 +44,7 @@ void playFantasyTank(Album &album, frm_OMKMDIMain &main)
 {
     main.mnu_ToolsFantasy_Click();
     auto &window = Form<frm_Fantasy>();
-    dropAnimal(window, 0, QStringLiteral("2"), &album); // a pair of clownfish, and what lives with them in 55 gallons
+    dropAnimal(window, 0, QStringLiteral("2"), &album); // a pair of clownfish, then animals that can live with them
     dropAnimal(window, 14, QStringLiteral("3"));
     dropAnimal(window, 15, QStringLiteral("1"));
     dropAnimal(window, 5, QStringLiteral("2"));

@@ -51,8 +51,8 @@ namespace {
 
 constexpr char notTold = '\0';
 
-// For fresh water only three temperaments count: an A may live with A and B but not with C, a B may live with B and C
-// but not with A, a C lives with C, may live with B, but not with A.
+// For fresh water only three temperaments count. A class A animal may live with A and B but not with C, a class B
+// animal with B and C but not with A. A class C animal can live with C, may live with B, and cannot live with A.
 constexpr std::string_view classA = "MMMNNMMNNN" "MNNMMNMMNN" "NNNNNMMNMN" "MMMNMNNMNM" "MMNMMMNNNN";
 constexpr std::string_view classB = "NMNMMMMMMM" "MMMMNMNNMM" "MMMMMNMMNM" "NNMMNMMNMM" "MMMNMMMMMM";
 constexpr std::string_view classC = "NMNYYMMYYY" "MYYMNYNNYY" "YYYYYNMYNY" "NNMYNYYNYM" "MMYNMMYYYY";
@@ -116,7 +116,7 @@ constexpr std::array<AnimalRow, animalRows> FreshAnimals{{
 // clang-format on
 namespace {
 
-/// Whether the first animals are numbered in order, each with a letter for each of them and `blanks` blanks behind.
+/// Whether the first `count` animals are numbered in order, each with one letter for each of them and then blanks.
 constexpr bool isWhole(const std::array<AnimalRow, animalRows> &table, int count, int blanks, std::string_view ownKind)
 {
     for (int number = 1; number <= count; ++number) {

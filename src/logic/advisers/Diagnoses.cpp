@@ -14,9 +14,9 @@ struct Diagnosis
 
 #define SUPPORT_ADDRESS "support@velmoor.example"
 
-// One diagnosis a block: its name, as the answers in QuestionTree.cpp lead to it, and its advice. \" is a quotation
-// mark within a text, \r starts a new line. "Open Sore" is missing on purpose: it has no advice, and the windows say
-// so. Wording and spelling, including blanks at either end, are what keepers know.
+// One block for each diagnosis: its name, as in the answers of QuestionTree.cpp, and its advice. \" is a quotation mark
+// within a text, and \r starts a new line. "Open Sore" is missing on purpose: it has no advice, and the windows say so.
+// Keepers know the wording and spelling, including blanks at either end, so they must not change.
 constexpr Diagnosis diagnoses[] = {
     {"Dropsy",
      "Your fish probably has a disease called \"DROPSY\" which is often caused by a bacterial infection. While "

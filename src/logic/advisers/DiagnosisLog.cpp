@@ -12,7 +12,7 @@ constexpr int commentLines = 10;
 void DiagnosisLog::ResetAnswerLog()
 {
     AnswerLog.fill({});
-    // Never printed: a sheet starts at slot 2 and has its own title.
+    // This is never printed, because a sheet starts at slot 2 and has its own title.
     AnswerLog[1] = QStringLiteral(" Ostrelmark for Windows - Marine Disease Diagnosis Aid");
     AnswerLogCount = 3;
 }
@@ -35,8 +35,8 @@ void DiagnosisLog::AddAnswer(const QString &question, const QString &answer)
 void DiagnosisLog::putAdvice(const QString &advice)
 {
     // A line ends before a blank, which starts the next line. A single last character gets no line. A text from another
-    // window may contain a word longer than a line, which is cut, and may be longer than the log, where the count
-    // stops.
+    // window may contain a word that is longer than a line, which is cut, and may itself be too long for the log; then
+    // the rest is left out.
     for (qsizetype at = 0; at + 1 < advice.size() && AnswerLogCount < slotCount;) {
         qsizetype width = lineWidth;
         while (width > 0 && at + width < advice.size() && advice.at(at + width) != u' ')

@@ -11,7 +11,7 @@
 struct DiagnosisLog
 {
     static constexpr int slotCount = 101; ///< 0 to 100
-    static constexpr int lastSlot = 60;   ///< the last one of a completed log
+    static constexpr int lastSlot = 60;   ///< AnswerLogCount of a completed log
 
     std::array<QString, slotCount> AnswerLog;
     qint16 AnswerLogCount = 0; ///< the slot for the next line

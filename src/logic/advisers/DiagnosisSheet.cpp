@@ -31,7 +31,7 @@ void printLog(Printer &page, const DiagnosisLog &log, const SheetStyle &style)
 {
     int last = log.AnswerLogCount;
     while (last > 1 && log.AnswerLog[static_cast<size_t>(last)].isEmpty())
-        --last; // invisible at the end, but they could feed a page
+        --last; // empty lines at the end are invisible, but they could start a new page
     for (int slot = 2; slot <= last; ++slot) {
         const QString &line = log.AnswerLog[static_cast<size_t>(slot)];
         if (line.startsWith(QLatin1String(style.blankLineBefore)))
@@ -54,7 +54,7 @@ void printSheet(Printer &page, const DiagnosisLog &log, const SheetStyle &style)
             printLine(page, QLatin1String(line));
     setFont(page, 10);
     printLog(page, log, style);
-    // At five sixths of the page, whatever is there: on a full sheet the notice overlaps the lines for comments.
+    // The notice is always at five sixths of the page; on a full sheet it overlaps the lines for comments.
     page.CurrentY = static_cast<int>(page.ScaleHeight() / 60) * 50;
     setFont(page, 9, false, true);
     page.Print(QLatin1String(legalNotice));

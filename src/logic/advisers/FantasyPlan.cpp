@@ -21,7 +21,7 @@ double gallonsPerInch(WaterKind water, bool wetDry, bool taller)
 
 double FantasyPlan::FantasyInches() const
 {
-    double inches = 0; // summed up from zero, so that an empty tank has no rounding error left
+    double inches = 0; // summed up each time, so that no rounding errors remain in an empty tank
     for (const FantasyRow &row : FantasyTank)
         inches += row.HowMany * row.HowBig;
     return inches;
@@ -35,7 +35,7 @@ void FantasyPlan::RecalcHolding(double gallons, WaterKind water, bool wetDry, bo
     const double inches = FantasyInches();
     if (FantasyHolding > 0)
         FantasyPercent = 100 * inches / FantasyHolding;
-    else // a size that is still being typed
+    else // the size is still being typed
         FantasyPercent = inches > 0 ? fullest : 0;
     FantasyPercent = std::fmin(FantasyPercent, fullest);
 }

@@ -9,7 +9,8 @@ using enum QuestionPage;
 
 // One block per page: its name, the question, and the answers in the order in which they are offered. Each answer is
 // followed by its target: a name without quotation marks is the next page, a name in quotation marks a diagnosis
-// (Diagnoses.cpp holds the advice). \" is a quotation mark within a text. Wording and spelling are what keepers know.
+// (Diagnoses.cpp holds the advice). \" is a quotation mark within a text. Keepers know the wording and spelling, so
+// they must not change.
 constexpr Question questions[] = {
     {Question_Disclaimer, "", {}},
     {Question_StartingPoint,

@@ -12,8 +12,8 @@ constexpr StartValue zero{0, "0"};
 
 } // namespace
 
-// Some wordings and limits look wrong and are settled: copper lacks its "be", a pH of 99 and a temperature of 999 are
-// accepted, and the column Custom2 of the list shows the values of custom1.
+// Some wordings and limits look wrong, but keepers know them: the message for copper lacks "be", a pH of 99 and a
+// temperature of 999 are accepted, and the column Custom2 of the list shows the values of custom1.
 // clang-format off
 constexpr std::array<MeasurementRow, measurementCount> measurements = {{
     {Ammonia, "Ammonia", 0,

@@ -1,6 +1,6 @@
-// The measurements of a water test, one row each. A row says everything that one measurement needs in the entry window,
-// the logbook's list, the printed log, the graph and the options, so that a new measurement is one row here and one
-// column of WATERLOG (store/schema.cpp). Wordings and pictures that differ from place to place are fields, not slips.
+// The measurements of a water test, one row each. A row has everything that a measurement needs in the entry window,
+// the logbook's list, the printed log, the graph and the options, so a new measurement is one row here and one column
+// of WATERLOG (store/schema.cpp). Wordings and pictures differ from place to place on purpose; they are fields.
 #pragma once
 
 #include <array>
@@ -34,14 +34,14 @@ struct StartValue
 struct MeasurementEntry
 {
     const char *label;     ///< caption; the user's own name replaces it when the window opens
-    const char *labelName; ///< object name of the label; empty where no window asks for it
+    const char *labelName; ///< object name of the label; empty if no window needs it
     const char *box;       ///< object names of the box and of its up-down
     const char *upDown;
     const char *toolTip;
     int positionsPerUnit;      ///< positions of the up-down in one unit of the measurement
     const char *boxPicture;    ///< applied when the focus leaves the box
     const char *rowPicture;    ///< applied when a stored value is loaded
-    const char *upDownPicture; ///< applied when the up-down moves; null for the plain number
+    const char *upDownPicture; ///< applied when the up-down moves; null shows the plain number
     double limit;              ///< the greatest value that is accepted
     const char *name;          ///< in the messages; null if it is the user's name
     const char *tooLarge;      ///< follows the name in the message for a value beyond the limit
@@ -53,8 +53,8 @@ struct MeasurementInList
 {
     const char *key;
     const char *heading;
-    const char *picture; ///< null for the plain number
-    int width;           ///< pixels at first
+    const char *picture; ///< null shows the plain number
+    int width;           ///< initial width in pixels
     Measurement shown;   ///< the measurement whose value the column shows
 };
 
@@ -78,7 +78,7 @@ struct MeasurementRow
 {
     Measurement id;
     const char *column; ///< of WATERLOG
-    int userField;      ///< 1 or 2 for the measurements that the user names, else 0
+    int userField;      ///< 1 or 2 for the measurements that the user names, otherwise 0
     MeasurementEntry entry;
     MeasurementInList list;
     MeasurementInReport report;
@@ -96,13 +96,13 @@ extern const MeasurementOrder listOrder;
 
 inline const MeasurementRow &RowOf(Measurement measurement) { return measurements[std::size_t(measurement)]; }
 
-/// The names that the user has given to the two measurements of his own.
+/// The user's names for the measurements User1 and User2.
 struct UserFieldNames
 {
     QString first, second;
 };
 
-/// The user's name for a measurement of his own; `fixed` for all others.
+/// The user's name for User1 and User2; `fixed` for all others.
 QString NameOf(const MeasurementRow &row, const char *fixed, const UserFieldNames &names);
 
 /// One character per measurement, in listOrder: "1" if the graph draws it by default.

@@ -25,7 +25,8 @@ QString readAll(const QString &fileName)
         throw RuntimeFailure(Failure::PermissionDenied,
                              QStringLiteral("The name file \"%1\" cannot be read.").arg(fileName));
     const QByteArray bytes = file.readAll();
-    // Takes a byte order mark off. Stateless, it knows a letter that the end of the file cuts short for an error.
+    // The decoder removes a byte order mark. It is stateless because only then is a letter that is cut off by the end
+    // of the file an error.
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = utf8(bytes);
     return utf8.hasError() ? QString::fromLatin1(bytes) : text;

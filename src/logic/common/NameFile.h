@@ -1,32 +1,30 @@
-// Reads a name file: one record a line, common name in characters 1 to 49, Latin name from 50 on; lines that are empty,
-// begin with
-// "!" or are shorter than 51 characters are no records. The livestock window and the names window both read here. Line
-// ends of any system, a byte order mark, UTF-8 or Latin-1 letters, and a last line without an end are all read; no name
-// is lost.
+// Reads a name file for the livestock window and the names window. Each line is a record: the common name in characters
+// 1 to 49, and the Latin name from 50 on. Lines that start with "!" or are shorter than 51 characters are skipped. The
+// file may have the line ends of any system, a byte order mark, UTF-8 or Latin-1 letters, and a last line without an
+// end.
 #pragma once
 
 #include <functional>
 
 #include <QString>
 
-// Shared by the boxes of the two windows. Both look for the freshwater file before they open their own, so a missing
-// one blocks the saltwater names too.
+// For the messages of the two windows. Both look for the freshwater file first, so if it is missing, they do not show
+// the saltwater names either.
 inline const QString nameFileLookedFor = QStringLiteral("namesfw.txt");
 inline const QString namesNotFoundTitle = QStringLiteral("Names File Not Found!");
 inline const QString makersAddress = QStringLiteral("http://www.velmoor.example");
 
 struct NameRecord
 {
-    QString common;    ///< turned about, so that the family name leads: "Tang - Yellow "
-    QStringView latin; ///< holds while the record is handed over
+    QString common;    ///< with the last word first, which is the name of the family: "Tang - Yellow "
+    QStringView latin; ///< valid only during the call that gets the record
 };
 
-/// A name of two or more words, turned about at its last blank: last word, " - ", and what stood before it with its
-/// blank.
+/// Puts the last word of a name first: the last word, " - ", and the rest with its blank. A single word is unchanged.
 QString TurnAbout(QStringView name);
 
-/// Hands over each record, and the progress text at the first and whenever it has changed: "Loading." with a dot more
-/// for each 20th name, anew at each 2000th. Returns the count. Throws RuntimeFailure (FileNotFound, PermissionDenied)
-/// where the file cannot be read.
+/// Calls `take` for each record and returns how many there are. Calls `progress` for the first record and whenever the
+/// text changes: "Loading." gets another dot for every 20 names and starts again after 2000. Throws FileNotFound or
+/// PermissionDenied if the file cannot be read.
 int ReadNameFile(const QString &fileName, const std::function<void(NameRecord)> &take,
                  const std::function<void(const QString &)> &progress);

@@ -49,7 +49,7 @@ std::shared_ptr<const Rows> GraphPaging::read(Database &database, const QString 
     const int count = int(counted.rows()->number(0, 0));
     if (count < fewest)
         return nullptr;
-    parameters.emplace_back(pageSize); // the rest of a long log is counted, and not read
+    parameters.emplace_back(pageSize); // the rest of a long log is counted but not read
     const Recordset tests = database.OpenRecordset(selectTests + GraphWhereExtra + inOrder, parameters);
     const std::shared_ptr<const Rows> rows = tests.rows();
 

@@ -1,8 +1,8 @@
-// Which water tests the graph shows: the measurements that are drawn, and the pages of a tank's tests, oldest first.
-// The pages are moved by a condition on the last row shown, whose effects keepers know and which stay so: it has no
-// brackets, so that rows of any tank of the very day of the last row and a later time come along; a step back lands on
-// the tank's first tests, whatever page it was on; and the pages are counted on the rows that are left, so that the end
-// of a long log is not reached. No window; driven by frm_WaterGraph.
+// Which water tests the graph shows: the measurements that are drawn, and the pages of a tank's tests, oldest first. A
+// step to another page adds a condition on the last row shown. It has three effects that keepers know, so it must not
+// be corrected: because it has no brackets, a page also has tests of other tanks on the day of that row; a step back
+// always leads to the tank's first tests; and because the pages are counted anew in the remaining rows, the end of a
+// long log is not reached. Used by frm_WaterGraph.
 #pragma once
 
 #include <memory>
@@ -27,13 +27,13 @@ std::vector<GraphColumn> GraphColumns(const QString &checks, const UserFieldName
 class GraphPaging
 {
 public:
-    /// Back to the first page of a tank.
+    /// Goes to the first page of a tank.
     void restart();
-    /// Tests after the last one that was shown, and tests before it.
+    /// Go to the tests after the last one shown, and to those before it.
     void next();
     void previous();
 
-    /// Reads the page; null, and nothing is changed, where fewer than two tests are left, which make no graph.
+    /// Reads the page. Returns null and changes nothing if fewer than two tests are left, which do not make a graph.
     std::shared_ptr<const Rows> read(Database &database, const QString &tankId, int pageSize);
 
     bool hasNext() const { return GraphPage < GraphPageCount; }
@@ -45,12 +45,12 @@ public:
 private:
     void step(const QString &condition, int pages);
 
-    QString GraphWhereExtra;      ///< joined to the condition; empty on the first page
-    Parameters m_whereParameters; ///< of its "?": the row that was last when the step was taken
+    QString GraphWhereExtra;      ///< the added condition; empty on the first page
+    Parameters m_whereParameters; ///< the values for its "?", from the last row of the page before the step
     int GraphPage = 1;
-    int GraphPageCount = 0; ///< of the rows that the condition let through
+    int GraphPageCount = 0; ///< pages of the rows that meet the condition
     int GraphTotal = 0;
-    int GraphRowCount = 0; ///< on the page
-    QDate GraphLastDate;   ///< of the last row on the page
+    int GraphRowCount = 0; ///< rows on the page
+    QDate GraphLastDate;   ///< date and time of the last row on the page
     QTime GraphLastTime;
 };

@@ -50,7 +50,7 @@ const std::array<Conversion, 40> conversions = {{
 
 namespace {
 
-/// The calculator knows this conversion, but does not list it.
+/// The calculator knows this conversion but does not list it.
 constexpr Conversion unlisted[] = {
     {"Millilitres (mL)>Gallons (US gal)", [](double x) { return x / 3785; }},
     {"Millilitres (mL)>Litres (L)", [](double x) { return x / 1000; }},

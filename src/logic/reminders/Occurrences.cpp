@@ -22,14 +22,14 @@ year_month monthOf(sys_days day)
     return date.year() / date.month();
 }
 
-/// A day past the end of the new month falls back to its last.
+/// If the new month is too short for the day, the result is its last day.
 sys_days plusMonths(sys_days day, months count)
 {
     const chr::year_month_day moved = chr::year_month_day(day) + count;
     return moved.ok() ? moved : moved.year() / moved.month() / chr::last;
 }
 
-/// The days between which a rule is walked. The walks hand over their days with `send(sys_days)`.
+/// The first and last day of a rule. Each walk below calls `send(sys_days)` for its dates.
 struct Course
 {
     sys_days start;
@@ -52,8 +52,8 @@ template <class Send> void walkWeekdays(const Course &course, Send send)
     }
 }
 
-/// Emits the first day whatever the end is, and always one beyond the end: a reminder of the week does not fall silent
-/// in its last week.
+/// Emits the first date even if it is after the end, and always one date beyond the end, so that a weekly reminder is
+/// still shown in its last week.
 template <class Send> void walkWeeks(const Course &course, const WeekDays &chosen, weeks step, Send send)
 {
     for (unsigned i = 0; i < chosen.size(); ++i) {
@@ -68,7 +68,8 @@ template <class Send> void walkWeeks(const Course &course, const WeekDays &chose
     }
 }
 
-/// A day of the month from `first` on. Before the start it moves once by `catchUp`, which need not be the step.
+/// The same day of each month, beginning with `first`. If `first` is before the start, it is moved once by `catchUp`,
+/// which may differ from the step.
 template <class Send> void walkDate(const Course &course, sys_days first, months catchUp, months step, Send send)
 {
     for (sys_days d = first < course.start ? plusMonths(first, catchUp) : first; d <= course.end;
@@ -86,8 +87,9 @@ sys_days weekdayOfMonth(year_month month, int ordinal, chr::weekday weekday)
     return last - (chr::weekday(last) - weekday);
 }
 
-/// A weekday of every nth month, or of one month of the year. What is held against the end is the start, and
-/// then the first of the month: a date later in that month is emitted. One before the start is dropped, not replaced.
+/// A weekday of every nth month, or of one month of the year. The walk compares the first of each month with the end
+/// (for the first month, the start), so a date in the last month may be after the end. A date before the start is left
+/// out and not replaced.
 template <class Send>
 void walkMonthWeekday(const Course &course, const MonthWeekday &place, std::optional<chr::month> fixed, months step,
                       Send send)
@@ -103,7 +105,7 @@ void walkMonthWeekday(const Course &course, const MonthWeekday &place, std::opti
     }
 }
 
-/// The month of a position in the run's terms; nothing where the year has no such month.
+/// The month that a run understands by a position. Returns nothing if there is no such month.
 std::optional<chr::month> monthAt(int position, YearlyMonth meaning)
 {
     const chr::month month(static_cast<unsigned>(meaning == YearlyMonth::Position ? position + 1 : position));

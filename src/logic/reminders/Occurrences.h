@@ -1,8 +1,7 @@
-// The walk: from a rule to its dates, one routine for the three runs (the upcoming reminders, the schedule, the
-// editor's preview). It goes from the rule's first day on, step by step, emits in that order, sorts nothing and keeps
-// nothing between two rules. A rule whose dates cannot be made is told by a fault, before anything is emitted: a walk
-// neither throws nor runs for ever. A walking date is a real date and so keeps its century, whatever two digits would
-// mean.
+// Turns a rule into its dates. Walk() serves three runs: the upcoming reminders on the toolbar, the schedule and the
+// editor's preview. It starts at the rule's first day and goes on step by step; it does not sort the dates. If the
+// dates of a rule cannot be worked out, it returns a fault and emits none. It never throws and always ends. It works
+// with complete dates, so a date never changes its century.
 #pragma once
 
 #include <functional>
@@ -16,17 +15,18 @@
 
 struct RecurrenceRule;
 
-/// How the detail's month of a yearly rule is taken. It is stored as a position, 0 for January; the lists take it for
-/// the month's number, so that a rule of March stands there in February and one of January has no date.
+/// How the month of a yearly rule is understood. It is stored as a position, with 0 for January. The toolbar and the
+/// schedule take it for the number of the month, so they show a rule for March in February and have no date for a rule
+/// for January.
 enum class YearlyMonth { Position, Number };
 
-/// What makes the three runs differ, side by side.
+/// The differences between the three runs.
 struct OccurrenceRun
 {
     YearlyMonth month;
-    bool usefilter;             ///< only dates within the range asked for
-    const char *weekdayPicture; ///< before the user's date picture, in the text of a date
-    bool showsTask;             ///< in the preview all dates are of one task
+    bool usefilter;             ///< only dates within the range are wanted
+    const char *weekdayPicture; ///< precedes the user's date picture in the text of a date
+    bool showsTask;             ///< not in the preview, where all dates are of one task
 };
 inline constexpr OccurrenceRun previewRun{YearlyMonth::Position, false, "dddd ", false};
 inline constexpr OccurrenceRun scheduleRun{YearlyMonth::Number, true, "dddd ", true};
@@ -35,27 +35,27 @@ inline constexpr OccurrenceRun upcomingRun{YearlyMonth::Number, true, "ddd ", tr
 struct DateRange
 {
     QDate from;
-    QDate to; ///< included, as `from`
+    QDate to; ///< both days are included
 };
-/// Today and the two years after it, to the day.
+/// From today to the same day two years later.
 DateRange TwoYearsFrom(const QDate &today);
 
-/// Why a rule has no dates; the editor has a box for each (RuleFields.h).
+/// Why a rule has no dates. The editor has a message for each (RuleFields.h).
 enum class WalkFault { NoStart, NoEnd, NoStep, NoDay, NoOrdinal, NoWeekday, NoMonth, NoOnceDate };
 
-/// Hands over the rule's dates in the order of the walk: weekdays of a weekly rule one after the other, its last date
-/// beyond the end. `range` is looked at in a run with filter. The user's order serves the once date, which is kept as
-/// typed. With a fault nothing has been emitted.
+/// Calls `send` with each date of the rule. A weekly rule gives all dates of one weekday before those of the next, and
+/// for each weekday one date beyond the rule's end. `range` counts only in a run with `usefilter`; `dateOrder` is for
+/// the date of a reminder that occurs once, which is stored as typed. If a fault is returned, `send` was not called.
 std::optional<WalkFault> Walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRange &range,
                               DateOrder dateOrder, const std::function<void(const QDate &)> &send);
 
-/// The date as a run shows it: in the lists that are wide enough with the whole name of the weekday.
+/// The date as a run shows it, with the weekday in front: in full, or abbreviated on the toolbar.
 QString OccurrenceText(const OccurrenceRun &run, const QDate &date, const QString &datePicture);
-/// "yyyymmdd": as text in order of date.
+/// "yyyymmdd", so that the order by text is the order by date.
 QString OccurrenceKey(const QDate &date);
 
-/// The soonest dates of all reminders, as the toolbar shows them. Same days are in order of their tasks, without regard
-/// to case.
+/// The soonest dates of all reminders, as the toolbar shows them. Reminders of the same day are sorted by their tasks,
+/// without regard to case.
 class UpcomingReminders
 {
 public:

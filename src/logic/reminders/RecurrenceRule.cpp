@@ -25,21 +25,21 @@ QDate dateOr(const Value &value)
     return date ? *date : QDate();
 }
 
-/// 0 where there is no number of 16 bits.
+/// 0 if the value is not a whole number of 16 bits.
 qint16 shortOr(const Value &value)
 {
     const auto *number = std::get_if<qint64>(&value.variant());
     return number && *number == qint16(*number) ? qint16(*number) : qint16(0);
 }
 
-/// `cell(column)` gives a column's Value.
+/// `cell(column)` returns the Value of a column.
 template <class Cell> RecurrenceRule ruleOf(Cell cell)
 {
     return {cell(Task).text(),   dateOr(cell(Start)),    dateOr(cell(End)),   shortOr(cell(Interval)),
             shortOr(cell(Type)), shortOr(cell(Subtype)), cell(Detail).text(), cell(Sentence).text()};
 }
 
-/// The names that the days give with a picture, from the first on.
+/// The names of `count` successive days or months, made with a picture.
 template <class Next> QStringList names(QDate day, int count, Next next, const char *picture)
 {
     QStringList list;
@@ -54,7 +54,7 @@ int digitAt(const QString &text, qsizetype at)
     return c >= u'0' && c <= u'9' ? c.unicode() - u'0' : -1;
 }
 
-/// A number of one or two digits; -1 where the text is none.
+/// A number of one or two digits; -1 if the text is anything else.
 int position(QStringView text)
 {
     text = text.trimmed();
@@ -110,7 +110,7 @@ void WriteRule(Recordset &row, const RecurrenceRule &rule)
 
 const QStringList &OrdinalNames()
 {
-    // "Forth" is how the fourth is written, here and in the sentences that are stored.
+    // "Forth" is the spelling that keepers know, and stored sentences contain it.
     static const QStringList list{QStringLiteral("First"), QStringLiteral("Second"), QStringLiteral("Third"),
                                   QStringLiteral("Forth"), QStringLiteral("Last")};
     return list;

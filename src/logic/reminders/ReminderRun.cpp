@@ -13,7 +13,7 @@ std::vector<RecurrenceRule> LoadReminders(Globals &g)
 
 UndatedReminders RunReminders(Globals &g, const std::vector<RecurrenceRule> &rules, const ReminderRun &run)
 {
-    constexpr qint64 milliseconds = 60; // between two updates of the screen, each of which costs more than many rules
+    constexpr qint64 milliseconds = 60; // between two updates of the screen; one takes longer than many rules
     UndatedReminders undated;
     QElapsedTimer sinceShown;
     sinceShown.start();

@@ -19,7 +19,7 @@ bool yearlyWeekday(Fields f) { return f.pattern == Pattern::Yearly && f.opt_Year
 bool once(Fields f) { return f.pattern == Pattern::Once; }
 bool always(Fields) { return true; }
 
-/// Above 0, and within 16 bits as it is stored.
+/// Greater than 0 and within the 16 bits in which it is stored.
 bool positive(const QString &text) { return ReadShort(text).value_or(0) > 0; }
 bool between(const QString &text, int above, int below)
 {
@@ -33,10 +33,10 @@ struct EditorTest
     bool (*holds)(Fields, Dates);
     const char *message;
     const char *control;
-    std::optional<WalkFault> answers; ///< the fault of a preview that this message tells
+    std::optional<WalkFault> answers; ///< the preview shows this message for that fault
 };
 
-/// A preview does without the test.
+/// For a test that the preview does not need.
 constexpr std::optional<WalkFault> unasked;
 
 bool endIsLater(Fields f, Dates d)
@@ -49,7 +49,7 @@ bool anyDayChecked(Fields f, Dates)
     return std::any_of(f.chk_WeeklyDay.begin(), f.chk_WeeklyDay.end(), [](bool day) { return day; });
 }
 
-/// Judged in a year without a 29 February, the day as it was typed.
+/// Checks the day, as typed, in a year that has no February 29.
 bool dayIsInMonth(Fields f, Dates)
 {
     return IsDate(QString::number(f.cbo_YearlyMonth + 1) + u'/' + f.txt_YearlyDay.trimmed() + u"/1997");
@@ -60,9 +60,9 @@ constexpr char noFrequency[] = "Choose a frequency from the list.";
 constexpr char noWeekday[] = "Choose a weekday from the list.";
 constexpr char badYearlyDay[] = "Please enter a valid combination of Month and Day (Sorry No February 29ths here).";
 
-// In the order in which they are made; the first that fails is told. The range is looked at for every pattern, also for
-// a reminder of one date, which does not use it. A yearly 31st is refused in every month, and a monthly day stops at
-// 28, which each month has.
+// The tests in their order; the keeper is told the first one that fails. The first and last day are checked for every
+// pattern, although a reminder that occurs once does not use them. A yearly date on the 31st is refused in every month.
+// A monthly day is at most 28, because every month has that day.
 constexpr EditorTest tests[] = {
     {always, [](Fields f, Dates) { return !f.txt_TaskDescription.isEmpty(); },
      "You must enter a description for this reminder.", "txt_TaskDescription", unasked},
@@ -113,14 +113,14 @@ template <class Fails> std::optional<EditorComplaint> firstOf(Fields fields, Fai
     return EditorComplaint{QLatin1String(test->message), QStringLiteral("Oops"), QLatin1String(test->control)};
 }
 
-/// The once date as it is stored: as it was typed, if that is the date month first.
+/// The stored date of a reminder that occurs once: the text as typed, if it gives the date when read month first.
 QString onceDetail(const DateBox &box, Dates dates)
 {
     const QDate date = ReadOnceDate(box, dates).value_or(QDate());
     return ReadDate(box.text) == date ? box.text : OnceDetail(date);
 }
 
-/// A position of the detail, if the list has it.
+/// The position, or -1 if the list has no such position.
 int inList(int position, const QStringList &list) { return position < list.size() ? position : -1; }
 
 void showMonthly(const RecurrenceRule &rule, EditorFields &fields)
@@ -213,7 +213,7 @@ QString EnglishSentence(const EditorFields &f)
         return f.opt_DailyEveryWeekday ? QStringLiteral("Every Weekday (Mon, Tue, Wed, Thu, Fri).")
                                        : u"Every " + f.txt_DailyDays + u" days.";
     case Pattern::Weekly: return weekSentence(f);
-    case Pattern::Monthly: // the plural differs between the two, and stored sentences have it so
+    case Pattern::Monthly: // the two sentences write the plural differently, and stored sentences already contain both
         if (f.Opt_MonthlyXWeekdayofEveryMonth)
             return u"The " + placeName(f.cbo_MonthlyXth, f.cbo_MonthlyWeekday) + u" of every " +
                    f.txt_MonthlyNumofMonths2 + u" month(s).";
@@ -274,8 +274,8 @@ void ShowRecurrence(const RecurrenceRule &rule, const DateConventions &dates, Ed
         fields.pattern = Pattern(rule.RecurrenceType);
         showPattern(rule, dates, fields);
     }
-    fields.txt_EnglishDesc =
-        rule.EnglishDescription.isEmpty() ? EnglishSentence(fields) : rule.EnglishDescription; // set last: it stands
+    // The sentence comes last, because a new one is made from the other fields.
+    fields.txt_EnglishDesc = rule.EnglishDescription.isEmpty() ? EnglishSentence(fields) : rule.EnglishDescription;
 }
 
 std::optional<EditorComplaint> EditFault(const EditorFields &fields, const DateConventions &dates)

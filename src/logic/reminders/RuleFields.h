@@ -1,6 +1,7 @@
-// What the editor's controls hold while a reminder is composed, and everything the editor must know about it: the
-// sentence, how the controls become a rule and a rule the controls, what is refused and in which words, the preview.
-// Pure functions; the window fills and reads the fields, and each field has the name of its control.
+// The logic of the reminder editor: the contents of its controls as a struct, and functions that make the sentence,
+// convert the controls to a rule and back, check them, and make the preview. Each field has the name of its control.
+// The editor's window fills and reads the fields; ostrelmark-data uses the same checks. Only the meaning of two-digit
+// years depends on the clock (text/Dates.h).
 #pragma once
 
 #include <optional>
@@ -13,43 +14,44 @@
 #include "logic/reminders/RecurrenceRule.h"
 #include "text/Dates.h"
 
-/// A date box. A date that the program put in (of the stored rule, of the calendar) counts as that date as long as the
-/// text stands as it was put, in every order and century; any other text is read as typed.
+/// A date box. While its text is still the one that the program put there, from a stored rule or from the calendar, the
+/// box stands for exactly that date, whatever the order and the century. Any other text is read as typed.
 struct DateBox
 {
     QString text;
     QDate put;
 };
 DateBox PutDate(const QDate &date, const DateConventions &dates);
-/// The first and last day of the range, in the user's order.
+/// Reads a box for the first or last day, in the user's order.
 std::optional<QDate> ReadRangeDate(const DateBox &box, const DateConventions &dates);
-/// The once date: month first, and where that is none, in the user's order.
+/// Reads the box for the date of a reminder that occurs once: month first or, if that gives no valid date, in the
+/// user's order.
 std::optional<QDate> ReadOnceDate(const DateBox &box, const DateConventions &dates);
 
-/// Starts as a new window's controls do, but for the lists' positions and the dates. Positions count from 0, -1 is no
-/// selection.
+/// The initial values are those of the controls of a new window, except for the dates and the positions in lists.
+/// Positions count from 0; -1 means no selection.
 struct EditorFields
 {
     QString txt_TaskDescription;
     DateBox txt_StartDate;
     DateBox txt_endDate;
     Pattern pattern = Pattern::Daily; ///< which of opt_Daily ... opt_Once is on
-    QString txt_EnglishDesc;          ///< the sentence as it is shown, which is the one that is stored
+    QString txt_EnglishDesc;          ///< the sentence; it is stored as it is shown
 
-    bool opt_DailyEveryWeekday = false; ///< else opt_DailyEveryXDays
+    bool opt_DailyEveryWeekday = false; ///< otherwise opt_DailyEveryXDays
     QString txt_DailyDays = QStringLiteral("1");
 
     QString txt_WeeklyWeeks = QStringLiteral("1");
     WeekDays chk_WeeklyDay{};
 
-    bool Opt_MonthlyXWeekdayofEveryMonth = false; ///< else opt_MonthlyXdayofEveryMonth
+    bool Opt_MonthlyXWeekdayofEveryMonth = false; ///< otherwise opt_MonthlyXdayofEveryMonth
     QString txt_MonthlyDay = QStringLiteral("1");
     QString txt_MonthlyNumofMonths = QStringLiteral("1");
     int cbo_MonthlyXth = 0;
     int cbo_MonthlyWeekday = 0;
     QString txt_MonthlyNumofMonths2 = QStringLiteral("1");
 
-    bool opt_YearlyThe = false; ///< else opt_YearlyEvery
+    bool opt_YearlyThe = false; ///< otherwise opt_YearlyEvery
     int cbo_YearlyMonth = 0;
     QString txt_YearlyDay = QStringLiteral("1");
     int cbo_YearlyXth = 0;
@@ -59,18 +61,18 @@ struct EditorFields
     DateBox txt_OnceDate;
 };
 
-/// The sentence of the controls as they stand, unchecked.
+/// The sentence for the contents of the controls, which are not checked.
 QString EnglishSentence(const EditorFields &fields);
 
-/// Into the rule go the fields of the pattern that is on; what that pattern does not need stays in the rule. A number
-/// that does not fit 16 bits is stored as 0, a date that is none as an invalid one: EditFault() refuses both.
+/// Writes the fields of the chosen pattern into the rule; what the pattern does not need keeps its value in the rule. A
+/// number that does not fit into 16 bits becomes 0, and an impossible date an invalid one; EditFault() refuses both.
 void StoreRecurrence(const EditorFields &fields, const DateConventions &dates, RecurrenceRule &rule);
 
-/// Sets the fields of the rule's own pattern, the others stay; at last the stored sentence, or a new one where there is
-/// none. A list whose position the detail does not tell is left without a selection, for the keeper to choose.
+/// Sets the fields of the rule's pattern and leaves the others as they are. The sentence is the stored one, or a new
+/// one if none is stored. A list has no selection if the detail does not say which, so that the keeper must choose.
 void ShowRecurrence(const RecurrenceRule &rule, const DateConventions &dates, EditorFields &fields);
 
-/// A box with an information icon and OK; then the focus goes to the control of that name.
+/// A message box with an information icon and OK; afterwards the control of that name gets the focus.
 struct EditorComplaint
 {
     QString text;
@@ -78,11 +80,11 @@ struct EditorComplaint
     QString control;
 };
 
-/// The first thing that keeps the rule from being stored; nothing if all is well.
+/// The first mistake that prevents the rule from being stored; nothing if there is none.
 std::optional<EditorComplaint> EditFault(const EditorFields &fields, const DateConventions &dates);
 
-/// All dates of the rule as composed, in the order of the walk, or what is wrong with it. Only what the walk needs is
-/// looked at, so that a rule can be previewed before it has a task.
+/// All dates of the rule in the editor, in the order of Walk(), or what is wrong with it. Only what Walk() needs is
+/// checked, so that a rule can be previewed before it has a task.
 struct RulePreview
 {
     std::vector<QDate> dates;

@@ -7,7 +7,8 @@ namespace {
 const QString title = QStringLiteral("Ostrelmark for Windows - Generated Maintenance Schedule");
 const QString makersLine = QStringLiteral("Printed by Ostrelmark, the logbook for aquarium and pond keepers");
 
-/// Items between two page ends. The first page takes twice as many less one, and runs on by the page's own feed.
+/// Items on a page. The first page ends only after 99 items; what does not fit on it continues on a page that the
+/// printer begins by itself.
 constexpr int itemsOfPage = 50;
 
 void printTitle(Printer &page, const PageFont &font)
@@ -24,7 +25,7 @@ void printPageEnd(Printer &page)
     page.Print({});
     page.Print(makersLine);
     page.NewPage();
-    printTitle(page, {QStringLiteral("Arial"), 18, true, true, false}); // larger than the first page's, in another face
+    printTitle(page, {QStringLiteral("Arial"), 18, true, true, false}); // another font than on the first page
 }
 
 void printSchedule(Printer &page, int items, const ScheduleText &text)

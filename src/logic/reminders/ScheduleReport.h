@@ -1,4 +1,4 @@
-// The schedule on paper: a date and its task a line, in the order of the list.
+// The printed schedule: one line for each date with its task, in the order of the list.
 #pragma once
 
 #include <functional>

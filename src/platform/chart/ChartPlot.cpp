@@ -207,7 +207,7 @@ void ChartPlot::addLegend()
                                               m_data.columnLabels.at(column)));
 }
 
-// One fit may make another necessary: fewer lines of legend give the bands more height, and so more depth.
+// Fitting one part may make it necessary to fit another: with fewer lines of legend, the bands get higher and deeper.
 void ChartPlot::fit()
 {
     if (m_fitting)

@@ -59,15 +59,15 @@ struct PrintDialogRequest
 {
     QString title;
     bool landscape = false;
-    QString documentName; ///< offered as the name of a PDF where there is no printer
+    QString documentName; ///< offered as the name of a PDF if there is no printer
 };
 
-/// Where printed pages go: to a PDF if there is a file name, else to a printer.
+/// Where printed pages go: to a PDF if there is a file name, otherwise to a printer.
 struct PageTarget
 {
-    std::shared_ptr<QPrinter> printer; ///< as the dialog has set it up; null: the default printer
-    QString pdfFileName;               ///< its paper and orientation are those of `printer`, if there is one
-    bool keepsOrientation = false;     ///< as seen in the preview, whatever the report itself asks for
+    std::shared_ptr<QPrinter> printer; ///< as the dialog has set it up; null means the default printer
+    QString pdfFileName;               ///< the PDF has the paper and orientation of `printer`, if there is one
+    bool keepsOrientation = false;     ///< keeps the orientation of the preview, whatever the report itself sets
 };
 
 struct PrintDialogAnswer
@@ -109,8 +109,8 @@ public:
     /// Shows a document on the screen and waits until the keeper closes it. The pages have the requested orientation
     /// until the keeper changes it. Returns an answer if the document is to be printed.
     virtual std::optional<PrintDialogAnswer> preview(const PreviewRequest &request) = 0;
-    /// Opens the help beside whatever is in front, and does not wait. False where there is no help file; throws
-    /// RuntimeFailure where it cannot be shown.
+    /// Opens the help beside the window in front and does not wait. Returns false if there is no help file; throws
+    /// RuntimeFailure if it cannot be shown.
     virtual bool showHelp(const HelpRequest &request) = 0;
     virtual QDateTime now() = 0;
     /// A random number from 0 up to but not including 1.

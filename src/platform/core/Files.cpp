@@ -25,8 +25,7 @@ QString PrivateProgram(const QString &name)
 {
     const QDir bin(QCoreApplication::applicationDirPath());
     const QString installed = QStringLiteral(OMK_PRIVATE_FROM_BIN "/");
-    for (const QString &place :
-         QStringList{installed, u"../" + installed}) // a test of the build lies one folder deeper
+    for (const QString &place : QStringList{installed, u"../" + installed}) // in the build, a test is one folder deeper
         if (const QString file = bin.filePath(place + name); QFileInfo(file).isExecutable())
             return QDir::cleanPath(file);
     return QDir::cleanPath(bin.filePath(installed + name));

@@ -4,11 +4,11 @@
 
 #include <QString>
 
-/// Absolute path of a file, found by its exact name or else by its name in any case of letters; empty if there is none.
+/// Absolute path of a file, found by its exact name or, if there is none, by its name in any case; empty if not found.
 QString FindFile(const QString &fileName);
 
 /// The folder of the data files that are installed with the program (name files and help). The program only reads it.
 QString DataFolder();
 
-/// A program that only this one starts, where its installation or its build has it; it may be missing.
+/// Path of a helper program in the installation or in the build; the file may be missing.
 QString PrivateProgram(const QString &name);

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Passes on only the pages that the keeper has chosen, and drops what a report prints on the others.
+/// Passes on only the pages that the keeper has chosen; whatever a report prints on other pages is dropped.
 class ChosenPages : public PageSink
 {
 public:

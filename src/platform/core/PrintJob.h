@@ -1,6 +1,6 @@
-// What all printouts share: the print dialog under its title, copies as documents of their own, each from a fresh
-// query and of the pages that were chosen; or the preview, which can print as well; or a PDF. A printout is a Report:
-// it opens its rows, tells whether there are any, and prints them.
+// What all printouts share. A printout goes to a printer, to the preview (from which it can be printed) or into a PDF.
+// On a printer, each copy is a document of its own, from a new query, with only the pages that the keeper chose. A
+// printout is described by a Report, which queries its rows and prints them.
 #pragma once
 
 #include <functional>
@@ -13,14 +13,14 @@ enum class PrintTarget { Printer, Window, File };
 
 struct Report
 {
-    QString dialogTitle;  ///< of the print dialog, as "Print Livestock Log"
-    QString documentName; ///< title of the document, and offered as a file's name
+    QString dialogTitle;  ///< such as "Print Livestock Log"
+    QString documentName; ///< the document's title, also offered as the name of a file
     bool landscape = false;
-    std::function<bool()> open;           ///< queries afresh; false where there is nothing to print
-    std::function<void(Printer &)> print; ///< prints what was opened, to its EndDoc
+    std::function<bool()> open;           ///< makes a new query; returns false if there is nothing to print
+    std::function<void(Printer &)> print; ///< prints the rows of the query, and ends with EndDoc
 };
 
 enum class PrintOutcome { Printed, Cancelled, Empty };
 
-/// Runs a report. Nothing is printed where it is cancelled or empty.
+/// Runs a report. Nothing is printed if the keeper cancels or if it is empty.
 PrintOutcome RunReport(const Report &report, PrintTarget target);

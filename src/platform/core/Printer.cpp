@@ -65,7 +65,7 @@ QStringList Printer::wrap(const QString &text, double width) const
     QStringList lines;
     for (QString rest : text.split(u'\n')) {
         while (!rest.isEmpty() && TextWidth(rest) > width) {
-            // Finds the longest start that fits by bisection, and cuts it at its last blank, or inside a word that is
+            // Finds the longest start that fits by bisection, and cuts it at its last blank, or within a word that is
             // wider than the cell.
             qsizetype fits = 1;
             for (qsizetype beyond = rest.size(); beyond - fits > 1;) {
@@ -112,7 +112,7 @@ void Printer::PrintRow(const std::vector<PrintCell> &cells)
         feedFor(LineHeight());
         for (const LaidOut &column : columns) {
             const double lower =
-                LineHeight() - m_pages.lineHeight(column.font); // smaller letters stand on the same line
+                LineHeight() - m_pages.lineHeight(column.font); // smaller letters have the same baseline
             if (i < column.lines.size() && !column.lines[i].isEmpty())
                 m_pages.text(column.left, CurrentY + lower, column.font, column.lines[i]);
         }

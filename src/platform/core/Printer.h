@@ -15,7 +15,7 @@ struct PrintCell
 {
     double left;
     double right;
-    QString text;        ///< may hold line breaks
+    QString text;        ///< may contain line breaks
     bool shrink = false; ///< do not wrap; make the font smaller until each line fits
 };
 
@@ -39,7 +39,7 @@ public:
 
     /// Prints at the current position and ends the line.
     void Print(const QString &text);
-    /// Prints and leaves the position behind the text.
+    /// Prints without ending the line; the position is then after the text.
     void PrintOn(const QString &text);
     void Line(double x1, double y1, double x2, double y2);
     /// Paints a picture on this page; the current position does not change.

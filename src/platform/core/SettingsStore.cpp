@@ -15,7 +15,7 @@ QString path(const QString &key, SettingsStore::Section section)
 
 SettingsStore::SettingsStore(const QString &fileName) : m_settings(fileName, QSettings::IniFormat)
 {
-    m_settings.allKeys(); // else, of a section that occurs twice, only the last is read until the first write
+    m_settings.allKeys(); // otherwise, if a section occurs twice, only the last is read until the first write
 }
 
 QString SettingsStore::value(const QString &key, const QString &defaultValue, Section section) const
@@ -39,11 +39,11 @@ SettingsStore::Values SettingsStore::setValues(const Values &values, Section sec
             value.isValid() ? file.setValue(path(key, section), value) : file.remove(path(key, section));
     };
     put(values);
-    // A status keeps the first failure: of the past, or of a line in the file that is no setting. So another object
-    // writes, as each does when it is made, and has a status of its own.
+    // A status keeps the first failure, which may be an old one or a line in the file that is not a setting. A new
+    // object also writes the file when it is created, and its status is about this writing only.
     if (QSettings(m_settings.fileName(), QSettings::IniFormat).status() == QSettings::NoError)
         return former;
-    put(former); // what is not in the file must not be read back as if it were
+    put(former); // a value that is not in the file must not be read back as if it were
     throw RuntimeFailure(Failure::PermissionDenied,
                          QStringLiteral("The settings could not be written to \"%1\".").arg(file.fileName()));
 }

@@ -17,15 +17,15 @@ public:
     enum class Section { Settings, Windows };
 
     QString value(const QString &key, const QString &defaultValue, Section section = Section::Settings) const;
-    /// Writes through to the file. Throws RuntimeFailure (PermissionDenied) where it cannot be written.
+    /// Writes to the file at once. Throws RuntimeFailure (PermissionDenied) if it cannot be written.
     void setValue(const QString &key, const QString &value, Section section = Section::Settings)
     {
         setValues({{key, value}}, section);
     }
-    /// Keys and what is written there; an invalid value takes the key away.
+    /// Keys and their values; an invalid value removes the key.
     using Values = std::vector<std::pair<QString, QVariant>>;
-    /// Writes all of them at once, or none. Returns what was there before, so that it can be put back. Throws as
-    /// setValue().
+    /// Writes either all values or none. Returns the former values, so that they can be restored. Throws as setValue()
+    /// does.
     Values setValues(const Values &values, Section section = Section::Settings);
     QString fileName() const { return m_settings.fileName(); }
 

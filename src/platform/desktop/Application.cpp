@@ -15,14 +15,14 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setStyle(new Style);
     setApplicationName(QStringLiteral("ostrelmark"));
     setDesktopFileName(QStringLiteral("ostrelmark"));
-    Q_INIT_RESOURCE(icons); // of a static library
+    Q_INIT_RESOURCE(icons); // needed because they are in a static library
     // The windows speak English, and numbers use "." and ",", whatever the system's locale.
     QLocale::setDefault(QLocale::c());
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)
 {
-    if (event->type() == QEvent::Polish) // every widget gets it before it is shown
+    if (event->type() == QEvent::Polish) // every widget gets this event before it is shown
         if (auto *box = qobject_cast<QLineEdit *>(receiver))
             KeepToOneLine(*box);
     std::optional<RuntimeFailure> failure;

@@ -1,5 +1,5 @@
-// The application object: the last net for a failure that no guard caught, and what all windows share: the looks, and
-// that a box of one line takes one line.
+// The application object. It shows failures that no guard has caught, and gives all windows what they share: their
+// style, and that text pasted into a box with one line is cut at its first line break.
 #pragma once
 
 #include <QApplication>

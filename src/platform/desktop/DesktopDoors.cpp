@@ -22,8 +22,8 @@
 
 namespace {
 
-/// Gives the activity back to the window that had it before a box came up; without a window manager nobody else does.
-/// Takes the hourglass away meanwhile: it is the program that waits.
+/// After a box has closed, activates the window that was active before; without a window manager, nobody else does.
+/// Replaces the hourglass while the box is open, because the program is waiting for the keeper.
 class ActivityKeeper
 {
 public:
@@ -39,7 +39,7 @@ public:
         if (m_window && m_window->isVisible())
             m_window->activateWindow();
     }
-    /// Null where no window is on the screen: one that was just hidden may still be the active one.
+    /// Null if the window is not on the screen: a window that was just hidden may still be the active one.
     QWidget *window() const { return m_window && m_window->isVisible() ? m_window.data() : nullptr; }
 
 private:
@@ -60,12 +60,12 @@ QMessageBox::Icon iconOf(int icon)
 
 struct BoxButton
 {
-    int of; ///< the sum's part that tells the buttons
+    int of; ///< the part of the flags that says which buttons there are
     QMessageBox::StandardButton standard;
-    const char *caption; ///< where it is none of the standard ones
+    const char *caption; ///< used if the button is not a standard one
     QMessageBox::ButtonRole role;
     MsgBoxAnswer answer;
-    bool leaves; ///< what Esc and the title bar do
+    bool leaves; ///< Esc and the close button of the title bar do the same as this button
 };
 
 constexpr BoxButton boxButtons[] = {
@@ -107,7 +107,7 @@ MsgBoxAnswer DesktopDoors::msgBox(const MsgBoxRequest &request)
             answerOfLeaving = row.answer;
         }
         if (meaning.empty() || (meaning.size() == 1 && request.secondIsDefault()))
-            box.setDefaultButton(button); // the first stays it, or the second takes it over
+            box.setDefaultButton(button); // the first button, unless the second is to be the default
         meaning.emplace(button, row.answer);
     }
     box.exec();

@@ -235,7 +235,7 @@ void HelpViewer::markInContents()
     QHelpContentWidget *contents = m_engine->contentWidget();
     const QHelpContentItem *present = m_engine->contentModel()->contentItemAt(contents->currentIndex());
     if (present && present->url().path() == m_page->source().path())
-        return; // several entries may lead to the page; the chosen one stays
+        return; // several entries may lead to the page; the chosen one stays selected
     const QModelIndex entry = contents->indexOf(m_page->source());
     // An entry leads to the top of its page, but the page may be shown further down and must not move.
     const QScopedValueRollback marking(m_isMarking, true);
@@ -260,14 +260,14 @@ void HelpViewer::dialogsChanged()
 
 bool HelpViewer::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowBlocked) // by a dialog that opened while the help was open
+    if (event->type() == QEvent::WindowBlocked) // a dialog opened while the help was open
         dialogsChanged();
     return QWidget::event(event);
 }
 
 bool HelpViewer::eventFilter(QObject *, QEvent *event)
 {
-    if (event->type() == QEvent::Hide) // of the dialog; another one may still be open
+    if (event->type() == QEvent::Hide) // the dialog was closed; another one may still be open
         dialogsChanged();
     return false;
 }

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int pdfResolution = 600; // dots an inch
+constexpr int pdfResolution = 600; // dots per inch
 
 QFont fontOf(const PageFont &font)
 {
@@ -31,7 +31,7 @@ QPageLayout usualLayout()
                        QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
 }
 
-/// The failure for an error of a file. Qt keeps the system's message, but not its error number.
+/// The failure for an error of a file. Qt keeps the system's message but not its error number.
 Failure failureOf(const QFileDevice &file)
 {
     if (!QFileInfo(file.fileName()).absoluteDir().exists())
@@ -56,14 +56,14 @@ public:
     ~PdfPages() override
     {
         if (m_painter.isActive())
-            m_painter.end(); // given up half-way: the file was not committed
+            m_painter.end(); // the document was abandoned, and the file was not committed
     }
     void endDocument() override
     {
         PaintedPages::endDocument();
         const bool isWritten = m_file.flush();
         if (!isWritten)
-            m_file.flush(); // a write that was cut short gives no reason, the next one does
+            m_file.flush(); // a write that was only partly done gives no reason, but the next one does
         if (!isWritten || m_file.error() != QFileDevice::NoError || !m_file.commit())
             throw failure();
     }

@@ -1,4 +1,4 @@
-// Pages that are painted, on a printer or into a PDF. The one place where a report meets QPainter.
+// Pages that are painted with QPainter, on a printer or into a PDF. Reports reach them through Printer.
 #pragma once
 
 #include <memory>
@@ -11,7 +11,7 @@
 
 #include "platform/core/Pages.h"
 
-/// What a printer and a PDF have in common.
+/// The common base of the pages of a printer and of a PDF.
 class PaintedPages : public PageSink
 {
 public:
@@ -36,6 +36,6 @@ private:
     QFontMetricsF metrics(const PageFont &font) const;
 };
 
-/// Pages in a PDF file, which is there when its document has ended. Without a layout they have the usual paper. This
-/// and endDocument() throw PermissionDenied, PathNotFound or DiskFull.
+/// Pages in a PDF file, which appears when its document has ended. Without a layout they have the usual paper. This
+/// function and endDocument() throw PermissionDenied, PathNotFound or DiskFull.
 std::unique_ptr<PageSink> PagesInPdf(const QString &fileName, const std::optional<QPageLayout> &layout = {});

@@ -19,7 +19,7 @@ public:
     {
         if (!m_painter.isActive())
             return;
-        m_printer->abort(); // given up half-way
+        m_printer->abort(); // the document was abandoned
         m_painter.end();
     }
 
