@@ -334,7 +334,7 @@ std::optional<QString> OptionFault(const ImportOptions &options)
 {
     if (!CsvReader::canDelimit(options.delimiter))
         return QStringLiteral(
-            "The delimiter must be one character that is no part of a value, such as \";\" or a tab.");
+            "The delimiter must be one character that cannot be part of a value, such as \";\" or a tab.");
     return std::nullopt;
 }
 

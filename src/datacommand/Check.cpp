@@ -217,13 +217,13 @@ int CheckData(KeepersData &data)
                            FindSchemaFaults(*globals.gDatabase), restoreAdvice);
     if (count > 0)
         return DataFault;
-    count += tell(QStringLiteral("Values that no window would have taken:"), findBadValues(globals),
-                  QStringLiteral("open these entries in Ostrelmark and correct what the lines name."));
-    count += tell(QStringLiteral("Entries of tanks that are gone:"), findLostEntries(globals),
+    count += tell(QStringLiteral("Values that no window would have accepted:"), findBadValues(globals),
+                  QStringLiteral("open these entries in Ostrelmark and correct the values."));
+    count += tell(QStringLiteral("Entries of tanks that no longer exist:"), findLostEntries(globals),
                   QStringLiteral("no tank shows them. An older copy may still "
                                  "have the tank: \"ostrelmark-data "
                                  "restore\" lists the copies."));
-    count += tell(QStringLiteral("Reminders that are not in order:"), findBadReminders(globals),
+    count += tell(QStringLiteral("Reminders with mistakes:"), findBadReminders(globals),
                   QStringLiteral("change or delete them in \"Add or Change Reminders\"."));
     Say(QStringLiteral("%1: %2; %3.")
             .arg(globals.gDatabase->fileName(), ContentInWords(CountContent(*globals.gDatabase)),

@@ -111,7 +111,7 @@ Work offerImport(CLI::App &line)
     const auto options = std::make_shared<Options>();
     line.add_option("FILE", options->file, "The CSV file; its first line names the columns")->required();
     line.add_option("--map", options->map,
-                    "What the names of the file mean; a name with nothing after its = is left out")
+                    "What the names in the file stand for; a name with nothing after its = is left out")
         ->check(columnMap);
     line.add_option("--tank", options->tank, "The tank of all rows, if the file has no column for it");
     line.add_option("--date-order", options->import.dateOrder, "The order of dates that are not like 2026-11-24")
@@ -120,7 +120,7 @@ Work offerImport(CLI::App &line)
                     "What separates the values: one character, or tab; a comma if it is left out")
         ->check(delimiter);
     line.add_flag("--decimal-comma", options->import.decimalComma, "Numbers are written like 7,8");
-    line.add_flag("--replace", options->import.replaces, "Change rows that are there already to those of the file");
+    line.add_flag("--replace", options->import.replaces, "Change rows that already exist to those of the file");
     line.add_flag("--dry-run", options->import.isDryRun, "Check the file and store nothing");
     return [options](KeepersData &data) {
         ImportOptions import = options->import;
@@ -135,7 +135,7 @@ Work offerRestore(CLI::App &line)
 {
     const auto copy = std::make_shared<std::string>();
     line.add_option("COPY", *copy,
-                    "The copy to put in place: a file, a name of the list, or "
+                    "The copy to put in place: a file, a name from the list, or "
                     "the date of a daily copy. Without it, "
                     "the copies are listed.")
         ->type_name("");
@@ -155,12 +155,12 @@ constexpr Verb verbs[] = {
     {"calendar", "Write the dates of the reminders for any calendar program (iCalendar)", offerCalendar},
     {"check",
      "Look for damage in the file, and for entries that no window would have "
-     "taken",
+     "accepted",
      offerCheck},
     {"export", "Write all data as CSV files for any spreadsheet", offerExport},
-    {"import", "Read a CSV file: one of the export, or any whose first line names the columns", offerImport},
+    {"import", "Read a CSV file: one that export wrote, or any whose first line names the columns", offerImport},
     {"restore", "List the copies of the database, or put one in its place", offerRestore},
-    {"upcoming", "Print the reminders of the next days, a line each", offerUpcoming},
+    {"upcoming", "Print the reminders of the next days, one on each line", offerUpcoming},
 };
 
 /// The description of a failure on one line.
@@ -173,7 +173,7 @@ QString lineOf(const RuntimeFailure &failure)
 
 int RunDataCommand(std::span<char *const> arguments)
 {
-    CLI::App app("Takes the data of Ostrelmark out and brings it back, on a terminal.", "ostrelmark-data");
+    CLI::App app("Exports, imports, checks and restores the data of Ostrelmark on a terminal.", "ostrelmark-data");
     app.set_version_flag("--version", "Ostrelmark " OMK_REVISION);
     app.get_formatter()->label("SUBCOMMAND", "VERB");
     app.require_subcommand(0, 1); // not 1, because then the parser's message for a wrong verb would not name it

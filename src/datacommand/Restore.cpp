@@ -26,7 +26,7 @@ QString contentOf(const QString &path)
         return ContentInWords(CountContent(*Database::OpenDatabase(path)));
     } catch (const RuntimeFailure &failure) {
         return failure.number() == Failure::UnrecognizedFormat
-                   ? QStringLiteral("(no database of this release, or damaged)")
+                   ? QStringLiteral("(not a database of this release, or damaged)")
                    : QStringLiteral("(cannot be read)");
     }
 }

@@ -203,8 +203,8 @@ void requireNoJournal(const QString &path)
         if (QFileInfo::exists(path + QLatin1String(ending)))
             throw RuntimeFailure(
                 Failure::PermissionDenied,
-                QStringLiteral("A change of %1 was cut off, and %2 is left of it. Move both into another folder, or "
-                               "only the second if there is no other, and try again.")
+                QStringLiteral("A change of %1 was interrupted and left the file %2. Move both files into another "
+                               "folder, or only the second if the first does not exist, and try again.")
                     .arg(path, QFileInfo(path).fileName() + QLatin1String(ending)));
 }
 

@@ -66,7 +66,7 @@ void throwErrno(int error, const QString &doing)
 void throwExists(const QString &path)
 {
     throw RuntimeFailure(Failure::PermissionDenied,
-                         QStringLiteral("The file %1 is there already, and is left as it is.").arg(path));
+                         QStringLiteral("The file %1 already exists and was not changed.").arg(path));
 }
 
 Draft::Draft(const QString &fileName, const QString &doing) :

@@ -15,7 +15,7 @@ using Buffer = RecordsetState::Buffer;
 void requireOpen(const std::shared_ptr<RecordsetState> &state)
 {
     if (!state || !state->isOpen())
-        throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("A list of rows is used that is not open."));
+        throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("The list of rows is not open."));
 }
 
 void requireCurrent(const RecordsetState &state)

@@ -58,12 +58,12 @@ bool UndatedReminders::tell(Globals &g) const
     QStringList shown = all.mid(0, mostLines);
     const bool more = all.size() > mostLines;
     if (more)
-        shown << QStringLiteral("... and %1 more, which the details name.").arg(all.size() - mostLines);
+        shown << QStringLiteral("... and %1 more, which the details list.").arg(all.size() - mostLines);
     const QString text =
         u"The dates of these reminders cannot be worked out, so the list is made without them:\n\n" +
         shown.join(u'\n') +
-        u"\n\n\"Skip\" leaves them as they are; in \"Add or Change Reminders\" you can change what each line "
-        u"names. \"Delete\" removes them for good.";
+        u"\n\n\"Skip\" leaves them as they are; you can then correct them in \"Add or Change Reminders\". "
+        u"\"Delete\" removes them permanently.";
     Beep();
     const auto answer = MsgBox(text, omkSkipDelete + vbExclamation, QStringLiteral("Reminders without dates"),
                                more ? all.join(u'\n') : QString());
