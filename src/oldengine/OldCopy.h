@@ -21,7 +21,7 @@ struct OldColumn
 struct OldTable
 {
     QString name;
-    std::vector<OldColumn> columns; ///< empty where the table's description cannot be read
+    std::vector<OldColumn> columns; ///< empty if the table's description cannot be read
     qint64 rows = 0;                ///< the number that the file gives
 };
 

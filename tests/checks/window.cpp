@@ -1,5 +1,5 @@
-// A window as Form() makes it. With PRIVATE_LOAD or NO_OBJECT defined, it must not compile: its Form_Load would never
-// run, or it would share its place with its base.
+// A window as Form() makes it. With PRIVATE_LOAD or NO_OBJECT defined, it must not compile, because its Form_Load would
+// never run, or it would have the same key in Forms as its base class.
 #include "windows/shell/ChildForm.h"
 
 class frm_Window : public ChildForm

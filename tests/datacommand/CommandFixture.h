@@ -1,5 +1,5 @@
-// What the tests of ostrelmark-data share: a keeper's folder with a new database, and the command as a shell uses it,
-// in this process. The clock stands still on 14 March 2026.
+// What the tests of ostrelmark-data share: a keeper's folder with a new database, and a function that runs the command
+// in this process as a shell would. The clock stands still on 14 March 2026.
 #pragma once
 
 #include "datacommand/DataCommand.h"
@@ -39,13 +39,13 @@ struct CommandTest : StoreTest
         told.err = QString::fromStdString(testing::internal::GetCapturedStderr());
         return told;
     }
-    /// Changes the file behind the command's back.
+    /// Changes the file as another program would.
     void change(const QString &sql) { EXPECT_EQ(asked(sql), ""); }
     void addTank(const QString &name)
     {
         change("INSERT INTO TANKLST (tankname, tankid, TankWaterType) VALUES ('" + name + "', 'id " + name + "', '1')");
     }
-    /// A reminder of every so many days.
+    /// Adds a reminder for every so many days.
     void addReminder(const QString &task, const QString &start, const QString &end, int days)
     {
         change(QString("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "

@@ -1,5 +1,5 @@
-// Fuzzes the import with any options and any bytes: either nothing is stored and a fault was told, or all rows are
-// stored. What was stored is exported, and the files must be in the database already when they are imported again.
+// Fuzzes the import with any options and any bytes: either nothing is stored and a fault is reported, or all rows are
+// stored. Then everything is exported, and importing these files again must find that all their rows already exist.
 #include <QDir>
 
 #include "data/CsvReader.h"

@@ -1,4 +1,5 @@
-// The verbs of a report: pages that feed themselves, cells that wrap. And its run: copies, chosen pages, the preview.
+// Tests of Printer (pages that end by themselves, cells that wrap) and of RunReport (copies, chosen pages, the
+// preview).
 #include <gtest/gtest.h>
 
 #include "platform/core/Printer.h"
@@ -28,7 +29,7 @@ QStringList texts(const Bench &bench, size_t from, size_t to)
     return texts;
 }
 
-/// A report of three landscape pages, which says so itself.
+/// A report of three pages, which sets landscape format itself.
 const Report threePages{"Print Log", "Log", true, [] { return true; },
                         [](Printer &page) {
                             page.setLandscape(true);
@@ -41,7 +42,7 @@ const Report threePages{"Print Log", "Log", true, [] { return true; },
                             page.setLandscape(false);
                         }};
 
-/// What the report was printed as: its pages, documents between bars.
+/// What was printed: the pages of each document, with bars between documents.
 QString printed(ScriptedDoors &doors)
 {
     QStringList documents;

@@ -1,5 +1,5 @@
-// The files that the program writes for a keeper beside his database: PDFs and settings. A failure leaves what was
-// there.
+// The files that the program writes besides the database: PDFs and settings. If writing fails, an existing file does
+// not change.
 #include <csignal>
 #include <functional>
 
@@ -30,8 +30,8 @@
 #include "platform/desktop/Paper.h"
 #include "support/TestFiles.h"
 
-/// A keeper who looks at the dialog in front fifty times a second. After ten seconds he gives up and leaves every
-/// dialog, so that a fault fails the test and does not hang it.
+/// Calls `look` with the dialog in front fifty times a second. After ten seconds it closes every dialog instead, so
+/// that a fault fails the test and does not hang it.
 class Attendant
 {
 public:

@@ -142,7 +142,7 @@ TEST_F(EditorFieldsTest, AOnceDateIsStoredAsTypedWhereThatIsTheDateMonthFirstEls
     const DateConventions german{DateOrder::DDMMYY, "DD.MM.YY"}, iso{DateOrder::YYMMDD, "YY-MM-DD"};
     const std::tuple<DateConventions, DateBox, QString> rows[] = {
         {american, {"07/04/26", {}}, "07/04/26"},
-        {german, {"04.07.26", {}}, "04.07.26"}, // the 7th of April, to everybody
+        {german, {"04.07.26", {}}, "04.07.26"}, // the 7th of April in every order
         {german, {"20.03.26", {}}, "03/20/2026"},
         {iso, {"27-05-12", {}}, "05/12/2027"},
         {iso, {"05-12-27", {}}, "05-12-27"},

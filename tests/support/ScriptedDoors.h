@@ -37,7 +37,7 @@ public:
     std::deque<std::optional<PrintDialogAnswer>> printers;
     std::optional<PrintDialogAnswer> printedFromPreview; ///< what each preview is closed with
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
-    int secondsAReading = 0; ///< that the clock goes on when it is asked
+    int secondsAReading = 0; ///< how far the clock advances each time it is read
     bool helpIsThere = true;
     std::function<void(const MsgBoxRequest &)> whileBoxIsUp; ///< called while a box is on the screen
 

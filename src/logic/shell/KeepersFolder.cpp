@@ -68,8 +68,7 @@ QString KeepersFolder::choose(const QString &argument)
 
 bool KeepersFolder::lock(const QString &folder)
 {
-    // The lock is on the folder itself. The system takes it back when the process ends in whatever way, so none is left
-    // over.
+    // The lock is on the folder itself. The system releases it when the process ends, in whatever way.
     m_lock = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     return m_lock < 0 || ::flock(m_lock, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
