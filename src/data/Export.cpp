@@ -218,3 +218,18 @@ qint64 ExportLog(const Globals &g, LogTab log, const std::optional<QString> &tan
     csv.giveName(true);
     return rows;
 }
+
+void ExportSchedule(const std::vector<ScheduledTask> &tasks, const QString &fileName)
+{
+    CsvWriter csv(fileName);
+    csv.bare("date");
+    csv.bare("reminder");
+    csv.endRow();
+    for (const ScheduledTask &task : tasks) {
+        csv.bare(isoText(task.date).toStdString());
+        csv.text(task.task);
+        csv.endRow();
+    }
+    csv.end();
+    csv.giveName(true);
+}

@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include <QDate>
 #include <QString>
 
 #include "logic/logbook/LogKinds.h"
@@ -35,6 +36,16 @@ struct ExportResult
 /// its name before all are complete. Throws RuntimeFailure if the database cannot be read or a file cannot be written.
 ExportResult Export(const Globals &g, const ExportOptions &options);
 
+struct ScheduledTask
+{
+    QDate date;
+    QString task;
+};
+
 /// Writes one log, for the tank with that tankid or for all tanks, and returns the number of its rows. Replaces an
 /// existing file. Throws RuntimeFailure.
 qint64 ExportLog(const Globals &g, LogTab log, const std::optional<QString> &tankId, const QString &fileName);
+
+/// Writes a generated schedule with the columns "date" and "reminder". Replaces an existing file. Throws
+/// RuntimeFailure.
+void ExportSchedule(const std::vector<ScheduledTask> &tasks, const QString &fileName);

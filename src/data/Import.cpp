@@ -330,14 +330,6 @@ std::optional<std::vector<std::pair<QString, QString>>> ReadMap(const QString &t
     return name.trimmed().isEmpty() ? std::optional(map) : std::nullopt;
 }
 
-std::optional<QString> OptionFault(const ImportOptions &options)
-{
-    if (!CsvReader::canDelimit(options.delimiter))
-        return QStringLiteral(
-            "The delimiter must be one character that cannot be part of a value, such as \";\" or a tab.");
-    return std::nullopt;
-}
-
 QString FaultText(const ImportFault &fault)
 {
     QString value = fault.value.left(longestShownValue);

@@ -30,9 +30,6 @@ struct ImportOptions
 /// if a "=" is missing.
 std::optional<std::vector<std::pair<QString, QString>>> ReadMap(const QString &text);
 
-/// What is wrong with the options themselves; nothing if they are valid.
-std::optional<QString> OptionFault(const ImportOptions &options);
-
 struct ImportFault
 {
     qint64 line = 0; ///< from 1

@@ -80,7 +80,8 @@ Work offerExport(CLI::App &line)
     };
 }
 
-/// Checks the delimiter of a file and replaces its name by the character.
+/// Checks the delimiter of a file and replaces its name by the character. Used as a transformation: a check of CLI11
+/// changes nothing.
 const CLI::Validator delimiter(
     [](std::string &text) {
         if (text == "tab" || text == "\\t")
@@ -118,7 +119,7 @@ Work offerImport(CLI::App &line)
         ->transform(CLI::CheckedTransformer(dateOrders, CLI::ignore_case).description("DMY, MDY or YMD"));
     line.add_option("--delimiter", options->delimiter,
                     "What separates the values: one character, or tab; a comma if it is left out")
-        ->check(delimiter);
+        ->transform(delimiter);
     line.add_flag("--decimal-comma", options->import.decimalComma, "Numbers are written like 7,8");
     line.add_flag("--replace", options->import.replaces, "Change rows that already exist to those of the file");
     line.add_flag("--dry-run", options->import.isDryRun, "Check the file and store nothing");

@@ -231,13 +231,12 @@ TEST_F(ImportTest, EachFaultIsToldWithItsPlaceAndNothingIsStored)
         EXPECT_EQ(asked("SELECT count(*) FROM " + table), table == "TANKLST" ? "1" : "0");
 }
 
-TEST_F(ImportTest, TheOptionsThemselvesAreChecked)
+TEST(Delimiters, AreNoPartOfAValue)
 {
-    EXPECT_FALSE(OptionFault({}));
-    for (const char delimiter : {';', '\t', '|', ':'})
-        EXPECT_FALSE(OptionFault({.delimiter = delimiter})) << delimiter;
+    for (const char delimiter : {',', ';', '\t', '|', ':'})
+        EXPECT_TRUE(CsvReader::canDelimit(delimiter)) << delimiter;
     for (const char delimiter : {'"', '\n', '\r', '\0', 'a', '5', '.', '-', '\xff'})
-        EXPECT_TRUE(OptionFault({.delimiter = delimiter})) << delimiter;
+        EXPECT_FALSE(CsvReader::canDelimit(delimiter)) << delimiter;
 }
 
 TEST_F(ImportTest, ARowThatIsThereIsPassedOverAndOneThatDiffersIsAFault)

@@ -48,6 +48,8 @@ TEST_F(Spreadsheets, AFileIsCheckedImportedAndExported)
     EXPECT_EQ(asked("SELECT count(*) FROM WATERLOG"), "0");
     EXPECT_EQ(run(import()).out, "water test: 1 added, 0 replaced, 0 there already\n");
     EXPECT_EQ(asked("SELECT logdate || nitrate FROM WATERLOG"), "2026-11-240.5");
+    writeFile(path("tanks.txt"), "tank\tsize\nBowl\t5\n");
+    EXPECT_EQ(run({"import", path("tanks.txt"), "--delimiter", "tab"}).status, 0);
 
     Told told = run({"export", path("out")});
     EXPECT_EQ(told.status, 0);

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -136,11 +137,33 @@ TEST_F(WrittenFiles, APdfIsAskedForByTheNameThatItGets)
             files->reject();
         }
     });
-    EXPECT_EQ(doors.saveDialog(AskForPdf("Print Log", "Log")), std::nullopt);
+    EXPECT_EQ(doors.saveDialog(AskForPrintFile("Print Log", {"Print Log", false, "Log"})), std::nullopt);
     EXPECT_EQ(questions.size(), 1);
     EXPECT_TRUE(std::exchange(questions, {}).join(' ').contains("mine.pdf"));
     EXPECT_FALSE(doors.printDialog({"Print Log", false, "Log"})) << "no printer";
     EXPECT_TRUE(questions.join(' ').contains("mine.pdf"));
+}
+
+TEST_F(WrittenFiles, TheKindOfFileThatIsChosenGivesTheSuffix)
+{
+    DesktopDoors doors;
+    QStringList offered;
+    const Attendant keeper([&](QWidget *dialog) {
+        auto *files = qobject_cast<QFileDialog *>(dialog);
+        if (!files)
+            return;
+        const auto *box = files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        offered << box->text();
+        files->setDirectory(folder.path());
+        auto *kinds = files->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
+        QTest::keyClick(kinds, Qt::Key_Down);
+        emit kinds->textActivated(kinds->currentText());
+        offered << box->text();
+        QMetaObject::invokeMethod(files, "accept");
+    });
+    EXPECT_EQ(doors.saveDialog(AskForPrintFile("Print Log", {"Print Log", false, "The Log", true})),
+              folder.filePath("The Log.csv"));
+    EXPECT_EQ(offered, QStringList({"The Log.pdf", "The Log.csv"}));
 }
 
 TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
@@ -180,7 +203,7 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
     Doors::install(former);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->copies, 1);
-    EXPECT_EQ(answer->target.pdfFileName, name + ".pdf");
+    EXPECT_EQ(answer->target.fileName, name + ".pdf");
     EXPECT_TRUE(answer->target.keepsOrientation);
     const auto pages = doors.openPages(answer->target);
     EXPECT_LT(pages->width(), pages->height());

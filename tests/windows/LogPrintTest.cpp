@@ -1,4 +1,5 @@
 #include "Desk.h"
+#include "support/TestFiles.h"
 #include "windows/logbook/frm_OMKLogPrint.h"
 
 /// "Reef" and "Bowl" have an entry in each log.
@@ -58,7 +59,7 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
         EXPECT_EQ(printedTanks(), document + ":Reef|" + document + ":Reef");
         EXPECT_EQ(keeper.doors.printDialogs.back().title, "Print " + logs[tab]);
         EXPECT_EQ(keeper.doors.printDialogs.back().landscape, tab == 0);
-        EXPECT_EQ(keeper.doors.targets.back().pdfFileName, QString());
+        EXPECT_EQ(keeper.doors.targets.back().fileName, QString());
 
         print(&frm_OMKLogPrint::opt_Window, true);
         EXPECT_EQ(printedTanks(), document + ":Bowl,Reef");
@@ -67,7 +68,17 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
         keeper.doors.files = {"/tmp/log.pdf"};
         print(&frm_OMKLogPrint::opt_File);
         EXPECT_EQ(printedTanks(), document + ":Reef");
-        EXPECT_EQ(keeper.doors.targets.back().pdfFileName, "/tmp/log.pdf");
+        EXPECT_EQ(keeper.doors.targets.back().fileName, "/tmp/log.pdf");
+
+        const QString sheet = keeper.folder.filePath("Log.CSV");
+        keeper.doors.files = {sheet};
+        print(&frm_OMKLogPrint::opt_File, tab == 1);
+        EXPECT_EQ(keeper.doors.saveDialogs.back().filter, "PDF (*.pdf);;Spreadsheet (*.csv)");
+        EXPECT_EQ(printedTanks(), "") << "a spreadsheet has no pages";
+        const QByteArray csv = contentOf(keeper.folder.path())["Log.CSV"];
+        EXPECT_EQ(csv.count("\r\n"), tab == 1 ? 3 : 2) << csv.toStdString();
+        EXPECT_TRUE(csv.startsWith("\"tank\"") || csv.startsWith("tank,")) << csv.toStdString();
+        EXPECT_TRUE(csv.contains("\"Reef\",2026-04-05,09:30:00")) << csv.toStdString();
     }
     EXPECT_EQ(keeper.told(), "0");
 }

@@ -1,6 +1,7 @@
 // Reminders through their windows: added, listed, scheduled, printed, changed and deleted by hand, with what the tool
 // bar shows meanwhile. Today is Saturday, 14 March 2026.
 #include "Desk.h"
+#include "support/TestFiles.h"
 #include "windows/common/frm_Caltool.h"
 #include "windows/reminders/frm_Maintsched.h"
 #include "windows/reminders/frm_SchedNewAddEdit.h"
@@ -284,9 +285,15 @@ TEST_F(Reminders, OnPaperAreNinetyNineOnTheFirstPageAndThenFifty)
     hand::press(Qt::Key_S, Qt::ControlModifier);
     auto &schedule = Form<frm_Schedule>();
     mouse::click(schedule.cmd_Generate);
-    keeper.doors.printers = {PrintDialogAnswer{2}, std::nullopt};
+    const QString sheet = keeper.folder.filePath("dates.csv");
+    keeper.doors.printers = {PrintDialogAnswer{2}, std::nullopt, PrintDialogAnswer{1, 0, 0, {{}, sheet}}};
     hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
     mouse::click(schedule.cmd_Print); // cancelled
+    mouse::click(schedule.cmd_Print); // without a printer, in a file
+    EXPECT_TRUE(keeper.doors.printDialogs.back().offersSpreadsheet);
+    const QByteArray csv = contentOf(keeper.folder.path())["dates.csv"];
+    EXPECT_TRUE(csv.startsWith("date,reminder\r\n2026-03-14,\"Feed\"\r\n2026-03-15,")) << csv.toStdString();
+    EXPECT_EQ(csv.count("\r\n"), 1 + 150);
     EXPECT_EQ(keeper.doors.printDialogs.at(0).title, "Print Maintenance Schedule");
     ASSERT_EQ(keeper.doors.documents.size(), 2u);
     for (const PrintedDocument &document : keeper.doors.documents) {

@@ -61,7 +61,7 @@ public:
     std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override
     {
         PrintDialogAnswer answer;
-        answer.target.pdfFileName = m_album.path(request.documentName + u".pdf");
+        answer.target.fileName = m_album.path(request.documentName + u".pdf");
         return answer;
     }
     MsgBoxAnswer msgBox(const MsgBoxRequest &request) override

@@ -222,6 +222,8 @@ QString OccurrenceText(const OccurrenceRun &run, const QDate &date, const QStrin
 
 QString OccurrenceKey(const QDate &date) { return Format(date, QStringLiteral("yyyymmdd")); }
 
+QDate DateOfOccurrenceKey(const QString &key) { return QDate::fromString(key, QStringLiteral("yyyyMMdd")); }
+
 bool UpcomingReminders::Entry::operator<(const Entry &other) const
 {
     return date != other.date ? date < other.date : task.compare(other.task, Qt::CaseInsensitive) < 0;

@@ -17,9 +17,11 @@ Doors &Doors::current()
 
 Doors *Doors::install(Doors *doors) { return std::exchange(installed, doors); }
 
-SaveDialogRequest AskForPdf(const QString &title, const QString &documentName)
+SaveDialogRequest AskForPrintFile(const QString &title, const PrintDialogRequest &request)
 {
-    return {title, documentName + u".pdf", QStringLiteral("PDF files (*.pdf)"), QStringLiteral("pdf"), true};
+    const QString pdf = QStringLiteral("PDF (*.pdf)"), spreadsheet = QStringLiteral(";;Spreadsheet (*.csv)");
+    return {title, request.documentName + u".pdf", request.offersSpreadsheet ? pdf + spreadsheet : pdf,
+            QStringLiteral("pdf"), true};
 }
 
 MsgBoxAnswer MsgBox(const QString &text, int flags, const QString &title, const QString &details)

@@ -52,21 +52,22 @@ struct SaveDialogRequest
     bool askOverwrite = true;
 };
 
-/// The request for a dialog that asks for the name of a PDF.
-SaveDialogRequest AskForPdf(const QString &title, const QString &documentName);
-
 struct PrintDialogRequest
 {
     QString title;
     bool landscape = false;
-    QString documentName; ///< offered as the name of a PDF if there is no printer
+    QString documentName;           ///< offered as the name of a file if there is no printer
+    bool offersSpreadsheet = false; ///< besides a PDF, if a file is asked for
 };
+
+/// The request for a dialog that asks in which file a printout is to be saved.
+SaveDialogRequest AskForPrintFile(const QString &title, const PrintDialogRequest &request);
 
 /// Where printed pages go: to a PDF if there is a file name, otherwise to a printer.
 struct PageTarget
 {
     std::shared_ptr<QPrinter> printer; ///< as the dialog has set it up; null means the default printer
-    QString pdfFileName;               ///< the PDF has the paper and orientation of `printer`, if there is one
+    QString fileName;                  ///< the file has the paper and orientation of `printer`, if there is one
     bool keepsOrientation = false;     ///< keeps the orientation of the preview, whatever the report itself sets
 };
 

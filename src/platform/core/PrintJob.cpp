@@ -76,13 +76,26 @@ private:
 
 PrintDialogRequest requestFor(const Report &report)
 {
-    return {report.dialogTitle, report.landscape, report.documentName};
+    return {report.dialogTitle, report.landscape, report.documentName, bool(report.saveSpreadsheet)};
 }
 
 std::optional<PrintDialogAnswer> askFile(const Report &report)
 {
-    const auto name = Doors::current().saveDialog(AskForPdf(report.dialogTitle, report.documentName));
+    const auto name = Doors::current().saveDialog(AskForPrintFile(report.dialogTitle, requestFor(report)));
     return name ? std::optional(PrintDialogAnswer{1, 0, 0, {{}, *name}}) : std::nullopt;
+}
+
+bool isSpreadsheet(const Report &report, const QString &fileName)
+{
+    return report.saveSpreadsheet && fileName.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive);
+}
+
+PrintOutcome saveSpreadsheet(const Report &report, const QString &fileName)
+{
+    if (!report.open())
+        return PrintOutcome::Empty;
+    report.saveSpreadsheet(fileName);
+    return PrintOutcome::Printed;
 }
 
 PrintOutcome printCopies(const Report &report, const PrintDialogAnswer &choice)
@@ -106,6 +119,12 @@ PrintOutcome printCopies(const Report &report, const PrintDialogAnswer &choice)
     return PrintOutcome::Printed;
 }
 
+PrintOutcome carryOut(const Report &report, const PrintDialogAnswer &choice)
+{
+    const QString &fileName = choice.target.fileName;
+    return isSpreadsheet(report, fileName) ? saveSpreadsheet(report, fileName) : printCopies(report, choice);
+}
+
 PrintOutcome showOnScreen(const Report &report)
 {
     if (!report.open())
@@ -117,7 +136,7 @@ PrintOutcome showOnScreen(const Report &report)
                                                       Printer page(turned, report.documentName);
                                                       report.print(page);
                                                   }});
-    return choice ? printCopies(report, *choice) : PrintOutcome::Printed;
+    return choice ? carryOut(report, *choice) : PrintOutcome::Printed;
 }
 
 } // namespace
@@ -128,5 +147,5 @@ PrintOutcome RunReport(const Report &report, PrintTarget target)
         return showOnScreen(report);
     const auto choice =
         target == PrintTarget::File ? askFile(report) : Doors::current().printDialog(requestFor(report));
-    return choice ? printCopies(report, *choice) : PrintOutcome::Cancelled;
+    return choice ? carryOut(report, *choice) : PrintOutcome::Cancelled;
 }

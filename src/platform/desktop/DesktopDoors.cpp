@@ -11,6 +11,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 
 #include "platform/controls/Guarded.h"
 #include "platform/core/Files.h"
@@ -81,6 +82,19 @@ constexpr BoxButton boxButtons[] = {
     {omkSkipDelete, QMessageBox::NoButton, "&Delete", QMessageBox::DestructiveRole, MsgBoxAnswer::Delete, false},
 };
 
+/// Gives the file in the dialog the suffix of a filter such as "Spreadsheet (*.csv)". "All files (*)" has none.
+void useSuffixOf(QFileDialog &dialog, const QString &filter)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\(\\*\\.(\\w+)\\)"));
+    const QString suffix = pattern.match(filter).captured(1);
+    if (suffix.isEmpty())
+        return;
+    const QStringList files = dialog.selectedFiles();
+    dialog.setDefaultSuffix(suffix);
+    if (!files.isEmpty())
+        dialog.selectFile(QFileInfo(files.constFirst()).completeBaseName() + u'.' + suffix);
+}
+
 } // namespace
 
 DesktopDoors::DesktopDoors() : m_settings(std::make_unique<SettingsStore>(SettingsStore::userFileName())) {}
@@ -143,6 +157,9 @@ std::optional<QString> DesktopDoors::saveDialog(const SaveDialogRequest &request
     dialog.setDefaultSuffix(request.defaultSuffix);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askOverwrite);
     dialog.selectFile(request.fileName);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, guarded([&dialog](const QString &filter) {
+        useSuffixOf(dialog, filter);
+    }));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     return dialog.selectedFiles().constFirst();
@@ -160,15 +177,15 @@ std::optional<PrintDialogAnswer> DesktopDoors::askWhere(const PrintDialogRequest
         const ActivityKeeper keeper;
         return AskPrinter(keeper.window(), request, printer);
     }
-    const auto name = saveDialog(AskForPdf(QStringLiteral("No printer is set up: save as PDF"), request.documentName));
+    const auto name = saveDialog(AskForPrintFile(QStringLiteral("No printer is set up: save in a file"), request));
     return name ? std::optional(PrintDialogAnswer{1, 0, 0, {{}, *name}}) : std::nullopt;
 }
 
 std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
 {
-    if (target.pdfFileName.isEmpty())
+    if (target.fileName.isEmpty())
         return PagesOnPrinter(target.printer);
-    return PagesInPdf(target.pdfFileName, target.printer ? std::optional(target.printer->pageLayout()) : std::nullopt);
+    return PagesInPdf(target.fileName, target.printer ? std::optional(target.printer->pageLayout()) : std::nullopt);
 }
 
 std::optional<PrintDialogAnswer> DesktopDoors::preview(const PreviewRequest &request)

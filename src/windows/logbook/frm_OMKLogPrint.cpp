@@ -1,5 +1,6 @@
 #include "windows/logbook/frm_OMKLogPrint.h"
 
+#include "data/Export.h"
 #include "logic/logbook/LogReports.h"
 #include "platform/controls/Guarded.h"
 #include "platform/core/Doors.h"
@@ -27,7 +28,8 @@ void frm_OMKLogPrint::printLog(LogTab log)
     const PrintTarget target = opt_Window->isChecked() ? PrintTarget::Window
                                : opt_File->isChecked() ? PrintTarget::File
                                                        : PrintTarget::Printer;
-    const Report report = MakeLogReport(log, *g.gDatabase, g.options.DatePicture, tank);
+    Report report = MakeLogReport(log, *g.gDatabase, g.options.DatePicture, tank);
+    report.saveSpreadsheet = [&](const QString &fileName) { ExportLog(g, log, tank, fileName); };
     if (RunReport(report, target) == PrintOutcome::Empty)
         MsgBox(EmptyLogText(log), vbInformation, QStringLiteral("Note!"));
 }

@@ -2,6 +2,7 @@
 
 #include <QScopeGuard>
 
+#include "data/Export.h"
 #include "logic/reminders/ReminderRun.h"
 #include "logic/reminders/ScheduleReport.h"
 #include "platform/controls/FocusAtFault.h"
@@ -150,10 +151,19 @@ void frm_Schedule::generate(const std::vector<RecurrenceRule> &rules, const std:
         MsgBox(QStringLiteral("No reminder has a date within this range."));
 }
 
+std::vector<ScheduledTask> frm_Schedule::listedTasks() const
+{
+    std::vector<ScheduledTask> tasks;
+    for (int item = 1; item <= lstv_Reminders->Count(); ++item)
+        tasks.push_back({DateOfOccurrenceKey(lstv_Reminders->Text(item, 2)), lstv_Reminders->Text(item, 1)});
+    return tasks;
+}
+
 void frm_Schedule::Print_Schedule()
 {
     const Forms::Pin whileItPrints(*this);
-    RunReport(MakeScheduleReport(lstv_Reminders->Count(),
-                                 [this](int item, int subItem) { return lstv_Reminders->Text(item, subItem); }),
-              PrintTarget::Printer);
+    Report report = MakeScheduleReport(
+        lstv_Reminders->Count(), [this](int item, int subItem) { return lstv_Reminders->Text(item, subItem); });
+    report.saveSpreadsheet = [this](const QString &fileName) { ExportSchedule(listedTasks(), fileName); };
+    RunReport(report, PrintTarget::Printer);
 }

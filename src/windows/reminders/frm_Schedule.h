@@ -13,6 +13,7 @@
 class OccurrenceRows;
 struct DateRange;
 struct RecurrenceRule;
+struct ScheduledTask;
 
 class frm_Schedule : public ChildForm, public Ui::frm_Schedule
 {
@@ -36,6 +37,7 @@ private:
     std::optional<QDate> dateIn(const MaskedBox &box) const;
     /// The range in the two boxes. If it is not valid, shows a message and returns nothing.
     std::optional<DateRange> askedRange();
+    std::vector<ScheduledTask> listedTasks() const;
     void generate(const std::vector<RecurrenceRule> &rules, const std::optional<DateRange> &range);
 
     DateConventions m_dates; ///< of the two boxes
