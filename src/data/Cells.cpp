@@ -87,13 +87,13 @@ Read wordRead(const DataColumn &column, const QString &text)
     return stored;
 }
 
-bool isText(CellKind kind)
+} // namespace
+
+bool IsText(CellKind kind)
 {
     return kind == CellKind::TankName || kind == CellKind::Tank || kind == CellKind::Line || kind == CellKind::Notes ||
            kind == CellKind::Detail;
 }
-
-} // namespace
 
 std::variant<QString, Refusal> DecodedText(const CsvCell &cell)
 {
@@ -115,7 +115,7 @@ std::optional<QDate> ReadFileDate(const QString &text, const ImportOptions &opti
 Read ReadCell(const DataColumn &column, const CsvCell &cell, const QString &text, const CellContext &context)
 {
     const QString trimmed = text.trimmed();
-    if (cell.isNull || (trimmed.isEmpty() && !isText(column.kind)) || (text.isEmpty() && !column.ifEmpty.isEmpty()))
+    if (cell.isNull || (trimmed.isEmpty() && !IsText(column.kind)) || (text.isEmpty() && !column.ifEmpty.isEmpty()))
         return column.ifEmpty.isEmpty() ? Read(Value()) : refuse(column.ifEmpty);
     switch (column.kind) {
     case CellKind::Tank: return tankRead(text, context.tankIds);

@@ -21,6 +21,9 @@ struct Refusal
 /// The text of a value; refused if the bytes are not UTF-8.
 std::variant<QString, Refusal> DecodedText(const CsvCell &cell);
 
+/// Whether the column holds texts, of which an empty one is not the same as nothing.
+bool IsText(CellKind kind);
+
 /// A date as a file may contain it: ISO, or in the order that the options say.
 std::optional<QDate> ReadFileDate(const QString &text, const ImportOptions &options);
 

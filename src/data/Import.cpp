@@ -28,6 +28,14 @@ QHash<QString, QString> tanksByName(Database &database)
     return ids;
 }
 
+/// A text as a keeper sees it: nothing is an empty text, and all line ends look the same.
+QString shownText(const Value &value)
+{
+    QString text = value.isNull() ? QString() : value.text();
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    return text;
+}
+
 QString joined(const QStringList &names, const QString &with = QStringLiteral(", ")) { return names.join(with); }
 
 /// Stores the rows of one file in one table.
@@ -212,13 +220,16 @@ void RowImport::store()
         meetExisting();
 }
 
-/// Two details of a reminder are equal if they mean the same, because a date may be stored with two or four digits of
-/// its year.
+/// Whether a keeper sees the same value. A spreadsheet that has saved the file again leaves out the quotation marks of
+/// empty texts and has its own line ends. Two details of a reminder are equal if they mean the same: a date may be
+/// stored with two or four digits of its year.
 bool RowImport::isEqual(std::size_t place, const Value &stored) const
 {
-    if (m_values[place] == stored)
+    const Value &given = m_values[place];
+    const CellKind kind = m_table.columns[place].kind;
+    if (given == stored || (IsText(kind) && shownText(given) == shownText(stored)))
         return true;
-    if (m_table.columns[place].kind != CellKind::Detail)
+    if (kind != CellKind::Detail)
         return false;
     const RecurrenceRule ours = ruleOf(m_values);
     RecurrenceRule theirs = ours;

@@ -261,6 +261,14 @@ TEST_F(ImportTest, ARowThatIsThereIsPassedOverAndOneThatDiffersIsAFault)
         << "columns that the file lacks stay";
 }
 
+TEST_F(ImportTest, AFileThatASpreadsheetSavedAgainIsTheSame)
+{
+    const QByteArray head = "tank,date,time,comment\n", key = "Reef,2026-01-02,10:00:0";
+    import(head + key + "0,\"\"\n" + key + "1,\"one\r\ntwo\"\n" + key + "2,\n");
+    EXPECT_EQ(counts(import(head + key + "0,\n" + key + "1,\"one\ntwo\"\n" + key + "2,\"\"\n")), "0 0 3 0");
+    EXPECT_EQ(counts(import(head + key + "1,\"one two\"\n")), "0 0 0 1");
+}
+
 TEST_F(ImportTest, LinesOfOneFileMustNotContradictEachOther)
 {
     const QByteArray head = "tank,animal,date,time,quantity\n", one = "Reef,Goby,2026-01-02,10:00:00,";

@@ -28,7 +28,7 @@ TEST_F(Restore, TheListNamesEveryCopyWithWhatItHolds)
     EXPECT_TRUE(told.out.contains(QLocale::c().toString(size) + " bytes  copies/OM-2026-03-10.MDB  1 tank, 0 entries, "
                                                                 "0 reminders\n"))
         << told.out.toStdString();
-    EXPECT_TRUE(told.out.contains("OM-broken.MDB  (no database")) << told.out.toStdString();
+    EXPECT_TRUE(told.out.contains("OM-broken.MDB  (not a database")) << told.out.toStdString();
     EXPECT_TRUE(told.out.contains(QFileInfo(path(copyName)).lastModified().toString("yyyy-MM-dd hh:mm")));
 }
 

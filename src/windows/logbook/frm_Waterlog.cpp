@@ -23,7 +23,7 @@ struct ButtonRow
 {
     const char *key;
     const char *toolTip;
-    Command command; ///< null if there is none yet
+    Command command;
     bool groupBefore;
 };
 
@@ -84,11 +84,8 @@ void frm_Waterlog::makeToolbar()
     for (const ButtonRow &row : buttonRows) {
         if (row.groupBefore)
             Toolbar1->addSeparator();
-        std::function<void()> action;
-        if (row.command)
-            action = [this, command = row.command] { (this->*command)(); };
-        auto *button =
-            AddToolButton(*Toolbar1, QLatin1String(row.key), QLatin1String(row.toolTip), row.key, std::move(action));
+        auto *button = AddToolButton(*Toolbar1, QLatin1String(row.key), QLatin1String(row.toolTip), row.key,
+                                     [this, command = row.command] { (this->*command)(); });
         m_buttons.emplace(QLatin1String(row.key), button);
     }
 }

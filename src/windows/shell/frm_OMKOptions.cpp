@@ -4,7 +4,6 @@
 
 #include "logic/shell/Options.h"
 #include "platform/controls/Caption.h"
-#include "platform/controls/FocusAtFault.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/ShownTexts.h"
 #include "platform/core/Doors.h"
@@ -181,20 +180,16 @@ void frm_OMKOptions::cmdCancel_Click()
 
 bool frm_OMKOptions::CheckUserFieldNames()
 {
-    const auto refuse = [](QLineEdit *box, const char *message) {
-        Beep();
-        MsgBox(QLatin1String(message), vbExclamation, QStringLiteral("Oops!"));
-        FocusAtFault(*box);
-        return false;
-    };
     for (QLineEdit *box : {txt_username1, txt_username2})
         if (isBlank(box->text()))
-            return refuse(box,
-                          "User defined field names cannot be blank. Please enter a name of at least one character.");
+            return refuse(
+                QStringLiteral("User defined field names cannot be blank. Please enter a name of at least one "
+                               "character."),
+                box);
     if (txt_username1->text() == txt_username2->text())
-        return refuse(txt_username2,
-                      "Both User defined field names cannot be the same. Please make them different by at "
-                      "least one character.");
+        return refuse(QStringLiteral("Both User defined field names cannot be the same. Please make them different by "
+                                     "at least one character."),
+                      txt_username2);
     return true;
 }
 
