@@ -1,4 +1,5 @@
-// Reads the header of a CSV file: finds the table whose columns it names. Used by the import.
+// Reads the header of a CSV file: finds the table whose columns it names, by the user's map of names if there is one.
+// Used by the import.
 #pragma once
 
 #include <functional>

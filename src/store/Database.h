@@ -43,16 +43,16 @@ public:
     /// How many milliseconds databases opened from now on wait for another program's lock. The default is 5000.
     static void setBusyTimeout(int milliseconds);
 
-    /// Runs a SELECT with its values bound to its "?", in order. The recordset is for reading and stands on its first
-    /// row. For the order that a person sees there is the collation CASEBLIND: "ORDER BY tankname COLLATE CASEBLIND".
-    /// Throws SyntaxError where the statement is wrong.
+    /// Runs a SELECT with its values bound to its "?", in order. The recordset is for reading, and its first row is the
+    /// current one. A list that a person sees needs "ORDER BY tankname COLLATE CASEBLIND". Throws SyntaxError if the
+    /// statement is wrong.
     Recordset OpenRecordset(const QString &sql, const Parameters &parameters = {});
     /// Rows of a table that can be changed and deleted, and to which rows can be added. `which` follows the name of the
     /// table: "WHERE ... ORDER BY ...". Throws as OpenRecordset and Fields do.
     Recordset OpenForUpdate(const QString &table, const QString &which = {}, const Parameters &parameters = {});
     /// Runs a SELECT whose rows are read one at a time and not kept.
     RowStream OpenForwardOnly(const QString &sql, const Parameters &parameters = {});
-    /// A recordset of a table that serves only AddNew; it reads no rows.
+    /// A recordset of a table, for AddNew only; it reads no rows.
     Recordset OpenForAppend(const QString &table);
     /// Runs a statement that changes rows and returns how many it changed.
     int Execute(const QString &sql, const Parameters &parameters = {});

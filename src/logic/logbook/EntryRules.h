@@ -1,7 +1,7 @@
-// What the entry windows of tanks and logs accept, and what they say to everything else. The windows ask these
-// functions for each box, and the import asks them for each value of a file, so that both accept the same. Lengths are
-// in UTF-16 units, as in a box. The limits are settled as they are: exactly 50 characters and 32,000 animals pass, even
-// where a message says "less than".
+// What the entry windows of tanks and logs accept, and the messages for everything else. The windows call these
+// functions for each box, and the import for each value of a file, so that both accept the same. Lengths are in UTF-16
+// units, as in a box. Keepers know the limits: exactly 50 characters and 32,000 animals are accepted, although the
+// messages say "less than".
 #pragma once
 
 #include <optional>
@@ -14,7 +14,7 @@
 
 class Database;
 
-/// What is said of a value that is refused; nothing if it is accepted.
+/// The message for a value that is refused; nothing if the value is accepted.
 using Complaint = std::optional<QString>;
 
 struct TextLimit
@@ -55,24 +55,26 @@ inline constexpr char noAnimal[] =
     "You must enter an animal name or pick one from the list to add a livestock entry to the log.";
 inline constexpr char noTask[] = "You must enter a task for your entry";
 
-// What a new entry starts with.
+// The initial values of a new entry.
 inline constexpr int startTankSize = 55; ///< gallons
 inline constexpr int startAnimals = 1;
 inline constexpr int startQuantity = 0;
 inline const QString startNote = QStringLiteral(" ");
 
 Complaint TooLong(const TextLimit &limit, const QString &text);
-/// Goes by the number at the start of the text.
+/// Compares the number at the start of the text with the limit.
 Complaint TooMuch(const NumberLimit &limit, const QString &text);
 Complaint NoNumber(const NumberLimit &limit, const QString &text);
 
-/// A tank's name that is empty or contains a quotation mark.
+/// The message for a tank's name that is empty or contains a quotation mark.
 Complaint BadTankName(const QString &text);
-/// A measurement that is no number or too large: up to two sentences. `names` are those of the user's own measurements.
+/// The messages, up to two, for a measurement that is not a number or too large. `names` are those of the user's own
+/// measurements.
 QStringList MeasurementComplaints(const MeasurementRow &measurement, const UserFieldNames &names, const QString &text);
-/// A price that is no number or too large to be stored to the hundredth. `name` is the caption of its box.
+/// The message for a price that is not a number, or too large to be stored exactly to the hundredth. `name` is the
+/// caption of its box.
 Complaint BadPrice(const QString &name, const QString &text);
 
-/// The identity of a new tank: a moment as text, which no other tank has. Starts at `moment` and leaves there the one
-/// that it took.
+/// The tankid of a new tank: a date and time as text that no other tank has. The search starts at `moment`, which is
+/// then set to the one that was found.
 QString NewTankId(Database &database, QDateTime &moment);

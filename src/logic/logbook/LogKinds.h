@@ -1,5 +1,5 @@
 // The table of the three logs. Their common code is written once, in the logbook, its commands and the printed reports;
-// what differs between them stands here side by side.
+// this table shows their differences side by side.
 #pragma once
 
 #include <array>

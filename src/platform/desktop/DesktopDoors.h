@@ -1,4 +1,5 @@
-// The doors of a real desktop: message boxes, dialogs, the system's clock and the user's settings file.
+// The doors of a real desktop: message boxes, dialogs, the system's clock and the user's settings file. main() installs
+// them before any window is made.
 #pragma once
 
 #include <memory>

@@ -1,4 +1,4 @@
-// Printers: the system's dialog, pages on one, and the preview.
+// Printing on paper, for DesktopDoors: the system's print dialog, the pages of a printer, and the preview.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,4 @@
-// The rows that the logbook's lists show.
+// The rows that the logbook's lists show. The logbook makes one for each of its lists whenever it reads a tank's log.
 #pragma once
 
 #include <memory>

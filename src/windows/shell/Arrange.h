@@ -1,4 +1,5 @@
-// Arrangements of the child windows that the MDI area lacks or does differently.
+// Arrangements of the child windows that the MDI area lacks or does differently. The Window menu of the main window
+// uses them.
 #pragma once
 
 #include <Qt>

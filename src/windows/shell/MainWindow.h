@@ -1,4 +1,5 @@
-// The part of the main window that other windows use.
+// The part of the main window that other windows use. They get it in their FormContext, and frm_OMKMDIMain implements
+// it.
 #pragma once
 
 #include <QString>
