@@ -54,7 +54,7 @@ Read numberRead(const DataColumn &column, QString text, const ImportOptions &opt
     return Value(int(*number));
 }
 
-/// The boxes of the entry windows show two digits of a year, so that an entry's must be one of a hundred years.
+/// The boxes of the entry windows show only two digits of a year, so the year of an entry must be one of a hundred.
 Read dateRead(const DataColumn &column, const QString &text, const CellContext &context)
 {
     const auto date = ReadFileDate(text, context.options);

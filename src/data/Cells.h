@@ -21,7 +21,7 @@ struct Refusal
 /// The text of a value; refused if the bytes are not UTF-8.
 std::variant<QString, Refusal> DecodedText(const CsvCell &cell);
 
-/// Whether the column holds texts, of which an empty one is not the same as nothing.
+/// Whether the column holds texts, for which an empty value differs from a missing one.
 bool IsText(CellKind kind);
 
 /// A date as a file may contain it: ISO, or in the order that the options say.

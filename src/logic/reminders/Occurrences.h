@@ -53,7 +53,7 @@ std::optional<WalkFault> Walk(const RecurrenceRule &rule, const OccurrenceRun &r
 QString OccurrenceText(const OccurrenceRun &run, const QDate &date, const QString &datePicture);
 /// "yyyymmdd", so that the order by text is the order by date.
 QString OccurrenceKey(const QDate &date);
-QDate DateOfOccurrenceKey(const QString &key); ///< no date if it is none
+QDate DateOfOccurrenceKey(const QString &key); ///< invalid if the text is not such a key
 
 /// The soonest dates of all reminders, as the toolbar shows them. Reminders of the same day are sorted by their tasks,
 /// without regard to case.
