@@ -36,7 +36,7 @@ int main(int argc, char **argv)
             return 1;
         Form<frm_OMKMDIMain>().MDIForm_Load();
     } catch (const RuntimeFailure &failure) {
-        endWithFailure(failure);
+        endWithFailure(WithAdviceForTheStart(failure));
     }
     return isEnding() ? 1 : Application::exec();
 }

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include "platform/core/RuntimeFailure.h"
+
 class KeepersFolder
 {
 public:
@@ -30,3 +32,6 @@ public:
 private:
     int m_lock = -1; ///< file descriptor of the folder
 };
+
+/// The failure of a start, with what a keeper can do about it: put a backup into the folder, or use another folder.
+RuntimeFailure WithAdviceForTheStart(const RuntimeFailure &failure);

@@ -19,7 +19,6 @@
 #include "logic/shell/Options.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/HourGlass.h"
-#include "platform/controls/Icons.h"
 #include "platform/controls/ListKeys.h"
 #include "platform/controls/Progress.h"
 #include "platform/core/Doors.h"
@@ -83,7 +82,6 @@ void saveAtStart(const QString &key, const QString &value)
 frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiArea)
 {
     setWindowTitle(QStringLiteral(" Ostrelmark 98"));
-    setWindowIcon(Icon("ostrelmark"));
     setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu could hide the reminders
     makeMenus(*this, *menuBar());
     makeToolbar();
