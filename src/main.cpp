@@ -34,6 +34,7 @@ int main(int argc, char **argv)
     try {
         if (!folder.open(KeepersFolder::choose(line.folder), DataFolder()) || !OpenOldFile(QStringLiteral("OM.MDB")))
             return 1;
+        folder.onSecondStart([] { Form<frm_OMKMDIMain>().ComeToFront(); });
         Form<frm_OMKMDIMain>().MDIForm_Load();
     } catch (const RuntimeFailure &failure) {
         endWithFailure(WithAdviceForTheStart(failure));

@@ -55,8 +55,11 @@ TEST(Start, TheSecondOnAFolderSaysSoAndMakesNothing)
     {
         KeepersFolder first;
         ASSERT_TRUE(place.open(first));
+        int asked = 0;
+        first.onSecondStart([&asked] { ++asked; });
         QFile::remove("OM.MDB");
         EXPECT_FALSE(place.open(second));
+        EXPECT_TRUE(QTest::qWaitFor([&asked] { return asked == 1; })) << "to come to the front";
         EXPECT_TRUE(place.doors.told().contains(place.path("keeper/logbook")));
         EXPECT_FALSE(QFile::exists("OM.MDB"));
         EXPECT_TRUE(place.open(elsewhere, "other"));

@@ -76,6 +76,7 @@ void copyNameFiles(const QDir &from, const QDir &folder)
 
 KeepersFolder::~KeepersFolder()
 {
+    m_secondStart.reset(); // while the folder is still locked: its socket has the name that the next program uses
     if (m_lock >= 0)
         ::close(m_lock);
 }
@@ -105,6 +106,7 @@ bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
     if (error)
         throwErrno(error.value(), QStringLiteral("The folder for your data could not be made:\n") + place.path());
     if (!lock(place.path())) {
+        SecondStart::ask(m_lock); // before the message, so that it comes up in front of the other window
         MsgBox(QStringLiteral("Another Ostrelmark has the logbook in this folder open:\n%1\n\nGo on in its window. If "
                               "you find none, log out and in again, which ends it. A second logbook can be open "
                               "beside it from a folder of its own: ostrelmark FOLDER")
@@ -117,6 +119,11 @@ bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
     if (!QDir::setCurrent(place.path()))
         throwErrno(errno, QStringLiteral("The folder of your data cannot be entered:\n") + place.path());
     return true;
+}
+
+void KeepersFolder::onSecondStart(std::function<void()> asked)
+{
+    m_secondStart = std::make_unique<SecondStart>(m_lock, std::move(asked));
 }
 
 RuntimeFailure WithAdviceForTheStart(const RuntimeFailure &failure)

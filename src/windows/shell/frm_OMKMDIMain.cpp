@@ -323,6 +323,18 @@ void frm_OMKMDIMain::MDIForm_Activate()
         m_activeChild->Form_Activate();
 }
 
+void frm_OMKMDIMain::ComeToFront()
+{
+    if (!isVisible())
+        return; // the start has not come that far, and will show it
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    QWidget *dialog = QApplication::activeModalWidget();
+    for (QWidget *window : {static_cast<QWidget *>(this), dialog})
+        if (window)
+            window->raise();
+    (dialog ? dialog : this)->activateWindow();
+}
+
 void frm_OMKMDIMain::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);

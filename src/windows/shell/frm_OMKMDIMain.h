@@ -35,6 +35,9 @@ public:
     /// Tells the active child that it is in front again after a dialog or another program. Does nothing while a message
     /// box or a dialog is open.
     void MDIForm_Activate();
+    /// Brings the program to the front where the desktop lets it: the window, and the box or dialog that is open over
+    /// it.
+    void ComeToFront();
     /// Closes the children, which store their settings, and unloads the Options window.
     void MDIForm_Unload();
 
