@@ -17,6 +17,7 @@
 
 #include "logic/reminders/ReminderRun.h"
 #include "logic/shell/Options.h"
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/HourGlass.h"
 #include "platform/controls/ListKeys.h"
@@ -63,6 +64,11 @@ const QString noTankText = QStringLiteral("You have no tanks set up in Ostrelmar
                                           "the \"Setup / Manage Tanks\" button on the "
                                           "main menu.");
 
+// What to do where no child is open.
+const QString setUpFirst =
+    QStringLiteral("Set up your first tank: choose Tank Setup in the Tools menu, or press Ctrl+T.");
+const QString openLogbook = QStringLiteral("Open the logbook: choose Logbook in the Tools menu, or press Ctrl+L.");
+
 /// If the settings cannot be written, a message says so and the start goes on: a setting must not keep keepers from
 /// their data.
 void saveAtStart(const QString &key, const QString &value)
@@ -92,6 +98,9 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiAr
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     const bool dark = palette().window().color().lightness() < 128;
     m_area->setBackground(dark ? QColor(0x22, 0x2b, 0x30) : QColor(0xc9, 0xdb, 0xe1)); // the colour of calm water
+    m_nothingOpen = new EmptyText(*m_area, *m_area->viewport(), [canvas = m_area->viewport()] {
+        return !canvas->findChild<QMdiSubWindow *>(QString(), Qt::FindDirectChildrenOnly);
+    });
     setCentralWidget(m_area);
     connect(m_area, &QMdiArea::subWindowActivated, this,
             guarded([this](QMdiSubWindow *window) { subWindowActivated(window); }));
@@ -250,6 +259,7 @@ void frm_OMKMDIMain::EnableTankButtons()
 {
     const bool none = g.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM TANKLST LIMIT 1")).isEmpty();
     g.gNoTanks = none ? QStringLiteral("Y") : QStringLiteral("N");
+    m_nothingOpen->setText(none ? setUpFirst : openLogbook);
     for (const char *key : {"logbook", "graphing"})
         button(QLatin1String(key)).Enabled(!none);
 }

@@ -13,6 +13,7 @@
 #include "windows/shell/MainWindow.h"
 
 class ChildForm;
+class EmptyText;
 struct HelpRequest;
 class QAction;
 class QComboBox;
@@ -124,6 +125,7 @@ private:
 
     Globals &g;
     QMdiArea *m_area;
+    EmptyText *m_nothingOpen; ///< in m_area
     QLabel *m_panel;
     QAction *m_toolbarPlace; ///< shows and hides Toolbar1, because the strip would show a hidden widget again
     std::map<QString, MenuEntry *> m_buttons;
