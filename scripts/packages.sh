@@ -5,10 +5,26 @@ build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-
 test_packages="libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool"
 package_packages="dpkg-dev file lintian desktop-file-utils appstream"
 
-# install_missing PACKAGE ...: installs the packages that are missing, as root or with sudo.
+# The same by the names that other systems know them by.
+build_needs="a C++20 compiler, CMake, Ninja, pkg-config, Qt 6.4 (base, SVG, tools, and its SQLite driver), SQLite 3, QCustomPlot 2.1, libmdb of mdbtools, CLI11, libcsv, libical"
+test_needs="GoogleTest, clang with its fuzzer, clang-format, clang-tidy, Xvfb, openbox, xdotool"
+package_needs="dpkg with dpkg-shlibdeps, file, lintian, desktop-file-validate, appstreamcli"
+
+# install_missing GROUP ...: installs the packages of these groups (build, test, package) that are missing, as root or with sudo. On
+# a system without apt it says what is needed and leaves it to the build to find what is installed.
 install_missing() {
+    packages="" needs=""
+    for group in "$@"; do
+        list=${group}_packages words=${group}_needs
+        packages="$packages ${!list}" needs="$needs${needs:+, }${!words}"
+    done
+    if ! command -v apt-get >/dev/null 2>&1 || ! command -v dpkg-query >/dev/null 2>&1; then
+        echo "This system has no apt to install packages with, so the build uses what is installed. It needs, with the files for" >&2
+        echo "development: $needs." >&2
+        return 0
+    fi
     missing=""
-    for package in "$@"; do
+    for package in $packages; do
         case "$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null)" in
         "install ok installed") ;;
         *) missing="$missing $package" ;;
@@ -27,6 +43,13 @@ install_missing() {
     echo "Installing missing packages:$missing"
     $as_root apt-get update -qq &&
         $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
+}
+
+# has COMMAND: whether a command is installed. Says so if it is not, because then something is left out.
+has() {
+    command -v "$1" >/dev/null 2>&1 && return 0
+    echo "$1 is not installed: what needs it is left out." >&2
+    return 1
 }
 
 # build PRESET: configures and builds; prints the output only if this fails.

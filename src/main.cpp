@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <optional>
 
 #include "logic/shell/CommandLine.h"
 #include "logic/shell/KeepersFolder.h"
@@ -6,6 +7,7 @@
 #include "platform/core/Files.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/DesktopDoors.h"
+#include "platform/desktop/DisplayWatch.h"
 #include "upgrade/OpenOldFile.h"
 #include "windows/shell/Forms.h"
 #include "windows/shell/frm_OMKMDIMain.h"
@@ -17,11 +19,9 @@ int main(int argc, char **argv)
         std::fputs(qPrintable(line.text), *line.status == 0 ? stdout : stderr);
         return *line.status;
     }
-    if (!HasDisplay(line)) {
-        std::fputs("ostrelmark: there is no display to show windows on. Start it in a desktop session.\n", stderr);
-        return 1;
-    }
+    std::optional<DisplayWatch> atTheDisplay(std::in_place);
     Application application(argc, argv);
+    atTheDisplay.reset();
     DesktopDoors doors;
     Doors::install(&doors);
     KeepersFolder folder; // destroyed last, so that the database is closed before another program can lock the folder
@@ -34,9 +34,10 @@ int main(int argc, char **argv)
     try {
         if (!folder.open(KeepersFolder::choose(line.folder), DataFolder()) || !OpenOldFile(QStringLiteral("OM.MDB")))
             return 1;
+        folder.onSecondStart([] { Form<frm_OMKMDIMain>().ComeToFront(); });
         Form<frm_OMKMDIMain>().MDIForm_Load();
     } catch (const RuntimeFailure &failure) {
-        endWithFailure(failure);
+        endWithFailure(WithAdviceForTheStart(failure));
     }
     return isEnding() ? 1 : Application::exec();
 }

@@ -54,7 +54,7 @@ int Connection::busyTimeout = 5000;
 
 Connection::Connection(const QString &path)
 {
-    const QString doing = QStringLiteral("Opening the database %1.").arg(path);
+    const QString doing = QStringLiteral("Opening the database:\n%1").arg(path);
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
     int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flags, nullptr);
     if (code == SQLITE_OK)

@@ -83,7 +83,7 @@ void Database::connect(const QString &fileName)
     requireWritable(path);
     const auto connection = std::make_shared<Connection>(path);
     requireOurHeader(*connection, path);
-    const QString doing = QStringLiteral("Opening the database %1.").arg(path);
+    const QString doing = QStringLiteral("Opening the database:\n%1").arg(path);
     connection->run("PRAGMA cell_size_check = ON; PRAGMA foreign_keys = OFF; PRAGMA synchronous = EXTRA", doing);
     if (m_access == Access::Exclusive)
         connection->run("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT", doing);

@@ -26,7 +26,7 @@ constexpr mode_t anyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 
 [[noreturn]] void throwForeign(const QString &path, const QString &why)
 {
-    throw RuntimeFailure(Failure::UnrecognizedFormat, QStringLiteral("%1: %2").arg(path, why));
+    throw RuntimeFailure(Failure::UnrecognizedFormat, QStringLiteral("%1\n%2").arg(path, why));
 }
 
 sqlite3_file *fileOf(Connection &connection)
@@ -75,24 +75,26 @@ void requireWritable(const QString &path)
     const QFileInfo file(
         QFileInfo(path).canonicalFilePath()); // the journal is created beside the file that a link points to
     if (!isWritable(file.filePath(), R_OK | W_OK))
-        throw RuntimeFailure(Failure::PermissionDenied,
-                             QStringLiteral("The database %1 is read-only. Make it writable and try again.").arg(path));
+        throw RuntimeFailure(
+            Failure::PermissionDenied,
+            QStringLiteral("The database is read-only:\n%1\nMake it writable and try again.").arg(path));
     if (!isWritable(file.path(), W_OK | X_OK))
         throw RuntimeFailure(
             Failure::PermissionDenied,
-            QStringLiteral("The folder %1 of the database is read-only, so nothing could be stored. Make it "
-                           "writable and try again.")
+            QStringLiteral(
+                "The folder of the database is read-only, so nothing could be stored:\n%1\nMake it writable and "
+                "try again.")
                 .arg(file.path()));
 }
 
 void requireOurHeader(Connection &connection, const QString &path)
 {
     if (sqlite3_db_readonly(connection.handle(), "main") != 0)
-        throw RuntimeFailure(Failure::PermissionDenied, QStringLiteral("The database %1 is read-only.").arg(path));
+        throw RuntimeFailure(Failure::PermissionDenied, QStringLiteral("The database is read-only:\n%1").arg(path));
     std::array<char, headerSize> header{};
     if (fileSize(connection) < headerSize)
         throwForeign(path, QStringLiteral("The file is empty or too short for a database."));
-    readFile(connection, header.data(), int(header.size()), 0, QStringLiteral("Reading the database %1.").arg(path));
+    readFile(connection, header.data(), int(header.size()), 0, QStringLiteral("Reading the database:\n%1").arg(path));
     if (!std::equal(std::begin(magic), std::end(magic), header.begin()))
         throwForeign(path, QStringLiteral("The file is no database, or its beginning is damaged."));
     if (qFromBigEndian<qint32>(header.data() + applicationIdAt) != schema::applicationId)
@@ -103,7 +105,7 @@ void requireOurHeader(Connection &connection, const QString &path)
 
 void requireWholeContent(const std::shared_ptr<Connection> &connection, const QString &path)
 {
-    const QString doing = QStringLiteral("Reading the database %1.").arg(path);
+    const QString doing = QStringLiteral("Reading the database:\n%1").arg(path);
     QSet<QString> names;
     {
         Statement query(connection, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table'"), doing);

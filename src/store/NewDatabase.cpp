@@ -51,7 +51,7 @@ void CreateDatabase(const QString &fileName)
     if (const QString there = FindFile(fileName); !there.isEmpty())
         throwExists(there);
     const QString path = QFileInfo(fileName).absoluteFilePath();
-    const QString doing = QStringLiteral("Making the database %1.").arg(path);
+    const QString doing = QStringLiteral("Making the database:\n%1").arg(path);
     Draft draft(path, doing);
     const auto connection = std::make_shared<Connection>(draft.path());
     connection->run("PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA; BEGIN", doing);

@@ -34,8 +34,8 @@ void requireNoJournal(const QString &path)
     const QString journal = FindFile(path + QStringLiteral("-journal"));
     if (!journal.isEmpty())
         throw RuntimeFailure(Failure::PermissionDenied,
-                             QStringLiteral("%1 belongs to a newer database than the file beside it, %2, which comes "
-                                            "from an early release. Put one of the two into another folder.")
+                             QStringLiteral("This file belongs to a newer database than the one beside it, which comes "
+                                            "from an early release:\n%1\n%2\nPut one of the two into another folder.")
                                  .arg(journal, path));
 }
 
@@ -113,9 +113,10 @@ bool keeperWantsTheRest(const OldOutcome &outcome, const QString &path)
 {
     if (outcome.unread.empty())
         return true;
-    return MsgBox(QStringLiteral("The old database %1 is damaged. This could not be read:\n%2\n\nOpen the logbook with "
-                                 "all the rest? The old file is kept as it is.\nIf you have another copy of it, answer "
-                                 "No and put that copy in its place.")
+    return MsgBox(QStringLiteral(
+                      "This old database is damaged:\n%1\n\nThis could not be read:\n%2\n\nOpen the logbook with "
+                      "all the rest? The old file is kept as it is.\nIf you have another copy of it, answer "
+                      "No and put that copy in its place.")
                       .arg(path, listOf(outcome.unread)),
                   vbYesNo + vbExclamation + vbDefaultButton2, boxTitle, detailsOf(outcome.unread)) == MsgBoxAnswer::Yes;
 }
@@ -180,10 +181,11 @@ bool OpenOldFile(const QString &databaseName)
         setMode(draft.path(), path);
         tellOutcome(outcome, exchange(draft, path));
     } catch (const RuntimeFailure &failure) {
-        throw RuntimeFailure(failure.number(),
-                             QStringLiteral("The database %1 comes from an early release and could not be read into a "
-                                            "new one. It has not been changed.\n%2")
-                                 .arg(path, failure.description().section(u'\n', 1)));
+        throw RuntimeFailure(
+            failure.number(),
+            QStringLiteral("This database comes from an early release and could not be read into a new "
+                           "one:\n%1\nIt has not been changed.\n%2")
+                .arg(path, failure.description().section(u'\n', 1)));
     }
     return true;
 }

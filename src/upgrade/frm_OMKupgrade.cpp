@@ -7,7 +7,6 @@
 #include <QVBoxLayout>
 
 #include "platform/controls/Guarded.h"
-#include "platform/controls/Icons.h"
 
 namespace {
 
@@ -21,7 +20,6 @@ frm_OMKupgrade::frm_OMKupgrade(Work work) :
 {
     setObjectName(QStringLiteral("frm_OMKupgrade"));
     setWindowTitle(QStringLiteral("Processing Status"));
-    setWindowIcon(Icon("ostrelmark"));
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     Label1->setObjectName(QStringLiteral("Label1"));
     ProgressBar1->setObjectName(QStringLiteral("ProgressBar1"));

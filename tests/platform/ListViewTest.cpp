@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QSignalSpy>
 
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/ListKeys.h"
 #include "platform/controls/ListView.h"
 #include "support/Mouse.h"
@@ -144,4 +145,28 @@ TEST_F(ListViewTest, ReadsOnlyTheRowsThatItShows)
     m_list.setSort(true, 0, 0);
     m_list.grab();
     EXPECT_LT(rows->asked, 102000) << "one text a row makes the sort's keys";
+}
+
+TEST_F(ListViewTest, SaysWhatToDoWhileItIsEmpty)
+{
+    const auto picture = [this] { return m_list.viewport()->grab().toImage(); };
+    const auto described = [this] {
+        QCoreApplication::processEvents();
+        return m_list.accessibleDescription();
+    };
+    m_list.Clear();
+    const QImage blank = picture();
+    auto *text = new EmptyText(m_list, "Press Insert.");
+    const QImage told = picture();
+    EXPECT_NE(told, blank);
+    EXPECT_EQ(described(), "Press Insert.");
+    m_list.Add("Tang", {"Tang", "8"});
+    EXPECT_EQ(described(), "");
+    m_list.setAccessibleDescription("Eight fish"); // somebody else's is left alone
+    text->refresh();
+    EXPECT_EQ(described(), "Eight fish");
+    m_list.Clear();
+    EXPECT_EQ(picture(), told);
+    text->setText({});
+    EXPECT_EQ(picture(), blank);
 }

@@ -10,20 +10,30 @@ class Wizard : public Desk
 protected:
     using Step = std::function<void(frm_DiagnosisQA &)>;
 
-    /// Opens the wizard and does the steps, each when the window is in front again. Afterwards it must be closed.
+    /// Opens the wizard and does the steps, each on the next page. Afterwards it must be closed.
     void play(const std::vector<Step> &steps, const std::function<void()> &open)
     {
-        const std::function<void(size_t)> expect = [&](size_t next) {
-            keeper.inNext<frm_DiagnosisQA>([&, next](frm_DiagnosisQA &w) {
-                EXPECT_FALSE(w.cmd_Back->isEnabled() || main->mnu_FilePrint->isEnabled());
-                steps[next](w);
-                if (next + 1 < steps.size())
-                    expect(next + 1);
-            });
-        };
-        expect(0);
+        size_t next = 0;
+        QTimer atPage;
+        QObject::connect(&atPage, &QTimer::timeout, &atPage, [&] {
+            auto *w = Forms::current().loaded<frm_DiagnosisQA>();
+            if (!w || !w->isVisible())
+                return;
+            atPage.stop();
+            EXPECT_TRUE(isInFront(*w));
+            EXPECT_FALSE(w->cmd_Back->isEnabled() || main->mnu_FilePrint->isEnabled());
+            if (next < steps.size())
+                steps[next](*w);
+            else
+                w->close();
+            ++next;
+            atPage.start();
+        });
+        atPage.start(0);
         open();
+        EXPECT_EQ(next, steps.size());
         EXPECT_TRUE(main->WizardCancelled && !Forms::current().loaded<frm_DiagnosisQA>());
+        EXPECT_TRUE(isInFront(*main) || QApplication::activeModalWidget());
     }
     /// Opens the wizard by its shortcut, passes the disclaimer, answers a page for each digit, and then does these
     /// steps.
@@ -80,6 +90,22 @@ TEST_F(Wizard, ItsAnswersLeadToADiagnosisAndTheOneWithoutAdviceShowsWhateverWasS
         EXPECT_EQ(lineOf(slot), "DIAGNOSIS: " + name);
         EXPECT_EQ(lineOf(slot + 2).left(18), start);
     }
+}
+
+TEST_F(Wizard, StaysOnTheScreenFromPageToPage)
+{
+    struct Hidings : QObject
+    {
+        bool eventFilter(QObject *object, QEvent *event) override
+        {
+            count += event->type() == QEvent::Hide && qobject_cast<frm_DiagnosisQA *>(object);
+            return false;
+        }
+        int count = 0;
+    } hidings;
+    qApp->installEventFilter(&hidings);
+    diagnose("00101", {cancel});
+    EXPECT_EQ(hidings.count, 1);
 }
 
 TEST_F(Wizard, AnyPageIsLeftByStartingOver)

@@ -5,6 +5,7 @@
 #include "windows/logbook/frm_WaterAddEdit.h"
 #include "windows/reference/frm_Conversions.h"
 #include "windows/reference/frm_LatintoCommon.h"
+#include "windows/reminders/frm_Maintsched.h"
 #include "windows/reminders/frm_Schedule.h"
 #include "windows/tanks/frm_TankMaint.h"
 
@@ -32,6 +33,40 @@ TEST(Start, WarnsOfMissingTanksLastAndShowsNoTipToWhomWantsNone)
     keeper.startProgram();
     EXPECT_EQ(keeper.tipsAtStart, 1);
     EXPECT_EQ(keeper.told(), "0");
+}
+
+TEST(Start, LeavesNoPlaceEmptyWithoutSayingWhatToDo)
+{
+    Keeper keeper;
+    auto &main = keeper.startProgram();
+    const auto says = [](QWidget &window, const char *place, const char *start) {
+        QCoreApplication::processEvents();
+        const QString text = control<QWidget>(window, place).accessibleDescription();
+        EXPECT_TRUE(*start ? text.startsWith(start) : text.isEmpty()) << place << ": " << text.toStdString();
+    };
+    says(main, "mdiArea", "Set up your first tank: ");
+    const QImage told = main.centralWidget()->grab().toImage();
+    keeper.inNext<frm_TankMaint>([&](frm_TankMaint &w) {
+        says(w, "lst_tanklist", "There are no tanks yet.");
+        keeper.addTank("Reef", "1");
+        hand::press(Qt::Key_Escape);
+    });
+    hand::press(Qt::Key_T, Qt::ControlModifier);
+    says(main, "mdiArea", "Open the logbook: ");
+    auto &logbook = hand::openLogbook(main);
+    says(main, "mdiArea", "");
+    says(logbook, "lstv_WaterLog", "Choose a tank on the left");
+    hand::clickTank(logbook, "Reef");
+    says(logbook, "lstv_WaterLog", "There are no entries yet.");
+    keeper.told();
+    hand::press(Qt::Key_G, Qt::ControlModifier);
+    says(Form<frm_WaterGraph>(), "Chart1", "There is no graph yet.");
+    hand::press(Qt::Key_E, Qt::ControlModifier);
+    says(Form<frm_Maintsched>(), "lstv_MaintSched", "There are no reminders yet.");
+    main.MDIForm_Unload();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    says(main, "mdiArea", "Open the logbook: ");
+    EXPECT_NE(main.centralWidget()->grab().toImage(), told);
 }
 
 TEST(Start, EndsAtAFileThatCannotBeUsed)

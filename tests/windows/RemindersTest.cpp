@@ -305,3 +305,18 @@ TEST_F(Reminders, OnPaperAreNinetyNineOnTheFirstPageAndThenFifty)
         EXPECT_EQ(firstOfPage, QStringList({"Saturday 03/14/26", "Sunday 06/21/26", "Monday 08/10/26"}));
     }
 }
+
+TEST_F(Reminders, TheNameThatAScreenReaderHearsIsTheSentence)
+{
+    openList();
+    inEditor(list->cmd_AddTask, [](frm_SchedNewAddEdit &w) {
+        const QAccessibleInterface *sentence = QAccessible::queryAccessibleInterface(w.txt_EnglishDesc);
+        const QString before = sentence->text(QAccessible::Name);
+        EXPECT_EQ(before, w.txt_EnglishDesc->text());
+        click(*w.opt_Weekly);
+        EXPECT_NE(sentence->text(QAccessible::Name), before);
+        EXPECT_EQ(sentence->text(QAccessible::Name), w.txt_EnglishDesc->text());
+        EXPECT_TRUE(w.txt_EnglishDesc->accessibleName().isEmpty()) << "with one, the label tells no change of its text";
+        hand::press(Qt::Key_Escape);
+    });
+}

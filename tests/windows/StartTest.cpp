@@ -55,8 +55,11 @@ TEST(Start, TheSecondOnAFolderSaysSoAndMakesNothing)
     {
         KeepersFolder first;
         ASSERT_TRUE(place.open(first));
+        int asked = 0;
+        first.onSecondStart([&asked] { ++asked; });
         QFile::remove("OM.MDB");
         EXPECT_FALSE(place.open(second));
+        EXPECT_TRUE(QTest::qWaitFor([&asked] { return asked == 1; })) << "to come to the front";
         EXPECT_TRUE(place.doors.told().contains(place.path("keeper/logbook")));
         EXPECT_FALSE(QFile::exists("OM.MDB"));
         EXPECT_TRUE(place.open(elsewhere, "other"));
@@ -68,7 +71,18 @@ TEST(Start, WhatCannotBeMadeFails)
     Place place;
     writeFile(place.path("letter"), "Dear ...");
     KeepersFolder folder;
-    EXPECT_THROW(place.open(folder, "letter/logbook"), RuntimeFailure);
+    try {
+        place.open(folder, "letter/logbook");
+        FAIL() << "below a file";
+    } catch (const RuntimeFailure &failure) {
+        const QStringList told = WithAdviceForTheStart(failure).description().split('\n');
+        EXPECT_EQ(told.value(0), "Path not found.");
+        EXPECT_TRUE(told.contains(place.path("letter/logbook"))) << "on a line of its own, which a box keeps whole";
+        EXPECT_TRUE(told.contains('(' + qt_error_string(ENOTDIR) + ')')) << told.join('\n').toStdString();
+        EXPECT_TRUE(told.last().endsWith("ostrelmark FOLDER"));
+    }
+    EXPECT_TRUE(
+        WithAdviceForTheStart(RuntimeFailure(Failure::UnrecognizedFormat, "x")).description().contains("backup"));
 }
 
 TEST(Start, ALostDatabaseIsToldAndAnEmptyOneIsMadeOnlyWhereNothingTellsOfAnother)

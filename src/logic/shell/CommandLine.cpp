@@ -42,10 +42,9 @@ CommandLine ReadCommandLine(std::span<char *const> arguments)
             return {{}, 0, QStringLiteral("Ostrelmark " OMK_REVISION "\n")};
         if (mayBeOption && argument == u"--")
             mayBeOption = false;
-        else if (mayBeOption && std::ranges::count(toolkitOptions, argument, [](auto o) { return QLatin1String(o); })) {
-            line.namesDisplay = line.namesDisplay || argument == u"-display" || argument == u"-platform";
+        else if (mayBeOption && std::ranges::count(toolkitOptions, argument, [](auto o) { return QLatin1String(o); }))
             ++i;
-        } else if (mayBeOption && argument.startsWith(u'-'))
+        else if (mayBeOption && argument.startsWith(u'-'))
             return wrong(QStringLiteral("there is no option \"%1\".").arg(argument));
         else if (argument.isEmpty())
             return wrong(QStringLiteral("the name of the folder is empty."));
@@ -55,10 +54,4 @@ CommandLine ReadCommandLine(std::span<char *const> arguments)
             line.folder = argument;
     }
     return line;
-}
-
-bool HasDisplay(const CommandLine &line)
-{
-    constexpr const char *variables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-    return line.namesDisplay || !std::ranges::all_of(variables, qEnvironmentVariableIsEmpty);
 }

@@ -12,10 +12,7 @@ struct CommandLine
     QString folder;            ///< as given; may be empty (see KeepersFolder::choose)
     std::optional<int> status; ///< if set, the program prints `text` and ends with this status
     QString text;              ///< goes to stdout if the status is 0, otherwise to stderr
-    bool namesDisplay = false; ///< an option of Qt names the display
 };
 
 /// Reads the arguments after the program's name. A wrong one gives status 2 and a line that says what is wrong.
 CommandLine ReadCommandLine(std::span<char *const> arguments);
-/// Whether the command line or the environment names a display. Without one, Qt would abort.
-bool HasDisplay(const CommandLine &line);

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -12,6 +13,7 @@
 #include "platform/core/Doors.h"
 #include "platform/core/Files.h"
 #include "platform/core/RuntimeFailure.h"
+#include "store/Draft.h"
 #include "store/NewDatabase.h"
 
 namespace {
@@ -22,6 +24,27 @@ const QString databaseName = QStringLiteral("OM.MDB");
 /// journal, which must never be applied to a new database. Case is ignored.
 const QStringList tracesOfUse{QStringLiteral("NAMES?W.TXT"), QStringLiteral("copies"), QStringLiteral("OM-*.MDB"),
                               QStringLiteral("OM.MDB-journal")};
+
+/// What a keeper can do about a failure of the start. Later failures need no such advice: the keeper has a window to go
+/// back to.
+struct Advice
+{
+    Failure about;
+    const char *text;
+};
+constexpr char otherFolder[] =
+    "Your data can also be in another folder. Start the program with its name: ostrelmark FOLDER";
+constexpr Advice startAdvice[] = {
+    {Failure::UnrecognizedFormat,
+     "If you have a backup, or one of the daily copies in the folder \"copies\", give this "
+     "file another name, put the backup into the folder under the name OM.MDB, and start "
+     "again."},
+    {Failure::DeviceError, "If the disk is failing, put a backup into a folder on another disk, under the name OM.MDB, "
+                           "and start the program with the name of that folder: ostrelmark FOLDER"},
+    {Failure::PermissionDenied, otherFolder},
+    {Failure::PathNotFound, otherFolder},
+    {Failure::DiskFull, otherFolder},
+};
 
 /// Throws if the folder had a database before, because an empty one in its place would look as if all data were lost.
 void makeDatabase(const QDir &folder)
@@ -34,9 +57,9 @@ void makeDatabase(const QDir &folder)
     if (!traces.isEmpty())
         throw RuntimeFailure(
             Failure::CouldNotFindFile,
-            QStringLiteral("The database %1 was looked for in the folder %2. It is not there, but the folder was used "
+            QStringLiteral("The database %1 was looked for in this folder and is not there:\n%2\n\nThe folder was used "
                            "before: it holds %3.\n\nPut %1, or a backup under that name, into the folder and start "
-                           "again. To begin with an empty logbook, move what is named above to another place first.")
+                           "again. To begin with an empty logbook, first move what is named above to another place.")
                 .arg(databaseName, folder.path(), traces.join(QStringLiteral(", "))));
     CreateDatabase(name);
 }
@@ -53,6 +76,7 @@ void copyNameFiles(const QDir &from, const QDir &folder)
 
 KeepersFolder::~KeepersFolder()
 {
+    m_secondStart.reset(); // while the folder is still locked: its socket has the name that the next program uses
     if (m_lock >= 0)
         ::close(m_lock);
 }
@@ -76,10 +100,12 @@ bool KeepersFolder::lock(const QString &folder)
 bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
 {
     const QDir place(QDir(folder).absolutePath());
-    if (!QDir().mkpath(place.path()))
-        throw RuntimeFailure(Failure::PathNotFound,
-                             QStringLiteral("The folder %1 for your data could not be made.").arg(place.path()));
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(place.path()).toStdString(), error);
+    if (error)
+        throwErrno(error.value(), QStringLiteral("The folder for your data could not be made:\n") + place.path());
     if (!lock(place.path())) {
+        SecondStart::ask(m_lock); // before the message, so that it comes up in front of the other window
         MsgBox(QStringLiteral("Another Ostrelmark has the logbook in this folder open:\n%1\n\nGo on in its window. If "
                               "you find none, log out and in again, which ends it. A second logbook can be open "
                               "beside it from a folder of its own: ostrelmark FOLDER")
@@ -90,7 +116,20 @@ bool KeepersFolder::open(const QString &folder, const QString &dataFolder)
     makeDatabase(place); // before the name files, which without a database mean that the database was lost
     copyNameFiles(QDir(dataFolder), place);
     if (!QDir::setCurrent(place.path()))
-        throw RuntimeFailure(Failure::PermissionDenied,
-                             QStringLiteral("The folder %1 of your data cannot be entered.").arg(place.path()));
+        throwErrno(errno, QStringLiteral("The folder of your data cannot be entered:\n") + place.path());
     return true;
+}
+
+void KeepersFolder::onSecondStart(std::function<void()> asked)
+{
+    m_secondStart = std::make_unique<SecondStart>(m_lock, std::move(asked));
+}
+
+RuntimeFailure WithAdviceForTheStart(const RuntimeFailure &failure)
+{
+    for (const Advice &advice : startAdvice)
+        if (advice.about == failure.number())
+            return RuntimeFailure(failure.number(),
+                                  failure.description().section(u'\n', 1) + u"\n\n" + QLatin1String(advice.text));
+    return failure;
 }

@@ -48,6 +48,7 @@ void Chart::drawNow() const
         return;
     m_plot->build(m_data, m_type, m_title, ChartColours::onScreen(palette()));
     m_plot->replot(QCustomPlot::rpQueuedRefresh);
+    m_plot->setVisible(m_data.rows() > 0); // without rows there are no axes either, and room for a sentence
 }
 
 void Chart::setColumnCount(int count)
@@ -170,6 +171,7 @@ void Chart::resizeEvent(QResizeEvent *) { m_plot->setGeometry(rect().adjusted(fr
 void Chart::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Base));
     painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Base));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include "platform/controls/Guarded.h"
+#include "platform/controls/Icons.h"
 #include "platform/controls/OneLine.h"
 #include "platform/controls/OptionFocus.h"
 #include "platform/controls/Style.h"
@@ -16,6 +17,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setApplicationName(QStringLiteral("ostrelmark"));
     setDesktopFileName(QStringLiteral("ostrelmark"));
     Q_INIT_RESOURCE(icons); // needed because they are in a static library
+    setWindowIcon(Icon("ostrelmark"));
     // The windows speak English, and numbers use "." and ",", whatever the system's locale.
     QLocale::setDefault(QLocale::c());
 }

@@ -6,12 +6,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPrinter>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QScreen>
 
 #include "platform/controls/Guarded.h"
 #include "platform/core/Files.h"
@@ -59,6 +61,9 @@ QMessageBox::Icon iconOf(int icon)
     }
 }
 
+constexpr int roomAroundText = 80; // for the icon and the margins of a box
+constexpr int lettersInFailure = 60;
+
 struct BoxButton
 {
     int of; ///< the part of the flags that says which buttons there are
@@ -95,6 +100,22 @@ void useSuffixOf(QFileDialog &dialog, const QString &filter)
         dialog.selectFile(QFileInfo(files.constFirst()).completeBaseName() + u'.' + suffix);
 }
 
+/// Makes a label of a box wide enough for its paths, which have lines of their own, and for so many letters in a line
+/// if the text is as long.
+void makeRoom(QMessageBox &box, const char *labelName, int letters)
+{
+    auto *label = box.findChild<QLabel *>(QLatin1String(labelName));
+    if (!label)
+        return;
+    const QFontMetrics font = label->fontMetrics();
+    int width = qMin(letters * font.averageCharWidth(), font.size(0, label->text()).width());
+    for (const QString &line : label->text().split(u'\n'))
+        if (line.startsWith(u'/'))
+            width = qMax(width, font.horizontalAdvance(line) + 1);
+    const int widestBox = qMin(box.screen()->size().width() - 480, 1000); // the toolkit makes none wider
+    label->setMinimumWidth(qMin(width, widestBox - roomAroundText));
+}
+
 } // namespace
 
 DesktopDoors::DesktopDoors() : m_settings(std::make_unique<SettingsStore>(SettingsStore::userFileName())) {}
@@ -109,6 +130,7 @@ MsgBoxAnswer DesktopDoors::msgBox(const MsgBoxRequest &request)
     box.setTextFormat(Qt::PlainText);
     box.setText(request.text);
     box.setDetailedText(request.details);
+    makeRoom(box, "qt_msgbox_label", 0);
     std::map<const QAbstractButton *, MsgBoxAnswer> meaning;
     MsgBoxAnswer answerOfLeaving = MsgBoxAnswer::OK;
     for (const BoxButton &row : boxButtons) {
@@ -138,6 +160,7 @@ bool DesktopDoors::failureBox(const RuntimeFailure &failure, bool mayReturn)
     box.setTextFormat(Qt::PlainText);
     box.setText(QStringLiteral("Run-time error '%1':").arg(int(failure.number())));
     box.setInformativeText(failure.description());
+    makeRoom(box, "qt_msgbox_informativelabel", lettersInFailure);
     const QPushButton *end = box.addButton(QStringLiteral("&End"), QMessageBox::DestructiveRole);
     box.setDefaultButton(const_cast<QPushButton *>(end));
     QPushButton *back = mayReturn ? box.addButton(QStringLiteral("&Return"), QMessageBox::RejectRole) : nullptr;
@@ -157,9 +180,8 @@ std::optional<QString> DesktopDoors::saveDialog(const SaveDialogRequest &request
     dialog.setDefaultSuffix(request.defaultSuffix);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.askOverwrite);
     dialog.selectFile(request.fileName);
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, guarded([&dialog](const QString &filter) {
-        useSuffixOf(dialog, filter);
-    }));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     guarded([&dialog](const QString &filter) { useSuffixOf(dialog, filter); }));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     return dialog.selectedFiles().constFirst();

@@ -19,7 +19,6 @@
 #include <QWindow>
 
 #include "platform/controls/Guarded.h"
-#include "platform/controls/Icons.h"
 #include "platform/core/Doors.h"
 #include "platform/core/RuntimeFailure.h"
 
@@ -66,7 +65,6 @@ HelpViewer::HelpViewer(const QString &helpFile) : m_engine(openHelp(helpFile, m_
 {
     setObjectName(QStringLiteral("HelpViewer"));
     setWindowTitle(QStringLiteral("Ostrelmark Help"));
-    setWindowIcon(Icon("ostrelmark"));
     setAttribute(Qt::WA_QuitOnClose, false); // the program ends with its main window
     makePage();
     makeTabs();

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <QButtonGroup>
+#include <QEventLoop>
 
 #include "logic/advisers/Diagnoses.h"
 #include "logic/advisers/DiagnosisSheet.h"
@@ -25,6 +26,7 @@ constexpr QSize pictureSize(96, 72);
 frm_DiagnosisQA::frm_DiagnosisQA(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
+    setModal(true);
     opt_Answer = {opt_Answer_0, opt_Answer_1, opt_Answer_2, opt_Answer_3, opt_Answer_4, opt_Answer_5};
     auto *group = new QButtonGroup(this);
     for (int i = 0; i < mostAnswers; ++i) {
@@ -63,9 +65,16 @@ void frm_DiagnosisQA::Form_Load()
     move(over.left() + (over.width() - width) / 2, over.top());
 }
 
+void frm_DiagnosisQA::run(QuestionPage first)
+{
+    Forms::current().whileModal(*this, [this, first] {
+        ask(first);
+        hide();
+    });
+}
+
 void frm_DiagnosisQA::ask(QuestionPage page)
 {
-    const Forms::Pin whileItAsks(*this);
     if (page == QuestionPage::Question_Disclaimer || page == QuestionPage::Question_StartingPoint)
         begin(page);
     setCaptions(page);
@@ -129,7 +138,11 @@ bool frm_DiagnosisQA::isGoingOn()
 {
     bool &cancelled = main.WizardCancelled;
     cancelled = true; // Next and Start Over reset it, so the wizard also ends when the program does
-    ShowModal();
+    QEventLoop wait;
+    connect(this, &frm_DiagnosisQA::pageLeft, &wait, &QEventLoop::quit);
+    connect(this, &QDialog::finished, &wait, &QEventLoop::quit); // emitted when the window is unloaded
+    show();
+    wait.exec(QEventLoop::DialogExec);
     return !cancelled;
 }
 
@@ -186,7 +199,7 @@ void frm_DiagnosisQA::cmd_Next_Click()
         g.diagnosisLog.AddAnswer(lbl_Question->text(), opt_Answer.at(AnswerIndex.toUInt())->text());
     }
     main.WizardCancelled = false;
-    hide();
+    emit pageLeft();
 }
 
 void frm_DiagnosisQA::cmd_StartOver_Click()

@@ -19,23 +19,28 @@ public:
 
     /// Run the wizard from the disclaimer or from the first question. They return when the keeper starts over or
     /// cancels.
-    void Question_Disclaimer() { ask(QuestionPage::Question_Disclaimer); }
-    void Question_StartingPoint() { ask(QuestionPage::Question_StartingPoint); }
+    void Question_Disclaimer() { run(QuestionPage::Question_Disclaimer); }
+    void Question_StartingPoint() { run(QuestionPage::Question_StartingPoint); }
 
     QString AnswerIndex;   ///< the number of the answer clicked last; empty before the first, "99" after Start Over
     QString DiagnosisName; ///< set before Showdiagnosis runs
+
+signals:
+    void pageLeft();
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void Cancel() override { cmd_Cancel_Click(); }
+    void run(QuestionPage first);
     void ask(QuestionPage page);
     void begin(QuestionPage page);
     void setCaptions(QuestionPage page);
     void clearAnswers();
     void bringToFront(QWidget &page, QWidget &focus);
-    /// Shows the window and waits. Returns false if the keeper has left the wizard.
+    /// Waits for Next, and returns false if the keeper has left the wizard. The window stays on the screen from page to
+    /// page.
     bool isGoingOn();
     void Showdiagnosis();
     void fixmysize();

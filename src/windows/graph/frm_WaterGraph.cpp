@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "platform/chart/Chart.h"
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
 #include "platform/core/Doors.h"
@@ -42,6 +43,9 @@ const QString notEnoughTitle = QStringLiteral("Not Enough Entries To Create A Gr
 const QString notEnoughText =
     QStringLiteral("Remember, you need to have at least 2 water quality log entries for a tank in order to create a "
                    "graph. Select another tank or add more water quality entries.");
+
+const QString noGraph = QStringLiteral("There is no graph yet. It needs a tank with at least two water quality "
+                                       "entries: choose one above, or add entries in the logbook.");
 
 /// An engraved rule across the window, made of four lines.
 QWidget *makeRule()
@@ -114,6 +118,8 @@ void frm_WaterGraph::arrange()
     setTabOrder(cmd_Previous, cmd_Next);
     beginWith(tanklistbox);
     Chart1->setAccessibleName(windowTitle());
+    m_noGraph = new EmptyText(
+        *Chart1, *Chart1, [this] { return Chart1->RowCount() == 0; }, noGraph);
     resize(900, 560);
 }
 
@@ -240,6 +246,7 @@ void frm_WaterGraph::clearChart()
     Chart1->setTitleText({});
     Chart1->setAccessibleName(windowTitle());
     Chart1->setAccessibleDescription({});
+    m_noGraph->refresh();
     m_drawnTank.clear();
     cmd_Next->setEnabled(false);
     cmd_Previous->setEnabled(false);
@@ -264,6 +271,7 @@ void frm_WaterGraph::draw(const std::vector<GraphColumn> &columns, const Rows &r
         }
         Chart1->setRowLabel(Format(rows.date(row, dates), QStringLiteral("m/d")));
     }
+    m_noGraph->refresh();
     Chart1->setAccessibleDescription(
         QStringLiteral("Page %1, %2 of %3 entries").arg(m_paging.page()).arg(rows.count()).arg(m_paging.total()));
 }

@@ -9,6 +9,7 @@
 #include "windows/shell/ChildForm.h"
 
 class Chart;
+class EmptyText;
 class Printer;
 class QComboBox;
 class QLabel;
@@ -65,6 +66,7 @@ private:
     void cmd_previous_Click();
     void Chart1_MouseUp(Qt::MouseButton button, const QPoint &position);
 
+    EmptyText *m_noGraph; ///< in the chart
     GraphPaging m_paging;
     QString m_drawnTank; ///< the id of the tank in the chart; empty if nothing was drawn
 };

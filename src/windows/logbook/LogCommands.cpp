@@ -6,6 +6,7 @@
 #include <QTreeWidget>
 
 #include "platform/controls/Caption.h"
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/HourGlass.h"
 #include "platform/controls/Icons.h"
 #include "platform/core/Doors.h"
@@ -21,6 +22,11 @@ const QString waterTypeByName = QStringLiteral("SELECT TankWaterType FROM TANKLS
 const QString sortSetting = QStringLiteral("WQ_Sort");
 const QString ascending = QStringLiteral("ascending");
 const QString printCaption = QStringLiteral("&Print Entries...");
+
+// What to do where a list is empty.
+const QString noTanks = QStringLiteral("There are no tanks yet. Press Ctrl+T to set up your first.");
+const QString chooseTank = QStringLiteral("Choose a tank on the left to see its entries.");
+const QString noEntries = QStringLiteral("There are no entries yet. Press Insert to add one.");
 
 QTreeWidgetItem *makeNode(const QString &key, const QString &text)
 {
@@ -107,6 +113,8 @@ void frm_Waterlog::loadList(LogTab tab, const QString &order)
     ListView &list = *(this->*logs[tab].list);
     list.Clear();
     const Tank tank = takeTankInHand();
+    const bool anyTank = TreeView1->topLevelItem(0)->childCount() > 0;
+    m_empty[tab]->setText(isTankSelected() ? noEntries : anyTank ? chooseTank : noTanks);
     sb_ListviewCaption->showMessage(QString::fromLatin1(kind.list.caption).arg(tank.name));
     const QString sql = QStringLiteral("SELECT * FROM %1 where %2 = ? ORDER BY %3")
                             .arg(QLatin1String(kind.table), QLatin1String(kind.tankColumn),

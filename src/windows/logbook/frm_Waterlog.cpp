@@ -10,6 +10,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/ListKeys.h"
@@ -129,6 +130,7 @@ void frm_Waterlog::makeLists()
         for (const LogColumn &column : kind.list.columns)
             columns.push_back({QLatin1String(column.key), QLatin1String(column.heading), column.right, column.width});
         list->setColumns(columns);
+        m_empty[log.tab] = new EmptyText(*list);
         tab_logtype->addTab(list, Icon(kind.list.image), QLatin1String(kind.caption));
         connectList(*list, log.tab);
     }

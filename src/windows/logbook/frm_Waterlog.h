@@ -13,6 +13,7 @@
 #include "windows/logbook/LogRows.h"
 #include "windows/shell/ChildForm.h"
 
+class EmptyText;
 class frm_LivesAddEdit;
 class MenuEntry;
 class QStatusBar;
@@ -143,6 +144,7 @@ private:
     bool mayDelete(const QString &entry, const Tank &tank);
 
     std::array<std::shared_ptr<const LogRows>, logTabs.size()> m_rows; ///< the rows that the lists show
+    std::array<EmptyText *, logTabs.size()> m_empty;                   ///< in the lists
     std::map<QString, MenuEntry *> m_buttons;
     QString ListSortOrder;
     DateOrder m_shownOrder = {}; ///< the date order in which the shown list was loaded

@@ -2,6 +2,7 @@
 
 #include "logic/reminders/ReminderRun.h"
 #include "logic/shell/ErrorHandler.h"
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/ListKeys.h"
 #include "platform/core/Doors.h"
@@ -25,6 +26,7 @@ frm_Maintsched::frm_Maintsched(const FormContext &context) : ChildForm(context)
                                  {QStringLiteral("Scheduling"), QStringLiteral("Scheduling"), false, 240},
                                  {QStringLiteral("Start Date"), QStringLiteral("Start Date"), false, 80},
                                  {QStringLiteral("End Date"), QStringLiteral("End Date"), false, 80}});
+    new EmptyText(*lstv_MaintSched, QStringLiteral("There are no reminders yet. Press \"Add New...\" to make one."));
     beginWith(lstv_MaintSched);
     on(lstv_MaintSched, &ListView::Click, this, &frm_Maintsched::lstv_MaintSched_Click);
     connect(lstv_MaintSched->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {

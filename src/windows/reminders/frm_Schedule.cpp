@@ -5,6 +5,7 @@
 #include "data/Export.h"
 #include "logic/reminders/ReminderRun.h"
 #include "logic/reminders/ScheduleReport.h"
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/FocusAtFault.h"
 #include "platform/controls/HourGlass.h"
 #include "platform/controls/Icons.h"
@@ -27,6 +28,7 @@ frm_Schedule::frm_Schedule(const FormContext &context) : ChildForm(context)
                                 {QStringLiteral("Task"), QStringLiteral("Task"), false, 380},
                                 {QStringLiteral("date not shown"), QStringLiteral("date not shown"), false, 0}});
     lstv_Reminders->setColumnHidden(2, true);
+    new EmptyText(*lstv_Reminders, QStringLiteral("Press \"Generate\" to list the dates of your reminders."));
     for (QPushButton *calendar : {cmd_Calfrom, cmd_Calto})
         calendar->setIcon(Icon("calendar"));
     for (QRadioButton *option : {opt_2years, opt_DateRange})

@@ -58,9 +58,14 @@ void Forms::unload(QWidget &form)
 
 void Forms::showModal(QDialog &dialog)
 {
+    whileModal(dialog, [&dialog] { dialog.exec(); });
+}
+
+void Forms::whileModal(QDialog &dialog, const std::function<void()> &wait)
+{
     const Pin pin(dialog);
     const QPointer<QWidget> before = QApplication::activeWindow();
-    dialog.exec();
+    wait();
     // Without a window manager, nothing else makes the former window active again. The former window may have been a
     // menu, or there may have been none.
     QWidget *back = before && before->isVisible() ? before.data() : dialog.parentWidget();

@@ -4,6 +4,7 @@
 // sees it. The main window must be made first.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <type_traits>
 
@@ -58,6 +59,8 @@ public:
     void unload(QWidget &form);
     /// Shows a dialog and waits until it is closed or unloaded.
     void showModal(QDialog &dialog);
+    /// The same for a dialog whose own code shows it and waits.
+    void whileModal(QDialog &dialog, const std::function<void()> &wait);
     /// Keeps a window alive while one of its functions waits.
     class Pin
     {

@@ -17,9 +17,9 @@
 
 #include "logic/reminders/ReminderRun.h"
 #include "logic/shell/Options.h"
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/HourGlass.h"
-#include "platform/controls/Icons.h"
 #include "platform/controls/ListKeys.h"
 #include "platform/controls/Progress.h"
 #include "platform/core/Doors.h"
@@ -64,6 +64,11 @@ const QString noTankText = QStringLiteral("You have no tanks set up in Ostrelmar
                                           "the \"Setup / Manage Tanks\" button on the "
                                           "main menu.");
 
+// What to do where no child is open.
+const QString setUpFirst =
+    QStringLiteral("Set up your first tank: choose Tank Setup in the Tools menu, or press Ctrl+T.");
+const QString openLogbook = QStringLiteral("Open the logbook: choose Logbook in the Tools menu, or press Ctrl+L.");
+
 /// If the settings cannot be written, a message says so and the start goes on: a setting must not keep keepers from
 /// their data.
 void saveAtStart(const QString &key, const QString &value)
@@ -83,7 +88,6 @@ void saveAtStart(const QString &key, const QString &value)
 frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiArea)
 {
     setWindowTitle(QStringLiteral(" Ostrelmark 98"));
-    setWindowIcon(Icon("ostrelmark"));
     setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu could hide the reminders
     makeMenus(*this, *menuBar());
     makeToolbar();
@@ -94,6 +98,9 @@ frm_OMKMDIMain::frm_OMKMDIMain(Globals &globals) : g(globals), m_area(new QMdiAr
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     const bool dark = palette().window().color().lightness() < 128;
     m_area->setBackground(dark ? QColor(0x22, 0x2b, 0x30) : QColor(0xc9, 0xdb, 0xe1)); // the colour of calm water
+    m_nothingOpen = new EmptyText(*m_area, *m_area->viewport(), [canvas = m_area->viewport()] {
+        return !canvas->findChild<QMdiSubWindow *>(QString(), Qt::FindDirectChildrenOnly);
+    });
     setCentralWidget(m_area);
     connect(m_area, &QMdiArea::subWindowActivated, this,
             guarded([this](QMdiSubWindow *window) { subWindowActivated(window); }));
@@ -252,6 +259,7 @@ void frm_OMKMDIMain::EnableTankButtons()
 {
     const bool none = g.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM TANKLST LIMIT 1")).isEmpty();
     g.gNoTanks = none ? QStringLiteral("Y") : QStringLiteral("N");
+    m_nothingOpen->setText(none ? setUpFirst : openLogbook);
     for (const char *key : {"logbook", "graphing"})
         button(QLatin1String(key)).Enabled(!none);
 }
@@ -323,6 +331,18 @@ void frm_OMKMDIMain::MDIForm_Activate()
     disablePrint(); // until the child enables it
     if (m_activeChild && m_activeChild->isShown())
         m_activeChild->Form_Activate();
+}
+
+void frm_OMKMDIMain::ComeToFront()
+{
+    if (!isVisible())
+        return; // the start has not come that far, and will show it
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    QWidget *dialog = QApplication::activeModalWidget();
+    for (QWidget *window : {static_cast<QWidget *>(this), dialog})
+        if (window)
+            window->raise();
+    (dialog ? dialog : this)->activateWindow();
 }
 
 void frm_OMKMDIMain::changeEvent(QEvent *event)

@@ -13,6 +13,7 @@
 #include "windows/shell/MainWindow.h"
 
 class ChildForm;
+class EmptyText;
 struct HelpRequest;
 class QAction;
 class QComboBox;
@@ -35,6 +36,9 @@ public:
     /// Tells the active child that it is in front again after a dialog or another program. Does nothing while a message
     /// box or a dialog is open.
     void MDIForm_Activate();
+    /// Brings the program to the front where the desktop lets it: the window, and the box or dialog that is open over
+    /// it.
+    void ComeToFront();
     /// Closes the children, which store their settings, and unloads the Options window.
     void MDIForm_Unload();
 
@@ -121,6 +125,7 @@ private:
 
     Globals &g;
     QMdiArea *m_area;
+    EmptyText *m_nothingOpen; ///< in m_area
     QLabel *m_panel;
     QAction *m_toolbarPlace; ///< shows and hides Toolbar1, because the strip would show a hidden widget again
     std::map<QString, MenuEntry *> m_buttons;

@@ -1,5 +1,6 @@
 #include "windows/tanks/frm_TankMaint.h"
 
+#include "platform/controls/EmptyText.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/ListKeys.h"
 #include "platform/core/Doors.h"
@@ -24,6 +25,7 @@ const QString cascade[] = {
 frm_TankMaint::frm_TankMaint(const FormContext &context) : DialogForm(context)
 {
     setupUi(this);
+    new EmptyText(*lst_tanklist, QStringLiteral("There are no tanks yet. Press \"Add New...\" to set up your first."));
     on(lst_tanklist, &QListWidget::itemDoubleClicked, this, &frm_TankMaint::cmd_ChangeTank_Click);
     for (const Qt::Key key : enterKeys)
         OnListKey(*lst_tanklist, key, *cmd_ChangeTank);
