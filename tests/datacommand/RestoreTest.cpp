@@ -99,7 +99,7 @@ TEST_F(Restore, WhatIsNoWholeDatabaseIsRefusedAndNothingChanges)
     const auto before = contentOf(folder.path()), copies = contentOf(path("copies"));
     const std::pair<const char *, const char *> rows[] = {
         {"OM-damaged.MDB", "is damaged"},
-        {"OM-short.MDB", "OM-short.MDB. (database disk image is malformed)"},
+        {"OM-short.MDB", "OM-short.MDB (database disk image is malformed)"},
         {"OM-text.MDB", "too short"},
         {"OM-future.MDB", "version 9.9"},
         {"OM-unfinished.MDB", "OM-unfinished.MDB-journal"},

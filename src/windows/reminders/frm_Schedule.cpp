@@ -164,8 +164,8 @@ std::vector<ScheduledTask> frm_Schedule::listedTasks() const
 void frm_Schedule::Print_Schedule()
 {
     const Forms::Pin whileItPrints(*this);
-    Report report = MakeScheduleReport(
-        lstv_Reminders->Count(), [this](int item, int subItem) { return lstv_Reminders->Text(item, subItem); });
+    Report report = MakeScheduleReport(lstv_Reminders->Count(),
+                                       [this](int item, int subItem) { return lstv_Reminders->Text(item, subItem); });
     report.saveSpreadsheet = [this](const QString &fileName) { ExportSchedule(listedTasks(), fileName); };
     RunReport(report, PrintTarget::Printer);
 }
