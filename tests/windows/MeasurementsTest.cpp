@@ -108,6 +108,9 @@ TEST_F(Measurements, EachIsDrawnUnderItsNameWhereItsCheckBoxIsTicked)
         main->mnu_GraphOptions_Click();
         EXPECT_EQ(chart.ColumnCount(), 1);
         EXPECT_EQ(chart.tip(chart.place(1, 1).center()), QString("3/14\n") + row.drawn);
+        const QString toolTip = measurements[size_t(&row - expected)].entry.toolTip,
+                      &unit = chart.data().columnUnits[0];
+        EXPECT_EQ(unit, toolTip.endsWith("in PPM") ? "ppm" : toolTip.contains("degrees") ? "degrees" : "");
     }
 }
 

@@ -46,16 +46,19 @@ private:
 struct ChartSample
 {
     ChartLook look;
-    QColor paper;
     bool body;   ///< a bar, an area or a slice
     bool line;   ///< a line with its marker
     bool marker; ///< a marker alone
 
     void draw(QCPPainter &painter, const QRectF &place) const;
 };
-ChartSample ChartSampleOf(const ChartKind &kind, int column, const QColor &paper);
+ChartSample ChartSampleOf(const ChartKind &kind, int column, const ChartColours &colours);
 
 QCPScatterStyle ChartMarkerOf(const ChartLook &look, double size);
+
+/// Frames the place of a value and writes a text beside it, like a tool tip, inside the given area.
+void DrawChartMark(QPainter &painter, const QRectF &place, const QString &text, const ChartColours &colours,
+                   const QRectF &area);
 
 class ChartLegendItem : public QCPAbstractLegendItem
 {

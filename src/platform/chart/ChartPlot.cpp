@@ -8,6 +8,7 @@
 #include "platform/chart/ChartDepth.h"
 #include "platform/chart/ChartParts.h"
 #include "platform/chart/ChartPie.h"
+#include "platform/chart/ChartTitle.h"
 
 namespace {
 
@@ -17,6 +18,8 @@ constexpr double legendShare = 0.35; // largest share of the height
 constexpr double markerSize = 6;
 constexpr double loneMarkerSize = 9;
 constexpr int areaAlpha = 110;
+constexpr int titledHeight = 12; // height and width of the smallest chart whose axes have titles, in font heights
+constexpr int titledWidth = 20;
 
 QFont inPixels(QFont font, double factor = 1)
 {
@@ -114,6 +117,8 @@ void ChartPlot::dress(QCPAxisRect &rect)
         axis->setSubTicks(false);
         axis->setTickLabelFont(m_font);
         axis->setTickLabelColor(m_colours.ink);
+        axis->setLabelFont(m_font);
+        axis->setLabelColor(m_colours.ink);
     }
 }
 
@@ -151,7 +156,7 @@ void ChartPlot::addBand(const ChartBand &band, bool isLast)
 
 void ChartPlot::addBars(const ChartBandView &view, int column)
 {
-    const ChartLook look = ChartLookOf(column);
+    const ChartLook look = m_colours.look(column);
     const auto [offset, width] = view.bar(column);
     auto *bars = new QCPBars(view.keys, view.values);
     QSharedPointer<QCPBarsDataContainer> cells(new QCPBarsDataContainer);
@@ -161,14 +166,14 @@ void ChartPlot::addBars(const ChartBandView &view, int column)
     bars->setData(cells);
     bars->setWidth(width);
     bars->setPen(look.rim());
-    bars->setBrush(look.body(m_colours.paper));
+    bars->setBrush(look.colour);
     bars->setAntialiased(false);
     bars->setAntialiasedFill(false);
 }
 
 void ChartPlot::addGraph(const ChartBandView &view, int column)
 {
-    const ChartLook look = ChartLookOf(column);
+    const ChartLook look = m_colours.look(column);
     auto *graph = new QCPGraph(view.keys, view.values);
     QSharedPointer<QCPGraphDataContainer> cells(new QCPGraphDataContainer);
     for (int row = 0; row < m_data.rows(); ++row)
@@ -183,7 +188,7 @@ void ChartPlot::addGraph(const ChartBandView &view, int column)
                                                            : QCPGraph::lsLine);
     if (m_kind.shape == ChartShape::Area) {
         QColor fill = look.colour;
-        fill.setAlpha(look.second ? areaAlpha / 2 : areaAlpha);
+        fill.setAlpha(areaAlpha);
         graph->setBrush(fill);
     }
 }
@@ -203,8 +208,8 @@ void ChartPlot::addLegend()
     m_legend->setColumnSpacing(14);
     m_legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
     for (int column = 0; column < m_data.columns(); ++column)
-        m_legend->addItem(new ChartLegendItem(m_legend, ChartSampleOf(m_kind, column, m_colours.paper),
-                                              m_data.columnLabels.at(column)));
+        m_legend->addItem(
+            new ChartLegendItem(m_legend, ChartSampleOf(m_kind, column, m_colours), m_data.columnLabels.at(column)));
 }
 
 // Fitting one part may make it necessary to fit another: with fewer lines of legend, the bands get higher and deeper.
@@ -214,8 +219,9 @@ void ChartPlot::fit()
         return;
     const QScopedValueRollback<bool> once(m_fitting, true);
     for (int pass = 0; pass < 3; ++pass) {
-        const bool title = fitTitle(), legend = fitLegend(), depth = fitDepth(), labels = fitLabels();
-        if (!title && !legend && !depth && !labels)
+        const bool title = fitTitle(), legend = fitLegend(), depth = fitDepth(), labels = fitLabels(),
+                   axisTitles = fitAxisTitles();
+        if (!title && !legend && !depth && !labels && !axisTitles)
             return;
         updateLayout();
     }
@@ -317,6 +323,45 @@ bool ChartPlot::fitLabels()
         changed = ticker->fit(view.values->axisRect()->height(), m_font) || changed;
     }
     return changed;
+}
+
+/// A small chart needs all its room for its values.
+bool ChartPlot::fitAxisTitles()
+{
+    const QFontMetricsF metrics(m_font);
+    const bool titled =
+        viewport().height() >= titledHeight * metrics.height() && viewport().width() >= titledWidth * metrics.height();
+    bool changed = false;
+    const auto set = [&changed](QCPAxis *axis, const QString &title) {
+        changed = changed || axis->label() != title;
+        axis->setLabel(title);
+    };
+    for (const ChartBandView &view : m_bands) {
+        QCPAxisRect *rect = view.keys->axisRect();
+        const QString title = titled ? ValueAxisTitle(m_data, view.band.columns, metrics, rect->height()) : QString();
+        set(rect->axis(QCPAxis::atLeft), title);
+        set(rect->axis(QCPAxis::atRight), title);
+    }
+    if (!m_bands.empty())
+        set(m_bands.back().keys, titled ? m_data.rowsTitle : QString());
+    return changed;
+}
+
+void ChartPlot::setMark(const ChartCell &cell, const QString &text)
+{
+    m_marked = cell;
+    m_markText = text;
+    update();
+}
+
+void ChartPlot::paintEvent(QPaintEvent *event)
+{
+    QCustomPlot::paintEvent(event);
+    if (!m_marked)
+        return;
+    QPainter painter(this);
+    painter.setFont(m_font);
+    DrawChartMark(painter, place(m_marked.row, m_marked.column), m_markText, m_colours, rect());
 }
 
 // Records the painting and plays it on the given painter: QCustomPlot needs a QCPPainter, and one of its own on the
