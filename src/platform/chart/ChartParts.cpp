@@ -5,12 +5,13 @@
 namespace {
 
 constexpr double betweenLabels = 8;  // pixels
-constexpr double labelHeights = 1.5; // height of a value's label with the gap to the next, in font heights
+constexpr double labelHeights = 1.2; // height of a value's label with the gap to the next, in font heights
 constexpr double mostTicks = 6;
 constexpr int sampleWidth = 20;
 constexpr int sampleGap = 5;
 constexpr int widestEntry = 180; // pixels of the text of a legend entry
 constexpr double markerSize = 7;
+constexpr int overhang = 6;   // pixels of a marker beyond the end of an axis
 constexpr double markGap = 3; // pixels between a value, its frame and the text beside it
 
 } // namespace
@@ -49,6 +50,18 @@ bool ChartValueTicker::fit(double pixels, const QFont &font)
     return std::exchange(m_most, most) != most;
 }
 
+// One label makes no scale. Where only one multiple of the step is in the range, two that are off by half a step may
+// be.
+double ChartValueTicker::getTickStep(const QCPRange &range)
+{
+    const double step = roundStep(range.size() / m_most);
+    const auto ticksFrom = [&range, step](double origin) {
+        return std::floor((range.upper - origin) / step) - std::ceil((range.lower - origin) / step) + 1;
+    };
+    setTickOrigin(ticksFrom(0) < 2 && ticksFrom(step / 2) >= 2 ? step / 2 : 0);
+    return step;
+}
+
 double ChartValueTicker::roundStep(double step)
 {
     const double power = std::pow(10, std::floor(std::log10(step)));
@@ -57,6 +70,8 @@ double ChartValueTicker::roundStep(double step)
             return round * power;
     return 10 * power;
 }
+
+QRect ChartGraph::clipRect() const { return QCPGraph::clipRect().adjusted(-overhang, -overhang, overhang, overhang); }
 
 QCPScatterStyle ChartMarkerOf(const ChartLook &look, double size)
 {

@@ -1,5 +1,5 @@
-// Small parts that QCustomPlot leaves to its users: axis ticks whose labels never overlap, and legend entries. Only the
-// chart uses them.
+// Small parts that QCustomPlot leaves to its users: axis ticks whose labels never overlap, whole markers at the ends of
+// an axis, legend entries, and the frame around the current value. Only the chart uses it.
 #pragma once
 
 #include <qcustomplot.h>
@@ -34,12 +34,22 @@ public:
     bool fit(double pixels, const QFont &font);
 
 protected:
-    double getTickStep(const QCPRange &range) override { return roundStep(range.size() / m_most); }
+    double getTickStep(const QCPRange &range) override;
 
 private:
     /// Rounds a step up to 1, 2, 2.5 or 5 times a power of ten.
     static double roundStep(double step);
     double m_most = 5; ///< number of ticks
+};
+
+/// Lines and points whose markers may stand out over the ends of the axes.
+class ChartGraph : public QCPGraph
+{
+public:
+    using QCPGraph::QCPGraph;
+
+protected:
+    QRect clipRect() const override;
 };
 
 /// A small sample of how a column is drawn, for the legend.

@@ -13,6 +13,8 @@
 namespace {
 
 constexpr int edge = 8;              // pixels between the chart and its rim
+constexpr int gap = 4;               // pixels above and below a band
+constexpr int labelGap = 4;          // pixels between the labels of the ticks and the title of an axis
 constexpr double reach = 6;          // pixels around a value within which the pointer hits it
 constexpr double legendShare = 0.35; // largest share of the height
 constexpr double markerSize = 6;
@@ -127,7 +129,8 @@ void ChartPlot::addBand(const ChartBand &band, bool isLast)
     auto *rect = new QCPAxisRect(this);
     plotLayout()->addElement(plotLayout()->rowCount(), 0, rect);
     dress(*rect);
-    rect->setMinimumMargins(QMargins(edge, edge, 2 * edge, 4));
+    rect->setMinimumSize(1, 1); // many bands share a low chart
+    rect->setMinimumMargins(QMargins(edge, gap, 2 * edge, gap));
     QCPAxis *keys = rect->axis(QCPAxis::atBottom);
     keys->setTicker(m_rows);
     keys->setTickLabels(isLast);
@@ -174,7 +177,7 @@ void ChartPlot::addBars(const ChartBandView &view, int column)
 void ChartPlot::addGraph(const ChartBandView &view, int column)
 {
     const ChartLook look = m_colours.look(column);
-    auto *graph = new QCPGraph(view.keys, view.values);
+    auto *graph = new ChartGraph(view.keys, view.values);
     QSharedPointer<QCPGraphDataContainer> cells(new QCPGraphDataContainer);
     for (int row = 0; row < m_data.rows(); ++row)
         cells->add(QCPGraphData(row + 1, m_data.value(row, column))); // NaN for a blank cell makes a gap
@@ -218,10 +221,12 @@ void ChartPlot::fit()
     if (m_fitting)
         return;
     const QScopedValueRollback<bool> once(m_fitting, true);
-    for (int pass = 0; pass < 3; ++pass) {
-        const bool title = fitTitle(), legend = fitLegend(), depth = fitDepth(), labels = fitLabels(),
-                   axisTitles = fitAxisTitles();
-        if (!title && !legend && !depth && !labels && !axisTitles)
+    for (int pass = 0; pass < 4; ++pass) {
+        bool changed = false;
+        for (const auto part : {&ChartPlot::fitTitle, &ChartPlot::fitLegend, &ChartPlot::fitDepth,
+                                &ChartPlot::fitHeights, &ChartPlot::fitLabels, &ChartPlot::fitAxisTitles})
+            changed = (this->*part)() || changed;
+        if (!changed)
             return;
         updateLayout();
     }
@@ -306,11 +311,27 @@ bool ChartPlot::fitDepth()
     for (const ChartBandView &view : m_bands) {
         QCPAxisRect *rect = view.keys->axisRect();
         rect->setMinimumMargins(
-            QMargins(toTheRight ? edge : side, int(std::ceil(-away.y())) + edge, toTheRight ? side + edge : edge, 4));
+            QMargins(toTheRight ? edge : side, int(std::ceil(-away.y())) + gap, toTheRight ? side + edge : edge, gap));
         rect->axis(QCPAxis::atLeft)->setVisible(toTheRight);
         rect->axis(QCPAxis::atRight)->setVisible(!toTheRight);
     }
     return true;
+}
+
+/// Makes the axes of all bands equally long, although the last band also holds the labels of the rows.
+bool ChartPlot::fitHeights()
+{
+    double height = 0;
+    for (const ChartBandView &view : m_bands)
+        height += view.values->axisRect()->height() / double(m_bands.size());
+    bool changed = false;
+    for (int row = 0; row < plotLayout()->rowCount() && m_bands.size() > 1; ++row)
+        if (const auto *rect = qobject_cast<QCPAxisRect *>(plotLayout()->element(row, 0))) {
+            const double whole = std::max(1.0, height + rect->outerRect().height() - rect->height());
+            changed = changed || std::abs(plotLayout()->rowStretchFactors().at(row) - whole) >= 1;
+            plotLayout()->setRowStretchFactor(row, whole);
+        }
+    return changed;
 }
 
 bool ChartPlot::fitLabels()
@@ -325,7 +346,8 @@ bool ChartPlot::fitLabels()
     return changed;
 }
 
-/// A small chart needs all its room for its values.
+// A small chart needs all its room for its values. The titles of the bands stand below each other, whatever the width
+// of the labels beside them.
 bool ChartPlot::fitAxisTitles()
 {
     const QFontMetricsF metrics(m_font);
@@ -336,11 +358,24 @@ bool ChartPlot::fitAxisTitles()
         changed = changed || axis->label() != title;
         axis->setLabel(title);
     };
+    const auto labelWidth = [&metrics](const ChartBandView &view) {
+        double widest = 0;
+        for (const QString &label : view.values->tickVectorLabels())
+            widest = std::max(widest, metrics.horizontalAdvance(label));
+        return int(widest);
+    };
+    int widest = 0;
+    for (const ChartBandView &view : m_bands)
+        widest = std::max(widest, labelWidth(view));
     for (const ChartBandView &view : m_bands) {
-        QCPAxisRect *rect = view.keys->axisRect();
-        const QString title = titled ? ValueAxisTitle(m_data, view.band.columns, metrics, rect->height()) : QString();
-        set(rect->axis(QCPAxis::atLeft), title);
-        set(rect->axis(QCPAxis::atRight), title);
+        const QCPAxisRect &rect = *view.keys->axisRect();
+        const QString title = titled ? ValueAxisTitle(m_data, view.band.columns, metrics, rect.height()) : QString();
+        const int padding = labelGap + widest - labelWidth(view);
+        changed = changed || view.values->labelPadding() != padding;
+        for (QCPAxis *axis : {rect.axis(QCPAxis::atLeft), rect.axis(QCPAxis::atRight)}) {
+            set(axis, title);
+            axis->setLabelPadding(padding);
+        }
     }
     if (!m_bands.empty())
         set(m_bands.back().keys, titled ? m_data.rowsTitle : QString());

@@ -59,6 +59,7 @@ private:
     bool fitLegend();
     double depth() const;
     bool fitDepth();
+    bool fitHeights();
     bool fitLabels();
     bool fitAxisTitles();
 

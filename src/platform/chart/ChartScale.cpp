@@ -6,11 +6,11 @@
 namespace {
 
 constexpr std::size_t mostBandsOnZero = 3;
-constexpr std::size_t mostBandsOfCurves = 6;
+constexpr std::size_t mostBandsOfCurves = 8;
 constexpr double readable = 10;   // times as high as a column an axis may be
 constexpr double farShare = 0.5;  // of the greatest value; values that differ by no more than that are far from zero
 constexpr double evenShare = 0.1; // of its value that an axis shows around a curve that is level
-constexpr double room = 0.08;     // at the ends of an axis, for markers, which are higher than their points
+constexpr double room = 0.08;     // at the ends of an axis
 
 /// Columns that share an axis, and the part of the axis that they need. Without a value, low is above high.
 struct Group

@@ -4,7 +4,8 @@
 // - Bars and areas stand on zero. For curves and points whose values are all far from zero, that is, differ by no more
 //   than half of the greatest, the axis shows only the part from the lowest to the highest value.
 // - Columns share a band if each of them still fills a tenth of its axis.
-// - There are at most three bands of bars or areas, and at most six of curves. If more were needed, those that flatten
+// - There are at most three bands of bars or areas, and at most eight of curves. If more were needed, those that
+// flatten
 //   each other least share one.
 #pragma once
 

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double shortest = 1.5; // length of an axis with a title, in font heights
+constexpr double worthwhile = 5; // length of a title that has been cut off, in font heights
 
 QString withUnit(const QString &names, const QString &unit)
 {
@@ -44,8 +44,6 @@ QString TitleOf(const ChartData &data, int column)
 QString ValueAxisTitle(const ChartData &data, const std::vector<int> &columns, const QFontMetricsF &metrics,
                        double pixels)
 {
-    if (pixels < shortest * metrics.height())
-        return {};
     const QString whole = wrapped(wholeTitle(data, columns), metrics, pixels);
     if (metrics.size(0, whole).width() <= pixels)
         return whole;
@@ -53,6 +51,8 @@ QString ValueAxisTitle(const ChartData &data, const std::vector<int> &columns, c
     for (const int column : columns)
         if (!data.columnUnits.at(column).isEmpty() && !units.contains(data.columnUnits.at(column)))
             units << data.columnUnits.at(column);
-    return metrics.elidedText(units.isEmpty() ? wholeTitle(data, columns) : units.join(QStringLiteral(", ")),
-                              Qt::ElideRight, pixels);
+    const QString shorter = units.isEmpty() ? wholeTitle(data, columns) : units.join(QStringLiteral(", "));
+    if (metrics.horizontalAdvance(shorter) <= pixels)
+        return shorter;
+    return pixels < worthwhile * metrics.height() ? QString() : metrics.elidedText(shorter, Qt::ElideRight, pixels);
 }

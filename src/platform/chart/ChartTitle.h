@@ -12,6 +12,6 @@ QString TitleOf(const ChartData &data, int column);
 
 /// The title of an axis so many pixels long: the columns with their units, those of one unit together, such as
 /// "ph; Nh3, No2 (ppm)", on two lines if one is too short. If two are too short as well, it is the units alone, as the
-/// legend names the columns; without units, as much as fits. Empty for a very short axis.
+/// legend names the columns; without units, as much as fits. Nothing if that would not be much.
 QString ValueAxisTitle(const ChartData &data, const std::vector<int> &columns, const QFontMetricsF &metrics,
                        double pixels);
