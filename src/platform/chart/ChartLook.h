@@ -11,8 +11,8 @@ class QPalette;
 struct ChartLook
 {
     QColor colour;
-    int marker;  ///< 0 to 12
-    bool dashed; ///< as a line; the later half of the columns is
+    int marker; ///< 0 to 12
+    bool thin;  ///< as a line; those of the later columns are
 
     QPen rim() const;
     QPen line() const;

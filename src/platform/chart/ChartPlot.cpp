@@ -221,12 +221,12 @@ void ChartPlot::fit()
     if (m_fitting)
         return;
     const QScopedValueRollback<bool> once(m_fitting, true);
-    for (int pass = 0; pass < 4; ++pass) {
+    for (int pass = 0; pass < 6; ++pass) {
         bool changed = false;
         for (const auto part : {&ChartPlot::fitTitle, &ChartPlot::fitLegend, &ChartPlot::fitDepth,
-                                &ChartPlot::fitHeights, &ChartPlot::fitLabels, &ChartPlot::fitAxisTitles})
+                                &ChartPlot::fitHeights, &ChartPlot::fitLabels})
             changed = (this->*part)() || changed;
-        if (!changed)
+        if (!changed && !fitAxisTitles()) // it measures many texts, so it waits until the rest has its place
             return;
         updateLayout();
     }

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double worthwhile = 5; // length of a title that has been cut off, in font heights
+constexpr double worthwhile = 3; // length of a title that has been cut off, in font heights
 
 QString withUnit(const QString &names, const QString &unit)
 {
