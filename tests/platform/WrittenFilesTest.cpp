@@ -15,7 +15,6 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPrintPreviewDialog>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -25,8 +24,11 @@
 #include "platform/core/Doors.h"
 #include "platform/desktop/DesktopDoors.h"
 
+#include "platform/core/Printer.h"
+#include "platform/core/PrintJob.h"
 #include "platform/core/RuntimeFailure.h"
 #include "platform/core/SettingsStore.h"
+#include "platform/desktop/PageView.h"
 #include "platform/desktop/PaintedPages.h"
 #include "platform/desktop/Paper.h"
 #include "support/TestFiles.h"
@@ -108,10 +110,20 @@ TEST_F(WrittenFiles, APdfThatCannotBeWrittenSaysWhy)
     pages->beginDocument("Log");
     ::setrlimit(RLIMIT_FSIZE, &full);
     const int told = number([&] { pages->endDocument(); });
+    pages = PagesInPdf(name);
+    pages->beginDocument("Log");
+    int made = 0;
+    const int toldBefore = number([&] {
+        for (; made < 50; ++made) {
+            pages->text(0, 0, {"Arial", 14}, QString(3000, QChar(u'a' + made)));
+            pages->newPage();
+        }
+    });
     pages.reset();
     ::setrlimit(RLIMIT_FSIZE, &former);
     std::signal(SIGXFSZ, formerHandler);
     EXPECT_EQ(told, int(Failure::DiskFull));
+    EXPECT_EQ(toldBefore, int(Failure::DiskFull)) << "not after the last page";
     EXPECT_EQ(content(), "an older log");
     EXPECT_EQ(contentOf(folder.path()).size(), 1u);
 }
@@ -189,7 +201,7 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
         if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
             files->selectFile(name + ".pdf");
             QTest::keyClick(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
-        } else if (qobject_cast<QPrintPreviewDialog *>(dialog) && !painted.isEmpty() && ++step == 1) {
+        } else if (dialog && dialog->findChild<PageView *>() && !painted.isEmpty() && ++step == 1) {
             EXPECT_TRUE(button(dialog, "Landscape")->isChecked());
             EXPECT_EQ(painted.back(), "landscape");
             button(dialog, "Portrait")->trigger();
@@ -207,6 +219,105 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
     EXPECT_TRUE(answer->target.keepsOrientation);
     const auto pages = doors.openPages(answer->target);
     EXPECT_LT(pages->width(), pages->height());
+}
+
+/// A report of pages with one word each. `atPage` is called when that many pages are complete.
+Report pagesOf(
+    int pages, const std::function<void(int)> &atPage = [](int) {})
+{
+    return {"Print Log", "Log", false, [] { return true; },
+            [=](Printer &page) {
+                for (int number = 1; number <= pages; ++number) {
+                    page.Print("Reef");
+                    if (number < pages)
+                        page.NewPage();
+                    atPage(number);
+                }
+                page.EndDoc();
+            }};
+}
+
+PageView *viewInFront()
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    return dialog ? dialog->findChild<PageView *>() : nullptr;
+}
+
+/// The desktop with a keeper who gives this name to each file.
+struct NamingDoors : DesktopDoors
+{
+    explicit NamingDoors(const QString &name) : name(name), former(Doors::install(this)) {}
+    ~NamingDoors() override { Doors::install(former); }
+    std::optional<QString> saveDialog(const SaveDialogRequest &) override { return name; }
+    const QString name;
+    Doors *former;
+};
+
+TEST_F(WrittenFiles, AReportThatFailsLeavesTheOlderFileAndOneThatEndsReplacesIt)
+{
+    const NamingDoors doors(name);
+    for (const bool fails : {true, false}) {
+        writeFile(name, "an older log");
+        QString panel;
+        const auto run = [&] {
+            RunReport(pagesOf(30,
+                              [fails](int page) {
+                                  if (fails && page == 20)
+                                      throw RuntimeFailure(Failure::DeviceError);
+                              }),
+                      PrintTarget::File, [&panel](const QString &text) { panel = text; });
+        };
+        if (fails)
+            EXPECT_THROW(run(), RuntimeFailure);
+        else
+            run();
+        EXPECT_EQ(content() == "an older log", fails);
+        EXPECT_EQ(content().contains("/Count 30"), !fails);
+        EXPECT_EQ(contentOf(folder.path()).size(), 1u);
+        EXPECT_EQ(panel, fails ? QString("Ready.") : "Log: written to \"" + name + "\".");
+    }
+}
+
+TEST_F(WrittenFiles, APreviewShowsItsFirstPageAtOnceAndAllPagesAtTheEnd)
+{
+    const NamingDoors doors(name);
+    int atFirst = 0, atEnd = 0;
+    const Attendant keeper([&](QWidget *dialog) {
+        if (PageView *view = viewInFront(); view && view->pages() == 300) {
+            view->goTo(300);
+            atEnd = view->page();
+            dialog->close();
+        }
+    });
+    RunReport(pagesOf(300,
+                      [&](int page) {
+                          if (page == 2)
+                              atFirst = viewInFront() ? viewInFront()->pages() : -1;
+                      }),
+              PrintTarget::Window, [](const QString &) {});
+    EXPECT_GE(atFirst, 1);
+    EXPECT_EQ(atEnd, 300);
+}
+
+TEST_F(WrittenFiles, APreviewThatIsClosedEndsItsReportAndAFailureClosesThePreview)
+{
+    const NamingDoors doors(name);
+    const int endless = 1'000'000;
+    int made = 0;
+    const Attendant keeper([](QWidget *dialog) {
+        if (PageView *view = viewInFront(); view && view->pages() > 0)
+            dialog->close();
+    });
+    RunReport(pagesOf(endless, [&made](int page) { made = page; }), PrintTarget::Window, [](const QString &) {});
+    EXPECT_LT(made, endless);
+    EXPECT_THROW(RunReport(pagesOf(3,
+                                   [](int page) {
+                                       if (page == 2)
+                                           throw RuntimeFailure(Failure::DeviceError);
+                                   }),
+                           PrintTarget::Window, [](const QString &) {}),
+                 RuntimeFailure);
+    EXPECT_FALSE(viewInFront());
 }
 
 TEST_F(WrittenFiles, CopiesAreAskedForOnceAndTheirCountDoesNotStayInThePrinter)

@@ -15,13 +15,13 @@
 #include <QRegularExpression>
 #include <QScreen>
 
-#include "platform/controls/Guarded.h"
 #include "platform/core/Files.h"
 #include "platform/core/RuntimeFailure.h"
 #include "platform/core/SettingsStore.h"
 #include "platform/desktop/HelpViewer.h"
 #include "platform/desktop/PaintedPages.h"
 #include "platform/desktop/Paper.h"
+#include "platform/desktop/Preview.h"
 
 namespace {
 
@@ -213,8 +213,7 @@ std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
 std::optional<PrintDialogAnswer> DesktopDoors::preview(const PreviewRequest &request)
 {
     const ActivityKeeper keeper;
-    return ShowPreview(keeper.window(),
-                       {request.printing, guarded([&request](PageSink &pages) { request.print(pages); })},
+    return ShowPreview(keeper.window(), request,
                        [&](const std::shared_ptr<QPrinter> &printer) { return askWhere(request.printing, printer); });
 }
 

@@ -1,12 +1,9 @@
 #include "platform/desktop/Paper.h"
 
-#include <QAction>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QPrintPreviewDialog>
 
-#include "platform/controls/Guarded.h"
 #include "platform/desktop/PaintedPages.h"
 
 namespace {
@@ -23,6 +20,8 @@ public:
         m_painter.end();
     }
 
+    QString whereTo() const override { return u"sent to the printer \"" + m_printer->printerName() + u'"'; }
+
 protected:
     QPagedPaintDevice &device() const override { return *m_printer; }
     void setTitle(const QString &title) override { m_printer->setDocName(title); }
@@ -30,18 +29,6 @@ protected:
 private:
     std::shared_ptr<QPrinter> m_printer;
 };
-
-/// Replaces what the preview's "Print" button does. Qt asks about an existing PDF before it adds the suffix to the
-/// name, and prints all copies as one document.
-void replacePrint(QPrintPreviewDialog &dialog, const std::function<void()> &print)
-{
-    for (QAction *action : dialog.findChildren<QAction *>()) {
-        if (action->text() != QPrintPreviewDialog::tr("Print"))
-            continue;
-        action->disconnect(&dialog);
-        QObject::connect(action, &QAction::triggered, &dialog, guarded(print));
-    }
-}
 
 } // namespace
 
@@ -71,25 +58,4 @@ std::optional<PrintDialogAnswer> AskPrinter(QWidget *parent, const PrintDialogRe
 std::unique_ptr<PageSink> PagesOnPrinter(std::shared_ptr<QPrinter> printer)
 {
     return std::make_unique<PrinterPages>(printer ? std::move(printer) : PrinterFor({}));
-}
-
-std::optional<PrintDialogAnswer> ShowPreview(QWidget *parent, const PreviewRequest &request, const AskWhere &where)
-{
-    const auto printer = PrinterFor(request.printing);
-    QPrintPreviewDialog dialog(printer.get(), parent);
-    dialog.setWindowTitle(request.printing.documentName);
-    dialog.resize(900, 700);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&] { request.print(*PagesOnPrinter(printer)); });
-    std::optional<PrintDialogAnswer> answer;
-    replacePrint(dialog, [&] {
-        answer = where(printer);
-        if (!answer)
-            return;
-        answer->target.printer = printer;
-        answer->target.keepsOrientation = true;
-        dialog.accept();
-    });
-    dialog.exec();
-    return answer;
 }

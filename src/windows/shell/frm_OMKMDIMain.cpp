@@ -155,6 +155,7 @@ void frm_OMKMDIMain::makeStatusBar()
     statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
     m_panel = new QLabel;
     m_panel->setObjectName(QStringLiteral("sbStatusBar_1"));
+    m_panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text must not widen the window
     statusBar()->addWidget(m_panel, 1);
 }
 
