@@ -8,7 +8,7 @@ namespace {
 
 enum Drawn : quint8 { drawnText, drawnLine, drawnPicture };
 
-constexpr int quickly = 1; // of the levels of packing; the others take much longer and save little
+constexpr auto precision = QDataStream::SinglePrecision; // a thousandth of a printer's dot
 
 } // namespace
 
@@ -16,6 +16,7 @@ PageSpool::PageSpool(PageSink &device, bool keepsOrientation) : m_device(device)
 {
     m_page.open(QIODevice::WriteOnly);
     m_out.setDevice(&m_page);
+    m_out.setFloatingPointPrecision(precision);
 }
 
 void PageSpool::setLandscape(bool landscape)
@@ -35,14 +36,14 @@ void PageSpool::beginDocument(const QString &title)
 
 void PageSpool::completePage()
 {
-    const QByteArray packed = qCompress(m_page.buffer(), quickly);
+    const QByteArray &page = m_page.buffer();
     const qint64 start = m_ends.empty() ? 0 : m_ends.back();
-    if (!m_file.seek(start) || m_file.write(packed) != packed.size() || !m_file.flush())
+    if (!m_file.seek(start) || m_file.write(page) != page.size() || !m_file.flush())
         throw RuntimeFailure(
             Failure::DiskFull,
             QStringLiteral("\"%1\" could not be written: %2").arg(m_file.fileName(), m_file.errorString()));
-    m_ends.push_back(start + packed.size());
-    m_page.buffer().clear();
+    m_ends.push_back(start + page.size());
+    m_page.buffer().resize(0); // keeps its room for the next page
     m_page.seek(0);
 }
 
@@ -56,7 +57,7 @@ quint8 PageSpool::numberOf(const PageFont &font)
 
 void PageSpool::text(double x, double y, const PageFont &font, const QString &text)
 {
-    m_out << quint8(drawnText) << x << y << numberOf(font) << text;
+    m_out << quint8(drawnText) << x << y << numberOf(font) << text.toUtf8();
 }
 
 void PageSpool::line(double x1, double y1, double x2, double y2) { m_out << quint8(drawnLine) << x1 << y1 << x2 << y2; }
@@ -70,22 +71,23 @@ void PageSpool::picture(double x, double y, const QSizeF &size, const PagePictur
 void PageSpool::draw(int page, PageSink &on)
 {
     const qint64 start = page == 1 ? 0 : m_ends.at(std::size_t(page) - 2), end = m_ends.at(std::size_t(page) - 1);
-    const QByteArray packed = m_file.seek(start) ? m_file.read(end - start) : QByteArray();
-    if (packed.size() != end - start)
+    const QByteArray drawn = m_file.seek(start) ? m_file.read(end - start) : QByteArray();
+    if (drawn.size() != end - start)
         throw RuntimeFailure(
             Failure::DeviceError,
             QStringLiteral("\"%1\" could not be read: %2").arg(m_file.fileName(), m_file.errorString()));
-    const QByteArray drawn = qUncompress(packed);
-    for (QDataStream in(drawn); !in.atEnd();) {
+    QDataStream in(drawn);
+    in.setFloatingPointPrecision(precision);
+    while (!in.atEnd()) {
         quint8 what = 0, font = 0;
         double x = 0, y = 0, x2 = 0, y2 = 0;
-        QString text;
+        QByteArray text;
         QSizeF size;
         quint32 picture = 0;
         in >> what >> x >> y;
         if (what == drawnText) {
             in >> font >> text;
-            on.text(x, y, m_fonts.at(font), text);
+            on.text(x, y, m_fonts.at(font), QString::fromUtf8(text));
         } else if (what == drawnLine) {
             in >> x2 >> y2;
             on.line(x, y, x2, y2);

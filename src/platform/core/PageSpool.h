@@ -1,5 +1,5 @@
-// A document that is kept in a temporary file, each page packed, so that a report of any length needs little memory. It
-// is drawn when it is whole, or page by page while it grows, as the preview does. Its lengths are those of the device
+// A document that is kept in a temporary file, page by page, so that a report of any length needs little memory. It is
+// drawn when it is whole, or page by page while it grows, as the preview does. Its lengths are those of the device
 // that it is made for. RunReport (PrintJob.h) makes each document here first, so that a report that fails half-way has
 // sent nothing.
 #pragma once
@@ -43,7 +43,7 @@ public:
     void picture(double x, double y, const QSizeF &size, const PagePicture &paint) override;
 
 private:
-    /// Packs the page into the file. Throws DiskFull if that fails.
+    /// Writes the page to the file. Throws DiskFull if that fails.
     void completePage();
     quint8 numberOf(const PageFont &font);
 

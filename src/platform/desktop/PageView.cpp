@@ -29,7 +29,7 @@ void PageView::setPaper(const QSizeF &points)
     m_pages = 0;
     m_page = 1;
     verticalScrollBar()->setValue(0);
-    layOut();
+    layOut(m_zoom);
 }
 
 void PageView::setPages(int pages)
@@ -38,7 +38,7 @@ void PageView::setPages(int pages)
     const bool inView = begins || placeOf(m_pages + 1).top() < viewport()->height();
     m_pages = pages;
     if (begins)
-        layOut();
+        layOut(m_zoom);
     else
         setRanges();
     if (inView)
@@ -86,15 +86,16 @@ double PageView::fittingZoom() const
     return qBound(leastZoom, m_fit == Fit::Width ? wide : qMin(wide, high), mostZoom);
 }
 
-void PageView::layOut()
+void PageView::layOut(double zoom)
 {
     if (m_paper.isEmpty())
         return;
-    const double rowsAbove = verticalScrollBar()->value() / cell().height();
-    if (m_fit != Fit::None || m_arrangement == Arrangement::Overview)
-        m_zoom = fittingZoom();
+    // What is in the middle of the view stays there.
+    const double middle = viewport()->height() / 2.0;
+    const double rowsAbove = (verticalScrollBar()->value() + middle) / cell().height();
+    m_zoom = m_fit == Fit::None && m_arrangement != Arrangement::Overview ? zoom : fittingZoom();
     setRanges();
-    verticalScrollBar()->setValue(int(std::lround(rowsAbove * cell().height())));
+    verticalScrollBar()->setValue(int(std::lround(rowsAbove * cell().height() - middle)));
     viewport()->update();
     emit moved();
 }
@@ -121,8 +122,7 @@ void PageView::zoomTo(double zoom)
     if (m_arrangement == Arrangement::Overview)
         m_arrangement = Arrangement::Single;
     m_fit = Fit::None;
-    m_zoom = qBound(leastZoom, zoom, mostZoom);
-    layOut();
+    layOut(qBound(leastZoom, zoom, mostZoom));
 }
 
 void PageView::setFit(Fit fit)
@@ -131,7 +131,7 @@ void PageView::setFit(Fit fit)
     if (m_arrangement == Arrangement::Overview)
         m_arrangement = Arrangement::Single;
     const int page = m_page;
-    layOut();
+    layOut(m_zoom);
     goTo(page);
 }
 
@@ -141,7 +141,7 @@ void PageView::arrange(Arrangement arrangement)
         m_fit = Fit::Page;
     m_arrangement = arrangement;
     const int page = m_page;
-    layOut();
+    layOut(m_zoom);
     goTo(page);
 }
 
@@ -166,7 +166,7 @@ void PageView::paintEvent(QPaintEvent *event)
     }
 }
 
-void PageView::resizeEvent(QResizeEvent *) { layOut(); }
+void PageView::resizeEvent(QResizeEvent *) { layOut(m_zoom); }
 
 void PageView::scrollContentsBy(int dx, int dy)
 {

@@ -47,7 +47,7 @@ private:
     int firstColumn() const; ///< of the first page: as in a book, it is on the right
     QRectF placeOf(int page) const;
     double fittingZoom() const;
-    void layOut();
+    void layOut(double zoom); ///< the zoom is for pages that do not fit themselves
     void setRanges();
 
     PaintPage m_paint;

@@ -54,16 +54,13 @@ public:
     void newPage() override
     {
         if (m_file.error() != QFileDevice::NoError)
-            throw failure(); // a full disk is told now and not after the last page
+            throw failure(); // now and not after the last page
         PaintedPages::newPage();
     }
     void endDocument() override
     {
         PaintedPages::endDocument();
-        const bool isWritten = m_file.flush();
-        if (!isWritten)
-            m_file.flush(); // a write that was only partly done gives no reason, but the next one does
-        if (!isWritten || m_file.error() != QFileDevice::NoError || !m_file.commit())
+        if (!m_file.flush() || m_file.error() != QFileDevice::NoError || !m_file.commit())
             throw failure();
     }
 
@@ -72,8 +69,10 @@ protected:
     void setTitle(const QString &title) override { m_writer.setTitle(title); }
 
 private:
-    RuntimeFailure failure() const
+    RuntimeFailure failure()
     {
+        if (m_file.isOpen())
+            m_file.flush(); // a write that was only partly done gives no reason, but the next one does
         return RuntimeFailure(
             failureOf(m_file),
             QStringLiteral("\"%1\" could not be written: %2").arg(m_file.fileName(), m_file.errorString()));

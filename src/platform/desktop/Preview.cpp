@@ -274,6 +274,7 @@ void Preview::addBoxes(QToolBar &bar, QAction *pageBefore, QAction *zoomBefore)
     m_page->setKeyboardTracking(false);
     m_pages = new QLabel;
     m_pages->setObjectName(QStringLiteral("pageCount"));
+    m_pages->setMinimumWidth(m_pages->fontMetrics().horizontalAdvance(QStringLiteral(" of 0000... ")));
     bar.insertWidget(pageBefore, m_page);
     bar.insertWidget(pageBefore, m_pages);
     connect(m_page, &QSpinBox::valueChanged, this, [this](int page) { m_view->goTo(page); });
