@@ -76,7 +76,8 @@ TEST_F(Measurements, EachIsStoredAndListedAndPrintedInItsOwnColumn)
 {
     addTest();
     keeper.doors.printers = {PrintDialogAnswer{1}};
-    RunReport(MakeLogReport(WaterTab, *keeper.g().gDatabase, "MM/DD/YY", QString("r1")), PrintTarget::Printer);
+    RunReport(MakeLogReport(WaterTab, *keeper.g().gDatabase, "MM/DD/YY", QString("r1")), PrintTarget::Printer,
+              [](const QString &) {});
     const PrintedPage &page = keeper.doors.documents.at(0).pages.at(0);
     QStringList headings;
     for (int i = 0; i < list().model()->columnCount(); ++i)
