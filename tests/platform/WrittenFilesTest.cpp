@@ -308,7 +308,7 @@ TEST_F(WrittenFiles, APreviewShowsItsFirstPageAtOnceAndHasThePagesThatArePrinted
     });
     RunReport(report, PrintTarget::Window, [](const QString &) {});
     EXPECT_TRUE(midway >= 1 && midway < shown) << midway;
-    EXPECT_TRUE(content().contains("/Count " + QByteArray::number(shown) + "\n")) << shown;
+    EXPECT_TRUE(content().contains(QByteArray("/Count " + QByteArray::number(shown) + "\n"))) << shown;
 }
 
 TEST_F(WrittenFiles, APreviewThatIsClosedEndsItsReportAndAFailureClosesThePreview)

@@ -15,6 +15,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 
+#include "platform/controls/Guarded.h"
 #include "platform/core/Files.h"
 #include "platform/core/RuntimeFailure.h"
 #include "platform/core/SettingsStore.h"
