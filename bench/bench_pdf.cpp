@@ -55,9 +55,9 @@ struct Drawing
 
 void layOut(QPdfWriter &writer)
 {
-    writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(12, 12, 12, 12),
-                                     QPageLayout::Millimeter));
-    writer.setResolution(600);
+    writer.setPageLayout(
+        QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, usualMargins, QPageLayout::Millimeter));
+    writer.setResolution(usualResolution);
 }
 
 /// Collects what a report draws, measured as a PDF measures it.

@@ -14,13 +14,11 @@
 
 namespace {
 
-constexpr int pdfResolution = 600; // dots per inch
-
 QPageLayout usualLayout()
 {
     const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageLayout(QPageSize(american ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
-                       QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
+    return QPageLayout(QPageSize(american ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait, usualMargins,
+                       QPageLayout::Millimeter);
 }
 
 /// The failure for an error of a file. Qt keeps the system's message but not its error number.
@@ -42,7 +40,7 @@ public:
         if (!m_file.open(QIODevice::WriteOnly))
             throw failure();
         m_writer.setPageLayout(layout);
-        m_writer.setResolution(pdfResolution);
+        m_writer.setResolution(usualResolution);
         m_writer.setCreator(QStringLiteral("Ostrelmark"));
     }
     ~PdfPages() override

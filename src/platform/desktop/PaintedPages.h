@@ -42,6 +42,11 @@ private:
     const MadeFont *m_fontInUse = nullptr;
 };
 
+/// A PDF and a printer begin with the same margins, in millimetres, and dots an inch, so that the same report has the
+/// same pages on both and in the preview: the height of a line is rounded to the dots.
+inline constexpr QMarginsF usualMargins(12, 12, 12, 12);
+inline constexpr int usualResolution = 1200;
+
 QFont FontOf(const PageFont &font);
 /// The pen of the lines, for paper of that resolution.
 QPen LinePen(int dotsAnInch);

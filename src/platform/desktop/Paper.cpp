@@ -37,7 +37,9 @@ bool HasPrinters() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 std::shared_ptr<QPrinter> PrinterFor(const PrintDialogRequest &request)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setResolution(usualResolution);
     printer->setDocName(request.documentName);
+    printer->setPageMargins(usualMargins, QPageLayout::Millimeter);
     printer->setPageOrientation(request.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     return printer;
 }
