@@ -21,6 +21,7 @@
 namespace {
 
 constexpr double reported = 10'000;
+constexpr std::size_t mostOfEntry = 20; ///< texts and lines, with the share of the headings
 
 long mostKilobytes()
 {
@@ -64,9 +65,11 @@ void layOut(QPdfWriter &writer)
 class Collected : public PageSink
 {
 public:
-    explicit Collected(const QString &file) : m_pages(PagesInPdf(file)), m_measure(file + u".measure")
+    /// Freeing a large block, as a growing vector does, would make the C library keep more memory for what is measured.
+    Collected(const QString &file, int entries) : m_pages(PagesInPdf(file)), m_measure(file + u".measure")
     {
         layOut(m_measure);
+        drawings.reserve(std::size_t(entries) * mostOfEntry);
     }
 
     std::vector<Drawing> drawings;
@@ -143,7 +146,7 @@ int main(int argc, char **argv)
     const Report report = MakeLogReport(WaterTab, *database, QStringLiteral("MM/DD/YY"), tank);
     std::optional<Collected> collected;
     if (argc > 3) {
-        collected.emplace(file);
+        collected.emplace(file, entries);
         Printer page(*collected, report.documentName);
         report.print(page);
     }
