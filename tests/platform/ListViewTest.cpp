@@ -118,23 +118,6 @@ TEST_F(ListViewTest, CopiesTheSelectedRowOrTheWholeListForASpreadsheet)
     EXPECT_FALSE(CopyFromList(m_list, QKeyEvent(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier)));
 }
 
-TEST_F(ListViewTest, AClickBesideTheRowsSelectsNoneAndIsAClickNevertheless)
-{
-    showFish();
-    QSignalSpy clicks(&m_list, &ListView::Click), doubles(&m_list, &ListView::DblClick);
-    const QPoint beside(20, m_list.viewport()->height() - 3);
-    for (const bool twice : {false, true}) {
-        m_list.Select(2);
-        twice ? mouse::doubleClick(m_list.viewport(), beside) : mouse::click(m_list.viewport(), beside);
-        EXPECT_EQ(m_list.SelectedItem(), 0);
-        EXPECT_EQ(doubles.count(), twice);
-    }
-    const auto before = clicks.count();
-    EXPECT_GT(before, 0);
-    mouse::click(m_list.viewport(), beside, Qt::RightButton);
-    EXPECT_EQ(clicks.count(), before);
-}
-
 TEST_F(ListViewTest, ReadsOnlyTheRowsThatItShows)
 {
     const auto rows = std::make_shared<FishRows>(std::vector<QStringList>(100000, QStringList{"a name", "1"}));

@@ -1,9 +1,6 @@
 // The files that the program writes besides the database: PDFs and settings. If writing fails, an existing file does
 // not change.
-#include <csignal>
 #include <functional>
-
-#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
@@ -23,12 +20,11 @@
 #include <QTimer>
 
 #include "platform/core/Doors.h"
-#include "platform/desktop/DesktopDoors.h"
-
-#include "platform/core/RuntimeFailure.h"
 #include "platform/core/SettingsStore.h"
+#include "platform/desktop/DesktopDoors.h"
 #include "platform/desktop/PaintedPages.h"
 #include "platform/desktop/Paper.h"
+#include "support/Failures.h"
 #include "support/TestFiles.h"
 
 /// Calls `look` with the dialog in front fifty times a second. After ten seconds it closes every dialog instead, so
@@ -83,35 +79,22 @@ TEST_F(WrittenFiles, APdfIsThereWhenItsDocumentHasEnded)
 
 TEST_F(WrittenFiles, APdfThatCannotBeWrittenSaysWhy)
 {
-    const auto number = [](const auto &work) {
-        try {
-            work();
-        } catch (const RuntimeFailure &failure) {
-            return int(failure.number());
-        }
-        return 0;
-    };
-    EXPECT_EQ(number([&] { PagesInPdf(folder.filePath("none/log.pdf")); }), int(Failure::PathNotFound));
+    EXPECT_EQ(numberOf([&] { PagesInPdf(folder.filePath("none/log.pdf")); }), int(Failure::PathNotFound));
     QDir(folder.path()).mkdir("usb");
-    EXPECT_EQ(number([&] { PagesInPdf(folder.filePath("usb")); }), int(Failure::PermissionDenied)) << "a folder";
+    EXPECT_EQ(numberOf([&] { PagesInPdf(folder.filePath("usb")); }), int(Failure::PermissionDenied)) << "a folder";
     auto pages = PagesInPdf(folder.filePath("usb/log.pdf"));
     pages->beginDocument("Log");
     ASSERT_TRUE(QDir(folder.filePath("usb")).removeRecursively());
-    EXPECT_EQ(number([&] { pages->endDocument(); }), int(Failure::PathNotFound));
+    EXPECT_EQ(numberOf([&] { pages->endDocument(); }), int(Failure::PathNotFound));
 
     writeFile(name, "an older log");
-    struct rlimit former = {};
-    ::getrlimit(RLIMIT_FSIZE, &former);
-    const struct rlimit full = {100, former.rlim_max};
-    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
     pages = PagesInPdf(name);
     pages->beginDocument("Log");
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    const int told = number([&] { pages->endDocument(); });
-    pages.reset();
-    ::setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, formerHandler);
-    EXPECT_EQ(told, int(Failure::DiskFull));
+    {
+        const SmallDisk disk(100, false);
+        EXPECT_EQ(numberOf([&] { pages->endDocument(); }), int(Failure::DiskFull));
+        pages.reset();
+    }
     EXPECT_EQ(content(), "an older log");
     EXPECT_EQ(contentOf(folder.path()).size(), 1u);
 }
