@@ -3,29 +3,8 @@
 #include <map>
 #include <QClipboard>
 
+#include "AllWindows.h"
 #include "Desk.h"
-#include "windows/advisers/frm_Compat.h"
-#include "windows/advisers/frm_DiagDiagnosis.h"
-#include "windows/advisers/frm_DiagnosisQA.h"
-#include "windows/advisers/frm_FantAddAnimal.h"
-#include "windows/advisers/frm_Fantasy.h"
-#include "windows/common/frm_Caltool.h"
-#include "windows/graph/frm_WaterGraph.h"
-#include "windows/logbook/frm_LivesAddEdit.h"
-#include "windows/logbook/frm_LivesMove.h"
-#include "windows/logbook/frm_MaintAddEdit.h"
-#include "windows/logbook/frm_OMKLogPrint.h"
-#include "windows/logbook/frm_WaterAddEdit.h"
-#include "windows/reference/frm_Conversions.h"
-#include "windows/reference/frm_LatintoCommon.h"
-#include "windows/reminders/frm_Maintsched.h"
-#include "windows/reminders/frm_SchedNewAddEdit.h"
-#include "windows/reminders/frm_Schedule.h"
-#include "windows/shell/frm_OMKCredits.h"
-#include "windows/shell/frm_OMKOptions.h"
-#include "windows/shell/frm_OMKtod.h"
-#include "windows/tanks/frm_TankAddNew.h"
-#include "windows/tanks/frm_TankMaint.h"
 
 namespace {
 
