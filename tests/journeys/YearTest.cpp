@@ -1,6 +1,6 @@
-// A year with two tanks. Water is tested and work is done each month, animals are bought, and one is moved; in the middle
-// the program is restarted. At the end, after another start, the screen and the printouts must both show what was done.
-// The test runs once for each date order.
+// A year with two tanks. Water is tested and work is done each month, animals are bought, and one is moved; in the
+// middle the program is restarted. At the end, after another start, the screen and the printouts must both show what
+// was done. The test runs once for each date order.
 #include <algorithm>
 
 #include "text/Dates.h"
