@@ -1,10 +1,10 @@
 #include "platform/controls/ListView.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
 #include <QContextMenuEvent>
-#include <QFontInfo>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -18,12 +18,10 @@
 
 #include "platform/controls/ListModel.h"
 #include "platform/controls/Style.h"
+#include "platform/controls/WindowSize.h"
 #include "platform/core/RuntimeFailure.h"
 
 namespace {
-
-/// Pixel size of a font of 9 points at 96 dpi, for which column widths are given.
-constexpr double referenceFontPixels = 12;
 
 QString onOneLine(QString text)
 {
@@ -31,6 +29,16 @@ QString onOneLine(QString text)
     text.replace(u'\n', u' ');
     text.replace(u'\r', u' ');
     return text;
+}
+
+/// What the heading of a column needs, with the arrow of a sorted one.
+int headingWidth(QHeaderView &header, int column)
+{
+    const bool shown = header.isSortIndicatorShown();
+    header.setSortIndicatorShown(true);
+    const int width = header.sectionSizeHint(column);
+    header.setSortIndicatorShown(shown);
+    return width;
 }
 
 } // namespace
@@ -114,7 +122,7 @@ void ListView::setColumns(const std::vector<ListColumn> &columns)
 {
     m_model->setColumns(columns);
     for (int i = 0; i < int(columns.size()); ++i)
-        setColumnWidth(i, qRound(columns[size_t(i)].width * m_scale));
+        setColumnWidth(i, std::max(qRound(columns[size_t(i)].width * m_scale), headingWidth(*horizontalHeader(), i)));
 }
 
 QString ListView::columnLayout() const
@@ -244,7 +252,7 @@ void ListView::fitToFont()
     const int height = RowHeight(fontMetrics());
     verticalHeader()->setMinimumSectionSize(height);
     verticalHeader()->setDefaultSectionSize(height);
-    const double scale = QFontInfo(font()).pixelSize() / referenceFontPixels;
+    const double scale = FontScale(font());
     const double ratio = scale / std::exchange(m_scale, scale);
     if (!qFuzzyCompare(ratio, 1.0))
         for (int i = 0; i < columnCount(); ++i)

@@ -115,7 +115,7 @@ void EntryForm::arrange(QWidget *page, const char *tabCaption, QPushButton *ok, 
     auto *outer = new QVBoxLayout(this);
     outer->addWidget(tabs);
     outer->addLayout(buttons);
-    resize(outer->sizeHint().expandedTo(QSize(640, 0)));
+    resize(640, 0); // as high as its contents
 }
 
 void EntryForm::setToNow(MaskedBox &date, MaskedBox &time) const
