@@ -31,16 +31,6 @@ QString onOneLine(QString text)
     return text;
 }
 
-/// What the heading of a column needs, with the arrow of a sorted one.
-int headingWidth(QHeaderView &header, int column)
-{
-    const bool shown = header.isSortIndicatorShown();
-    header.setSortIndicatorShown(true);
-    const int width = header.sectionSizeHint(column);
-    header.setSortIndicatorShown(shown);
-    return width;
-}
-
 } // namespace
 
 /// Draws a cell as part of its row: one line of text without a focus rectangle. The tool tip shows the whole text if it
@@ -122,7 +112,7 @@ void ListView::setColumns(const std::vector<ListColumn> &columns)
 {
     m_model->setColumns(columns);
     for (int i = 0; i < int(columns.size()); ++i)
-        setColumnWidth(i, std::max(qRound(columns[size_t(i)].width * m_scale), headingWidth(*horizontalHeader(), i)));
+        setColumnWidth(i, std::max(qRound(columns[size_t(i)].width * m_scale), horizontalHeader()->sectionSizeHint(i)));
 }
 
 QString ListView::columnLayout() const
@@ -239,6 +229,8 @@ void ListView::showSortArrow()
     if (shown)
         horizontalHeader()->setSortIndicator(m_sortKey, m_sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
     horizontalHeader()->setSortIndicatorShown(shown);
+    if (shown) // the arrow needs room beside the heading
+        setColumnWidth(m_sortKey, std::max(columnWidth(m_sortKey), horizontalHeader()->sectionSizeHint(m_sortKey)));
 }
 
 void ListView::setFullRowSelect(bool on) { setSelectionBehavior(on ? SelectRows : SelectItems); }

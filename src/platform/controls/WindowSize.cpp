@@ -29,6 +29,7 @@ public:
         setFrameShape(NoFrame);
         setFocusPolicy(Qt::NoFocus);
         setWidgetResizable(true);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // else its width is forgotten where a text wraps
         setWidget(new QWidget);
         widget()->setLayout(dialog.layout()); // takes the controls along
         connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
@@ -51,9 +52,9 @@ private:
     QSize withBars(QSize size) const
     {
         const QSize room = RoomOn(*screen());
-        const bool tooHigh = size.height() > room.height(), tooWide = size.width() > room.width();
-        size += QSize(tooHigh ? verticalScrollBar()->sizeHint().width() : 0,
-                      tooWide ? horizontalScrollBar()->sizeHint().height() : 0);
+        size.rwidth() += verticalScrollBar()->sizeHint().width();
+        if (size.width() > room.width())
+            size.rheight() += horizontalScrollBar()->sizeHint().height();
         return size.boundedTo(room);
     }
 };
@@ -62,21 +63,16 @@ private:
 class DialogFit : public QObject
 {
 public:
-    explicit DialogFit(QDialog &dialog) : QObject(&dialog), m_dialog(dialog)
-    {
-        scrollIfTooLarge();
-        dialog.installEventFilter(this);
-    }
+    explicit DialogFit(QDialog &dialog) : QObject(&dialog), m_dialog(dialog) { dialog.installEventFilter(this); }
 
 protected:
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->spontaneous())
+        if (event->spontaneous() || !m_dialog.isVisible()) // it may be large only until its contents are set
             return false;
         if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
             scrollIfTooLarge();
-        const bool placed = event->type() == QEvent::Show && m_dialog.testAttribute(Qt::WA_Moved);
-        if (placed || (event->type() == QEvent::Resize && m_dialog.isVisible()))
+        if (event->type() == QEvent::Resize || (event->type() == QEvent::Show && m_dialog.testAttribute(Qt::WA_Moved)))
             keepOnScreen();
         return false;
     }
@@ -99,8 +95,7 @@ private:
         contents->show();
         if (focus)
             focus->setFocus();
-        if (m_dialog.isVisible())
-            m_dialog.resize(m_dialog.size().expandedTo(contents->minimumSizeHint()).boundedTo(room));
+        m_dialog.resize(m_dialog.size().expandedTo(contents->minimumSizeHint()).boundedTo(room));
     }
 
     void keepOnScreen()
@@ -128,9 +123,7 @@ QSize RoomOn(const QScreen &screen) { return screen.availableGeometry().marginsR
 void FitToScreen(QWidget &window)
 {
     if (window.testAttribute(Qt::WA_Resized))
-        window.resize((window.size() * FontScale(window.font()))
-                          .expandedTo(window.sizeHint())
-                          .boundedTo(RoomOn(*window.screen())));
+        window.resize((window.size() * FontScale(window.font())).boundedTo(RoomOn(*window.screen())));
     if (auto *dialog = qobject_cast<QDialog *>(&window))
         new DialogFit(*dialog);
 }

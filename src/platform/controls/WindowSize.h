@@ -13,7 +13,7 @@ double FontScale(const QFont &font);
 /// The largest size of a window on a screen: what the desktop leaves free, without the window's own frame.
 QSize RoomOn(const QScreen &screen);
 
-/// Call it once for each new window, when its controls are made. A size that the window was given is taken as one for
-/// the usual font: it grows with the font and with what the contents ask for, up to the room on the screen. A dialog
-/// with larger contents gets scroll bars, now or whenever its contents grow, and one that grows stays on the screen.
+/// Call it once for each new window. A size that it was given is taken as one for the usual font: it grows with the
+/// font, up to the room on the screen. A dialog with larger contents gets scroll bars, when it is shown or when its
+/// contents grow, and one that grows stays on the screen.
 void FitToScreen(QWidget &window);

@@ -156,7 +156,7 @@ void frm_OMKMDIMain::makeToolbar()
     connect(cbo_Reminders, &QComboBox::currentTextChanged, cbo_Reminders,
             [box = cbo_Reminders](const QString &next) { box->setToolTip(u"Upcoming reminders\n" + next); });
     cbo_Reminders->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cbo_Reminders->setMinimumContentsLength(34);
+    cbo_Reminders->setMinimumContentsLength(22); // more if the buttons leave it
     cbo_Reminders->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     on(cbo_Reminders, &QComboBox::currentIndexChanged, this, &frm_OMKMDIMain::cbo_Reminders_Click);
     m_toolbarPlace = strip->addWidget(Toolbar1);
