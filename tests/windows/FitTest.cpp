@@ -219,7 +219,6 @@ TEST(FitOfWindows, ADialogThatGrowsBeyondTheScreenScrollsToTheControlThatHasTheF
         return dialog.findChild<QScrollArea *>() && dialog.screen()->availableGeometry().contains(dialog.geometry());
     }));
     EXPECT_TRUE(first->hasFocus());
-    hand::press(Qt::Key_Backtab);
-    EXPECT_TRUE(last->hasFocus());
+    last->setFocus(); // by code, as when a box is refused; Tab scrolls by itself
     EXPECT_EQ(last->visibleRegion().boundingRect(), last->rect());
 }
