@@ -177,6 +177,23 @@ TEST_F(Desktop, ATankIsDeletedAloneThoughTheMainWindowIsActivatedMeanwhile)
     EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same'") + keeper.count("LIVESTOCK WHERE tankname = 'Same'"), 0);
 }
 
+TEST_F(Desktop, ABoxShowsAllItsTextAndBreaksNoPath)
+{
+    const QString sentence =
+        "Another Ostrelmark has the logbook in this folder open, and that is told at some length:\n";
+    for (const int folders : {1, 3, 4}) {
+        const QString path = QString("/a folder with a name").repeated(folders);
+        real::inNext<QMessageBox>([&](QMessageBox &box) {
+            const auto &label = control<QLabel>(box, "qt_msgbox_label");
+            EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance(path)) << folders;
+            EXPECT_GE(label.width(), label.wordWrap() ? 0 : label.sizeHint().width()) << folders;
+            EXPECT_GE(label.height(), label.wordWrap() ? label.heightForWidth(label.width()) : 0) << folders;
+            real::press("Return");
+        });
+        MsgBox(sentence + path);
+    }
+}
+
 class DesktopTests : public Desktop
 {
 protected:
