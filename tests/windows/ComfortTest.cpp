@@ -4,6 +4,7 @@
 #include <QClipboard>
 
 #include "Desk.h"
+#include "support/TestFiles.h"
 #include "windows/advisers/frm_Compat.h"
 #include "windows/advisers/frm_DiagDiagnosis.h"
 #include "windows/advisers/frm_DiagnosisQA.h"
@@ -209,6 +210,47 @@ TEST_F(Keys, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
     });
     hand::press(Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(keeper.doors.boxes.size(), 3U) << "two questions, and that the tank is gone";
+}
+
+TEST_F(Keys, LettersGoToARowOfEachListAndRightToItsNextCell)
+{
+    addEntry(WaterTab, "r1", "2026-03-01 09:30:00", "ph", "8");
+    addEntry(WaterTab, "r1", "2026-11-02 09:30:00", "ph", "8");
+    addEntry(WaterTab, "r1", "2026-12-03 09:30:00", "ph", "8");
+    hand::clickTank(*logbook, "Reef"); // shows them
+    for (const char *names : {"NAMESSW.TXT", "NAMESFW.TXT"})
+        writeFile(names, QByteArray("Tang").leftJustified(60) + "\n" + QByteArray("Cowfish").leftJustified(60) + '\n');
+    const struct
+    {
+        QWidget *(*open)(frm_OMKMDIMain &);
+        const char *list, *keys, *row;
+        const char *cell; ///< the heading of the next cell; empty where a row has only one
+    } cases[] = {
+        {make<frm_Waterlog>, "lstv_WaterLog", "12", "12/03/26", "ph"},
+        {make<frm_Waterlog>, "TreeView1", "bo", "Bowl", ""},
+        {make<frm_LatintoCommon>, "lstv_Names", "co", "Cowfish", "Latin Name"},
+        {make<frm_Conversions>, "lstv_Convert", "ga", "Gallons", "Convert To"},
+        {make<frm_Fantasy>, "lst_select", "tr", "Trigger", ""},
+    };
+    QApplication::setKeyboardInputInterval(60000);
+    for (const auto &[open, list, keys, row, cell] : cases) {
+        QWidget &window = *open(*main);
+        window.window()->activateWindow();
+        EXPECT_TRUE(isInFront(*window.window()));
+        auto &view = control<QAbstractItemView>(window, list);
+        for (int tab = 0; tab < 40 && !view.hasFocus(); ++tab)
+            hand::press(Qt::Key_Tab);
+        ASSERT_TRUE(view.hasFocus()) << list;
+        hand::write(keys);
+        EXPECT_TRUE(view.currentIndex().siblingAtColumn(0).data().toString().startsWith(row)) << list << ' ' << keys;
+        if (*cell) {
+            hand::press(Qt::Key_Right);
+            EXPECT_EQ(view.model()->headerData(view.currentIndex().column(), Qt::Horizontal).toString(), cell);
+        }
+        if (&window != logbook)
+            Unload(window);
+    }
+    QApplication::setKeyboardInputInterval(-1);
 }
 
 class Memory : public Desk

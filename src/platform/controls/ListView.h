@@ -102,6 +102,8 @@ private:
 
     void checkRow(int item) const;
     void fitToFont();
+    bool isSortShown() const;
+    int firstColumn() const;
     void showSortArrow();
     void menuByKey();
     QRect rowRect(int row) const;

@@ -49,7 +49,7 @@ frm_Fantasy::frm_Fantasy(const FormContext &context) : ChildForm(context), m_che
     setMinimumSize(smallestWindow.expandedTo(layout()->minimumSize()));
     for (QListWidget *list : {lst_select, lst_Fantank}) {
         list->viewport()->installEventFilter(this);
-        SelectWithFirstDown(*list);
+        MoveByKeys(*list);
     }
     for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_Return, Qt::Key_Enter})
         OnListKey(*lst_select, key, *cmd_AddAnimal);
