@@ -18,7 +18,8 @@
 namespace {
 
 constexpr int rows = 20;
-constexpr int bars = 1; // the chart type of bars
+constexpr int bars = 1;      // the chart type of bars
+constexpr int lineBands = 8; // the axes that our chart gives to lines of such different values, and so does the floor
 const QSize pictureSize(1000, 700);
 
 /// Values as large as those of a marine tank.
@@ -66,7 +67,8 @@ Sample drawFloor(QCustomPlot &plot, int type)
     const QSharedPointer<QCPAxisTickerText> ticks(new QCPAxisTickerText);
     for (int row = 0; row < rows; ++row)
         ticks->addTick(row, rowLabel(row));
-    plot.xAxis->setTicker(ticks);
+    for (QCPAxisRect *rect : plot.axisRects())
+        rect->axis(QCPAxis::atBottom)->setTicker(ticks);
     auto *group = type == bars ? new QCPBarsGroup(&plot) : nullptr;
     for (int column = 0; column < 13; ++column) {
         QVector<double> keys, values;
@@ -84,7 +86,8 @@ Sample drawFloor(QCustomPlot &plot, int type)
             one->setBrush(colour);
             drawn = one;
         } else {
-            QCPGraph *one = plot.addGraph();
+            const QCPAxisRect *band = plot.axisRect(column % lineBands);
+            QCPGraph *one = plot.addGraph(band->axis(QCPAxis::atBottom), band->axis(QCPAxis::atLeft));
             one->setData(keys, values, true);
             one->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, 6));
             drawn = one;
@@ -157,6 +160,8 @@ Figure chartFigure(const QString &name, int type)
     const auto plot = std::make_shared<QCustomPlot>();
     for (QWidget *widget : {static_cast<QWidget *>(chart.get()), static_cast<QWidget *>(plot.get())})
         widget->resize(pictureSize);
+    for (int band = 1; type != bars && band < lineBands; ++band)
+        plot->plotLayout()->addElement(band, 0, new QCPAxisRect(plot.get()));
     return {.name = name,
             .target = 1.2,
             .ours = [chart, type] { return drawOurs(*chart, type); },

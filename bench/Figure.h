@@ -48,6 +48,8 @@ Figure chooseAnimalFigure();
 Figure dropAnimalFigure();
 /// The time for 10,000 entries beside ten times the time for 1,000; they are equal if the time grows linearly.
 Figure pdfFigure(const QString &folder);
+/// The same entries beside a QPainter that draws the same texts at the same places on a QPdfWriter.
+Figure barePdfFigure(const QString &folder);
 /// A page of 20 tests with 13 measurements, drawn as a picture of 1000 x 700, beside QCustomPlot alone.
 Figure barChartFigure();
 Figure lineChartFigure();

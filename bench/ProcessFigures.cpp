@@ -74,3 +74,18 @@ Figure pdfFigure(const QString &folder)
             .extraName = QStringLiteral("  most memory, MB"),
             .extraTarget = 1.1};
 }
+
+Figure barePdfFigure(const QString &folder)
+{
+    return {.name = QStringLiteral("A PDF of 10,000 entries, bare drawing, ms"),
+            .target = 1.5,
+            .ours =
+                [=] {
+                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("10000")});
+                },
+            .floor =
+                [=] {
+                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("10000"), QStringLiteral("bare")});
+                },
+            .repetitions = 5};
+}

@@ -47,6 +47,7 @@ bool measureIn(const QString &folder, int argc, char **argv)
                                 chooseAnimalFigure(),
                                 dropAnimalFigure(),
                                 pdfFigure(folder),
+                                barePdfFigure(folder),
                                 oldFileFigure(folder),
                                 exportFigure(file, folder),
                                 importFigure(file, folder),

@@ -2,12 +2,12 @@
 # source this file. If all packages are installed, nothing is asked or downloaded.
 
 build_packages="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libsqlite3-dev libqcustomplot-dev mdbtools-dev libcli11-dev libcsv-dev libical-dev fonts-liberation fonts-dejavu-core"
-test_packages="libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool"
+test_packages="libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev xvfb openbox xdotool dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0"
 package_packages="dpkg-dev file lintian desktop-file-utils appstream"
 
 # The same by the names that other systems know them by.
 build_needs="a C++20 compiler, CMake, Ninja, pkg-config, Qt 6.4 (base, SVG, tools, and its SQLite driver), SQLite 3, QCustomPlot 2.1, libmdb of mdbtools, CLI11, libcsv, libical"
-test_needs="GoogleTest, clang with its fuzzer, clang-format, clang-tidy, Xvfb, openbox, xdotool"
+test_needs="GoogleTest, clang with its fuzzer, clang-format, clang-tidy, Xvfb, openbox, xdotool, dbus-run-session, at-spi2-core, Python 3 with PyGObject and Atspi"
 package_needs="dpkg with dpkg-shlibdeps, file, lintian, desktop-file-validate, appstreamcli"
 
 # install_missing GROUP ...: installs the packages of these groups (build, test, package) that are missing, as root or with sudo. On

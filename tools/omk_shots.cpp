@@ -1,8 +1,9 @@
-// omk_shots DIR [--dark] [--scale N]: uses the real windows, off-screen and with sample data, as a keeper does on a
-// day, and writes a PNG of each window and a PDF of each printout to DIR. Prints the names of the files. Needs no
-// display.
+// omk_shots DIR [--dark] [--scale N] [--points N] [--screen WxH]: uses the real windows, off-screen and with sample
+// data, as a keeper does on a day, and writes a PNG of each window and a PDF of each printout to DIR. Prints the names
+// of the files. Needs no display. The screen has room for every window, unless it is said how large it is.
 #include <cstdio>
 
+#include <QCommandLineParser>
 #include <QFile>
 #include <QPalette>
 #include <QTemporaryDir>
@@ -30,42 +31,52 @@ void goDark()
     QApplication::setPalette(palette);
 }
 
-/// Sets up a screen that is large enough for every window; the off-screen one would be 800 x 800.
-void setBigScreen(const QString &folder)
+/// Sets up a screen of a size like "1024x768" in the points of the windows; the off-screen one would be 800 x 800.
+void setUpScreen(const QString &size, const QString &scale, const QString &folder)
 {
     QFile file(folder + u"/screen.json");
     if (file.open(QIODevice::WriteOnly))
-        file.write(
-            R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": false, "screens": [{"name": "big", "x": 0, "y": 0,
-            "width": 3840, "height": 2400, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+        file.write(QStringLiteral(R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": false, "screens": [
+            {"name": "one", "x": 0, "y": 0, "width": %1, "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                       .arg(size.section(u'x', 0, 0).toInt() * scale.toInt())
+                       .arg(size.section(u'x', 1).toInt() * scale.toInt())
+                       .toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+    qputenv("QT_SCALE_FACTOR", scale.toUtf8());
+}
+
+void setPoints(double points)
+{
+    QFont letters = QApplication::font();
+    letters.setPointSizeF(points);
+    QApplication::setFont(letters);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc < 2) {
-        std::fprintf(stderr, "usage: omk_shots DIR [--dark] [--scale N]\n");
+    QCommandLineParser asked;
+    asked.addOptions({{QStringLiteral("dark"), {}},
+                      {QStringLiteral("scale"), {}, QStringLiteral("N"), QStringLiteral("1")},
+                      {QStringLiteral("points"), {}, QStringLiteral("N")},
+                      {QStringLiteral("screen"), {}, QStringLiteral("WxH"), QStringLiteral("3840x2400")}});
+    if (!asked.parse(QStringList(argv, argv + argc)) || asked.positionalArguments().size() != 1) {
+        std::fprintf(stderr, "usage: omk_shots DIR [--dark] [--scale N] [--points N] [--screen WxH]\n");
         return 2;
     }
-    bool dark = false;
-    for (int i = 2; i < argc; ++i) {
-        const QByteArray argument = argv[i];
-        dark = dark || argument == "--dark";
-        if (argument == "--scale" && i + 1 < argc)
-            qputenv("QT_SCALE_FACTOR", argv[i + 1]);
-    }
     const QTemporaryDir folder;
-    setBigScreen(folder.path());
+    setUpScreen(asked.value(QStringLiteral("screen")), asked.value(QStringLiteral("scale")), folder.path());
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
         if (type != QtWarningMsg || !text.startsWith(u"This plugin does not support"))
             std::fprintf(stderr, "%s\n", qPrintable(text));
     });
     Application application(argc, argv);
-    if (dark)
+    if (asked.isSet(QStringLiteral("dark")))
         goDark();
-    Album album(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
+    if (asked.isSet(QStringLiteral("points")))
+        setPoints(asked.value(QStringLiteral("points")).toDouble());
+    Album album(QDir(asked.positionalArguments().constFirst()).absolutePath());
     ShotDoors doors(album, folder.filePath(QStringLiteral("OMK.ini")));
     Doors::install(&doors);
     CreateDatabase(folder.filePath(QStringLiteral("OM.MDB")));

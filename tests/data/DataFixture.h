@@ -1,16 +1,12 @@
-// What the tests of export and import share: a new database in a folder of its own, scripted doors, and the rows of a
+// What the tests of export and import share: process-wide values with a new database, and the rows of a
 // table as texts that can be compared across databases.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include "data/Export.h"
 #include "data/Import.h"
 #include "logic/shell/Globals.h"
 #include "logic/shell/Options.h"
-#include "store/NewDatabase.h"
-#include "support/ScriptedDoors.h"
-#include "support/TestFiles.h"
+#include "store/StoreFixture.h"
 
 /// A value with its type, so that nothing that differs is equal.
 inline QString exactly(const Value &value)
@@ -50,26 +46,19 @@ inline QStringList rowsOf(Database &database, const QString &table)
 
 inline const QStringList dataTables = {"TANKLST", "WATERLOG", "LIVESTOCK", "MAINTLOG", "MAINTSCHED"};
 
-struct DataTest : testing::Test
+struct DataTest : StoreTest
 {
-    DataTest() { open(g, "OM.MDB"); }
-
-    void open(Globals &globals, const QString &name)
+    DataTest()
     {
-        CreateDatabase(path(name));
-        globals.gDatabase = Database::OpenDatabase(path(name));
-        ReadOptions(globals);
+        g.gDatabase = std::move(db);
+        ReadOptions(g);
     }
-    QString path(const QString &name) const { return folder.filePath(name); }
     void run(const QString &sql, const Parameters &parameters = {}) { g.gDatabase->Execute(sql, parameters); }
     void addTank(const QString &name)
     {
         run("INSERT INTO TANKLST (tankname, tankid, tanksize, TankWaterType) VALUES (?, ?, 55, '1')",
             {name, QString("id of " + name)});
     }
-    /// The first value of a query as text.
-    QString asked(const QString &sql) { return g.gDatabase->OpenRecordset(sql).rows()->text(0, 0); }
-
     /// Imports a file with that content; the faults, a line each, are in `faults`.
     ImportResult import(const QByteArray &content, const ImportOptions &options = {})
     {
@@ -83,8 +72,6 @@ struct DataTest : testing::Test
         return QString("%1 %2 %3 %4").arg(r.added).arg(r.replaced).arg(r.passedOver).arg(r.faults);
     }
 
-    QTemporaryDir folder;
-    ScriptedDoors doors;
     Globals g;
     QStringList faults;
 };

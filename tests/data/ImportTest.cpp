@@ -25,8 +25,7 @@ TEST_F(ImportTest, ColumnsThatAreMissingStartAsInTheEntryWindows)
         EXPECT_EQ(counts(import("Tank\tDESCRIPTION\n" + QByteArray(salt ? "S" : "F") + "\tx\n", {.delimiter = '\t'})),
                   "1 0 0 0");
         EXPECT_EQ(
-            asked(
-                "SELECT TankWaterType || tanksize || tanknotes FROM TANKLST WHERE Tankdesc = 'x' ORDER BY rowid DESC"),
+            asked("SELECT TankWaterType || tanksize || tanknotes FROM TANKLST WHERE Tankdesc = 'x' ORDER BY rowid"),
             salt ? "255.0" : "155.0");
     }
     EXPECT_EQ(counts(import("animal,tank\nGoby,Reef\n")), "1 0 0 0");
@@ -54,9 +53,6 @@ TEST_F(ImportTest, SpreadsheetsOfOtherCountriesAreRead)
         {"Tank,Date,Time,pH-Wert,NO3\nReef,2026-01-02,13:05,8.1,5\n",
          {.map = *ReadMap("pH-Wert=ph, NO3 = nitrate")},
          "2026-01-02 13:05:00 8.1 5.0"},
-        {"tank;date;time;ph;nitrate;colour\nReef;2.1.2026;01:05:00 pm;8,1;\"1,5\"\"\"\n",
-         {.map = *ReadMap("colour=")},
-         ""},
         {"tank;date;time;ph;nitrate;colour\nReef;2.1.2026;01:05:00 pm;8,1;1,5;blue\n",
          {.map = *ReadMap("colour="), .dateOrder = DateOrder::DDMMYY, .delimiter = ';', .decimalComma = true},
          "2026-01-02 13:05:00 8.1 1.5"},
@@ -66,18 +62,12 @@ TEST_F(ImportTest, SpreadsheetsOfOtherCountriesAreRead)
         {"tank,date,time,ph,nitrate\nReef,26-01-02,13:05:00,+8, 5 \n",
          {.dateOrder = DateOrder::YYMMDD},
          "2026-01-02 13:05:00 8.0 5.0"},
-        {"tank,date,time,ph,nitrate\nReef,2026-01-02,13:05:00,8,5\n",
-         {.dateOrder = DateOrder::DDMMYY},
-         "2026-01-02 13:05:00 8.0 5.0"},
         {"date,time,ph,nitrate\n2026-01-02,13:05:00,8,5\n", {.tank = "Reef"}, "2026-01-02 13:05:00 8.0 5.0"},
     };
     for (const Case &c : cases) {
         import(c.content, c.options);
-        EXPECT_EQ(faults.isEmpty(), *c.expected != 0) << c.content << faults.join('\n').toStdString();
-        if (*c.expected) {
-            EXPECT_EQ(asked("SELECT logdate || ' ' || logtime || ' ' || ph || ' ' || nitrate FROM WATERLOG"),
-                      c.expected);
-        }
+        EXPECT_EQ(faults.join('\n'), "") << c.content;
+        EXPECT_EQ(asked("SELECT logdate || ' ' || logtime || ' ' || ph || ' ' || nitrate FROM WATERLOG"), c.expected);
         run("DELETE FROM WATERLOG");
     }
 }
@@ -85,11 +75,8 @@ TEST_F(ImportTest, SpreadsheetsOfOtherCountriesAreRead)
 TEST_F(ImportTest, AMapMayNameColumnsWithCommasAndSigns)
 {
     using Map = std::vector<std::pair<QString, QString>>;
-    EXPECT_EQ(ReadMap("pH=ph,NO3=nitrate"), (Map{{"pH", "ph"}, {"NO3", "nitrate"}}));
-    EXPECT_EQ(ReadMap("Nitrate, mg/l = nitrate,a=b=ph"), (Map{{"Nitrate, mg/l", "nitrate"}, {"a=b", "ph"}}));
-    EXPECT_EQ(ReadMap("left out="), (Map{{"left out", ""}}));
-    EXPECT_EQ(ReadMap(""), Map{});
-    EXPECT_FALSE(ReadMap("ph"));
+    EXPECT_EQ(ReadMap("Nitrate, mg/l = nitrate,a=b=ph,out="),
+              (Map{{"Nitrate, mg/l", "nitrate"}, {"a=b", "ph"}, {"out", ""}}));
     EXPECT_FALSE(ReadMap("a=b,ph"));
 }
 
@@ -102,112 +89,69 @@ struct FaultCase
 
 const FaultCase headerFaults[] = {
     {"", "line 1: The file is empty."},
-    {"\n\n", "line 1: The file is empty."},
-    {"foo,bar\n", "line 1: The header has no column that is known."},
     {"tank;date;ph\n", "line 1: The header has no column that is known."},
     {"tank,date,time,ph,foo\n", "line 1, foo: water.csv has no such column. It has tank, date, time, ammonia"},
-    {"tank,date,time,foo\n", "line 1, foo: No table has this column beside the others."},
     {"tank,ph,animal\n", "line 1, animal: No table has this column beside the others."},
-    {"tank,date,ph,PH\n", "line 1, PH: The header has this column twice."},
     {"tank,ph,NO3,nitrate\n", "line 1, nitrate: The header has this column twice.", {.map = *ReadMap("no3=nitrate")}},
     {"tank,ph,\n", "line 1: A column of the header has no name."},
     {"date,ph\n", "line 1, tank: water.csv must have this column."},
     {"tank\n", "line 1: The columns could be those of tanks.csv and of water.csv."},
-    {"tank,ph\n",
-     "line 1, NO3: The map names this column, but the header does not have it.",
-     {.map = *ReadMap("NO3=nitrate")}},
+    {"tank,ph\n", "line 1, NO3: The map names this column, but the header", {.map = *ReadMap("NO3=nitrate")}},
     {"tank,p\xffh\n", "line 1: The letters are not encoded in UTF-8."},
-    {"\xff\xfet\0a\0", "line 1: The letters are not encoded in UTF-8."},
     {"ph\n8\n", "line 1: There is no tank named \"Pond\".", {.tank = "Pond"}},
     {"tank,ph\nReef,8\n", "line 1, tank: The file names the tanks itself,", {.tank = "Reef"}},
 };
 
+// The rules for values are those of the entry windows; here each column must only have the one that is its own.
 const FaultCase valueFaults[] = {
     {"tank,ph\nReef\nReef,8,9\n\"Reef\",8\n",
      "line 2: The row has 1 values, but the header has 2 columns.\nline 3: The row has 3 values"},
     {"tank,date,ph\nPond,2026-13-01,x\n",
      "line 2, tank \"Pond\": There is no tank of this name.\nline 2, date \"2026-13-01\": This is no date such as\n"
      "line 2, ph \"x\": Ph entries must be a number."},
-    {"tank,date,time,ph\n,,,\n", "line 2, tank: The row must name a tank.\nline 2, date: The row must have a date.\n"
-                                 "line 2, time: The row must have a time."},
-    {"tank,ph\nreef,8\n", "line 2, tank \"reef\": There is no tank"},
-    {"tank,ph,sg,temp,copper\nReef,99.001,10,999.1,1000\nReef,99,9.999,999,999\n",
-     "line 2, ph \"99.001\": Ph entries must be less than 99.\nline 2, sg \"10\": Specific Gravity entries must be "
-     "less "
-     "than 10.\nline 2, temp \"999.1\": Temperature entries must be less than 999.\nline 2, copper \"1000\": Copper "
-     "entries must less than 1000."},
-    {"tank,nitrate,time\nReef,\"0,5\",10:00:00\nReef,1e400,11:00:00\nReef,-1e400,12:00:00\nReef,nan,13:00:00\nReef,0x1,"
-     "14:00:00\n",
-     "line 2, nitrate \"0,5\": The decimal sign is \".\" here\nline 3, nitrate \"1e400\": Nitrate entries must be "
-     "less\n"
-     "line 4, nitrate \"-1e400\": Nitrate entries must be a number.\nline 5, nitrate \"nan\": Nitrate entries must be "
-     "a\n"
-     "line 6, nitrate \"0x1\": Nitrate entries must be a"},
+    {"tank,date,time,ph\n,,,\n",
+     "line 2, tank: The row must name a tank.\nline 2, date: The row must have a date.\nline 2, time: The row must"},
+    {"tank,sg,custom1\nReef,10,1000\n", "line 2, sg \"10\": Specific Gravity entries must be less than 10.\n"
+                                        "line 2, custom1 \"1000\": Salinity entries must be less than 1000."},
+    {"tank,nitrate\nReef,\"0,5\"\n", "line 2, nitrate \"0,5\": The decimal sign is \".\" here"},
     {"tank;nitrate\nReef;1.5\n",
      "line 2, nitrate \"1.5\": The decimal sign is \",\" here",
      {.delimiter = ';', .decimalComma = true}},
-    {"tank,custom1\nReef,1000\n", "line 2, custom1 \"1000\": Salinity entries must be less than 1000."},
     {"tank,date\nReef,24.11.2026\n", "line 2, date \"24.11.2026\": This is no date such as 2026-11-24. (For another"},
-    {"tank,date\nReef,11/24/2026\nReef,29.2.2025\n",
-     "line 2, date \"11/24/2026\": This is no date in the order\nline 3, date",
+    {"tank,date\nReef,11/24/2026\n",
+     "line 2, date \"11/24/2026\": This is no date in the order",
      {.dateOrder = DateOrder::DDMMYY}},
     {"tank,date\nReef,1929-12-31\nReef,2030-01-01\nReef,0026-01-01\nReef,1930-01-01\nReef,2029-12-31\n",
      "line 2, date \"1929-12-31\": The year must be between 1930 and 2029.\nline 3, date\nline 4, date"},
-    {"tank,time\nReef,25:00:00\nReef,00:30:00 AM\nReef,13:00:00 PM\nReef,12:00:60 PM\nReef,12\n",
-     "line 2, time\nline 3, time\nline 4, time\nline 5, time\nline 6, time \"12\": This is no time such as"},
-    {"tank,nitrite,comment\nReef,0,\"a\xff\"\n",
-     "line 2, comment \"a\xef\xbf\xbd\": The letters are not encoded in UTF-8."},
-    {"tank,ph\nReef,8\"\n", "line 2: A quotation mark is inside a value."},
+    {"tank,time\nReef,25:00:00\nReef,00:30:00 AM\nReef,12\n",
+     "line 2, time\nline 3, time\nline 4, time \"12\": This is no time such as"},
+    {"tank,nitrite,comment\nReef,0,\"a\xff\"\n", "line 2, comment \"a\xef\xbf\xbd\": The letters are not encoded"},
     {"tank,ph\nPond,8\n\n\"Reef\n,8\n", "line 2, tank\nline 4: A value begins with a quotation mark and the file ends"},
-    {"tank,animal,quantity,status,where_purchased,price_paid,date_lost\n"
-     "Reef,,1,,,,\nReef,A\nReef,B,32001,1234567890123456789012345678901,"
-     "123456789012345678901234567890123456789012345678901,x,x\nReef,C,,,,1e12,\nReef,\"D\nE\",1,,,,\n",
-     "line 2, animal: You must enter an animal name or pick\nline 3: The row has\nline 4, quantity \"32001\": Your "
-     "quantity must be "
-     "less than 32,000.\nline 4, status \"1234567890123456789012345678901\": Your status\nline 4, where_purchased "
-     "\"123456789012345678901234567890123456789012345678901\": Your place of\nline 4, price_paid \"x\": Price Paid "
-     "must be a number.\n"
-     "line 4, date_lost \"x\": This is no date\nline 5, quantity: Quantity entries must be a number.\nline 5, "
-     "price_paid "
-     "\"1e12\": Price Paid must have at most\nline 6, animal \"D E\": This text must be on one line."},
-    {"tank,task,quantity,unit,description\nReef,,10000,12345678901,"
-     "123456789012345678901234567890123456789012345678901\n",
-     "line 2, task: You must enter a task\nline 2, quantity \"10000\": Your quantity must be less than 10,000.\nline "
-     "2, unit "
-     "\"12345678901\": Your \"unit of measure\" entry\nline 2, description"},
-    {"tank,size,water_type,description\n,1,1,\n\"a\"\"b\",10000,6,\nx,,lake,"
-     "123456789012345678901234567890123456789012345678901\n",
-     "line 2, tank: You must enter a name\nline 3, tank \"a\"b\": The tank name cannot contain a quote\nline 3, size "
-     "\"10000\": The tank "
-     "size must be less\nline 3, water_type \"6\": This must be one of freshwater, saltwater, reef, brackish, pond.\n"
-     "line 4, size: The tank size must be a number\nline 4, water_type \"lake\"\nline 4, description"},
+    {"tank,animal,quantity,price_paid,date_lost\nReef,,,x,x\nReef,\"D\nE\",32001,,\n",
+     "line 2, animal: You must enter an animal name or pick\nline 2, quantity: Quantity entries must be a number.\n"
+     "line 2, price_paid \"x\": Price Paid must be\nline 2, date_lost \"x\": This is no date\n"
+     "line 3, animal \"D E\": This text must be on one line.\nline 3, quantity \"32001\": Your quantity must be"},
+    {"tank,task,quantity,unit\nReef,,10000,12345678901\n",
+     "line 2, task: You must enter a task\nline 2, quantity \"10000\": Your quantity must be less than 10,000.\n"
+     "line 2, unit \"12345678901\": Your \"unit of measure\" entry"},
+    {"tank,size,water_type\n,1,1\n\"a\"\"b\",10000,6\n",
+     "line 2, tank: You must enter a name\nline 3, tank \"a\"b\": The tank name cannot contain a quote\n"
+     "line 3, size \"10000\": The tank size must be less\nline 3, water_type \"6\": This must be one of freshwater, "},
     {"reminder,start_date,end_date,pattern,variant,interval,detail\n"
      ",2026-01-01,2027-01-01,daily,0,1,\n"
      "a,2026-01-01,2026-01-01,daily,0,1,\n"
-     "b,2026-01-01,2027-01-01,daily,0,0,\n"
-     "c,2026-01-01,2027-01-01,weekly,0,1,\n"
-     "d,2026-01-01,2027-01-01,weekly,0,1,Someday\n"
-     "e,2026-01-01,2027-01-01,monthly,0,1,29\n"
-     "f,2026-01-01,2027-01-01,monthly,1,1,First\n"
+     "d,2026-01-01,2027-01-01,weekly,0,1,0101000\n"
      "g,2026-01-01,2027-01-01,yearly,0,31,January\n"
      "h,2026-01-01,2027-01-01,yearly,1,1,First Monday\n"
      "i,2026-01-01,2027-01-01,once,0,1,24.11.2026\n"
-     "j,2026-01-01,2027-01-01,hourly,2,40000,\n"
-     "k,,2027-01-01,daily,2,1,\n"
-     "l,2026-01-01,2027-01-01,weekly,0,1,0101000\n",
+     "j,2026-01-01,2027-01-01,hourly,2,40000,\n",
      "line 2, reminder: The row must have a description\nline 3, end_date \"2026-01-01\": Your End Date must be "
-     "greater\nline 4, "
-     "interval \"0\": Enter the number of days\nline 5, detail: Check the days of the week\nline 6, detail "
-     "\"Someday\": This must be "
-     "like \"Monday, Thursday\"\nline 7, detail \"29\": When choosing the same day\nline 8, detail \"First\": This "
-     "must be like "
-     "\"First Monday\"\nline 9, interval \"31\": Please enter a valid combination\nline 10, detail \"First Monday\": "
-     "This must be like "
-     "\"Last Friday of November\"\nline 11, detail \"24.11.2026\": This must be like \"2026-11-24\"\nline 12, pattern "
-     "\"hourly\": This "
-     "must be one of daily\nline 12, interval \"40000\": This is no whole number\nline 13, variant \"2\": This must be "
-     "0 or 1.\n"
-     "line 14, detail \"0101000\": This must be like"},
+     "greater\n"
+     "line 4, detail \"0101000\": This must be like \"Monday, Thursday\"\n"
+     "line 5, interval \"31\": Please enter a valid combination\n"
+     "line 6, detail \"First Monday\": This must be like \"Last Friday of November\"\n"
+     "line 7, detail \"24.11.2026\": This must be like \"2026-11-24\"\n"
+     "line 8, pattern \"hourly\": This must be one of daily\nline 8, interval \"40000\": This is no"},
 };
 
 TEST_F(ImportTest, EachFaultIsToldWithItsPlaceAndNothingIsStored)
@@ -215,9 +159,7 @@ TEST_F(ImportTest, EachFaultIsToldWithItsPlaceAndNothingIsStored)
     run("UPDATE CONFIG SET user_fieldname1 = 'Salinity'");
     ReadOptions(g);
     const auto check = [this](const FaultCase &c) {
-        const QByteArray content =
-            QByteArray(c.content).startsWith("\xff\xfe") ? QByteArray("\xff\xfet\0a\0", 6) : QByteArray(c.content);
-        const ImportResult result = import(content, c.options);
+        const ImportResult result = import(c.content, c.options);
         const QStringList expected = QString::fromUtf8(c.faults).split('\n');
         EXPECT_EQ(result.faults, faults.size());
         EXPECT_EQ(faults.size(), expected.size()) << c.content << "\n" << faults.join('\n').toStdString();
@@ -315,13 +257,6 @@ TEST_F(ImportTest, RemindersAreReadFromTheWordsOfTheirPatterns)
                   expected);
         run("DELETE FROM MAINTSCHED");
     }
-}
-
-TEST_F(ImportTest, AFaultIsOneLineWithoutControlCharacters)
-{
-    EXPECT_EQ(FaultText({3, "a\nb", QString(100, 'x'), "No."}),
-              "line 3, a b \"" + QString(60, 'x') + QChar(0x2026) + "\": No.");
-    EXPECT_EQ(FaultText({3, "", "\x1b[31m\x07\u0085", "No."}), "line 3 \" [31m  \": No.");
 }
 
 } // namespace

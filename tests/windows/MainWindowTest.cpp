@@ -1,13 +1,5 @@
+#include "AllWindows.h"
 #include "Desk.h"
-#include "support/TestFiles.h"
-#include "windows/advisers/frm_DiagDiagnosis.h"
-#include "windows/graph/frm_WaterGraph.h"
-#include "windows/logbook/frm_WaterAddEdit.h"
-#include "windows/reference/frm_Conversions.h"
-#include "windows/reference/frm_LatintoCommon.h"
-#include "windows/reminders/frm_Maintsched.h"
-#include "windows/reminders/frm_Schedule.h"
-#include "windows/tanks/frm_TankMaint.h"
 
 class TheMainWindow : public Desk
 {
@@ -69,15 +61,6 @@ TEST(Start, LeavesNoPlaceEmptyWithoutSayingWhatToDo)
     EXPECT_NE(main.centralWidget()->grab().toImage(), told);
 }
 
-TEST(Start, EndsAtAFileThatCannotBeUsed)
-{
-    Keeper keeper;
-    keeper.g().gDatabase.reset();
-    writeFile(keeper.databaseFile(), QByteArray(5000, 'x'));
-    EXPECT_THROW(Form<frm_OMKMDIMain>().MDIForm_Load(), RuntimeFailure);
-    EXPECT_FALSE(Form<frm_OMKMDIMain>().isVisible());
-}
-
 TEST_F(TheMainWindow, LogbookButtonAndTheOpenLogbookFollowTheTankListWithoutARestart)
 {
     const auto setUpTanks = [&] {
@@ -110,13 +93,18 @@ TEST_F(TheMainWindow, TiledChildrenKeepTheRoomThatTheyNeedAndTheirSizesAreNotRem
         main->ShowChild(*child);
         keeper.told();
     }
-    main->mnu_WindowTileVertical_Click();
+    hand::choose(*main, *main->mnu_Window, "mnu_WindowTileVertical");
     const auto &units = Form<frm_Conversions>();
     EXPECT_GE(units.lbl_From->width(),
               units.lbl_From->fontMetrics().horizontalAdvance("Gallons Per Minute Flow (gpm)"));
     EXPECT_NE(logbook->parentWidget()->size(), size);
+    const auto places = [&] { return logbook->parentWidget()->pos() - units.parentWidget()->pos(); };
+    EXPECT_TRUE(places().x() != 0 && places().y() == 0) << "side by side";
     logbook->close();
-    EXPECT_EQ(hand::openLogbook(*main).parentWidget()->size(), size);
+    logbook = &hand::openLogbook(*main);
+    EXPECT_EQ(logbook->parentWidget()->size(), size);
+    hand::choose(*main, *main->mnu_Window, "mnu_WindowTileHorizontal");
+    EXPECT_TRUE(places().x() == 0 && places().y() != 0) << "one above the other";
 }
 
 TEST_F(TheMainWindow, ViewTakesTheToolbarAwayButNotTheReminders)
@@ -148,50 +136,24 @@ TEST_F(TheMainWindow, ALogbookThatIsAnIconTakesCommandsAndComesUpFromTheWindowMe
     EXPECT_EQ(frame.size(), size);
 }
 
-TEST_F(TheMainWindow, AnotherChildTakesTheLogCommandsAndADialogDoesNot)
-{
-    give<frm_WaterAddEdit>("addentries", 0, [&](frm_WaterAddEdit &) {
-        EXPECT_TRUE(canAdd());
-        EXPECT_FALSE(main->mnu_FilePrint->isEnabled());
-        EXPECT_EQ(main->mnu_FilePrint->text(), "&Print");
-        hand::press(Qt::Key_Escape);
-    });
-    EXPECT_TRUE(canAdd() && main->mnu_FilePrint->isEnabled());
-    EXPECT_EQ(main->mnu_FilePrint->text(), "&Print Entries...");
-
-    main->ShowChild(Form<frm_Conversions>());
-    EXPECT_FALSE(main->mnu_FileNew->isEnabled() || main->mnu_FileOpen->isEnabled() ||
-                 main->mnu_FileDelete->isEnabled());
-    hand::openLogbook(*main);
-    EXPECT_TRUE(canAdd());
-    EXPECT_EQ(logbook->TreeView1->currentItem()->text(0), "Reef") << "only the first activation builds the tree";
-}
-
-TEST_F(TheMainWindow, PrintIsWhatTheChildInFrontOffers)
+TEST_F(TheMainWindow, PrintIsWhatTheChildOrDialogInFrontOffers)
 {
     const auto print = [&]() -> QString {
         return main->mnu_FilePrint->text() + (main->mnu_FilePrint->isEnabled() ? "" : " (off)");
     };
-    const auto show = [&](ChildForm &child) {
-        main->ShowChild(child);
-        return print();
-    };
     EXPECT_EQ(print(), "&Print Entries...");
-    EXPECT_EQ(show(Form<frm_Conversions>()), "&Print (off)");
-    for (ChildForm *child :
-         {static_cast<ChildForm *>(&Form<frm_WaterGraph>()), static_cast<ChildForm *>(&Form<frm_Schedule>())}) {
-        EXPECT_EQ(show(*child), "&Print");
-        hand::choose(*main, *main->mnu_View, "mnu_ViewRefresh"); // of the logbook behind it
-        EXPECT_EQ(print(), "&Print") << child->objectName().toStdString();
-    }
-    EXPECT_EQ(show(*logbook), "&Print Entries... (off)") << "with all tanks in hand";
-    for (ChildForm *child : {static_cast<ChildForm *>(logbook), static_cast<ChildForm *>(&Form<frm_Conversions>()),
-                             static_cast<ChildForm *>(&Form<frm_WaterGraph>())})
-        child->parentWidget()->close();
+    main->ShowChild(Form<frm_Conversions>());
+    EXPECT_EQ(print(), "&Print (off)");
+    main->ShowChild(Form<frm_Schedule>());
+    hand::choose(*main, *main->mnu_View, "mnu_ViewRefresh"); // of the logbook behind it
+    EXPECT_EQ(print(), "&Print");
+    main->ShowChild(*logbook);
+    EXPECT_EQ(print(), "&Print Entries... (off)") << "with all tanks in hand";
+    logbook->parentWidget()->close();
+    Form<frm_Conversions>().parentWidget()->close();
     EXPECT_EQ(print(), "&Print") << "the schedule is left";
     Form<frm_Schedule>().parentWidget()->close();
     EXPECT_EQ(print(), "&Print (off)");
-    // Without a child, "Print" is disabled again after a dialog that can print.
     keeper.inNext<frm_DiagDiagnosis>([&](frm_DiagDiagnosis &w) {
         EXPECT_EQ(print(), "&Print");
         w.close();
@@ -201,26 +163,33 @@ TEST_F(TheMainWindow, PrintIsWhatTheChildInFrontOffers)
     EXPECT_EQ(print(), "&Print (off)");
 }
 
-TEST_F(TheMainWindow, ChildrenOfAVerySmallWindowKeepTheRoomThatTheyNeed)
+TEST_F(TheMainWindow, AChildIsToldThatItIsInFrontOnceTheDialogOverItHasClosed)
 {
-    main->resize(1, 1);
-    const auto paint = [&] { // a warning of Qt fails the test
-        QCoreApplication::processEvents();
-        main->grab();
-    };
-    for (ChildForm *child :
-         {static_cast<ChildForm *>(logbook), static_cast<ChildForm *>(&Form<frm_WaterGraph>()),
-          static_cast<ChildForm *>(&Form<frm_Schedule>()), static_cast<ChildForm *>(&Form<frm_Conversions>())}) {
-        SCOPED_TRACE(child->objectName().toStdString());
-        main->ShowChild(*child);
-        paint();
-        EXPECT_GT(child->height(), main->centralWidget()->height()) << "it is scrolled, not squeezed";
-        child->parentWidget()->showMaximized();
-        paint();
-        child->parentWidget()->showNormal();
-    }
-    for (const char *entry : {"mnu_WindowCascade", "mnu_WindowTileHorizontal", "mnu_WindowTileVertical"}) {
-        control<QAction>(*main, entry).trigger();
-        paint();
+    keeper.inNext<frm_TankMaint>([&](frm_TankMaint &w) {
+        main->disablePrint();
+        main->activateWindow(); // some desktops let the keeper do this
+        EXPECT_TRUE(isInFront(*main));
+        EXPECT_FALSE(main->mnu_FilePrint->isEnabled()) << "the child was told under the dialog";
+        mouse::click(w.cmd_Cancel);
+    });
+    hand::press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return main->mnu_FilePrint->isEnabled(); }));
+}
+
+TEST_F(TheMainWindow, TheLogCommandsGoWithTheLogbookAndAPressAnywhereBringsItToTheFront)
+{
+    QWidget *const takeNoFocus[] = {control<QSplitter>(*logbook, "sp_splitter").handle(1),
+                                    list().horizontalHeader()->viewport(), logbook->sb_ListviewCaption};
+    for (QWidget *pressed : takeNoFocus) {
+        EXPECT_TRUE(canAdd());
+        hand::choose(*main, *main->mnu_Tools, "mnu_ToolsConversions");
+        main->mnu_WindowTileVertical_Click();
+        EXPECT_FALSE(main->isInFront(*logbook) || canAdd());
+        for (const int tab : {LivestockTab, WaterTab}) // the mouse wheel over the tabs does the same
+            logbook->tab_logtype->setCurrentIndex(tab);
+        EXPECT_FALSE(canAdd()) << "its lists were filled behind another child";
+        mouse::press(pressed);
+        mouse::release(pressed);
+        EXPECT_TRUE(main->isInFront(*logbook) && canAdd()) << pressed->metaObject()->className();
     }
 }

@@ -72,11 +72,17 @@ protected:
     }
 };
 
-TEST_F(Measurements, EachIsStoredAndListedAndPrintedInItsOwnColumn)
+TEST_F(Measurements, EachIsStoredShownListedAndPrintedInItsOwnPlace)
 {
     addTest();
+    give<frm_WaterAddEdit>("changeentries", 1, [](frm_WaterAddEdit &w) {
+        for (const Expected &row : expected)
+            EXPECT_EQ(shown(w, {row.box}).toDouble(), QString(row.typed).toDouble()) << row.box;
+        hand::press(Qt::Key_Escape);
+    });
     keeper.doors.printers = {PrintDialogAnswer{1}};
-    RunReport(MakeLogReport(WaterTab, *keeper.g().gDatabase, "MM/DD/YY", QString("r1")), PrintTarget::Printer);
+    RunReport(MakeLogReport(WaterTab, *keeper.g().gDatabase, "MM/DD/YY", QString("r1")), PrintTarget::Printer,
+              [](const QString &) {});
     const PrintedPage &page = keeper.doors.documents.at(0).pages.at(0);
     QStringList headings;
     for (int i = 0; i < list().model()->columnCount(); ++i)
@@ -108,6 +114,9 @@ TEST_F(Measurements, EachIsDrawnUnderItsNameWhereItsCheckBoxIsTicked)
         main->mnu_GraphOptions_Click();
         EXPECT_EQ(chart.ColumnCount(), 1);
         EXPECT_EQ(chart.tip(chart.place(1, 1).center()), QString("3/14\n") + row.drawn);
+        const QString toolTip = measurements[size_t(&row - expected)].entry.toolTip,
+                      &unit = chart.data().columnUnits[0];
+        EXPECT_EQ(unit, toolTip.endsWith("in PPM") ? "ppm" : toolTip.contains("degrees") ? "degrees" : "");
     }
 }
 
@@ -124,6 +133,12 @@ TEST_F(Measurements, EachIsRefusedJustBeyondItsLimit)
             mouse::click(w.txt_Comment);
             EXPECT_EQ(keeper.told(), "0");
         }
+        hand::type(control<QWidget>(w, "txt_user2"), "1000x");
+        mouse::click(w.txt_Comment);
+        EXPECT_EQ(keeper.told().count(" entries must be "), 2) << "it is wrong twice";
+        hand::type(control<QWidget>(w, "txt_user2"), "1");
+        hand::type(*w.txt_date, "03/x");
+        EXPECT_TRUE(keeper.told().startsWith("1|Oops!/48/You must enter a valad date")) << "at the key";
         hand::press(Qt::Key_Escape);
     });
 }

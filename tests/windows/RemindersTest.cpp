@@ -176,39 +176,6 @@ TEST_F(Reminders, WithoutDatesAreNamedOnceLeftOutAndDeletedOnDemand)
     EXPECT_EQ(keeper.count("MAINTSCHED"), 1);
 }
 
-TEST_F(Reminders, WithDetailsThatCannotBeReadAreOpenedAndPutRight)
-{
-    insert("Odd", "'2026-01-01', '2027-12-31', 1, 2, 1, 'x'");
-    openList();
-    hand::clickRow(*list->lstv_MaintSched, 1);
-    keeper.told();
-    keeper.doors.answers = {MsgBoxAnswer::Skip};
-    inEditor(list->cmd_update_task, [this](frm_SchedNewAddEdit &w) {
-        mouse::click(w.cmd_OK);
-        EXPECT_EQ(keeper.told(), "0|Oops/64/Choose a frequency from the list.");
-        hand::press(Qt::Key_Home);
-        w.cbo_MonthlyWeekday->setCurrentIndex(6);
-        mouse::click(w.cmd_OK);
-    });
-    EXPECT_EQ(upcoming().section('|', 0, 0), "Sat 04/04/26 Odd");
-    EXPECT_EQ(keeper.told(), "0");
-}
-
-TEST_F(Reminders, AskForARowWhenTheClickIsBesideTheRows)
-{
-    insert("Feed", "'2026-01-01', '2027-12-31', 1, 0, 0, ''");
-    openList();
-    ListView &rows = *list->lstv_MaintSched;
-    const QPoint beside(20, rows.viewport()->height() - 4);
-    hand::clickRow(rows, 1);
-    mouse::click(rows.viewport(), beside);
-    EXPECT_EQ(rows.SelectedItem(), 0);
-    mouse::click(list->cmd_DeleteTask); // still enabled by the click
-    EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a maintenance task to delete by clicking on it.");
-    mouse::doubleClick(rows.viewport(), beside);
-    EXPECT_EQ(keeper.told(), "1|Note!/64/You must first select a maintenance task to change by clicking on it.");
-}
-
 TEST_F(Reminders, StayTheirDaysWhenAnotherDateOrderIsChosen)
 {
     startWith("YYMMDD", "/");

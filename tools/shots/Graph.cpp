@@ -14,10 +14,10 @@ void playGraph(Album &album, frm_OMKMDIMain &main, Globals &globals)
     main.mnu_ToolsGraphing_Click();
     auto &graph = Form<frm_WaterGraph>();
     album.take(graph, QStringLiteral("graph"));
-    globals.options.GraphChecks = QStringLiteral("1111110110100");
     graph.parentWidget()->resize(560, 440);
     auto &options = Form<frm_OMKOptions>();
-    options.Get_Initial_Properties(); // fills the lists in the window
+    options.Get_Initial_Properties(); // fills the lists in the window and sets the options
+    globals.options.GraphChecks = QStringLiteral("1111110110100");
     const QComboBox &styles = *options.cbo_GraphType;
     QWidget sheet;
     auto *grid = new QGridLayout(&sheet);

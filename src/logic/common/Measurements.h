@@ -72,6 +72,7 @@ struct MeasurementInGraph
     const char *checkCaption; ///< likewise
     const char *check;        ///< object name
     bool atFirst;             ///< drawn by default
+    const char *unit = "";    ///< for the axis: the one that the tool tip of the entry window names; may be empty
 };
 
 struct MeasurementRow

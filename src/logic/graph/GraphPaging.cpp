@@ -18,7 +18,8 @@ std::vector<GraphColumn> GraphColumns(const QString &checks, const UserFieldName
     for (std::size_t place = 0; place < listOrder.size(); ++place) {
         const MeasurementRow &row = RowOf(listOrder[place]);
         if (checks.mid(qsizetype(place), 1) == u"1")
-            columns.push_back({QString::fromLatin1(row.column), NameOf(row, row.graph.label, names)});
+            columns.push_back({QString::fromLatin1(row.column), NameOf(row, row.graph.label, names),
+                               QString::fromLatin1(row.graph.unit)});
     }
     return columns;
 }

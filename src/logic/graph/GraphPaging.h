@@ -19,6 +19,7 @@ struct GraphColumn
 {
     QString field; ///< of WATERLOG
     QString label;
+    QString unit; ///< empty if it has none
 };
 
 /// The measurements that have a "1" at their place in `checks`, in listOrder.

@@ -1,5 +1,7 @@
 #include "logic/logbook/LogReports.h"
 
+#include <QScopeGuard>
+
 #include "platform/core/Doors.h"
 #include "platform/core/Printer.h"
 #include "store/Database.h"
@@ -32,8 +34,8 @@ public:
     bool open()
     {
         m_rows.reset();
-        m_rows.reset(
-            new RowStream(m_database.OpenForwardOnly(select(), m_tankId ? Parameters{*m_tankId} : Parameters{})));
+        m_entries = qint64(select(QStringLiteral("COUNT(*) AS entries"))->value(QStringLiteral("entries")).toDouble());
+        m_rows = select(QStringLiteral("t.Tankname AS tank, t.Tankdesc, t.Tanksize, e.*"));
         return !m_rows->EOF_();
     }
 
@@ -41,13 +43,14 @@ public:
     {
         if (!m_rows)
             open(); // a preview can print several times
+        const auto endReading = qScopeGuard([this] { m_rows.reset(); });
         const bool orientation = page.Landscape();
         if (m_report.landscape)
             page.setLandscape(true);
         bool firstTank = true;
         QString tank;
         int pageNumber = 1;
-        while (!m_rows->EOF_()) {
+        for (qint64 entry = 1; !m_rows->EOF_(); ++entry) {
             if (const QString name = text("tank"); firstTank || name != tank) {
                 if (!firstTank)
                     page.NewPage();
@@ -57,6 +60,7 @@ public:
                 printTop(page, QLatin1String(m_report.title), pageNumber);
             }
             printEntry(page);
+            page.Progress(entry, m_entries);
             m_rows->MoveNext();
             // This compares a horizontal position with a height, so it is never true: a long log continues on the next
             // page by the printer's own page feed.
@@ -66,22 +70,22 @@ public:
             }
         }
         page.EndDoc();
-        m_rows.reset(); // ends the reading of the database
         if (m_report.landscape)
             page.setLandscape(orientation);
     }
 
 private:
-    /// Selects the entries with their tanks, ordered by tank and date. The tank's name is called "tank", because
+    /// Selects from the entries with their tanks, ordered by tank and date. The tank's name is called "tank", because
     /// "tankname" in the logs is the tank's id.
-    QString select() const
+    std::unique_ptr<RowStream> select(const QString &what) const
     {
-        return QStringLiteral("SELECT t.Tankname AS tank, t.Tankdesc, t.Tanksize, e.* FROM %1 e JOIN Tanklst t ON e.%2 "
-                              "= t.tankid %3 "
-                              "ORDER BY t.Tankname COLLATE CASEBLIND, e.%4, e.%5")
-            .arg(QLatin1String(m_kind.table), QLatin1String(m_kind.tankColumn),
-                 QLatin1String(m_tankId ? "WHERE t.tankid = ?" : ""), QLatin1String(m_kind.dateColumn),
-                 QLatin1String(m_kind.timeColumn));
+        const QString sql = QStringLiteral("SELECT %1 FROM %2 e JOIN Tanklst t ON e.%3 = t.tankid %4 "
+                                           "ORDER BY t.Tankname COLLATE CASEBLIND, e.%5, e.%6")
+                                .arg(what, QLatin1String(m_kind.table), QLatin1String(m_kind.tankColumn),
+                                     QLatin1String(m_tankId ? "WHERE t.tankid = ?" : ""),
+                                     QLatin1String(m_kind.dateColumn), QLatin1String(m_kind.timeColumn));
+        return std::unique_ptr<RowStream>(
+            new RowStream(m_database.OpenForwardOnly(sql, m_tankId ? Parameters{*m_tankId} : Parameters{})));
     }
     QString text(const char *column) { return m_rows->text(QLatin1String(column)); }
 
@@ -150,7 +154,8 @@ private:
     Database &m_database;
     QString m_datePicture;
     std::optional<QString> m_tankId;
-    std::unique_ptr<RowStream> m_rows; ///< open, but not printed yet
+    std::unique_ptr<RowStream> m_rows; ///< open, but not all printed yet
+    qint64 m_entries = 0;
 };
 
 } // namespace

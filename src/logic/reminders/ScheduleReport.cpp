@@ -37,6 +37,7 @@ void printSchedule(Printer &page, int items, const ScheduleText &text)
             printPageEnd(page);
         const double third = page.ScaleWidth() / 3;
         page.PrintRow({{0, third, text(item, 0)}, {third, page.ScaleWidth(), text(item, 1)}});
+        page.Progress(item, items);
     }
     page.EndDoc();
 }

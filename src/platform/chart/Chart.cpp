@@ -1,5 +1,6 @@
 #include "platform/chart/Chart.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHelpEvent>
@@ -8,6 +9,7 @@
 #include <QToolTip>
 
 #include "platform/chart/ChartPlot.h"
+#include "platform/chart/ChartTable.h"
 #include "platform/core/RuntimeFailure.h"
 
 namespace {
@@ -23,10 +25,28 @@ ChartTurn turnedBy(const ChartTurn &turn, const QPointF &moved)
             std::clamp(turn.up - moved.y() / fullTurn, 0.0, 1.0)};
 }
 
+QPoint wayOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left: return {-1, 0};
+    case Qt::Key_Right: return {1, 0};
+    case Qt::Key_Up: return {0, -1};
+    case Qt::Key_Down: return {0, 1};
+    default: return {};
+    }
+}
+
+QString describe(const ChartData &data, const ChartCell &cell)
+{
+    return data.rowLabels.at(cell.row) + u'\n' + data.columnLabels.at(cell.column) + QStringLiteral(": ") +
+           data.text(cell.row, cell.column);
+}
+
 } // namespace
 
 Chart::Chart(QWidget *parent) : QWidget(parent), m_plot(new ChartPlot(this))
 {
+    OfferChartsAsTables();
     setMouseTracking(true); // turning and tool tips need no pressed button
     setFocusPolicy(Qt::StrongFocus);
     m_plot->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -39,7 +59,13 @@ void Chart::changed()
     if (std::exchange(m_stale, true))
         return;
     QMetaObject::invokeMethod(
-        this, [this] { drawNow(); }, Qt::QueuedConnection);
+        this,
+        [this] {
+            drawNow();
+            QAccessibleTableModelChangeEvent event(this, QAccessibleTableModelChangeEvent::ModelReset);
+            QAccessible::updateAccessibility(&event);
+        },
+        Qt::QueuedConnection);
 }
 
 void Chart::drawNow() const
@@ -54,12 +80,16 @@ void Chart::drawNow() const
 void Chart::setColumnCount(int count)
 {
     m_data.resize(m_data.rows(), count);
+    m_current = {};
+    showMark();
     changed();
 }
 
 void Chart::setRowCount(int count)
 {
     m_data.resize(count, m_data.columns());
+    m_current = {};
+    showMark();
     changed();
 }
 
@@ -92,6 +122,18 @@ void Chart::setRowLabel(const QString &label)
 void Chart::setColumnLabel(const QString &label)
 {
     m_data.columnLabels[m_column - 1] = label;
+    changed();
+}
+
+void Chart::setColumnUnit(const QString &unit)
+{
+    m_data.columnUnits[m_column - 1] = unit;
+    changed();
+}
+
+void Chart::setRowsTitle(const QString &title)
+{
+    m_data.rowsTitle = title;
     changed();
 }
 
@@ -138,14 +180,16 @@ QRectF Chart::place(int row, int column) const
     return onPlot.isNull() ? onPlot : onPlot.translated(m_plot->pos());
 }
 
-QString Chart::tip(const QPointF &place) const
+ChartCell Chart::cellAt(const QPointF &place) const
 {
     drawNow();
-    const ChartCell cell = m_plot->cellAt(place - m_plot->pos());
-    if (!cell)
-        return {};
-    return m_data.rowLabels.at(cell.row) + u'\n' + m_data.columnLabels.at(cell.column) + QStringLiteral(": ") +
-           m_data.text(cell.row, cell.column);
+    return m_plot->cellAt(place - m_plot->pos());
+}
+
+QString Chart::tip(const QPointF &place) const
+{
+    const ChartCell cell = cellAt(place);
+    return cell ? describe(m_data, cell) : QString();
 }
 
 bool Chart::event(QEvent *event)
@@ -161,6 +205,8 @@ bool Chart::event(QEvent *event)
         m_plot->setFont(font());
         changed();
         break;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut: showMark(); break;
     default: break;
     }
     return QWidget::event(event);
@@ -197,14 +243,51 @@ void Chart::mouseMoveEvent(QMouseEvent *event)
 
 void Chart::keyPressEvent(QKeyEvent *event)
 {
-    const bool across = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
-    const bool along = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
-    if (!ChartKindOf(m_type).depth || (!across && !along)) {
+    const QPoint way = wayOf(event->key());
+    const bool home = event->key() == Qt::Key_Home, end = event->key() == Qt::Key_End;
+    const ChartCell here = m_current ? m_current : firstDrawn();
+    if (way.isNull() && !home && !end)
         QWidget::keyPressEvent(event);
-        return;
-    }
-    const double step = event->key() == Qt::Key_Left || event->key() == Qt::Key_Up ? -keyTurn : keyTurn;
-    turnBy(across ? QPointF(step, 0) : QPointF(0, step));
+    else if (!way.isNull() && ChartKindOf(m_type).depth && !event->modifiers().testFlag(Qt::ShiftModifier))
+        turnBy(QPointF(way) * keyTurn);
+    else if (home)
+        walk({-1, here.column}, {1, 0});
+    else if (end)
+        walk({m_data.rows(), here.column}, {-1, 0});
+    else if (m_current)
+        walk(here, way);
+    else
+        walk({here.row - 1, here.column}, {1, 0});
+}
+
+ChartCell Chart::firstDrawn() const
+{
+    for (int row = 0; row < m_data.rows(); ++row)
+        for (int column = 0; column < m_data.columns(); ++column)
+            if (!place(row + 1, column + 1).isNull())
+                return {row, column};
+    return {};
+}
+
+/// Makes the next cell in that direction that is drawn the current one. If there is none, the current one stays.
+void Chart::walk(ChartCell from, const QPoint &way)
+{
+    do {
+        from = {from.row + way.x(), from.column + way.y()};
+        if (from.row < 0 || from.row >= m_data.rows() || from.column < 0 || from.column >= m_data.columns())
+            return;
+    } while (place(from.row + 1, from.column + 1).isNull());
+    m_current = from;
+    showMark();
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(from.row * m_data.columns() + from.column);
+    QAccessible::updateAccessibility(&event);
+}
+
+void Chart::showMark()
+{
+    const bool shown = m_current && hasFocus();
+    m_plot->setMark(shown ? m_current : ChartCell(), shown ? describe(m_data, m_current) : QString());
 }
 
 void Chart::mouseReleaseEvent(QMouseEvent *event) { emit MouseUp(event->button(), event->globalPosition().toPoint()); }

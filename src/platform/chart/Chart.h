@@ -1,6 +1,8 @@
 // The chart control: a grid of cells that is filled through a selected row and column, drawn as one of twelve types.
 // Moving the mouse with Ctrl held, or an arrow key, turns a chart with depth; a tool tip shows the row, the column and
-// the value under the pointer. However many cells are written, the picture is redrawn once, when control returns to the
+// the value under the pointer. In other charts the arrow keys walk from value to value, in charts with depth they do so
+// with Shift held: the current value is framed, named beside the frame, and told to a screen reader, to which the chart
+// is a table (ChartTable.h). However many cells are written, the picture is redrawn once, when control returns to the
 // event loop.
 #pragma once
 
@@ -36,6 +38,10 @@ public:
     void setColumn(int column);
     void setRowLabel(const QString &label);
     void setColumnLabel(const QString &label);
+    /// The unit of the selected column, for the titles of the axes; may be empty.
+    void setColumnUnit(const QString &unit);
+    /// What the labels of the rows are, such as "Date": the title of their axis.
+    void setRowsTitle(const QString &title);
     /// Sets the value of the selected cell as text; a text that is not a number makes it blank.
     void setData(const QString &text);
 
@@ -53,6 +59,12 @@ public:
     QRectF place(int row, int column) const;
     /// The tool tip for a place in the chart; empty if no value is drawn there.
     QString tip(const QPointF &place) const;
+
+    const ChartData &data() const { return m_data; }
+    /// The cell whose value is drawn at a place in the chart; no cell if none is.
+    ChartCell cellAt(const QPointF &place) const;
+    /// The cell that the keys have walked to; no cell before they are used.
+    const ChartCell &current() const { return m_current; }
 
 signals:
     void MouseUp(Qt::MouseButton button, const QPoint &globalPosition);
@@ -73,11 +85,15 @@ private:
     void drawNow() const;
     std::unique_ptr<ChartPlot> onPaper() const;
     void turnBy(const QPointF &moved);
+    ChartCell firstDrawn() const;
+    void walk(ChartCell from, const QPoint &way);
+    void showMark();
 
     ChartData m_data;
     int m_type = 1;
     int m_row = 0; ///< of the selected cell; from 1
     int m_column = 0;
+    ChartCell m_current;
     QString m_title;
     ChartPlot *m_plot;
     mutable bool m_stale = false;    ///< the plot does not show the present cells yet

@@ -35,6 +35,9 @@ void ChartData::resize(int rows, int columns)
     resized.rowLabels.resize(rows);
     resized.columnLabels = columnLabels.mid(0, columns);
     resized.columnLabels.resize(columns);
+    resized.columnUnits = columnUnits.mid(0, columns);
+    resized.columnUnits.resize(columns);
+    resized.rowsTitle = rowsTitle;
     resized.m_values.assign(std::size_t(rows) * std::size_t(columns), blank);
     resized.m_texts.resize(qsizetype(rows) * columns);
     for (int row = 0; row < std::min(rows, this->rows()); ++row)

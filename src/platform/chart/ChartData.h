@@ -46,6 +46,8 @@ public:
 
     QStringList rowLabels;
     QStringList columnLabels;
+    QStringList columnUnits; ///< each may be empty
+    QString rowsTitle;       ///< what the labels of the rows are, such as "Date"
 
 private:
     std::size_t at(int row, int column) const

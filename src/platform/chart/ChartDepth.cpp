@@ -77,7 +77,7 @@ void ChartDepth::drawBox(Paint &paint) const
     const QPointF away = paint.away;
     const double side = paint.toTheRight ? front.left() : front.right();
     const QPen rim(m_colours.grid, 1);
-    const QColor wall = m_colours.paper.lightness() < 128 ? m_colours.paper.lighter(115) : m_colours.paper.darker(103);
+    const QColor wall = m_colours.isDark() ? m_colours.paper.lighter(115) : m_colours.paper.darker(103);
     paint.face(front.translated(away), wall, rim);
     paint.face(sheet({side, front.top()}, {side, front.bottom()}, {}, away), wall.darker(104), rim);
     paint.face(sheet(front.bottomLeft(), front.bottomRight(), {}, away), wall.darker(108), rim);
@@ -100,9 +100,9 @@ void ChartDepth::drawBars(Paint &paint, const std::vector<int> &columns) const
         const int row = place / count, column = columns[std::size_t(place % count)];
         if (m_view.data->isBlank(row, column))
             continue;
-        const ChartLook look = ChartLookOf(column);
+        const ChartLook look = m_colours.look(column);
         const auto [near, far] = m_view.slot(column);
-        paint.box(m_view.front(row, column), near, far, look.body(m_colours.paper).color(), look.rim());
+        paint.box(m_view.front(row, column), near, far, look.colour, look.rim());
     }
 }
 
@@ -135,9 +135,8 @@ std::vector<QPolygonF> ChartDepth::stretches(int column) const
 
 void ChartDepth::drawSheets(Paint &paint, int column) const
 {
-    const ChartLook look = ChartLookOf(column);
-    const QColor colour = look.body(m_colours.paper).color();
-    const QPen rim = look.second ? QPen(look.colour, 1.5) : QPen(look.colour.darker(darker), 1);
+    const QColor colour = m_colours.look(column).colour;
+    const QPen rim(colour.darker(darker), 1);
     const auto [near, far] = m_view.slot(column);
     const QPointF n = paint.away * near, f = paint.away * far;
     const bool area = m_view.kind.shape == ChartShape::Area;

@@ -4,10 +4,14 @@
 
 namespace {
 
-// The palette of Okabe and Ito, "Color Universal Design" (2008), with a grey added, and without yellow and black, which
-// are hard to see on a light or a dark background.
-constexpr QRgb hues[] = {0x0072b2, 0xe69f00, 0x009e73, 0xd55e00, 0x56b4e9, 0xcc79a7, 0x707070};
-constexpr int hueCount = int(std::size(hues));
+// Found by a search for the greatest difference between any two, in the eyes of readers with full colour vision, with
+// deuteranopia and with protanopia. Neighbours are as different as possible.
+constexpr QRgb forLight[] = {0x0072b2, 0xd55e00, 0x009e73, 0x770044, 0x9977ff, 0x775522, 0xff4477,
+                             0x004466, 0xdd00bb, 0x994488, 0x0000dd, 0x660099, 0x6622ff};
+constexpr QRgb forDark[] = {0x55aaee, 0xffaa00, 0x00bb77, 0xff8899, 0xaaff22, 0xddbbff, 0xcc8822,
+                            0x99ffff, 0xdd66bb, 0xaacc66, 0xaa77ff, 0xffddaa, 0x22ddcc};
+constexpr int looks = int(std::size(forLight));
+static_assert(looks == int(std::size(forDark)));
 
 QColor mixed(const QColor &one, const QColor &other, double share)
 {
@@ -25,14 +29,13 @@ ChartColours ChartColours::onScreen(const QPalette &palette)
 
 ChartColours ChartColours::onPaper() { return {Qt::white, Qt::black, QColor(0xd2, 0xd2, 0xd2)}; }
 
-ChartLook ChartLookOf(int column)
+ChartLook ChartColours::look(int column) const
 {
-    return {QColor(hues[column % hueCount]), column / hueCount % 2 == 1, column % (2 * hueCount)};
+    const int place = column % looks;
+    return {QColor(isDark() ? forDark[place] : forLight[place]), place, place > looks / 2};
 }
 
-QBrush ChartLook::body(const QColor &paper) const { return second ? mixed(colour, paper, 0.35) : colour; }
+QPen ChartLook::rim() const { return {colour.darker(115), 1}; }
 
-QPen ChartLook::rim() const { return {second ? colour : colour.darker(115), second ? 2.0 : 1.0}; }
-
-// Square caps close the corners of lines that are drawn in segments.
-QPen ChartLook::line() const { return {colour, second ? 1.0 : 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin}; }
+// Square caps close the corners of lines that are drawn in segments. Dashes would take several times as long.
+QPen ChartLook::line() const { return {colour, thin ? 1.0 : 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin}; }

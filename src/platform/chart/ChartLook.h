@@ -1,13 +1,22 @@
-// The colours of a chart. Those of the columns can be told apart by colour-blind readers, and by their lightness on
-// black-and-white paper. There are seven hues; the next seven columns repeat them in a second style (pale bodies with a
-// rim, thin lines). Each of these fourteen columns has a marker of its own.
+// The colours of a chart: thirteen for light grounds and for paper, thirteen for dark grounds. On its ground each has a
+// contrast of at least 3:1, and colour-blind readers, too, can tell any two apart. A column also has a marker of its
+// own.
 #pragma once
 
-#include <QBrush>
 #include <QColor>
 #include <QPen>
 
 class QPalette;
+
+struct ChartLook
+{
+    QColor colour;
+    int marker; ///< 0 to 12
+    bool thin;  ///< as a line; those of the later columns are
+
+    QPen rim() const;
+    QPen line() const;
+};
 
 struct ChartColours
 {
@@ -17,17 +26,8 @@ struct ChartColours
 
     static ChartColours onScreen(const QPalette &palette);
     static ChartColours onPaper();
+
+    bool isDark() const { return paper.lightness() < 128; }
+    /// After thirteen columns the looks begin again.
+    ChartLook look(int column) const;
 };
-
-struct ChartLook
-{
-    QColor colour;
-    bool second; ///< in the second style
-    int marker;  ///< 0 to 13
-
-    QBrush body(const QColor &paper) const;
-    QPen rim() const;
-    QPen line() const;
-};
-
-ChartLook ChartLookOf(int column);

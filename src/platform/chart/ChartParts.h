@@ -1,5 +1,5 @@
-// Small parts that QCustomPlot leaves to its users: axis ticks whose labels never overlap, and legend entries. Only the
-// chart uses them.
+// Small parts that QCustomPlot leaves to its users: axis ticks whose labels never overlap, whole markers at the ends of
+// an axis, legend entries, and the frame around the current value. Only the chart uses it.
 #pragma once
 
 #include <qcustomplot.h>
@@ -34,7 +34,7 @@ public:
     bool fit(double pixels, const QFont &font);
 
 protected:
-    double getTickStep(const QCPRange &range) override { return roundStep(range.size() / m_most); }
+    double getTickStep(const QCPRange &range) override;
 
 private:
     /// Rounds a step up to 1, 2, 2.5 or 5 times a power of ten.
@@ -42,20 +42,33 @@ private:
     double m_most = 5; ///< number of ticks
 };
 
+/// Lines and points whose markers may stand out over the ends of the axes.
+class ChartGraph : public QCPGraph
+{
+public:
+    using QCPGraph::QCPGraph;
+
+protected:
+    QRect clipRect() const override;
+};
+
 /// A small sample of how a column is drawn, for the legend.
 struct ChartSample
 {
     ChartLook look;
-    QColor paper;
     bool body;   ///< a bar, an area or a slice
     bool line;   ///< a line with its marker
     bool marker; ///< a marker alone
 
     void draw(QCPPainter &painter, const QRectF &place) const;
 };
-ChartSample ChartSampleOf(const ChartKind &kind, int column, const QColor &paper);
+ChartSample ChartSampleOf(const ChartKind &kind, int column, const ChartColours &colours);
 
 QCPScatterStyle ChartMarkerOf(const ChartLook &look, double size);
+
+/// Frames the place of a value and writes a text beside it, like a tool tip, inside the given area.
+void DrawChartMark(QPainter &painter, const QRectF &place, const QString &text, const ChartColours &colours,
+                   const QRectF &area);
 
 class ChartLegendItem : public QCPAbstractLegendItem
 {

@@ -73,7 +73,7 @@ void ChartPie::draw(QCPPainter *painter)
         painter->setAntialiasing(true);
         painter->setPen(QPen(all.empty() ? m_colours.grid : m_colours.paper, 1));
         for (const Slice &slice : all) {
-            painter->setBrush(ChartLookOf(slice.column).body(m_colours.paper));
+            painter->setBrush(m_colours.look(slice.column).colour);
             if (all.size() == 1)
                 painter->drawEllipse(circle);
             else

@@ -8,15 +8,20 @@
 #include "platform/chart/ChartDepth.h"
 #include "platform/chart/ChartParts.h"
 #include "platform/chart/ChartPie.h"
+#include "platform/chart/ChartTitle.h"
 
 namespace {
 
 constexpr int edge = 8;              // pixels between the chart and its rim
+constexpr int gap = 4;               // pixels above and below a band
+constexpr int labelGap = 4;          // pixels between the labels of the ticks and the title of an axis
 constexpr double reach = 6;          // pixels around a value within which the pointer hits it
 constexpr double legendShare = 0.35; // largest share of the height
 constexpr double markerSize = 6;
 constexpr double loneMarkerSize = 9;
 constexpr int areaAlpha = 110;
+constexpr int titledHeight = 12; // height and width of the smallest chart whose axes have titles, in font heights
+constexpr int titledWidth = 20;
 
 QFont inPixels(QFont font, double factor = 1)
 {
@@ -114,6 +119,8 @@ void ChartPlot::dress(QCPAxisRect &rect)
         axis->setSubTicks(false);
         axis->setTickLabelFont(m_font);
         axis->setTickLabelColor(m_colours.ink);
+        axis->setLabelFont(m_font);
+        axis->setLabelColor(m_colours.ink);
     }
 }
 
@@ -122,7 +129,8 @@ void ChartPlot::addBand(const ChartBand &band, bool isLast)
     auto *rect = new QCPAxisRect(this);
     plotLayout()->addElement(plotLayout()->rowCount(), 0, rect);
     dress(*rect);
-    rect->setMinimumMargins(QMargins(edge, edge, 2 * edge, 4));
+    rect->setMinimumSize(1, 1); // many bands share a low chart
+    rect->setMinimumMargins(QMargins(edge, gap, 2 * edge, gap));
     QCPAxis *keys = rect->axis(QCPAxis::atBottom);
     keys->setTicker(m_rows);
     keys->setTickLabels(isLast);
@@ -151,7 +159,7 @@ void ChartPlot::addBand(const ChartBand &band, bool isLast)
 
 void ChartPlot::addBars(const ChartBandView &view, int column)
 {
-    const ChartLook look = ChartLookOf(column);
+    const ChartLook look = m_colours.look(column);
     const auto [offset, width] = view.bar(column);
     auto *bars = new QCPBars(view.keys, view.values);
     QSharedPointer<QCPBarsDataContainer> cells(new QCPBarsDataContainer);
@@ -161,15 +169,15 @@ void ChartPlot::addBars(const ChartBandView &view, int column)
     bars->setData(cells);
     bars->setWidth(width);
     bars->setPen(look.rim());
-    bars->setBrush(look.body(m_colours.paper));
+    bars->setBrush(look.colour);
     bars->setAntialiased(false);
     bars->setAntialiasedFill(false);
 }
 
 void ChartPlot::addGraph(const ChartBandView &view, int column)
 {
-    const ChartLook look = ChartLookOf(column);
-    auto *graph = new QCPGraph(view.keys, view.values);
+    const ChartLook look = m_colours.look(column);
+    auto *graph = new ChartGraph(view.keys, view.values);
     QSharedPointer<QCPGraphDataContainer> cells(new QCPGraphDataContainer);
     for (int row = 0; row < m_data.rows(); ++row)
         cells->add(QCPGraphData(row + 1, m_data.value(row, column))); // NaN for a blank cell makes a gap
@@ -183,7 +191,7 @@ void ChartPlot::addGraph(const ChartBandView &view, int column)
                                                            : QCPGraph::lsLine);
     if (m_kind.shape == ChartShape::Area) {
         QColor fill = look.colour;
-        fill.setAlpha(look.second ? areaAlpha / 2 : areaAlpha);
+        fill.setAlpha(areaAlpha);
         graph->setBrush(fill);
     }
 }
@@ -203,8 +211,8 @@ void ChartPlot::addLegend()
     m_legend->setColumnSpacing(14);
     m_legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
     for (int column = 0; column < m_data.columns(); ++column)
-        m_legend->addItem(new ChartLegendItem(m_legend, ChartSampleOf(m_kind, column, m_colours.paper),
-                                              m_data.columnLabels.at(column)));
+        m_legend->addItem(
+            new ChartLegendItem(m_legend, ChartSampleOf(m_kind, column, m_colours), m_data.columnLabels.at(column)));
 }
 
 // Fitting one part may make it necessary to fit another: with fewer lines of legend, the bands get higher and deeper.
@@ -213,9 +221,12 @@ void ChartPlot::fit()
     if (m_fitting)
         return;
     const QScopedValueRollback<bool> once(m_fitting, true);
-    for (int pass = 0; pass < 3; ++pass) {
-        const bool title = fitTitle(), legend = fitLegend(), depth = fitDepth(), labels = fitLabels();
-        if (!title && !legend && !depth && !labels)
+    for (int pass = 0; pass < 6; ++pass) {
+        bool changed = false;
+        for (const auto part : {&ChartPlot::fitTitle, &ChartPlot::fitLegend, &ChartPlot::fitDepth,
+                                &ChartPlot::fitHeights, &ChartPlot::fitLabels})
+            changed = (this->*part)() || changed;
+        if (!changed && !fitAxisTitles()) // it measures many texts, so it waits until the rest has its place
             return;
         updateLayout();
     }
@@ -300,11 +311,27 @@ bool ChartPlot::fitDepth()
     for (const ChartBandView &view : m_bands) {
         QCPAxisRect *rect = view.keys->axisRect();
         rect->setMinimumMargins(
-            QMargins(toTheRight ? edge : side, int(std::ceil(-away.y())) + edge, toTheRight ? side + edge : edge, 4));
+            QMargins(toTheRight ? edge : side, int(std::ceil(-away.y())) + gap, toTheRight ? side + edge : edge, gap));
         rect->axis(QCPAxis::atLeft)->setVisible(toTheRight);
         rect->axis(QCPAxis::atRight)->setVisible(!toTheRight);
     }
     return true;
+}
+
+/// Makes the axes of all bands equally long, although the last band also holds the labels of the rows.
+bool ChartPlot::fitHeights()
+{
+    double height = 0;
+    for (const ChartBandView &view : m_bands)
+        height += view.values->axisRect()->height() / double(m_bands.size());
+    bool changed = false;
+    for (int row = 0; row < plotLayout()->rowCount() && m_bands.size() > 1; ++row)
+        if (const auto *rect = qobject_cast<QCPAxisRect *>(plotLayout()->element(row, 0))) {
+            const double whole = std::max(1.0, height + rect->outerRect().height() - rect->height());
+            changed = changed || std::abs(plotLayout()->rowStretchFactors().at(row) - whole) >= 1;
+            plotLayout()->setRowStretchFactor(row, whole);
+        }
+    return changed;
 }
 
 bool ChartPlot::fitLabels()
@@ -317,6 +344,59 @@ bool ChartPlot::fitLabels()
         changed = ticker->fit(view.values->axisRect()->height(), m_font) || changed;
     }
     return changed;
+}
+
+// A small chart needs all its room for its values. The titles of the bands stand below each other, whatever the width
+// of the labels beside them.
+bool ChartPlot::fitAxisTitles()
+{
+    const QFontMetricsF metrics(m_font);
+    const bool titled =
+        viewport().height() >= titledHeight * metrics.height() && viewport().width() >= titledWidth * metrics.height();
+    bool changed = false;
+    const auto set = [&changed](QCPAxis *axis, const QString &title) {
+        changed = changed || axis->label() != title;
+        axis->setLabel(title);
+    };
+    const auto labelWidth = [&metrics](const ChartBandView &view) {
+        double widest = 0;
+        for (const QString &label : view.values->tickVectorLabels())
+            widest = std::max(widest, metrics.horizontalAdvance(label));
+        return int(widest);
+    };
+    int widest = 0;
+    for (const ChartBandView &view : m_bands)
+        widest = std::max(widest, labelWidth(view));
+    for (const ChartBandView &view : m_bands) {
+        const QCPAxisRect &rect = *view.keys->axisRect();
+        const QString title = titled ? ValueAxisTitle(m_data, view.band.columns, metrics, rect.height()) : QString();
+        const int padding = labelGap + widest - labelWidth(view);
+        changed = changed || view.values->labelPadding() != padding;
+        for (QCPAxis *axis : {rect.axis(QCPAxis::atLeft), rect.axis(QCPAxis::atRight)}) {
+            set(axis, title);
+            axis->setLabelPadding(padding);
+        }
+    }
+    if (!m_bands.empty())
+        set(m_bands.back().keys, titled ? m_data.rowsTitle : QString());
+    return changed;
+}
+
+void ChartPlot::setMark(const ChartCell &cell, const QString &text)
+{
+    m_marked = cell;
+    m_markText = text;
+    update();
+}
+
+void ChartPlot::paintEvent(QPaintEvent *event)
+{
+    QCustomPlot::paintEvent(event);
+    if (!m_marked)
+        return;
+    QPainter painter(this);
+    painter.setFont(m_font);
+    DrawChartMark(painter, place(m_marked.row, m_marked.column), m_markText, m_colours, rect());
 }
 
 // Records the painting and plays it on the given painter: QCustomPlot needs a QCPPainter, and one of its own on the

@@ -36,8 +36,13 @@ public:
     ChartCell cellAt(const QPointF &place) const;
     /// Where a cell's value is drawn; empty if the cell is blank.
     QRectF place(int row, int column) const;
+    /// Frames a cell's value and writes a text beside it, on the screen only. No cell takes the frame away.
+    void setMark(const ChartCell &cell, const QString &text);
     /// Paints the chart as vectors into a rectangle that starts at 0, 0.
     void paintVectors(QPainter &painter, const QSizeF &size);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void clear();
@@ -54,7 +59,9 @@ private:
     bool fitLegend();
     double depth() const;
     bool fitDepth();
+    bool fitHeights();
     bool fitLabels();
+    bool fitAxisTitles();
 
     ChartData m_data;
     ChartKind m_kind;
@@ -71,4 +78,6 @@ private:
     QPointer<ChartPie> m_pie;
     QPointF m_away;
     bool m_fitting = false;
+    ChartCell m_marked;
+    QString m_markText;
 };

@@ -5,103 +5,106 @@
 
 namespace {
 
-constexpr std::size_t mostBands = 3;
-constexpr double readable = 10; // a column at least a tenth as high as its neighbour can still be read
+constexpr std::size_t mostBandsOnZero = 3;
+constexpr std::size_t mostBandsOfCurves = 8;
+constexpr double readable = 10;   // times as high as a column an axis may be
+constexpr double farShare = 0.5;  // of the greatest value; values that differ by no more than that are far from zero
+constexpr double evenShare = 0.1; // of its value that an axis shows around a curve that is level
+constexpr double room = 0.08;     // at the ends of an axis
 
-struct Sized
+/// Columns that share an axis, and the part of the axis that they need. Without a value, low is above high.
+struct Group
 {
-    int column;
-    double size; ///< largest absolute value; 0 for a column without values
+    std::vector<int> columns;
+    double low = INFINITY;
+    double high = -INFINITY;
+    double least = INFINITY; ///< the part that the lowest column needs; columns that are all 0 do not count
+
+    double size() const { return low > high ? 0 : std::max(std::abs(low), std::abs(high)); }
 };
-using Group = std::vector<Sized>; // sorted by size
 
-double sizeOf(const ChartData &data, int column)
+Group groupOf(const ChartData &data, int column, bool onZero)
 {
-    double size = 0;
+    Group group{{column}};
     for (int row = 0; row < data.rows(); ++row)
-        if (!data.isBlank(row, column))
-            size = std::max(size, std::abs(data.value(row, column)));
-    return size;
-}
-
-/// The ratio of the largest to the smallest column of a group. A column that is all 0 fits beside anything and does not
-/// count.
-double spread(const Group &group)
-{
-    const auto first = std::ranges::find_if(group, [](const Sized &one) { return one.size > 0; });
-    return first == group.end() ? 1 : group.back().size / first->size;
-}
-
-/// Splits a group at the largest ratio between two neighbours and returns the upper part.
-Group cutOff(Group &group)
-{
-    std::size_t cut = 1;
-    double widest = 0;
-    for (std::size_t i = 1; i < group.size(); ++i)
-        if (group[i - 1].size > 0 && group[i].size / group[i - 1].size > widest) {
-            widest = group[i].size / group[i - 1].size;
-            cut = i;
+        if (!data.isBlank(row, column)) {
+            group.low = std::min(group.low, data.value(row, column));
+            group.high = std::max(group.high, data.value(row, column));
         }
-    Group upper(group.begin() + std::ptrdiff_t(cut), group.end());
-    group.resize(cut);
-    return upper;
+    const double size = group.size(), height = group.high - group.low;
+    if (size == 0)
+        return group;
+    if (onZero || height > size * farShare) {
+        group.low = std::min(group.low, 0.0);
+        group.high = std::max(group.high, 0.0);
+    } else if (height < size * 1e-9) { // level, apart from rounding
+        group.low -= size * evenShare / 2;
+        group.high += size * evenShare / 2;
+    }
+    group.least = group.high - group.low;
+    return group;
 }
 
-/// Sets the range of a band's axis. Bars and areas start at 0; for lines, 0 is left out if it would only leave a gap
-/// below them.
-void setRange(ChartBand &band, const ChartData &data, ChartShape shape)
+Group joined(const Group &one, const Group &other)
 {
-    double low = INFINITY, high = -INFINITY;
-    for (const int column : band.columns)
-        for (int row = 0; row < data.rows(); ++row)
-            if (!data.isBlank(row, column)) {
-                low = std::min(low, data.value(row, column));
-                high = std::max(high, data.value(row, column));
+    Group both{one.columns, std::min(one.low, other.low), std::max(one.high, other.high),
+               std::min(one.least, other.least)};
+    both.columns.insert(both.columns.end(), other.columns.begin(), other.columns.end());
+    return both;
+}
+
+/// How many times as high as its lowest column a common axis would be.
+double flattening(const Group &one, const Group &other)
+{
+    const Group both = joined(one, other);
+    return both.low < both.high ? (both.high - both.low) / both.least : 0;
+}
+
+/// Joins the two groups that flatten each other least. Returns false if that is not readable and there may be more
+/// groups.
+bool joinTwo(std::vector<Group> &groups, std::size_t most)
+{
+    auto one = groups.begin(), other = one + 1;
+    double least = INFINITY;
+    for (auto a = groups.begin(); a != groups.end(); ++a)
+        for (auto b = a + 1; b != groups.end(); ++b)
+            if (const double here = flattening(*a, *b); here < least) {
+                least = here;
+                one = a;
+                other = b;
             }
-    if (low > high)
-        return; // no value at all
-    const bool standsOnZero = shape == ChartShape::Area || std::ranges::any_of(band.columns, [shape](int column) {
-                                  return DrawnAsBars(shape, column);
-                              });
-    const bool nearZero = high - low > std::max(std::abs(low), std::abs(high)) / 2;
-    if (standsOnZero || nearZero) {
-        low = std::min(low, 0.0);
-        high = std::max(high, 0.0);
-    }
-    const double size = std::max(std::abs(low), std::abs(high));
-    // Leaves room for the markers, which are higher than their points.
-    const double room = high - low > size * 1e-9 ? (high - low) * (standsOnZero ? 0.06 : 0.1)
-                        : size > 0               ? size * 0.1
-                                                 : 1;
-    band.low = low == 0 ? 0 : low - room;
-    band.high = high == 0 ? 0 : high + room;
-    if (band.low == band.high)
-        band.high = 1;
+    if (least > readable && groups.size() <= most)
+        return false;
+    *one = joined(*one, *other);
+    groups.erase(other);
+    return true;
+}
+
+ChartBand bandOf(Group group)
+{
+    std::ranges::sort(group.columns);
+    if (group.size() == 0)
+        return {group.columns};
+    const double space = (group.high - group.low) * room;
+    return {group.columns, group.low == 0 ? 0 : group.low - space, group.high == 0 ? 0 : group.high + space};
 }
 
 } // namespace
 
 std::vector<ChartBand> MakeChartBands(const ChartData &data, ChartShape shape)
 {
-    Group all;
+    if (data.columns() == 0)
+        return {ChartBand()};
+    std::vector<Group> groups;
     for (int column = 0; column < data.columns(); ++column)
-        all.push_back({column, sizeOf(data, column)});
-    std::ranges::stable_sort(all, {}, &Sized::size);
-    std::vector<Group> groups{all};
-    while (!all.empty() && groups.size() < mostBands) {
-        const auto widest = std::ranges::max_element(groups, {}, spread);
-        if (spread(*widest) <= readable)
-            break;
-        Group upper = cutOff(*widest);
-        groups.insert(widest + 1, std::move(upper));
+        groups.push_back(groupOf(data, column, shape == ChartShape::Area || DrawnAsBars(shape, column)));
+    std::ranges::stable_sort(groups, {}, &Group::size);
+    const bool onZero = shape == ChartShape::Area || shape == ChartShape::Bar;
+    while (groups.size() > 1 && joinTwo(groups, onZero ? mostBandsOnZero : mostBandsOfCurves)) {
     }
+    std::ranges::stable_sort(groups, std::greater(), &Group::size);
     std::vector<ChartBand> bands;
-    for (auto group = groups.rbegin(); group != groups.rend(); ++group) {
-        ChartBand &band = bands.emplace_back();
-        for (const Sized &one : *group)
-            band.columns.push_back(one.column);
-        std::ranges::sort(band.columns);
-        setRange(band, data, shape);
-    }
+    for (const Group &group : groups)
+        bands.push_back(bandOf(group));
     return bands;
 }

@@ -1,4 +1,4 @@
-// Shows the wait cursor for as long as the object lives.
+// Shows the wait cursor for as long as the object lives, or the busy cursor if the windows can be used meanwhile.
 #pragma once
 
 #include <QApplication>
@@ -6,7 +6,7 @@
 class HourGlass
 {
 public:
-    HourGlass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    explicit HourGlass(Qt::CursorShape shape = Qt::WaitCursor) { QApplication::setOverrideCursor(shape); }
     ~HourGlass() { QApplication::restoreOverrideCursor(); }
     HourGlass(const HourGlass &) = delete;
     HourGlass &operator=(const HourGlass &) = delete;

@@ -4,6 +4,7 @@
 // further: Enter in a dialog's list does not press the default button as well.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 
 #include <QAbstractButton>
@@ -37,9 +38,11 @@ void connectTo(QAbstractItemView &list, Qt::Key key, Command &command, void (Com
 /// quotation marks. The columns are in the order shown. Returns false for any other key.
 bool CopyFromList(const QAbstractItemView &list, const QKeyEvent &key);
 
-/// Makes the first Down select the framed row. Otherwise Down would skip it, and the only row of a list could not be
-/// selected by keys.
-void SelectWithFirstDown(QAbstractItemView &list);
+/// Makes letters that are typed quickly go to the next row that begins with them, and one letter that is repeated to
+/// the next such row each time. `column` says where to look; by default it is the first column. The first Down selects
+/// the framed row, and the first letter looks at it as well: otherwise both would skip it, and the only row of a list
+/// could not be selected by keys.
+void MoveByKeys(QAbstractItemView &list, std::function<int()> column = {});
 
 inline void OnListKey(QAbstractItemView &list, Qt::Key key, QAbstractButton &button)
 {

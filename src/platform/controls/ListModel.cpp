@@ -159,6 +159,7 @@ try {
     switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole: return text(index.row(), index.column());
+    case Qt::AccessibleDescriptionRole: return m_columns[size_t(index.column())].heading;
     case Qt::UserRole: return index.column() == 0 ? QVariant(key(index.row())) : QVariant();
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (m_columns[size_t(index.column())].right ? Qt::AlignRight : Qt::AlignLeft));
@@ -179,19 +180,4 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     case Qt::TextAlignmentRole: return int(Qt::AlignVCenter | (column.right ? Qt::AlignRight : Qt::AlignLeft));
     default: return {};
     }
-}
-
-/// Looks up typed letters in the first column, without making a QVariant for each row.
-QModelIndexList ListModel::match(const QModelIndex &start, int role, const QVariant &value, int hits,
-                                 Qt::MatchFlags flags) const
-{
-    if (role != Qt::DisplayRole || hits != 1 || (flags & Qt::MatchTypeMask) != Qt::MatchStartsWith)
-        return QAbstractTableModel::match(start, role, value, hits, flags);
-    const QString typed = value.toString();
-    const int rows = rowCount();
-    const int end = (flags & Qt::MatchWrap) ? start.row() + rows : rows;
-    for (int row = start.row(); row < end; ++row)
-        if (text(row % rows, 0).startsWith(typed, Qt::CaseInsensitive))
-            return {index(row % rows, start.column())};
-    return {};
 }

@@ -37,8 +37,6 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    QModelIndexList match(const QModelIndex &start, int role, const QVariant &value, int hits,
-                          Qt::MatchFlags flags) const override;
 
 private:
     class OwnRows;

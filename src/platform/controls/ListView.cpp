@@ -1,10 +1,10 @@
 #include "platform/controls/ListView.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
 #include <QContextMenuEvent>
-#include <QFontInfo>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -16,14 +16,13 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+#include "platform/controls/ListKeys.h"
 #include "platform/controls/ListModel.h"
 #include "platform/controls/Style.h"
+#include "platform/controls/WindowSize.h"
 #include "platform/core/RuntimeFailure.h"
 
 namespace {
-
-/// Pixel size of a font of 9 points at 96 dpi, for which column widths are given.
-constexpr double referenceFontPixels = 12;
 
 QString onOneLine(QString text)
 {
@@ -105,6 +104,7 @@ ListView::ListView(QWidget *parent) : QTableView(parent), m_model(new ListModel(
         showSortArrow(); // the header has changed its arrow by itself
         emit ColumnClick(section + 1);
     });
+    MoveByKeys(*this, [this] { return isSortShown() ? m_sortKey : firstColumn(); });
     fitToFont();
 }
 
@@ -114,7 +114,7 @@ void ListView::setColumns(const std::vector<ListColumn> &columns)
 {
     m_model->setColumns(columns);
     for (int i = 0; i < int(columns.size()); ++i)
-        setColumnWidth(i, qRound(columns[size_t(i)].width * m_scale));
+        setColumnWidth(i, std::max(qRound(columns[size_t(i)].width * m_scale), horizontalHeader()->sectionSizeHint(i)));
 }
 
 QString ListView::columnLayout() const
@@ -225,12 +225,15 @@ void ListView::setSort(bool sorted, int sortKey, int sortOrder)
     showSortArrow();
 }
 
+bool ListView::isSortShown() const { return m_sorted && m_model->isSorted(); }
+
 void ListView::showSortArrow()
 {
-    const bool shown = m_sorted && m_model->isSorted();
-    if (shown)
+    if (isSortShown())
         horizontalHeader()->setSortIndicator(m_sortKey, m_sortOrder == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
-    horizontalHeader()->setSortIndicatorShown(shown);
+    horizontalHeader()->setSortIndicatorShown(isSortShown());
+    if (isSortShown()) // the arrow needs room beside the heading
+        setColumnWidth(m_sortKey, std::max(columnWidth(m_sortKey), horizontalHeader()->sectionSizeHint(m_sortKey)));
 }
 
 void ListView::setFullRowSelect(bool on) { setSelectionBehavior(on ? SelectRows : SelectItems); }
@@ -244,7 +247,7 @@ void ListView::fitToFont()
     const int height = RowHeight(fontMetrics());
     verticalHeader()->setMinimumSectionSize(height);
     verticalHeader()->setDefaultSectionSize(height);
-    const double scale = QFontInfo(font()).pixelSize() / referenceFontPixels;
+    const double scale = FontScale(font());
     const double ratio = scale / std::exchange(m_scale, scale);
     if (!qFuzzyCompare(ratio, 1.0))
         for (int i = 0; i < columnCount(); ++i)
@@ -309,15 +312,22 @@ void ListView::keyPressEvent(QKeyEvent *event)
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && plain && current.isValid()) {
         Select(current.row() + 1);
         emit DblClick();
-    } else if (event->key() == Qt::Key_Down && plain && current.isValid() && SelectedItem() == 0) {
-        Select(current.row() + 1); // it has the frame but is not selected; Qt would skip it
-    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
         menuByKey();
-    else if ((event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) && plain)
-        horizontalScrollBar()->triggerAction(event->key() == Qt::Key_Left ? QScrollBar::SliderSingleStepSub
-                                                                          : QScrollBar::SliderSingleStepAdd);
-    else
+    } else {
         QTableView::keyPressEvent(event);
+        if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)
+            QTableView::scrollTo(currentIndex()); // sideways as well: the keeper moves through the cells of a row
+    }
+}
+
+/// The first visible column from the left.
+int ListView::firstColumn() const
+{
+    int place = 0;
+    while (isColumnHidden(horizontalHeader()->logicalIndex(place)))
+        ++place;
+    return horizontalHeader()->logicalIndex(place);
 }
 
 /// Handles the keyboard only: with the mouse, the menu opens when the button is released (MouseUp).
@@ -343,7 +353,7 @@ QRect ListView::rowRect(int row) const
 }
 
 /// Draws a frame around the current row while the list has the focus, because a row may be current without being
-/// selected.
+/// selected, and around its current cell once Left and Right or the mouse have moved it.
 void ListView::paintEvent(QPaintEvent *event)
 {
     QTableView::paintEvent(event);
@@ -351,9 +361,14 @@ void ListView::paintEvent(QPaintEvent *event)
         return;
     // Plain filled lines: the style's own frame has a gradient, which is slow to paint on a whole row.
     QPainter painter(viewport());
-    const QRect row = rowRect(currentIndex().row());
-    for (const QRect &edge : QRegion(row).subtracted(row.adjusted(1, 1, -1, -1)))
-        painter.fillRect(edge, palette().color(QPalette::Highlight).darker(140));
+    const auto drawFrame = [&painter](const QRect &frame, const QColor &colour) {
+        for (const QRect &edge : QRegion(frame).subtracted(frame.adjusted(1, 1, -1, -1)))
+            painter.fillRect(edge, colour);
+    };
+    const QColor colour = palette().color(QPalette::Highlight).darker(140);
+    drawFrame(rowRect(currentIndex().row()), colour);
+    if (currentIndex().column() != firstColumn())
+        drawFrame(visualRect(currentIndex()), SelectedItem() ? palette().color(QPalette::HighlightedText) : colour);
 }
 
 void ListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

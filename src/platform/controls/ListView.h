@@ -26,7 +26,7 @@ struct ListColumn
     QString key; ///< in Qt::UserRole of the header
     QString heading;
     bool right = false; ///< right-aligned
-    int width = 96;     ///< in pixels for a font of 9 points at 96 dpi; scaled with the font
+    int width = 96;     ///< as in WindowSize.h; a heading that needs more gets more
 };
 
 class ListModel;
@@ -102,6 +102,8 @@ private:
 
     void checkRow(int item) const;
     void fitToFont();
+    bool isSortShown() const;
+    int firstColumn() const;
     void showSortArrow();
     void menuByKey();
     QRect rowRect(int row) const;

@@ -17,6 +17,7 @@ struct PageFont
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    bool operator==(const PageFont &) const = default;
 };
 
 /// Paints a picture into a rectangle of that size whose top left corner is at 0, 0.
@@ -27,6 +28,8 @@ class PageSink
 public:
     virtual ~PageSink() = default;
 
+    /// Where a document goes, in words for the keeper, such as `written to "/home/kim/log.pdf"`.
+    virtual QString whereTo() const = 0;
     /// Sets the orientation of the pages; width() and height() follow. Not to be called within a document.
     virtual void setLandscape(bool landscape) = 0;
     virtual double width() const = 0;

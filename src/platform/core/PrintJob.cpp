@@ -1,77 +1,83 @@
 #include "platform/core/PrintJob.h"
 
 #include "platform/core/Doors.h"
+#include "platform/core/PageSpool.h"
 #include "platform/core/Printer.h"
+#include "platform/core/ScreenPulse.h"
 
 namespace {
 
-/// Passes on only the pages that the keeper has chosen; whatever a report prints on other pages is dropped.
-class ChosenPages : public PageSink
+/// What the panel says: how far a report is, and where it has gone. Says "Ready." at the end if nothing else was said.
+class PanelWords
 {
 public:
-    ChosenPages(PageSink &pages, const PrintDialogAnswer &choice) : m_pages(pages), m_choice(choice) {}
+    PanelWords(const Report &report, const TellPanel &tell) : m_document(report.documentName), m_tell(tell) {}
+    ~PanelWords() { m_tell(m_result); }
+    PanelWords(const PanelWords &) = delete;
+    PanelWords &operator=(const PanelWords &) = delete;
 
-    int made() const { return m_page; }
-    bool anyPrinted() const { return m_begun; }
-
-    void setLandscape(bool landscape) override
+    /// Called when the dialog has closed; the windows under it are painted before the work begins.
+    void preparing()
     {
-        if (!m_choice.target.keepsOrientation)
-            m_pages.setLandscape(landscape);
+        say(QStringLiteral("preparing..."));
+        m_pulse.now();
     }
-    double width() const override { return m_pages.width(); }
-    double height() const override { return m_pages.height(); }
-    double textWidth(const PageFont &font, const QString &text) const override { return m_pages.textWidth(font, text); }
-    double lineHeight(const PageFont &font) const override { return m_pages.lineHeight(font); }
-
-    void beginDocument(const QString &title) override
+    void prepared(qint64 done, qint64 of)
     {
-        m_title = title;
-        newPage();
+        m_pulse.beat([&] { say(QStringLiteral("preparing, %1%...").arg(of > 0 ? 100 * done / of : 0)); });
     }
-    void newPage() override
+    void printing(int page, int of)
     {
-        ++m_page;
-        if (!isChosen())
-            return;
-        if (m_begun)
-            m_pages.newPage();
-        else
-            m_pages.beginDocument(m_title);
-        m_begun = true;
+        m_pulse.beat([&] { say(QStringLiteral("page %1 of %2...").arg(page).arg(of)); });
     }
-    void endDocument() override
+    void ready() { m_tell(QStringLiteral("Ready.")); }
+    void printed(const QString &whereTo, int copies)
     {
-        if (m_begun)
-            m_pages.endDocument();
-    }
-    void text(double x, double y, const PageFont &font, const QString &text) override
-    {
-        if (isChosen())
-            m_pages.text(x, y, font, text);
-    }
-    void line(double x1, double y1, double x2, double y2) override
-    {
-        if (isChosen())
-            m_pages.line(x1, y1, x2, y2);
-    }
-    void picture(double x, double y, const QSizeF &size, const PagePicture &paint) override
-    {
-        if (isChosen())
-            m_pages.picture(x, y, size, paint);
+        m_result =
+            m_document + u": " + (copies == 1 ? QString() : QStringLiteral("%1 copies ").arg(copies)) + whereTo + u'.';
     }
 
 private:
-    bool isChosen() const
+    void say(const QString &what) { m_tell(m_document + u": " + what); }
+
+    QString m_document;
+    const TellPanel &m_tell;
+    QString m_result = QStringLiteral("Ready.");
+    ScreenPulse m_pulse;
+};
+
+/// Prints the chosen pages of a document when all of it is made.
+class WholeDocument : public PageSpool
+{
+public:
+    WholeDocument(PageSink &paper, const PrintDialogAnswer &choice, PanelWords &words) :
+        PageSpool(paper, choice.target.keepsOrientation), m_paper(paper), m_choice(choice), m_words(words)
     {
-        return m_choice.fromPage == 0 || (m_page >= m_choice.fromPage && m_page <= m_choice.toPage);
+    }
+    bool anyPrinted() const { return m_printed > 0; }
+
+    void endDocument() override
+    {
+        PageSpool::endDocument();
+        const bool all = m_choice.fromPage == 0;
+        const int last = all ? pages() : qMin(m_choice.toPage, pages());
+        for (int page = all ? 1 : m_choice.fromPage; page <= last; ++page) {
+            if (m_printed++ == 0)
+                m_paper.beginDocument(title());
+            else
+                m_paper.newPage();
+            draw(page, m_paper);
+            m_words.printing(page, last);
+        }
+        if (anyPrinted())
+            m_paper.endDocument();
     }
 
-    PageSink &m_pages;
+private:
+    PageSink &m_paper;
     const PrintDialogAnswer &m_choice;
-    QString m_title;
-    int m_page = 0;
-    bool m_begun = false;
+    PanelWords &m_words;
+    int m_printed = 0;
 };
 
 PrintDialogRequest requestFor(const Report &report)
@@ -90,62 +96,80 @@ bool isSpreadsheet(const Report &report, const QString &fileName)
     return report.saveSpreadsheet && fileName.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive);
 }
 
-PrintOutcome saveSpreadsheet(const Report &report, const QString &fileName)
+PrintOutcome saveSpreadsheet(const Report &report, const QString &fileName, PanelWords &words)
 {
+    words.preparing();
     if (!report.open())
         return PrintOutcome::Empty;
     report.saveSpreadsheet(fileName);
+    words.printed(u"written to \"" + fileName + u'"', 1);
     return PrintOutcome::Printed;
 }
 
-PrintOutcome printCopies(const Report &report, const PrintDialogAnswer &choice)
+void printOn(PageSink &pages, const Report &report, PanelWords &words)
+{
+    Printer page(pages, report.documentName);
+    page.Progress = [&words](qint64 done, qint64 of) { words.prepared(done, of); };
+    report.print(page);
+}
+
+PrintOutcome printCopies(const Report &report, const PrintDialogAnswer &choice, PanelWords &words)
 {
     for (int copy = 0; copy < choice.copies; ++copy) {
+        words.preparing();
         if (!report.open())
             return PrintOutcome::Empty;
-        const auto pages = Doors::current().openPages(choice.target);
-        ChosenPages chosen(*pages, choice);
-        Printer page(chosen, report.documentName);
-        report.print(page);
-        if (chosen.made() > 0 && !chosen.anyPrinted()) {
+        const auto paper = Doors::current().openPages(choice.target);
+        WholeDocument document(*paper, choice, words);
+        printOn(document, report, words);
+        if (document.pages() > 0 && !document.anyPrinted()) {
             MsgBox(QStringLiteral("The pages %1 to %2 were chosen, but the last page is %3. Nothing was printed.")
                        .arg(choice.fromPage)
                        .arg(choice.toPage)
-                       .arg(chosen.made()),
+                       .arg(document.pages()),
                    vbInformation, QStringLiteral("Note!"));
             return PrintOutcome::Cancelled;
         }
+        words.printed(paper->whereTo(), copy + 1);
     }
     return PrintOutcome::Printed;
 }
 
-PrintOutcome carryOut(const Report &report, const PrintDialogAnswer &choice)
+PrintOutcome carryOut(const Report &report, const PrintDialogAnswer &choice, PanelWords &words)
 {
     const QString &fileName = choice.target.fileName;
-    return isSpreadsheet(report, fileName) ? saveSpreadsheet(report, fileName) : printCopies(report, choice);
+    return isSpreadsheet(report, fileName) ? saveSpreadsheet(report, fileName, words)
+                                           : printCopies(report, choice, words);
 }
 
-PrintOutcome showOnScreen(const Report &report)
+PrintOutcome showOnScreen(const Report &report, PanelWords &words)
 {
+    words.preparing();
     if (!report.open())
         return PrintOutcome::Empty;
-    const auto choice = Doors::current().preview({requestFor(report), [&report](PageSink &pages) {
-                                                      PrintDialogAnswer all;
-                                                      all.target.keepsOrientation = true;
-                                                      ChosenPages turned(pages, all);
-                                                      Printer page(turned, report.documentName);
-                                                      report.print(page);
+    const auto choice = Doors::current().preview({requestFor(report), [&report, &words](PageSink &pages) {
+                                                      printOn(pages, report, words);
+                                                      words.ready();
                                                   }});
-    return choice ? carryOut(report, *choice) : PrintOutcome::Printed;
+    return choice ? carryOut(report, *choice, words) : PrintOutcome::Printed;
+}
+
+std::optional<PrintDialogAnswer> choose(const Report &report, PrintTarget target)
+{
+    switch (target) {
+    case PrintTarget::File: return askFile(report);
+    case PrintTarget::DefaultPrinter: return PrintDialogAnswer{};
+    default: return Doors::current().printDialog(requestFor(report));
+    }
 }
 
 } // namespace
 
-PrintOutcome RunReport(const Report &report, PrintTarget target)
+PrintOutcome RunReport(const Report &report, PrintTarget target, const TellPanel &panel)
 {
+    PanelWords words(report, panel);
     if (target == PrintTarget::Window)
-        return showOnScreen(report);
-    const auto choice =
-        target == PrintTarget::File ? askFile(report) : Doors::current().printDialog(requestFor(report));
-    return choice ? carryOut(report, *choice) : PrintOutcome::Cancelled;
+        return showOnScreen(report, words);
+    const auto choice = choose(report, target);
+    return choice ? carryOut(report, *choice, words) : PrintOutcome::Cancelled;
 }

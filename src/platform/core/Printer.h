@@ -4,6 +4,7 @@
 // height.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QStringList>
@@ -29,6 +30,9 @@ public:
     double ScaleHeight() const { return m_pages.height(); }
     bool Landscape() const { return m_landscape; }
     void setLandscape(bool landscape);
+
+    /// A report calls this after each of its entries, with how many it has printed and how many there are.
+    std::function<void(qint64 done, qint64 of)> Progress = [](qint64, qint64) {};
 
     double CurrentX = 0;
     double CurrentY = 0;

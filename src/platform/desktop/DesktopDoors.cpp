@@ -22,6 +22,7 @@
 #include "platform/desktop/HelpViewer.h"
 #include "platform/desktop/PaintedPages.h"
 #include "platform/desktop/Paper.h"
+#include "platform/desktop/Preview.h"
 
 namespace {
 
@@ -112,8 +113,13 @@ void makeRoom(QMessageBox &box, const char *labelName, int letters)
     for (const QString &line : label->text().split(u'\n'))
         if (line.startsWith(u'/'))
             width = qMax(width, font.horizontalAdvance(line) + 1);
-    const int widestBox = qMin(box.screen()->size().width() - 480, 1000); // the toolkit makes none wider
-    label->setMinimumWidth(qMin(width, widestBox - roomAroundText));
+    // The toolkit makes a box as wide as its text up to the first of these, where it begins to break lines, and for a
+    // label that demands it up to the second.
+    const int screen = box.screen()->size().width();
+    const int breaksAt = qMin(screen / 2, 500), widest = qMin(screen - 480, 1000);
+    if (!label->wordWrap() && width <= breaksAt - roomAroundText)
+        return; // a demand for less than the text would cut it off
+    label->setMinimumWidth(qMin(label->wordWrap() ? width : qMax(width, breaksAt), widest - roomAroundText));
 }
 
 } // namespace
@@ -213,8 +219,7 @@ std::unique_ptr<PageSink> DesktopDoors::openPages(const PageTarget &target)
 std::optional<PrintDialogAnswer> DesktopDoors::preview(const PreviewRequest &request)
 {
     const ActivityKeeper keeper;
-    return ShowPreview(keeper.window(),
-                       {request.printing, guarded([&request](PageSink &pages) { request.print(pages); })},
+    return ShowPreview(keeper.window(), request,
                        [&](const std::shared_ptr<QPrinter> &printer) { return askWhere(request.printing, printer); });
 }
 

@@ -19,6 +19,7 @@
 #include <QWindow>
 
 #include "platform/controls/Guarded.h"
+#include "platform/controls/WindowSize.h"
 #include "platform/core/Doors.h"
 #include "platform/core/RuntimeFailure.h"
 
@@ -182,12 +183,13 @@ void HelpViewer::arrange()
     splitter->addWidget(m_page);
     splitter->setChildrenCollapsible(false);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({270, 690});
+    splitter->setSizes({qRound(270 * FontScale(font())), qRound(690 * FontScale(font()))});
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(6, 2, 6, 6);
     column->addWidget(bar);
     column->addWidget(splitter, 1);
     resize(960, 680);
+    FitToScreen(*this);
 }
 
 void HelpViewer::open(const HelpRequest &request)

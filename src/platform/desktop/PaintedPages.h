@@ -3,8 +3,8 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
-#include <QFontMetricsF>
 #include <QPagedPaintDevice>
 #include <QPageLayout>
 #include <QPainter>
@@ -15,6 +15,8 @@
 class PaintedPages : public PageSink
 {
 public:
+    PaintedPages();
+    ~PaintedPages() override;
     void setLandscape(bool landscape) override;
     double width() const override { return device().width(); }
     double height() const override { return device().height(); }
@@ -33,8 +35,21 @@ protected:
     QPainter m_painter;
 
 private:
-    QFontMetricsF metrics(const PageFont &font) const;
+    struct MadeFont;
+    MadeFont &made(const PageFont &font) const;
+
+    mutable std::vector<std::unique_ptr<MadeFont>> m_fonts; ///< a report has a dozen
+    const MadeFont *m_fontInUse = nullptr;
 };
+
+/// A PDF and a printer begin with the same margins, in millimetres, and dots an inch, so that the same report has the
+/// same pages on both and in the preview: the height of a line is rounded to the dots.
+inline constexpr QMarginsF usualMargins(12, 12, 12, 12);
+inline constexpr int usualResolution = 1200;
+
+QFont FontOf(const PageFont &font);
+/// The pen of the lines, for paper of that resolution.
+QPen LinePen(int dotsAnInch);
 
 /// Pages in a PDF file, which appears when its document has ended. Without a layout they have the usual paper. This
 /// function and endDocument() throw PermissionDenied, PathNotFound or DiskFull.

@@ -1,12 +1,9 @@
 #include "platform/desktop/Paper.h"
 
-#include <QAction>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QPrintPreviewDialog>
 
-#include "platform/controls/Guarded.h"
 #include "platform/desktop/PaintedPages.h"
 
 namespace {
@@ -23,6 +20,8 @@ public:
         m_painter.end();
     }
 
+    QString whereTo() const override { return u"sent to the printer \"" + m_printer->printerName() + u'"'; }
+
 protected:
     QPagedPaintDevice &device() const override { return *m_printer; }
     void setTitle(const QString &title) override { m_printer->setDocName(title); }
@@ -31,18 +30,6 @@ private:
     std::shared_ptr<QPrinter> m_printer;
 };
 
-/// Replaces what the preview's "Print" button does. Qt asks about an existing PDF before it adds the suffix to the
-/// name, and prints all copies as one document.
-void replacePrint(QPrintPreviewDialog &dialog, const std::function<void()> &print)
-{
-    for (QAction *action : dialog.findChildren<QAction *>()) {
-        if (action->text() != QPrintPreviewDialog::tr("Print"))
-            continue;
-        action->disconnect(&dialog);
-        QObject::connect(action, &QAction::triggered, &dialog, guarded(print));
-    }
-}
-
 } // namespace
 
 bool HasPrinters() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
@@ -50,7 +37,9 @@ bool HasPrinters() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 std::shared_ptr<QPrinter> PrinterFor(const PrintDialogRequest &request)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setResolution(usualResolution);
     printer->setDocName(request.documentName);
+    printer->setPageMargins(usualMargins, QPageLayout::Millimeter);
     printer->setPageOrientation(request.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     return printer;
 }
@@ -71,25 +60,4 @@ std::optional<PrintDialogAnswer> AskPrinter(QWidget *parent, const PrintDialogRe
 std::unique_ptr<PageSink> PagesOnPrinter(std::shared_ptr<QPrinter> printer)
 {
     return std::make_unique<PrinterPages>(printer ? std::move(printer) : PrinterFor({}));
-}
-
-std::optional<PrintDialogAnswer> ShowPreview(QWidget *parent, const PreviewRequest &request, const AskWhere &where)
-{
-    const auto printer = PrinterFor(request.printing);
-    QPrintPreviewDialog dialog(printer.get(), parent);
-    dialog.setWindowTitle(request.printing.documentName);
-    dialog.resize(900, 700);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&] { request.print(*PagesOnPrinter(printer)); });
-    std::optional<PrintDialogAnswer> answer;
-    replacePrint(dialog, [&] {
-        answer = where(printer);
-        if (!answer)
-            return;
-        answer->target.printer = printer;
-        answer->target.keepsOrientation = true;
-        dialog.accept();
-    });
-    dialog.exec();
-    return answer;
 }

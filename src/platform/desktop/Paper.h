@@ -1,7 +1,6 @@
-// Printing on paper, for DesktopDoors: the system's print dialog, the pages of a printer, and the preview.
+// Printing on paper, for DesktopDoors: the system's print dialog, and the pages of a printer.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -19,8 +18,3 @@ std::optional<PrintDialogAnswer> AskPrinter(QWidget *parent, const PrintDialogRe
                                             std::shared_ptr<QPrinter> printer);
 /// Pages on a printer as it is set up; null means the default printer.
 std::unique_ptr<PageSink> PagesOnPrinter(std::shared_ptr<QPrinter> printer);
-
-using AskWhere = std::function<std::optional<PrintDialogAnswer>(const std::shared_ptr<QPrinter> &)>;
-/// Shows the preview and returns when it is closed. Its "Print" button calls `where`, which asks the keeper where to
-/// print; an answer closes the preview and is returned. `request.print` must not throw.
-std::optional<PrintDialogAnswer> ShowPreview(QWidget *parent, const PreviewRequest &request, const AskWhere &where);

@@ -6,6 +6,7 @@
 #include "logic/advisers/Compatibility.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
+#include "platform/controls/ListKeys.h"
 #include "platform/core/Doors.h"
 #include "windows/advisers/SizeColumn.h"
 
@@ -36,8 +37,10 @@ frm_Compat::frm_Compat(const FormContext &context) : ChildForm(context)
     for (const auto &[label, picture] : pictures)
         label->setPixmap(Icon(picture).pixmap(label->minimumSize(), devicePixelRatio()));
     lst_Select->setItemDelegate(new SizeColumn(this));
-    for (QListWidget *list : {lst_compatable, lst_maybe, lst_incompatable})
+    for (QListWidget *list : {lst_compatable, lst_maybe, lst_incompatable}) {
         list->setItemDelegate(new SizeColumn(list));
+        MoveByKeys(*list);
+    }
     connect(but_salt, &QRadioButton::toggled, this, guarded([this](bool chosen) {
                 if (chosen)
                     but_salt_click();

@@ -3,8 +3,8 @@
 #include "logic/advisers/Diagnoses.h"
 #include "logic/advisers/DiagnosisSheet.h"
 #include "platform/controls/Guarded.h"
-#include "platform/core/Printer.h"
 #include "windows/advisers/frm_DiagnosisQA.h"
+#include "windows/common/PrintReport.h"
 #include "windows/shell/MainMenu.h"
 #include "windows/shell/MenuEntry.h"
 
@@ -45,9 +45,5 @@ void frm_DiagDiagnosis::Command1_Click()
 
 void frm_DiagDiagnosis::PrintQuestionsandAnswers()
 {
-    // Prints one copy on the default printer, without a dialog.
-    const Report sheet = MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::OwnWindow);
-    const auto pages = Doors::current().openPages({});
-    Printer page(*pages, sheet.documentName);
-    sheet.print(page);
+    PrintReport(main, MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::OwnWindow), PrintTarget::DefaultPrinter);
 }

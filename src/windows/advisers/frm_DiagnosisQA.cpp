@@ -10,6 +10,7 @@
 #include "logic/advisers/DiagnosisSheet.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
+#include "windows/common/PrintReport.h"
 
 namespace {
 
@@ -217,5 +218,5 @@ void frm_DiagnosisQA::cmd_Cancel_Click()
 
 void frm_DiagnosisQA::PrintQuestionsandAnswers()
 {
-    RunReport(MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::Wizard), PrintTarget::Printer);
+    PrintReport(main, MakeDiagnosisSheet(g.diagnosisLog, DiagnosisWindow::Wizard), PrintTarget::Printer);
 }

@@ -3,6 +3,7 @@
 #include "logic/advisers/Compatibility.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
+#include "platform/controls/WindowSize.h"
 #include "text/Numbers.h"
 
 namespace {
@@ -43,6 +44,8 @@ frm_FantAddAnimal::frm_FantAddAnimal(const FormContext &context) : DialogForm(co
     setupUi(this);
     setWindowIcon(Icon("fantasy"));
     pic_fish->setPixmap(Icon("fish-drop").pixmap(pic_fish->minimumSize(), devicePixelRatio()));
+    for (QLineEdit *number : {txt_howmany, txt_Howbig})
+        number->setMaximumWidth(qRound(70 * FontScale(font())));
     ud_Howmany->setKeyBox(txt_howmany);
     ud_HowBig->setKeyBox(txt_Howbig);
     on(ud_Howmany, &UpDown::Change, this, &frm_FantAddAnimal::ud_howmany_Change);

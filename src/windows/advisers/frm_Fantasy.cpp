@@ -8,6 +8,7 @@
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/ListKeys.h"
+#include "platform/controls/WindowSize.h"
 #include "platform/core/Doors.h"
 #include "text/Numbers.h"
 #include "windows/advisers/frm_FantAddAnimal.h"
@@ -44,12 +45,12 @@ frm_Fantasy::frm_Fantasy(const FormContext &context) : ChildForm(context), m_che
     setupUi(this);
     setWindowIcon(Icon("fantasy"));
     lst_select->setItemDelegate(new SizeColumn(this));
+    txt_tanksize->setMaximumWidth(qRound(60 * FontScale(font())));
     ud_Tanksize->setBoundBox(txt_tanksize);
     lbl_pctfull->setMinimumWidth(lbl_pctfull->fontMetrics().horizontalAdvance(QStringLiteral(" 125%")));
-    setMinimumSize(smallestWindow.expandedTo(layout()->minimumSize()));
     for (QListWidget *list : {lst_select, lst_Fantank}) {
         list->viewport()->installEventFilter(this);
-        SelectWithFirstDown(*list);
+        MoveByKeys(*list);
     }
     for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_Return, Qt::Key_Enter})
         OnListKey(*lst_select, key, *cmd_AddAnimal);
@@ -72,6 +73,8 @@ frm_Fantasy::frm_Fantasy(const FormContext &context) : ChildForm(context), m_che
     on(cmd_RemoveAnimal, &QPushButton::clicked, this, &frm_Fantasy::cmd_RemoveAnimal_Click);
     beginWith(lst_select);
 }
+
+QSize frm_Fantasy::minimumSizeHint() const { return smallestWindow.expandedTo(ChildForm::minimumSizeHint()); }
 
 void frm_Fantasy::Form_Load()
 {

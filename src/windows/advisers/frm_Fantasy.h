@@ -14,6 +14,8 @@ class frm_Fantasy : public ChildForm, public Ui::frm_Fantasy
 public:
     explicit frm_Fantasy(const FormContext &context);
 
+    QSize minimumSizeHint() const override;
+
     /// Shows the window, and over it a reminder.
     void Form_Load();
     /// Empties the tank after a question. Nothing calls it at present.

@@ -10,8 +10,8 @@
 #include "platform/chart/Chart.h"
 #include "platform/core/Doors.h"
 #include "platform/core/Printer.h"
-#include "platform/core/PrintJob.h"
 #include "text/Dates.h"
+#include "windows/common/PrintReport.h"
 #include "windows/graph/frm_WaterGraph.h"
 
 namespace {
@@ -43,9 +43,10 @@ void frm_WaterGraph::PrintGraph()
     if (!mayPrintAsItIs())
         return;
     titleChart(); // the title stays on the chart
-    RunReport({QStringLiteral("Print Water Quality Graph"), QStringLiteral("Ostrelmark Water Quality Graph"), true,
-               [] { return true; }, [this](Printer &page) { printPage(page); }},
-              PrintTarget::Printer);
+    PrintReport(main,
+                {QStringLiteral("Print Water Quality Graph"), QStringLiteral("Ostrelmark Water Quality Graph"), true,
+                 [] { return true; }, [this](Printer &page) { printPage(page); }},
+                PrintTarget::Printer);
 }
 
 // The chart fills the page except for the first tenth and the line at the foot.

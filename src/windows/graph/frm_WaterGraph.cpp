@@ -120,6 +120,7 @@ void frm_WaterGraph::arrange()
     Chart1->setAccessibleName(windowTitle());
     m_noGraph = new EmptyText(
         *Chart1, *Chart1, [this] { return Chart1->RowCount() == 0; }, noGraph);
+    Chart1->setRowsTitle(QStringLiteral("Date (month/day)"));
     resize(900, 560);
 }
 
@@ -265,6 +266,7 @@ void frm_WaterGraph::draw(const std::vector<GraphColumn> &columns, const Rows &r
         for (int column = 0; column < int(columns.size()); ++column) {
             Chart1->setColumn(column + 1);
             Chart1->setColumnLabel(columns[size_t(column)].label);
+            Chart1->setColumnUnit(columns[size_t(column)].unit);
             const int field = rows.column(columns[size_t(column)].field);
             if (!skipZeroes || rows.number(row, field) != 0)
                 Chart1->setData(rows.text(row, field)); // an empty text if there is no value, which makes a blank cell

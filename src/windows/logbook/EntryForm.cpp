@@ -12,6 +12,7 @@
 
 #include "platform/controls/Icons.h"
 #include "platform/controls/MaskedBox.h"
+#include "platform/controls/WindowSize.h"
 #include "platform/core/Doors.h"
 #include "platform/core/RuntimeFailure.h"
 #include "text/Dates.h"
@@ -25,6 +26,7 @@ MaskedBox *EntryForm::makeDateBox(const char *name, const char *toolTip)
     box->setObjectName(QLatin1String(name));
     box->setMask(QStringLiteral("##/##/##"));
     box->setToolTip(QLatin1String(toolTip));
+    box->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * 12);
     return box;
 }
 
@@ -86,6 +88,7 @@ QComboBox *EntryForm::makeCombo(const char *name)
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(24);
+    combo->setMinimumWidth(combo->sizeHint().width() / 2);               // on a small screen
     qobject_cast<QListView *>(combo->view())->setUniformItemSizes(true); // fast, even for tens of thousands of names
     // Otherwise the combo box would replace a typed text by an item that differs from it only in case.
     QObject::disconnect(combo->lineEdit(), SIGNAL(editingFinished()), combo, nullptr);
@@ -115,7 +118,7 @@ void EntryForm::arrange(QWidget *page, const char *tabCaption, QPushButton *ok, 
     auto *outer = new QVBoxLayout(this);
     outer->addWidget(tabs);
     outer->addLayout(buttons);
-    resize(outer->sizeHint().expandedTo(QSize(640, 0)));
+    resize((outer->sizeHint() / FontScale(font())).expandedTo(QSize(640, 0)));
 }
 
 void EntryForm::setToNow(MaskedBox &date, MaskedBox &time) const

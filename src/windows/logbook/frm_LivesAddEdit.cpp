@@ -4,13 +4,13 @@
 #include <QCompleter>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStringListModel>
-#include <QVBoxLayout>
 
 #include "logic/logbook/EntryRules.h"
 #include "platform/controls/Guarded.h"
@@ -99,9 +99,10 @@ QWidget *frm_LivesAddEdit::makeListType()
     opt_Fresh->setObjectName(QStringLiteral("opt_Fresh"));
     opt_Saltwater = new QRadioButton(QStringLiteral("Saltwater / Marine / Reef"));
     opt_Saltwater->setObjectName(QStringLiteral("opt_Saltwater"));
-    auto *column = new QVBoxLayout(frame);
-    column->addWidget(opt_Fresh);
-    column->addWidget(opt_Saltwater);
+    auto *row = new QHBoxLayout(frame);
+    row->addWidget(opt_Fresh);
+    row->addWidget(opt_Saltwater);
+    row->addStretch(1);
     return frame;
 }
 
@@ -115,7 +116,8 @@ QWidget *frm_LivesAddEdit::makePage()
         grid->addWidget(box, row, column + 1);
     };
     field(0, 0, "Animal Name", lst_AnimalList);
-    grid->addWidget(makeListType(), 0, 2, 2, 2);
+    QWidget *listType = makeListType();
+    grid->addWidget(listType, 0, 2, 2, 2);
     grid->addWidget(makeLabel("Date Acquired", txt_DateAdded), 1, 0);
     grid->addLayout(withCalendar(txt_DateAdded, cmd_Caldate), 1, 1);
     field(2, 0, "Time Acquired", txt_timeadded);
@@ -125,6 +127,10 @@ QWidget *frm_LivesAddEdit::makePage()
     field(4, 0, "Price Paid", txt_pricepaid);
     field(4, 2, "Price Sold", txt_pricesold);
     field(5, 2, "Date Lost / Sold", txt_datelost);
+    // All rows are as high as the frame needs its two, so that the steps are even.
+    const int half = (listType->sizeHint().height() - grid->verticalSpacing() + 1) / 2;
+    for (int row = 0; row < grid->rowCount(); ++row)
+        grid->setRowMinimumHeight(row, qMax(half, lst_AnimalList->sizeHint().height()));
     grid->addWidget(makeLabel(" Comment:", txt_Comment), 6, 0);
     grid->addWidget(txt_Comment, 7, 0, 1, 4);
     grid->setColumnStretch(1, 1);

@@ -18,7 +18,7 @@ frm_LivesMove::frm_LivesMove(const FormContext &context) : DialogForm(context)
     on(cmd_ok, &QPushButton::clicked, this, &frm_LivesMove::cmd_OK_Click);
     on(cmd_Cancel, &QPushButton::clicked, this, &frm_LivesMove::cmd_Cancel_Click);
     on(lst_tanklist, &QListWidget::itemDoubleClicked, this, &frm_LivesMove::lst_tanklist_DblClick);
-    SelectWithFirstDown(*lst_tanklist);
+    MoveByKeys(*lst_tanklist);
 }
 
 void frm_LivesMove::Form_Load()

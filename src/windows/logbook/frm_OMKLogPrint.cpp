@@ -4,6 +4,7 @@
 #include "logic/logbook/LogReports.h"
 #include "platform/controls/Guarded.h"
 #include "platform/core/Doors.h"
+#include "windows/common/PrintReport.h"
 
 frm_OMKLogPrint::frm_OMKLogPrint(const FormContext &context) : DialogForm(context)
 {
@@ -30,7 +31,7 @@ void frm_OMKLogPrint::printLog(LogTab log)
                                                        : PrintTarget::Printer;
     Report report = MakeLogReport(log, *g.gDatabase, g.options.DatePicture, tank);
     report.saveSpreadsheet = [&](const QString &fileName) { ExportLog(g, log, tank, fileName); };
-    if (RunReport(report, target) == PrintOutcome::Empty)
+    if (PrintReport(main, report, target) == PrintOutcome::Empty)
         MsgBox(EmptyLogText(log), vbInformation, QStringLiteral("Note!"));
 }
 

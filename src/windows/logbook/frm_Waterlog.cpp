@@ -14,6 +14,7 @@
 #include "platform/controls/Guarded.h"
 #include "platform/controls/Icons.h"
 #include "platform/controls/ListKeys.h"
+#include "platform/controls/WindowSize.h"
 #include "windows/shell/MenuEntry.h"
 
 namespace {
@@ -64,7 +65,7 @@ frm_Waterlog::frm_Waterlog(const FormContext &context) : ChildForm(context)
     splitter->addWidget(tab_logtype);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({190, 700});
+    splitter->setSizes({qRound(190 * FontScale(font())), qRound(700 * FontScale(font()))});
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(4, 0, 4, 0);

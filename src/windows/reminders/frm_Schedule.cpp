@@ -10,8 +10,8 @@
 #include "platform/controls/HourGlass.h"
 #include "platform/controls/Icons.h"
 #include "platform/core/Doors.h"
-#include "platform/core/PrintJob.h"
 #include "windows/common/DateBoxes.h"
+#include "windows/common/PrintReport.h"
 #include "windows/reminders/OccurrenceRows.h"
 
 namespace {
@@ -167,5 +167,5 @@ void frm_Schedule::Print_Schedule()
     Report report = MakeScheduleReport(lstv_Reminders->Count(),
                                        [this](int item, int subItem) { return lstv_Reminders->Text(item, subItem); });
     report.saveSpreadsheet = [this](const QString &fileName) { ExportSchedule(listedTasks(), fileName); };
-    RunReport(report, PrintTarget::Printer);
+    PrintReport(main, report, PrintTarget::Printer);
 }

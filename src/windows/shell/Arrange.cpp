@@ -1,5 +1,7 @@
 #include "windows/shell/Arrange.h"
 
+#include <algorithm>
+
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QStyle>
@@ -39,12 +41,18 @@ void TileWindows(QMdiArea &area, Qt::Orientation bars)
     const auto frames = childrenOf(area, false);
     const QSize room = area.viewport()->size();
     const auto count = static_cast<int>(frames.size());
+    QPoint next; // further than its share if those before need more than theirs; the area then scrolls
     for (int i = 0; i < count; ++i) {
         frames[i]->showNormal();
-        if (bars == Qt::Horizontal)
-            frames[i]->setGeometry(0, room.height() * i / count, room.width(), room.height() / count);
-        else
-            frames[i]->setGeometry(room.width() * i / count, 0, room.width() / count, room.height());
+        if (bars == Qt::Horizontal) {
+            next.setY(std::max(next.y(), room.height() * i / count));
+            frames[i]->setGeometry(0, next.y(), room.width(), room.height() / count);
+            next.ry() += frames[i]->height();
+        } else {
+            next.setX(std::max(next.x(), room.width() * i / count));
+            frames[i]->setGeometry(next.x(), 0, room.width() / count, room.height());
+            next.rx() += frames[i]->width();
+        }
         frames[i]->setProperty(tiledSize, frames[i]->size());
     }
 }

@@ -12,6 +12,7 @@
 #include <QScreen>
 
 #include "platform/controls/ListView.h"
+#include "platform/controls/WindowSize.h"
 #include "platform/core/Doors.h"
 #include "platform/core/RuntimeFailure.h"
 #include "platform/core/SettingsStore.h"
@@ -58,9 +59,6 @@ std::optional<Geometry> geometryIn(const QString &text)
         geometry.place = QPoint(match.captured(3).toInt(), match.captured(4).toInt());
     return geometry;
 }
-
-/// The largest size of a window on a screen: what the desktop leaves free, without the window's own frame.
-QSize roomOn(const QScreen &screen) { return screen.availableSize() - childFrame; }
 
 /// The screen on which a window of this geometry can be seen and dragged; null if there is none.
 const QScreen *screenOf(const Geometry &geometry)
@@ -145,7 +143,7 @@ private:
     {
         const QScreen *screen = geometry.place ? screenOf(geometry) : nullptr;
         const QScreen *roomy = screen ? screen : QGuiApplication::primaryScreen();
-        m_window.resize(geometry.size.boundedTo(roomOn(*roomy)));
+        m_window.resize(geometry.size.boundedTo(RoomOn(*roomy)));
         if (!isMain())
             return;
         if (screen)
@@ -173,7 +171,7 @@ private:
 
 void RememberWindow(QWidget &window)
 {
-    window.resize(window.size().boundedTo(roomOn(*QGuiApplication::primaryScreen())));
+    FitToScreen(window);
     if (!ofToldSize.contains(window.objectName()))
         new WindowMemory(window);
 }

@@ -6,7 +6,7 @@
 
 class QWidget;
 
-/// Restores what is remembered of the window, and remembers it again when the window is hidden. Damaged values are
-/// ignored, and so is a place outside all screens. If the settings cannot be written, nothing is reported. No window
-/// gets larger than the screen has room for.
+/// Gives the window its first size (FitToScreen), restores what is remembered of it, and remembers it again when the
+/// window is hidden. Damaged values are ignored, and so is a place outside all screens. If the settings cannot be
+/// written, nothing is reported.
 void RememberWindow(QWidget &window);

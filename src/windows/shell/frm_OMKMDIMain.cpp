@@ -69,6 +69,20 @@ const QString setUpFirst =
     QStringLiteral("Set up your first tank: choose Tank Setup in the Tools menu, or press Ctrl+T.");
 const QString openLogbook = QStringLiteral("Open the logbook: choose Logbook in the Tools menu, or press Ctrl+L.");
 
+/// The frame of a child. It is never smaller than the child's contents allow, whatever becomes of them: a main window
+/// that is too small scrolls. Controls without any room would also paint on empty pixmaps.
+class ChildFrame : public QMdiSubWindow
+{
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool handled = QMdiSubWindow::event(event);
+        if (event->type() == QEvent::LayoutRequest && !isMinimized() && !isShaded())
+            setMinimumSize(minimumSizeHint());
+        return handled;
+    }
+};
+
 /// If the settings cannot be written, a message says so and the start goes on: a setting must not keep keepers from
 /// their data.
 void saveAtStart(const QString &key, const QString &value)
@@ -142,7 +156,7 @@ void frm_OMKMDIMain::makeToolbar()
     connect(cbo_Reminders, &QComboBox::currentTextChanged, cbo_Reminders,
             [box = cbo_Reminders](const QString &next) { box->setToolTip(u"Upcoming reminders\n" + next); });
     cbo_Reminders->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cbo_Reminders->setMinimumContentsLength(34);
+    cbo_Reminders->setMinimumContentsLength(22); // more if the buttons leave it
     cbo_Reminders->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     on(cbo_Reminders, &QComboBox::currentIndexChanged, this, &frm_OMKMDIMain::cbo_Reminders_Click);
     m_toolbarPlace = strip->addWidget(Toolbar1);
@@ -155,6 +169,7 @@ void frm_OMKMDIMain::makeStatusBar()
     statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
     m_panel = new QLabel;
     m_panel->setObjectName(QStringLiteral("sbStatusBar_1"));
+    m_panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text must not widen the window
     statusBar()->addWidget(m_panel, 1);
 }
 
@@ -269,15 +284,14 @@ void frm_OMKMDIMain::ShowChild(ChildForm &child)
     auto *frame = qobject_cast<QMdiSubWindow *>(child.parentWidget());
     if (!frame) {
         const QSize size = child.size() + childFrame; // the size that the window asks for
-        frame = new QMdiSubWindow;
+        frame = new ChildFrame;
         frame->setWidget(&child);
         frame->setAttribute(Qt::WA_DeleteOnClose);
         // Otherwise Tab would go from the last control to the frame, which passes the focus to the child's first
         // control, and the controls before that one would never be reached.
         frame->setFocusPolicy(Qt::NoFocus);
         frame->setWindowIcon(child.windowIcon());
-        // Even in a small main window, which then scrolls: controls without any room would paint on empty pixmaps.
-        frame->setMinimumSize(child.minimumSizeHint().expandedTo(child.minimumSize()) + childFrame);
+        frame->setMinimumSize(frame->minimumSizeHint());
         frame->resize(size.boundedTo(m_area->viewport()->size()));
         m_area->addSubWindow(frame); // resized before, so that it gets a place where all of it is visible
     }

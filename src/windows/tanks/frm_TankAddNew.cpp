@@ -4,6 +4,7 @@
 #include "logic/shell/ErrorHandler.h"
 #include "platform/controls/FocusAtFault.h"
 #include "platform/controls/Guarded.h"
+#include "platform/controls/WindowSize.h"
 #include "platform/core/Doors.h"
 #include "text/Dates.h"
 #include "text/Numbers.h"
@@ -29,6 +30,7 @@ const QString tankByName = QStringLiteral("where tankname = ?");
 frm_TankAddNew::frm_TankAddNew(const FormContext &context) : DialogForm(context), m_checks(this)
 {
     setupUi(this);
+    txt_tanksize->setMaximumWidth(qRound(80 * FontScale(font())));
     ud_tanksize->setBoundBox(txt_tanksize);
     for (const WaterType &type : waterTypes) {
         connect(this->*type.option, &QRadioButton::toggled, this, [this, code = type.code](bool chosen) {

@@ -31,7 +31,7 @@ frm_TankMaint::frm_TankMaint(const FormContext &context) : DialogForm(context)
         OnListKey(*lst_tanklist, key, *cmd_ChangeTank);
     OnListKey(*lst_tanklist, Qt::Key_Delete, *cmd_DeleteTank);
     OnListKey(*lst_tanklist, Qt::Key_Insert, *cmd_AddTank);
-    SelectWithFirstDown(*lst_tanklist);
+    MoveByKeys(*lst_tanklist);
     on(cmd_AddTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_AddTank_Click);
     on(cmd_ChangeTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_ChangeTank_Click);
     on(cmd_DeleteTank, &QPushButton::clicked, this, &frm_TankMaint::cmd_DeleteTank_Click);
