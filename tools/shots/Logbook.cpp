@@ -70,6 +70,7 @@ void playLogbook(Album &album, frm_OMKMDIMain &main, Globals &globals)
              });
     logbook.lstv_WaterLog->Select(61);
     album.take(logbook, QStringLiteral("logbook"));
+    main.setPanel(QStringLiteral("Ready.")); // instead of the place of the last printout
     album.take(main, QStringLiteral("main"));
 }
 

@@ -69,6 +69,7 @@ void playReminders(Album &album, frm_OMKMDIMain &main)
     schedule.cmd_Generate->click();
     album.take(schedule, QStringLiteral("schedule"));
     schedule.Print_Schedule();
+    main.setPanel(QStringLiteral("Ready.")); // instead of the place of the last printout
     album.take(main, QStringLiteral("main-reminders"));
     schedule.parentWidget()->close();
     list.parentWidget()->close();
