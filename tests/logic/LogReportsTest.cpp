@@ -39,6 +39,28 @@ TEST_F(LogReports, ATankHasItsNameItsSizeAndOneRowForEachTest)
     EXPECT_LT(page.find("09:30:05 PM")->right, page.find("Ammonia")->x) << "date and time stay in their column";
 }
 
+TEST_F(LogReports, EachValueOfAnEntryStandsUnderItsHeading)
+{
+    db->Execute("INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname, quantity, Status) VALUES ('r1', "
+                "'2026-04-03', '21:30:05', 'Goby', 3, 'Active')");
+    db->Execute("INSERT INTO MAINTLOG (mainttankname, maintlogdate, maintlogtime, maintlogtask, maintlogqty, "
+                "maintlogunit, maintlogdesc, maintlognote) VALUES ('r1', '2026-04-03', '21:30:05', 'Siphon', 10, "
+                "'gallons', 'weekly', 'clear')");
+    const std::tuple<LogTab, const char *, const char *> rows[] = {
+        {LivestockTab, "Animal", "Goby"},
+        {LivestockTab, "Quantity", "3"},
+        {LivestockTab, "Status", "Active"},
+        {MaintenanceTab, "Task Performed", "Siphon"},
+        {MaintenanceTab, "Task Performed", "10  gallons  weekly"},
+        {MaintenanceTab, "Task Performed", "clear"},
+    };
+    for (const auto &[log, heading, value] : rows) {
+        const PrintedPage &page = print(log, "r1").back().pages.at(0);
+        ASSERT_TRUE(page.find(heading) && page.find(value)) << value;
+        EXPECT_EQ(page.find(value)->x, page.find(heading)->x) << value;
+    }
+}
+
 TEST_F(LogReports, ARowWithoutItsMomentOrItsNumbersStopsNoReport)
 {
     for (const char *moment : {"NULL, '21:30:05'", "'2026-04-03', NULL", "'soon', 'at noon'"}) {
