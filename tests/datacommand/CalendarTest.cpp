@@ -1,8 +1,9 @@
-// The calendar has the dates of the schedule, no more and no less: rules of all patterns are written, read back and
-// expanded by the calendar library.
+// The calendar has the dates of the schedule, no more and no less: random rules of all patterns are written, read back
+// and expanded by the calendar library.
 #include "datacommand/Calendar.h"
 
 #include <map>
+#include <random>
 
 #include <libical/ical.h>
 
@@ -64,54 +65,115 @@ std::map<QString, Event> eventsOf(const QByteArray &text)
     return events;
 }
 
-struct Rule
+class RandomRules
 {
-    Pattern pattern;
-    int variant, interval;
-    const char *detail;
-    bool mayBeListed = false; ///< date by date, where the weeks or months of a calendar are not the reminder's
+public:
+    explicit RandomRules(unsigned seed) : m_random(seed) {}
+
+    RecurrenceRule next()
+    {
+        RecurrenceRule rule;
+        rule.TaskDescription = QString("Task %1").arg(++m_number);
+        rule.StartDate = QDate(2026, 3, 14).addDays(pick(-900, 400));
+        rule.EndDate = rule.StartDate.addDays(pick(-20, 1500));
+        rule.RecurrenceType = qint16(m_number % 5);
+        rule.RecurrenceSubtype = qint16(pick(0, 1));
+        rule.RecurrenceInterval = qint16(pick(1, 6));
+        rule.RecurrenceDetail = detail(rule);
+        if (rule.is(Pattern::Yearly) && rule.RecurrenceSubtype == 0)
+            rule.RecurrenceInterval = qint16(pick(1, 31));
+        return rule;
+    }
+    int pick(int from, int to) { return from + int(m_random() % unsigned(to - from + 1)); }
+
+private:
+    QString detail(const RecurrenceRule &rule)
+    {
+        switch (Pattern(rule.RecurrenceType)) {
+        case Pattern::Weekly: {
+            WeekDays days;
+            for (bool &day : days)
+                day = pick(0, 2) == 0;
+            return WeeklyDetail(days);
+        }
+        case Pattern::Monthly:
+            return rule.RecurrenceSubtype == 0 ? QString::number(pick(1, 31)) : MonthlyDetail(pick(0, 4), pick(0, 6));
+        case Pattern::Yearly:
+            return rule.RecurrenceSubtype == 0 ? QString::number(pick(0, 11))
+                                               : YearlyDetail(pick(0, 4), pick(0, 6), pick(0, 11));
+        case Pattern::Once: return OnceDetail(QDate(2026, 3, 14).addDays(pick(-100, 900)));
+        default: return {};
+        }
+    }
+
+    std::minstd_rand m_random;
+    int m_number = 0;
 };
 
-constexpr Rule rules[] = {
-    {Pattern::Daily, 0, 3, ""},          {Pattern::Daily, 1, 1, ""},
-    {Pattern::Weekly, 0, 1, "0100100"},  {Pattern::Weekly, 0, 2, "0100100", true},
-    {Pattern::Monthly, 0, 2, "15"},      {Pattern::Monthly, 0, 1, "31", true},
-    {Pattern::Monthly, 1, 1, "01"},      {Pattern::Monthly, 1, 3, "46"},
-    {Pattern::Yearly, 0, 5, "3"},        {Pattern::Yearly, 0, 29, "2", true},
-    {Pattern::Yearly, 1, 1, "4510"},     {Pattern::Once, 0, 1, "07/04/2026"},
-    {Pattern::Once, 0, 1, "07/04/2050"},
-};
+/// Every reminder can be told by a recurrence, except some on days that not every month has.
+bool mayBeListed(const RecurrenceRule &rule)
+{
+    const bool isDay = rule.RecurrenceSubtype == 0;
+    return isDay && ((rule.is(Pattern::Monthly) && rule.RecurrenceDetail.toInt() > 28) ||
+                     (rule.is(Pattern::Yearly) && rule.RecurrenceInterval > 28));
+}
 
 } // namespace
 
-TEST(Calendar, EveryPatternHasTheDatesOfTheSchedule)
+TEST(Calendar, RandomRulesHaveTheDatesOfTheSchedule)
 {
-    const DateRange range{QDate(2026, 1, 10), QDate(2028, 3, 14)};
-    std::vector<CalendarEntry> entries;
-    for (const QDate start : {QDate(2026, 3, 18), QDate(2024, 1, 31)}) // a Wednesday, and before the range
-        for (const Rule &row : rules) {
-            const QString name = QString("Task %1").arg(entries.size());
-            CalendarEntry entry{{name,
-                                 start,
-                                 QDate(2027, 12, 1),
-                                 qint16(row.interval),
-                                 qint16(row.pattern),
-                                 qint16(row.variant),
-                                 row.detail,
-                                 {}},
-                                {}};
+    for (unsigned seed = 1; seed <= 2; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        RandomRules random(seed);
+        const DateRange range{QDate(2026, 3, 14).addDays(random.pick(-300, 300)), QDate(2028, 3, 14)};
+        std::vector<CalendarEntry> entries;
+        for (int i = 0; i < 400; ++i) {
+            CalendarEntry entry{random.next(), {}};
             Walk(entry.rule, scheduleRun, range, DateOrder::MMDDYY,
                  [&](const QDate &date) { entry.dates.push_back(date); });
             std::ranges::sort(entry.dates);
             entries.push_back(entry);
         }
-    auto events = eventsOf(MakeCalendar(entries, QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC)));
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        const Event &event = events[entries[i].rule.TaskDescription];
-        EXPECT_EQ(event.dates, entries[i].dates) << i << ' ' << event.recurrence.toStdString();
-        EXPECT_TRUE(event.listed == 0 || rules[i % std::size(rules)].mayBeListed) << i;
+        auto events = eventsOf(MakeCalendar(entries, QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC)));
+        int listed = 0;
+        for (const CalendarEntry &entry : entries) {
+            const RecurrenceRule &rule = entry.rule;
+            const auto found = events.find(rule.TaskDescription);
+            ASSERT_EQ(found != events.end(), !entry.dates.empty()) << rule.TaskDescription.toStdString();
+            if (entry.dates.empty())
+                continue;
+            EXPECT_EQ(found->second.dates, entry.dates)
+                << rule.RecurrenceType << rule.RecurrenceSubtype << ' ' << rule.RecurrenceInterval << ' '
+                << rule.RecurrenceDetail.toStdString() << ' ' << rule.StartDate.toString(Qt::ISODate).toStdString()
+                << ' ' << found->second.recurrence.toStdString();
+            listed += found->second.listed > 0;
+            EXPECT_TRUE(found->second.listed == 0 || mayBeListed(rule))
+                << rule.RecurrenceType << rule.RecurrenceSubtype << ' ' << rule.RecurrenceInterval << ' '
+                << rule.RecurrenceDetail.toStdString();
+        }
+        EXPECT_LT(listed, 80) << "most have a recurrence";
     }
-    EXPECT_EQ(events[entries.back().rule.TaskDescription].uid, "") << "without a date, there is no event";
+}
+
+TEST(Calendar, WeeksBeginOnTheFirstDayOfTheReminder)
+{
+    // Every two weeks from a Wednesday on Monday and Thursday: the Monday belongs to the week of the Thursday before.
+    RecurrenceRule rule;
+    rule.TaskDescription = "Task";
+    rule.StartDate = QDate(2026, 3, 18);
+    rule.EndDate = QDate(2026, 5, 1);
+    rule.RecurrenceType = qint16(Pattern::Weekly);
+    rule.RecurrenceInterval = 2;
+    rule.RecurrenceDetail = "0100100";
+    CalendarEntry entry{rule, {}};
+    Walk(rule, scheduleRun, {QDate(2026, 1, 1), QDate(2028, 1, 1)}, DateOrder::MMDDYY,
+         [&](const QDate &date) { entry.dates.push_back(date); });
+    std::ranges::sort(entry.dates);
+    ASSERT_EQ(entry.dates[1], QDate(2026, 3, 23));
+    const QByteArray text = MakeCalendar({&entry, 1}, QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC));
+    EXPECT_TRUE(text.contains("WKST=")) << text.toStdString();
+    EXPECT_FALSE(text.contains("WKST=SU")) << text.toStdString();
+    EXPECT_EQ(eventsOf(text)["Task"].dates, entry.dates);
 }
 
 struct CalendarFile : CommandTest
