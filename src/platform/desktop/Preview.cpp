@@ -23,8 +23,8 @@
 #include "platform/core/PageSpool.h"
 #include "platform/core/RuntimeFailure.h"
 #include "platform/desktop/PageView.h"
-#include "platform/desktop/PaintedPages.h"
 #include "platform/desktop/Paper.h"
+#include "platform/desktop/ScreenPage.h"
 
 namespace {
 
@@ -32,12 +32,12 @@ constexpr qint64 milliseconds = 40; // between two looks at what the keeper does
 constexpr double zoomStep = 1.25;
 constexpr int zooms[] = {25, 50, 75, 100, 125, 150, 200, 400, 800};
 
-/// Thrown through a report whose pages are no longer wanted.
+/// Thrown to stop a report whose pages are no longer needed.
 struct NoLongerWanted
 {
 };
 
-/// Tells of each page that is complete.
+/// Calls a function after each complete page.
 class GrowingDocument : public PageSpool
 {
 public:
@@ -55,64 +55,6 @@ public:
 
 private:
     std::function<void()> m_grown;
-};
-
-/// Draws a page on the screen. The painter is scaled to the dots of the paper, and skips what is out of sight.
-class ScreenPage : public PageSink
-{
-public:
-    ScreenPage(QPainter &painter, int dotsAnInch) :
-        m_painter(painter), m_dots(dotsAnInch), m_letters(double(dotsAnInch) / painter.device()->logicalDpiY()),
-        m_seen(painter.clipBoundingRect())
-    {
-    }
-    void text(double x, double y, const PageFont &font, const QString &text) override
-    {
-        if (font != m_font) {
-            m_font = font;
-            PageFont larger = font;
-            larger.size *= m_letters;
-            m_painter.setFont(FontOf(larger));
-            const QFontMetricsF metrics(m_painter.font(), m_painter.device());
-            m_ascent = metrics.ascent();
-            m_height = metrics.lineSpacing();
-        }
-        if (y < m_seen.bottom() && y + m_height > m_seen.top())
-            m_painter.drawText(QPointF(x, y + m_ascent), text);
-    }
-    void line(double x1, double y1, double x2, double y2) override
-    {
-        m_painter.save();
-        m_painter.setPen(LinePen(m_dots));
-        m_painter.drawLine(QPointF(x1, y1), QPointF(x2, y2));
-        m_painter.restore();
-    }
-    void picture(double x, double y, const QSizeF &size, const PagePicture &paint) override
-    {
-        m_painter.save();
-        m_painter.translate(x, y);
-        paint(m_painter, size);
-        m_painter.restore();
-    }
-
-    // A page that is drawn from a PageSpool is measured already.
-    QString whereTo() const override { return {}; }
-    void setLandscape(bool) override {}
-    double width() const override { return 0; }
-    double height() const override { return 0; }
-    double textWidth(const PageFont &, const QString &) const override { return 0; }
-    double lineHeight(const PageFont &) const override { return 0; }
-    void beginDocument(const QString &) override {}
-    void newPage() override {}
-    void endDocument() override {}
-
-private:
-    QPainter &m_painter;
-    const int m_dots;
-    const double m_letters; ///< how much larger letters are in dots of the paper than in pixels of the screen
-    const QRectF m_seen;
-    PageFont m_font;
-    double m_ascent = 0, m_height = 0;
 };
 
 class Preview : public QDialog
