@@ -29,8 +29,6 @@ public:
     /// Format.
     void setText(const QString &text);
     QString ClipText() const;
-    /// What the box shows now.
-    QString FormattedText() const { return text(); }
 
 signals:
     /// The mask refused a key or a pasted text at that position (from 0); nothing was entered.

@@ -222,8 +222,6 @@ void HelpViewer::searchFor(const QString &words)
         m_waiting = words;
 }
 
-int HelpViewer::hits() const { return m_engine->searchEngine()->searchResultCount(); }
-
 void HelpViewer::showPage(const QUrl &url)
 {
     if (m_page->source() != url)

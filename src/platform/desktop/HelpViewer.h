@@ -27,8 +27,6 @@ public:
     void open(const HelpRequest &request);
     /// Lists the pages that contain all these words, as soon as the search index is ready.
     void searchFor(const QString &words);
-    /// How many pages the last search found.
-    int hits() const;
 
 signals:
     void searched();
