@@ -198,7 +198,7 @@ TEST(Chart, ColumnsShareABandWhereEachCanBeRead)
 
 TEST(Chart, ThirteenColumnsCanBeSeenAndToldApartOnEveryGround)
 {
-    // Of desktops that are light, dark, and neither quite black nor quite white.
+    // The backgrounds of light and dark desktops, some of them not quite white or black.
     for (const char *ground : {"#ffffff", "#fcfcfc", "#000000", "#1f2022", "#232629", "#3b4252", "#073642"}) {
         QPalette palette;
         palette.setColor(QPalette::Base, QColor(ground));

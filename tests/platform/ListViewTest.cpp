@@ -188,7 +188,7 @@ TEST_F(ListViewTest, ReadsOnlyTheRowsThatItShows)
     m_list.Select(70000);
     m_list.grab();
     EXPECT_LT(rows->asked, 1000);
-    QTest::keyClick(&m_list, Qt::Key_X); // no row begins so
+    QTest::keyClick(&m_list, Qt::Key_X); // no row begins with this letter
     EXPECT_LT(rows->asked, 101000);
     rows->asked = 0;
     m_list.setSort(true, 0, 0);
@@ -211,7 +211,7 @@ TEST_F(ListViewTest, SaysWhatToDoWhileItIsEmpty)
     EXPECT_EQ(described(), "Press Insert.");
     m_list.Add("Tang", {"Tang", "8"});
     EXPECT_EQ(described(), "");
-    m_list.setAccessibleDescription("Eight fish"); // somebody else's is left alone
+    m_list.setAccessibleDescription("Eight fish"); // a description that another part of the program has set stays
     text->refresh();
     EXPECT_EQ(described(), "Eight fish");
     m_list.Clear();

@@ -63,7 +63,7 @@ public:
     const ChartData &data() const { return m_data; }
     /// The cell whose value is drawn at a place in the chart; no cell if none is.
     ChartCell cellAt(const QPointF &place) const;
-    /// The cell that the keys have walked to; no cell before they are used.
+    /// The cell that was reached by the arrow keys; no cell until they are used.
     const ChartCell &current() const { return m_current; }
 
 signals:

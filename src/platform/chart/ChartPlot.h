@@ -36,7 +36,7 @@ public:
     ChartCell cellAt(const QPointF &place) const;
     /// Where a cell's value is drawn; empty if the cell is blank.
     QRectF place(int row, int column) const;
-    /// Frames a cell's value and writes a text beside it, on the screen only. No cell takes the frame away.
+    /// Frames a cell's value and writes a text beside it, on the screen only. An empty cell removes the frame.
     void setMark(const ChartCell &cell, const QString &text);
     /// Paints the chart as vectors into a rectangle that starts at 0, 0.
     void paintVectors(QPainter &painter, const QSizeF &size);

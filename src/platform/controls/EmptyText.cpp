@@ -9,7 +9,8 @@ namespace {
 constexpr int lettersInLine = 75;
 constexpr int margin = 12;
 
-/// A place that is being destroyed loses its rows and children first, and cannot be asked any more.
+/// Rows and children also disappear while their place is being destroyed, when it can no longer be asked. The check
+/// therefore waits for the event loop.
 constexpr Qt::ConnectionType later = Qt::QueuedConnection;
 
 } // namespace

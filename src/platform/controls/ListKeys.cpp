@@ -57,7 +57,7 @@ private:
             m_list.setCurrentIndex(m_list.model()->index(row, qMax(0, current.column())));
     }
 
-    /// The next row that begins so, from this one on and around; -1 if there is none.
+    /// The next row that begins with the typed text, from this row on and then from the top; -1 if there is none.
     int rowWith(const QString &text, int from) const
     {
         const QAbstractItemModel &model = *m_list.model();

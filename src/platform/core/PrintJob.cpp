@@ -7,7 +7,8 @@
 
 namespace {
 
-/// What the panel says: how far a report is, and where it has gone. Says "Ready." at the end if nothing else was said.
+/// The texts of the panel: how far a report is, and where it was sent or written. The last text is "Ready." if nothing
+/// was printed.
 class PanelWords
 {
 public:

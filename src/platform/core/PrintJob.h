@@ -1,8 +1,8 @@
 // What all printouts share. A printout goes to a printer, to the preview (from which it can be printed), into a PDF or,
 // if the report has one, into a spreadsheet. On a printer, each copy is a document of its own, from a new query, with
 // only the pages that the keeper chose. A printout is described by a Report, which queries its rows and prints them.
-// A document is sent or written when all of its pages are made; if the report fails before, nothing of it is. Windows
-// run reports through PrintReport (windows/common/PrintReport.h).
+// A document is sent or written when all of its pages are made; if the report fails before that, nothing is sent.
+// Windows run reports through PrintReport (windows/common/PrintReport.h).
 #pragma once
 
 #include <functional>
@@ -31,6 +31,6 @@ enum class PrintOutcome { Printed, Cancelled, Empty };
 using TellPanel = std::function<void(const QString &text)>;
 
 /// Runs a report. Nothing is printed if the keeper cancels or if it is empty. The panel tells how far the work is, and
-/// at the end where the document has gone, or "Ready." where it has gone nowhere. Windows are repainted meanwhile; keys
+/// at the end where the document has gone, or "Ready." if nothing was printed. Windows are repainted meanwhile; keys
 /// and clicks wait. Throws RuntimeFailure.
 PrintOutcome RunReport(const Report &report, PrintTarget target, const TellPanel &panel);

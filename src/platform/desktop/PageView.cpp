@@ -17,7 +17,7 @@ constexpr double leastZoom = 0.05, mostZoom = 8, wheelStep = 1.15;
 PageView::PageView(PaintPage paint) : m_paint(std::move(paint))
 {
     setFocusPolicy(Qt::StrongFocus);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // else it would come and go with the zoom that fits
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // otherwise a zoom that fits would make it appear and disappear
     viewport()->setBackgroundRole(QPalette::Dark);
     verticalScrollBar()->setSingleStep(int(3 * gap));
     horizontalScrollBar()->setSingleStep(int(3 * gap));

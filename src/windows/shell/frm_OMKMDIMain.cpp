@@ -350,7 +350,7 @@ void frm_OMKMDIMain::MDIForm_Activate()
 void frm_OMKMDIMain::ComeToFront()
 {
     if (!isVisible())
-        return; // the start has not come that far, and will show it
+        return; // the program is still starting, and shows the window itself when it is ready
     setWindowState(windowState() & ~Qt::WindowMinimized);
     QWidget *dialog = QApplication::activeModalWidget();
     for (QWidget *window : {static_cast<QWidget *>(this), dialog})
