@@ -1,8 +1,10 @@
 #include "platform/desktop/Paper.h"
 
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QRadioButton>
 
 #include "platform/desktop/PaintedPages.h"
 
@@ -30,6 +32,16 @@ private:
     std::shared_ptr<QPrinter> m_printer;
 };
 
+/// Hides the dialog's box for single pages such as "2,4". Qt 6.4 refuses every text in it, because it looks at the
+/// printer's former pages instead. "Pages from ... to" remains.
+void hideSinglePages(const QPrintDialog &dialog)
+{
+    if (auto *option = dialog.findChild<QRadioButton *>(QStringLiteral("pagesRadioButton")))
+        option->hide();
+    if (auto *pages = dialog.findChild<QLineEdit *>(QStringLiteral("pagesLineEdit")))
+        pages->hide();
+}
+
 } // namespace
 
 bool HasPrinters() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
@@ -50,6 +62,7 @@ std::optional<PrintDialogAnswer> AskPrinter(QWidget *parent, const PrintDialogRe
     QPrintDialog dialog(printer.get(), parent);
     dialog.setWindowTitle(request.title);
     dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+    hideSinglePages(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return {};
     const int copies = qMax(1, printer->copyCount());

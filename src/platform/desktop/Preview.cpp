@@ -20,6 +20,7 @@
 
 #include "platform/controls/Guarded.h"
 #include "platform/controls/HourGlass.h"
+#include "platform/controls/Icons.h"
 #include "platform/core/PageSpool.h"
 #include "platform/core/RuntimeFailure.h"
 #include "platform/desktop/PageView.h"
@@ -73,7 +74,7 @@ private:
     using Command = void (Preview::*)();
     struct Tool
     {
-        const char *image; ///< of the toolkit's own preview; empty for a gap in the toolbar
+        const char *image; ///< empty for a gap in the toolbar
         const char *text;
         const char *keys;
         Command run;
@@ -128,26 +129,26 @@ private:
 };
 
 const Preview::Tool Preview::tools[] = {
-    {"zoom-fit-width", "Fit width", "", &Preview::fitWidth, true},
-    {"zoom-fit-page", "Fit page", "", &Preview::fitPage, true},
+    {"fitwidth", "Fit width", "", &Preview::fitWidth, true},
+    {"fitpage", "Fit page", "", &Preview::fitPage, true},
     {"", "", "", nullptr, false},
-    {"zoom-out", "Zoom out", "Ctrl+-", &Preview::zoomOut, false},
-    {"zoom-in", "Zoom in", "Ctrl++", &Preview::zoomIn, false},
+    {"zoomout", "Zoom out", "Ctrl+-", &Preview::zoomOut, false},
+    {"zoomin", "Zoom in", "Ctrl++", &Preview::zoomIn, false},
     {"", "", "", nullptr, false},
-    {"layout-portrait", "Portrait", "", &Preview::portrait, true},
-    {"layout-landscape", "Landscape", "", &Preview::landscape, true},
+    {"portrait", "Portrait", "", &Preview::portrait, true},
+    {"landscape", "Landscape", "", &Preview::landscape, true},
     {"", "", "", nullptr, false},
-    {"go-first", "First page", "Ctrl+Home", &Preview::firstPage, false},
-    {"go-previous", "Previous page", "Ctrl+PgUp", &Preview::previousPage, false},
-    {"go-next", "Next page", "Ctrl+PgDown", &Preview::nextPage, false},
-    {"go-last", "Last page", "Ctrl+End", &Preview::lastPage, false},
+    {"firstpage", "First page", "Ctrl+Home", &Preview::firstPage, false},
+    {"previouspage", "Previous page", "Ctrl+PgUp", &Preview::previousPage, false},
+    {"nextpage", "Next page", "Ctrl+PgDown", &Preview::nextPage, false},
+    {"lastpage", "Last page", "Ctrl+End", &Preview::lastPage, false},
     {"", "", "", nullptr, false},
-    {"view-pages-single", "Show single page", "", &Preview::single, true},
-    {"view-pages-facing", "Show facing pages", "", &Preview::facing, true},
-    {"view-pages-overview", "Show overview of all pages", "", &Preview::overview, true},
+    {"singlepage", "Show single page", "", &Preview::single, true},
+    {"facingpages", "Show facing pages", "", &Preview::facing, true},
+    {"overview", "Show overview of all pages", "", &Preview::overview, true},
     {"", "", "", nullptr, false},
-    {"page-setup", "Page setup", "", &Preview::setUpPage, false},
-    {"printer", "Print", "Ctrl+P", &Preview::print, false},
+    {"pagesetup", "Page setup", "", &Preview::setUpPage, false},
+    {"printentries", "Print", "Ctrl+P", &Preview::print, false},
 };
 
 int Preview::indexOf(Command run)
@@ -189,11 +190,7 @@ void Preview::addTools(QToolBar &bar)
         }
         const QString text = QLatin1String(tool.text);
         auto *action = bar.addAction(text);
-        QIcon icon;
-        for (const char *size : {"24", "32"})
-            icon.addFile(QStringLiteral(":/qt-project.org/dialogs/qprintpreviewdialog/images/%1-%2.png")
-                             .arg(QLatin1String(tool.image), QLatin1String(size)));
-        action->setIcon(icon);
+        action->setIcon(Icon(tool.image));
         action->setShortcut(QKeySequence(QLatin1String(tool.keys)));
         if (tool.isChoice) {
             group = group ? group : new QActionGroup(this);
@@ -254,8 +251,10 @@ void Preview::showPlace()
         m_zoom->setEditText(QStringLiteral("%1%").arg(std::lround(m_view->zoom() * 100)));
     action(&Preview::fitWidth)->setChecked(m_view->fit() == PageView::Fit::Width);
     action(&Preview::fitPage)->setChecked(m_view->fit() == PageView::Fit::Page);
-    action(&Preview::previousPage)->setEnabled(m_view->page() > 1);
-    action(&Preview::nextPage)->setEnabled(m_view->page() < m_view->pages());
+    for (const Command back : {&Preview::firstPage, &Preview::previousPage})
+        action(back)->setEnabled(m_view->page() > 1);
+    for (const Command onward : {&Preview::nextPage, &Preview::lastPage})
+        action(onward)->setEnabled(m_view->page() < m_view->pages());
 }
 
 std::optional<PrintDialogAnswer> Preview::ask()
