@@ -45,6 +45,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    static constexpr int edge = 8; ///< pixels between the chart and its rim
+    static constexpr int gap = 4;  ///< pixels above and below a band
+
     void clear();
     void addTitle();
     void addPie();
@@ -55,6 +58,7 @@ private:
     void addLegend();
 
     void fit();
+    // Each of these tells whether it changed anything.
     bool fitTitle();
     bool fitLegend();
     double depth() const;
