@@ -1,7 +1,7 @@
 // The commands of the main window's menus.
 #include <optional>
-#include <QCoreApplication>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>

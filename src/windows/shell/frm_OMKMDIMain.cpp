@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QDir>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -16,19 +15,13 @@
 #include <QToolBar>
 
 #include "logic/reminders/ReminderRun.h"
-#include "logic/shell/Options.h"
 #include "platform/controls/EmptyText.h"
 #include "platform/controls/Guarded.h"
 #include "platform/controls/HourGlass.h"
 #include "platform/controls/ListKeys.h"
 #include "platform/controls/Progress.h"
-#include "platform/core/Doors.h"
-#include "store/Version.h"
-#include "upgrade/frm_OMKupgrade.h"
-#include "upgrade/UpgradeDatabase.h"
 #include "windows/reminders/frm_Maintsched.h"
 #include "windows/shell/ChildForm.h"
-#include "windows/shell/frm_OMKaboutbox.h"
 #include "windows/shell/frm_OMKOptions.h"
 #include "windows/shell/MenuEntry.h"
 
@@ -58,17 +51,6 @@ constexpr ButtonRow buttonRows[] = {
     {"conversions", "Conversion Calculator", "rulers", &MainMenu::mnu_ToolsConversions, false},
 };
 
-const QString noTankText = QStringLiteral("You have no tanks set up in Ostrelmark for Windows. You must set-up at "
-                                          "least one tank before you can use the logging, "
-                                          "graphing, or data-import tools in Ostrelmark. Set up a tank by clicking on "
-                                          "the \"Setup / Manage Tanks\" button on the "
-                                          "main menu.");
-
-// What to do where no child is open.
-const QString setUpFirst =
-    QStringLiteral("Set up your first tank: choose Tank Setup in the Tools menu, or press Ctrl+T.");
-const QString openLogbook = QStringLiteral("Open the logbook: choose Logbook in the Tools menu, or press Ctrl+L.");
-
 /// The frame of a child. It is never smaller than the child's contents allow, whatever becomes of them: a main window
 /// that is too small scrolls. Controls without any room would also paint on empty pixmaps.
 class ChildFrame : public QMdiSubWindow
@@ -82,20 +64,6 @@ protected:
         return handled;
     }
 };
-
-/// If the settings cannot be written, a message says so and the start goes on: a setting must not keep keepers from
-/// their data.
-void saveAtStart(const QString &key, const QString &value)
-{
-    try {
-        SaveSetting(key, value);
-    } catch (const RuntimeFailure &failure) {
-        Beep();
-        MsgBox(failure.description() +
-                   u"\n\nYour data is not touched by this; only settings that you change are not kept.",
-               vbExclamation, QStringLiteral("Settings"));
-    }
-}
 
 } // namespace
 
@@ -173,37 +141,6 @@ void frm_OMKMDIMain::makeStatusBar()
     statusBar()->addWidget(m_panel, 1);
 }
 
-void frm_OMKMDIMain::MDIForm_Load()
-{
-    mnu_FilePrint->Enabled(false);
-    g.gDatabaseName = QStringLiteral("OM.MDB");
-    Form<frm_OMKaboutbox>();
-    g.gCurrentDir = QDir::currentPath();
-    g.gDatabase = Database::OpenDatabase(g.gDatabaseName);
-    CheckDatabaseVersion();
-    constexpr int milliseconds = 30'000; // over the panel, which the next progress would write over
-    g.gDatabase->KeepDailyCopies([this](const QString &words) { statusBar()->showMessage(words, milliseconds); });
-    ReadOptions(g);
-    g.gGraphPageSize = 20;
-    QApplication::processEvents();
-    Top20List();
-    show();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // paints the window before the splash
-    showSplash();
-    if (tipIsDue() && !isEnding())
-        mnu_HelpTod_Click();
-    if (!isEnding())
-        CheckTanks();
-}
-
-void frm_OMKMDIMain::CheckDatabaseVersion()
-{
-    g.gDbVersion = ReadDatabaseVersion(*g.gDatabase);
-    if (g.gDbVersion == presentDatabaseVersion)
-        return;
-    frm_OMKupgrade(UpgradeWork(g.gDatabase, g.gDatabaseName, g.gDbVersion)).Run();
-}
-
 void frm_OMKMDIMain::Top20List()
 {
     const auto rules = LoadReminders(g);
@@ -234,49 +171,6 @@ void frm_OMKMDIMain::RefillReminders()
         list->FillTaskList(); // this also fills the toolbar's list
     else
         Top20List();
-}
-
-void frm_OMKMDIMain::showSplash()
-{
-    g.gSplashMode = true;
-    Form<frm_OMKaboutbox>().ShowBox();
-    g.gSplashMode = false;
-}
-
-bool frm_OMKMDIMain::tipIsDue()
-{
-    const QString stored = GetSetting(QStringLiteral("Show_Tips"), QStringLiteral("Not Found")).toUpper();
-    // "ELSE" is a valid word of this setting. A word other than these four changes nothing.
-    if (stored == u"NOT FOUND" || stored == u"ELSE") {
-        g.gShowTips = true;
-        saveAtStart(QStringLiteral("Show_Tips"), QStringLiteral("Yes"));
-        return true;
-    }
-    if (stored == u"YES") {
-        g.gShowTips = true;
-        return true;
-    }
-    if (stored == u"NO")
-        g.gShowTips = false;
-    return false;
-}
-
-void frm_OMKMDIMain::CheckTanks()
-{
-    EnableTankButtons();
-    if (g.gNoTanks == u"N")
-        return;
-    Beep();
-    MsgBox(noTankText, vbExclamation, QStringLiteral("No Tanks Set Up Yet"));
-}
-
-void frm_OMKMDIMain::EnableTankButtons()
-{
-    const bool none = g.gDatabase->OpenRecordset(QStringLiteral("SELECT tankid FROM TANKLST LIMIT 1")).isEmpty();
-    g.gNoTanks = none ? QStringLiteral("Y") : QStringLiteral("N");
-    m_nothingOpen->setText(none ? setUpFirst : openLogbook);
-    for (const char *key : {"logbook", "graphing"})
-        button(QLatin1String(key)).Enabled(!none);
 }
 
 void frm_OMKMDIMain::ShowChild(ChildForm &child)
