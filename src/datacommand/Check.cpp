@@ -11,6 +11,7 @@
 #include "datacommand/TerminalDoors.h"
 #include "logic/common/Measurements.h"
 #include "logic/logbook/EntryRules.h"
+#include "logic/logbook/LogKinds.h"
 #include "logic/reminders/ReminderRun.h"
 #include "logic/reminders/RuleFields.h"
 #include "platform/core/RuntimeFailure.h"
@@ -29,61 +30,56 @@ struct ColumnRule
     bool isNeeded = false;
 };
 
-/// The entries of a table, and what a line calls one of them.
+/// The rows of a table: the tanks, or the entries of a log.
 struct TableRule
 {
-    const char *entry;
-    const char *select; ///< has a column NameOfTank, and for entries with a date and time also Day and Clock
+    const char *one, *many; ///< what the rows are called
+    const LogKind *log;     ///< null for the tanks
     std::vector<ColumnRule> columns;
 };
 
 constexpr qsizetype anyLength = std::numeric_limits<qsizetype>::max();
 
-std::vector<ColumnRule> waterColumns()
+ColumnRule text(const char *column, qsizetype longest, bool isNeeded = false)
 {
-    std::vector<ColumnRule> columns{{QStringLiteral("logdate"), Holds::Date, 0, true},
-                                    {QStringLiteral("logtime"), Holds::Time, 0, true}};
-    for (const MeasurementRow &row : measurements)
-        columns.push_back({QLatin1String(row.column), Holds::Number, row.entry.limit});
-    return columns;
+    return {QLatin1String(column), Holds::Text, double(longest), isNeeded};
+}
+
+ColumnRule number(const char *column, double most) { return {QLatin1String(column), Holds::Number, most}; }
+
+TableRule logRule(const char *one, const char *many, LogTab tab, const std::vector<ColumnRule> &columns)
+{
+    const LogKind &log = KindOf(tab);
+    TableRule rule{
+        one,
+        many,
+        &log,
+        {{QLatin1String(log.dateColumn), Holds::Date, 0, true}, {QLatin1String(log.timeColumn), Holds::Time, 0, true}}};
+    rule.columns.insert(rule.columns.end(), columns.begin(), columns.end());
+    return rule;
 }
 
 std::vector<TableRule> tableRules()
 {
-    const auto text = [](const char *column, qsizetype longest, bool isNeeded = false) {
-        return ColumnRule{QLatin1String(column), Holds::Text, double(longest), isNeeded};
-    };
-    const auto number = [](const char *column, double most) {
-        return ColumnRule{QLatin1String(column), Holds::Number, most};
-    };
-    const auto moment = [](const char *column, Holds holds, bool isNeeded = true) {
-        return ColumnRule{QLatin1String(column), holds, 0, isNeeded};
-    };
+    std::vector<ColumnRule> measured;
+    for (const MeasurementRow &row : measurements)
+        measured.push_back(number(row.column, row.entry.limit));
     return {
         {"tank",
-         "SELECT *, tankname AS NameOfTank FROM TANKLST",
+         "tanks",
+         nullptr,
          {text("tankname", tankNameLimit.longest, true), text("tankid", anyLength, true),
           text("Tankdesc", tankDescriptionLimit.longest), number("tanksize", tankSizeLimit.most),
           text("TankWaterType", 1, true)}},
-        {"water test of",
-         "SELECT l.*, t.tankname AS NameOfTank, logdate AS Day, logtime AS Clock "
-         "FROM WATERLOG l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
-         waterColumns()},
-        {"livestock entry of",
-         "SELECT l.*, t.tankname AS NameOfTank, dateadded AS Day, timeadded AS "
-         "Clock "
-         "FROM LIVESTOCK l LEFT JOIN TANKLST t ON t.tankid = l.tankname",
-         {moment("dateadded", Holds::Date), moment("timeadded", Holds::Time),
-          text("animalname", animalLimit.longest, true), number("quantity", animalsLimit.most),
-          text("Status", statusLimit.longest), number("price_paid", beyondPrices), number("price_sold", beyondPrices),
-          moment("datelost", Holds::Date, false), text("where_purch", placeLimit.longest)}},
-        {"maintenance entry of",
-         "SELECT l.*, t.tankname AS NameOfTank, maintlogdate AS Day, "
-         "maintlogtime AS Clock "
-         "FROM MAINTLOG l LEFT JOIN TANKLST t ON t.tankid = l.mainttankname",
-         {moment("maintlogdate", Holds::Date), moment("maintlogtime", Holds::Time),
-          text("maintlogtask", taskLimit.longest, true), text("maintlogdesc", descriptionLimit.longest),
-          text("maintlogunit", unitLimit.longest), number("maintlogqty", quantityLimit.most)}},
+        logRule("water test", "water tests", WaterTab, measured),
+        logRule("livestock entry", "livestock entries", LivestockTab,
+                {text("animalname", animalLimit.longest, true), number("quantity", animalsLimit.most),
+                 text("Status", statusLimit.longest), number("price_paid", beyondPrices),
+                 number("price_sold", beyondPrices), ColumnRule{QStringLiteral("datelost"), Holds::Date},
+                 text("where_purch", placeLimit.longest)}),
+        logRule("maintenance entry", "maintenance entries", MaintenanceTab,
+                {text("maintlogtask", taskLimit.longest, true), text("maintlogdesc", descriptionLimit.longest),
+                 text("maintlogunit", unitLimit.longest), number("maintlogqty", quantityLimit.most)}),
     };
 }
 
@@ -126,20 +122,30 @@ QString partOf(const Value &value)
     return value.isNull() ? QStringLiteral("?") : value.text();
 }
 
+/// All rows of the table, with the name of the tank as NameOfTank.
+QString selectOf(const TableRule &rule)
+{
+    if (!rule.log)
+        return QStringLiteral("SELECT *, tankname AS NameOfTank FROM TANKLST");
+    return QStringLiteral("SELECT l.*, t.tankname AS NameOfTank FROM %1 l LEFT JOIN TANKLST t ON t.tankid = l.%2")
+        .arg(QLatin1String(rule.log->table), QLatin1String(rule.log->tankColumn));
+}
+
 QString nameOf(const TableRule &rule, const RowStream &rows)
 {
-    QString name = QLatin1String(rule.entry) + u" \"" + partOf(rows.value(QStringLiteral("NameOfTank"))) + u'"';
-    if (QLatin1String(rule.select).contains(QLatin1String("Clock")))
-        name += u", " + partOf(rows.value(QStringLiteral("Day"))) + u' ' + partOf(rows.value(QStringLiteral("Clock")));
-    return name;
+    const auto part = [&rows](const char *column) { return partOf(rows.value(QLatin1String(column))); };
+    const QString tank = u" \"" + part("NameOfTank") + u'"';
+    if (!rule.log)
+        return QLatin1String(rule.one) + tank;
+    return QLatin1String(rule.one) + u" of" + tank + u", " + part(rule.log->dateColumn) + u' ' +
+           part(rule.log->timeColumn);
 }
 
 QStringList findBadValues(Globals &globals)
 {
     QStringList found;
     for (const TableRule &rule : tableRules())
-        for (RowStream rows = globals.gDatabase->OpenForwardOnly(QLatin1String(rule.select)); !rows.EOF_();
-             rows.MoveNext())
+        for (RowStream rows = globals.gDatabase->OpenForwardOnly(selectOf(rule)); !rows.EOF_(); rows.MoveNext())
             for (const ColumnRule &column : rule.columns)
                 if (const auto fault = faultOf(column, rows.value(column.column)))
                     found << nameOf(rule, rows) + u": " + column.column + u' ' + *fault;
@@ -148,18 +154,17 @@ QStringList findBadValues(Globals &globals)
 
 QStringList findLostEntries(Globals &globals)
 {
-    constexpr const char *logs[][4] = {{"WATERLOG", "tankname", "water test", "water tests"},
-                                       {"LIVESTOCK", "tankname", "livestock entry", "livestock entries"},
-                                       {"MAINTLOG", "mainttankname", "maintenance entry", "maintenance entries"}};
     QStringList found;
-    for (const auto &[table, column, one, many] : logs) {
-        const QString sql = QStringLiteral("SELECT %2 AS tank, count(*) AS n FROM %1 WHERE NOT "
-                                           "EXISTS (SELECT 1 FROM "
-                                           "TANKLST WHERE tankid = %2) GROUP BY %2")
-                                .arg(QLatin1String(table), QLatin1String(table) + u'.' + QLatin1String(column));
+    for (const TableRule &rule : tableRules()) {
+        if (!rule.log)
+            continue;
+        const QString sql = QStringLiteral("SELECT %2 AS tank, count(*) AS n FROM %1 WHERE NOT EXISTS "
+                                           "(SELECT 1 FROM TANKLST WHERE tankid = %2) GROUP BY %2")
+                                .arg(QLatin1String(rule.log->table),
+                                     QLatin1String(rule.log->table) + u'.' + QLatin1String(rule.log->tankColumn));
         for (RowStream rows = globals.gDatabase->OpenForwardOnly(sql); !rows.EOF_(); rows.MoveNext())
             found << QStringLiteral("%1 of the tank with the id \"%2\"")
-                         .arg(Counted(qint64(rows.value(QStringLiteral("n")).toDouble()), one, many),
+                         .arg(Counted(qint64(rows.value(QStringLiteral("n")).toDouble()), rule.one, rule.many),
                               rows.text(QStringLiteral("tank")));
     }
     return found;
@@ -203,8 +208,8 @@ qsizetype tell(const QString &title, const QStringList &found, const QString &ad
     return found.size();
 }
 
-const QString restoreAdvice = QStringLiteral("make a copy of the folder first. \"ostrelmark-data "
-                                             "restore\" lists older copies and puts one in place.");
+const QString restoreAdvice = QStringLiteral("make a copy of the folder first. \"ostrelmark-data restore\" lists older "
+                                             "copies and puts one in place.");
 
 } // namespace
 
@@ -219,10 +224,10 @@ int CheckData(KeepersData &data)
         return DataFault;
     count += tell(QStringLiteral("Values that no window would have accepted:"), findBadValues(globals),
                   QStringLiteral("open these entries in Ostrelmark and correct the values."));
-    count += tell(QStringLiteral("Entries of tanks that no longer exist:"), findLostEntries(globals),
-                  QStringLiteral("no tank shows them. An older copy may still "
-                                 "have the tank: \"ostrelmark-data "
-                                 "restore\" lists the copies."));
+    count +=
+        tell(QStringLiteral("Entries of tanks that no longer exist:"), findLostEntries(globals),
+             QStringLiteral("no tank shows them. An older copy may still have the tank: \"ostrelmark-data restore\" "
+                            "lists the copies."));
     count += tell(QStringLiteral("Reminders with mistakes:"), findBadReminders(globals),
                   QStringLiteral("change or delete them in \"Add or Change Reminders\"."));
     Say(QStringLiteral("%1: %2; %3.")
