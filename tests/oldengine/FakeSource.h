@@ -1,5 +1,5 @@
-// A made-up file of the old engine. It starts with the empty tables of a version, and a test then adds tables, columns
-// and rows or removes them.
+// A made-up file of the old engine. It starts with the empty tables of a version, and a test then changes tables,
+// columns and rows.
 #pragma once
 
 #include <map>
@@ -27,9 +27,8 @@ inline QByteArray utf16(const QString &text)
     return bytes;
 }
 
-class FakeSource : public OldSource
+struct FakeSource : OldSource
 {
-public:
     /// A cell is Null if its column is not named, and unreadable if its bytes are "?".
     using FakeRow = std::map<QString, QByteArray>;
 
@@ -39,20 +38,20 @@ public:
         CreateDatabase(folder.filePath("OM.MDB"));
         const auto database = Database::OpenDatabase(folder.filePath("OM.MDB"));
         for (const QString &name : tableNames) {
-            m_tables.push_back({name, {}, 0});
+            all.push_back({name, {}, 0});
             for (const FieldDef &field : database->Fields(name))
-                if (!IsOfLaterVersion(version, name, field.Name))
-                    addColumn(name + ' ' + field.Name, // the two enumerations have the same numbers
-                              field.Type == FieldType::Time ? OldType::Date : OldType(field.Type));
+                if (!IsOfLaterVersion(version, name, field.Name)) // the two enumerations have the same numbers
+                    all.back().columns.push_back(
+                        {field.Name, field.Type == FieldType::Time ? OldType::Date : OldType(field.Type), 0});
         }
         row("CONFIG", version == "0.0 " ? FakeRow{{"default_salt", "\1"}} : FakeRow{{"db_version", utf16(version)}});
     }
 
     int codePage() const override { return 0; }
-    const std::vector<OldTable> &tables() const override { return m_tables; }
+    const std::vector<OldTable> &tables() const override { return all; }
     qint64 readRows(const OldTable &of, const std::function<void(std::span<const OldCell>)> &take) override
     {
-        for (const FakeRow &row : m_rows[of.name.toUpper()]) {
+        for (const FakeRow &row : rows[of.name.toUpper()]) {
             std::vector<OldCell> cells;
             for (const OldColumn &column : of.columns) {
                 const auto cell = row.find(column.name);
@@ -68,36 +67,14 @@ public:
         return lost[of.name];
     }
 
-    OldTable &table(const QString &name) { return *std::ranges::find(m_tables, name, &OldTable::name); }
-    void addTable(const OldTable &table) { m_tables.push_back(table); }
-    void removeTable(const QString &name)
-    {
-        std::erase_if(m_tables, [&](const auto &t) { return t.name == name; });
-    }
-    /// A column is named "TABLE column".
-    void addColumn(const QString &name, OldType type)
-    {
-        table(name.section(' ', 0, 0)).columns.push_back({name.section(' ', 1), type, 0});
-    }
-    void removeColumn(const QString &name)
-    {
-        std::erase_if(table(name.section(' ', 0, 0)).columns,
-                      [&](const OldColumn &column) { return column.name == name.section(' ', 1); });
-    }
+    OldTable &table(const QString &name) { return *std::ranges::find(all, name, &OldTable::name); }
     void row(const QString &name, const FakeRow &row)
     {
-        m_rows[name].push_back(row);
+        rows[name].push_back(row);
         ++table(name).rows;
     }
-    void clearRows(const QString &name)
-    {
-        m_rows[name].clear();
-        table(name).rows = 0;
-    }
 
+    std::vector<OldTable> all;
+    std::map<QString, std::vector<FakeRow>> rows;
     std::map<QString, qint64> lost; ///< by table: how many of its rows cannot be read
-
-private:
-    std::vector<OldTable> m_tables;
-    std::map<QString, std::vector<FakeRow>> m_rows;
 };
