@@ -24,8 +24,7 @@ public:
     /// Installs these doors; the destructor puts the former ones back. `settingsFile` keeps the settings over a
     /// restart.
     explicit ScriptedDoors(const QString &settingsFile = {}) :
-        m_settings(std::make_unique<SettingsStore>(settingsFile.isEmpty() ? m_folder.filePath(QStringLiteral("OMK.ini"))
-                                                                          : settingsFile)),
+        m_settings(settingsFile.isEmpty() ? m_folder.filePath(QStringLiteral("OMK.ini")) : settingsFile),
         m_previous(Doors::install(this))
     {
     }
@@ -79,12 +78,12 @@ public:
     std::optional<QString> saveDialog(const SaveDialogRequest &request) override
     {
         saveDialogs.push_back(request);
-        return takeNext(files, std::optional<QString>());
+        return takeNext(files);
     }
     std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override
     {
         printDialogs.push_back(request);
-        return takeNext(printers, std::optional<PrintDialogAnswer>());
+        return takeNext(printers);
     }
     std::unique_ptr<PageSink> openPages(const PageTarget &target) override
     {
@@ -106,10 +105,10 @@ public:
     }
     QDateTime now() override { return std::exchange(clock, clock.addSecs(secondsAReading)); }
     double random() override { return 0.5; }
-    SettingsStore &settings() override { return *m_settings; }
+    SettingsStore &settings() override { return m_settings; }
 
 private:
-    template <class T> static T takeNext(std::deque<T> &script, T otherwise)
+    template <class T> static T takeNext(std::deque<T> &script, T otherwise = {})
     {
         if (script.empty())
             return otherwise;
@@ -127,6 +126,6 @@ private:
     }
 
     QTemporaryDir m_folder;
-    std::unique_ptr<SettingsStore> m_settings;
+    SettingsStore m_settings;
     Doors *m_previous;
 };
