@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <QFile>
+#include <QtEndian>
 
 #include "data/CsvReader.h"
 #include "store/Database.h"
@@ -27,6 +28,21 @@ inline const std::vector<OldFile> oldFiles{
 };
 inline const QStringList tableNames{"TANKLST",    "WATERLOG", "MAINTLOG",  "LIVESTOCK",
                                     "MAINTSCHED", "CONFIG",   "ANIMALLIST"};
+
+/// Numbers and texts as the files have them.
+template <class Number> QByteArray bytesOf(Number number)
+{
+    QByteArray bytes(sizeof number, '\0');
+    qToLittleEndian(number, bytes.data());
+    return bytes;
+}
+inline QByteArray utf16(const QString &text)
+{
+    QByteArray bytes;
+    for (const QChar c : text)
+        bytes += bytesOf(c.unicode());
+    return bytes;
+}
 
 /// A value as both sides write it: a number has seven digits, as a single has, and an empty text is like Null.
 inline QString plain(const QString &text)

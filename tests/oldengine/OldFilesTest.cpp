@@ -1,6 +1,7 @@
 // Reads files of the old engine with the program that does so in earnest: each file cut off, and with random bytes
 // changed. By default only a few copies are read; omk_tests_oldengine --copies=1000 --cuts=all is the long run, whose
 // table is in docs/RELIABILITY.md. --reader=PROGRAM uses the reader of another build, and --seed=2 changes other bytes.
+#include <cmath>
 #include <cstdio>
 #include <random>
 
@@ -107,6 +108,58 @@ TEST_F(OldFilesTest, CutOffOrWithRandomBytesItIsOpenedOrToldOrRefused)
             ++changed[resultOf(file, damaged)];
         }
         print(file, "random bytes", changed);
+    }
+}
+
+TEST_F(OldFilesTest, WhatIsNotAsItShouldBeIsToldOrRefused)
+{
+    const auto at = [](int hour, int minute, int second) {
+        return bytesOf((hour * 3600 + minute * 60 + second) / 86400.0);
+    };
+    const struct
+    {
+        std::vector<std::pair<QByteArray, QByteArray>> replaced;
+        QString says;
+        const char *sql = "SELECT count(*) FROM WATERLOG";
+        QString result = "200";
+    } rows[] = {
+        {{{utf16("WATERLOG"), utf16("WaterLog")}, {utf16("nitrate"), utf16("NITRATE")}},
+         "",
+         "SELECT count(*) FROM WATERLOG WHERE nitrate > 0",
+         "177"},
+        {{{utf16("MAINTLOG"), utf16("MAINTLOX")}},
+         "The file has no table MAINTLOG. It is damaged, or it belongs to another program."},
+        {{{utf16("nitrate"), utf16("nitraxx")}}, "The table WATERLOG has no column nitrate."},
+        {{{utf16("2.0 "), utf16("3.0 ")}}, "The file is of version \"3.0 \", which this program does not know."},
+        {{{utf16("2.0 "), utf16("1.1 ")}, {utf16("SchedRtype"), utf16("SchedOther")}},
+         "The column \"SchedOther\" of the table MAINTSCHED is not part of Ostrelmark and was left out."},
+        {{{bytesOf(7.8F), bytesOf(NAN)}}, "WATERLOG: the column ph in 23 of 200 rows"},
+        {{{utf16("Clean the skimmer"), utf16("Change 10 gallons")}},
+         "Two reminders had the same SchedTask, \"Change 10 gallons\"; the later one has \"Change 10 gallons (2)\" "
+         "now."},
+        {{{bytesOf(35808.0), bytesOf(35807.0)},
+          {at(8, 7, 24), at(23, 59, 59)},
+          {at(8, 8, 38), at(23, 59, 59)},
+          {at(8, 8, 1), at(9, 0, 0)},
+          {at(8, 9, 15), at(9, 0, 0)}},
+         "2 water tests had the date and time of others; each was moved to the next free second.",
+         "SELECT group_concat(m) FROM (SELECT logdate || ' ' || logtime AS m FROM WATERLOG WHERE logdate BETWEEN "
+         "'1998-01-12' AND '1998-01-13' ORDER BY m)",
+         "1998-01-12 09:00:00,1998-01-12 09:00:01,1998-01-12 23:59:59,1998-01-13 00:00:00"},
+    };
+    for (const auto &row : rows) {
+        QByteArray bytes = oldFiles[5].bytes();
+        for (const auto &[from, to] : row.replaced)
+            bytes.replace(from, to);
+        writeFile(folder.filePath("OM.MDB"), bytes);
+        const OldLine line = read(folder.filePath("OM.MDB")).value();
+        if (const auto *failure = std::get_if<RuntimeFailure>(&line)) {
+            EXPECT_EQ(failure->description().section('\n', 1), row.says);
+        } else {
+            const auto &outcome = std::get<OldOutcome>(line);
+            EXPECT_EQ((outcome.changed + outcome.unread).join(' '), row.says);
+            EXPECT_EQ(OtherProgram(draft()).run(row.sql), row.result);
+        }
     }
 }
 

@@ -88,16 +88,20 @@ TEST_F(OpenOldFileTest, AnOlderKeptFileStaysAndANameInSmallLettersIsFound)
 TEST_F(OpenOldFileTest, WhatFailsLeavesTheFolderAsItWasAndSaysWhy)
 {
     const QByteArray whole = oldFiles[3].bytes();
-    QByteArray withPassword = whole;
-    withPassword[0x44] = char(withPassword[0x44] ^ 'x');
+    QByteArray withPassword[2] = {oldFiles[2].bytes(), whole};
+    for (QByteArray &bytes : withPassword)
+        bytes[0x44] = char(bytes[0x44] ^ 'x');
     const struct
     {
         QByteArray bytes;
         Failure number;
         QString says;
         QString journal = {};
+        rlim_t room = RLIM_INFINITY;
     } rows[] = {
-        {withPassword, Failure::PermissionDenied, "The file has a password."},
+        {withPassword[0], Failure::PermissionDenied, "The file has a password."},
+        {withPassword[1], Failure::PermissionDenied, "The file has a password."},
+        {whole, Failure::DiskFull, "", {}, 100'000},
         {whole.first(100), Failure::UnrecognizedFormat, "too short"},
         {whole.first(4096) + QByteArray(100'000, '\xff'), Failure::UnrecognizedFormat, "damaged"},
         {whole.first(12 * 4096), Failure::NoSuchColumn, "The file has no table TANKLST. It is damaged, or"},
@@ -108,7 +112,10 @@ TEST_F(OpenOldFileTest, WhatFailsLeavesTheFolderAsItWasAndSaysWhy)
         if (!row.journal.isEmpty())
             writeFile(path(row.journal), "pages");
         const auto before = contentOf(folder.path());
-        const auto failure = failureOf([this] { open(); });
+        const auto failure = failureOf([&] {
+            const SmallDisk disk(row.room, false);
+            open();
+        });
         ASSERT_TRUE(failure) << row.says.toStdString();
         EXPECT_EQ(failure->number(), row.number);
         for (const QString &words : {row.says, path()})
