@@ -96,14 +96,15 @@ TEST_F(Measurements, EachIsDrawnUnderItsNameWhereItsCheckBoxIsTicked)
     keeper.doors.clock = keeper.doors.clock.addDays(1); // a graph needs two tests
     addTest();
     push("graphentries");
-    const Chart &chart = *Form<frm_WaterGraph>().Chart1;
+    Chart &chart = *Form<frm_WaterGraph>().Chart1;
     for (const Expected &row : expected) {
         keeper.inNext<frm_OMKOptions>([&row](frm_OMKOptions &w) {
             for (const Expected &any : expected)
                 control<QCheckBox>(w, inProgram(any).graph.check).setChecked(&any == &row);
             mouse::click(w.cmdOK);
         });
-        main->mnu_GraphOptions_Click();
+        mouse::click(&chart, QPoint(3, 3), Qt::RightButton);
+        clickEntry(*main->mnu_GraphPopup, "mnu_GraphOptions");
         EXPECT_EQ(chart.ColumnCount(), 1);
         EXPECT_EQ(chart.tip(chart.place(1, 1).center()), QString("3/14\n") + row.drawn);
     }
