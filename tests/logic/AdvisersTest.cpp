@@ -1,6 +1,5 @@
 // Tests of the advisers: what their tables of animals, questions and advice must fulfil, the plan of a tank, and the
 // log of a diagnosis with its printed sheet.
-#include <algorithm>
 #include <set>
 
 #include <gtest/gtest.h>

@@ -1,5 +1,4 @@
-// Tests of Printer (pages that end by themselves, cells that wrap) and of RunReport (copies, chosen pages, the
-// preview).
+// Tests of Printer (pages that end by themselves, cells that wrap) and of RunReport (copies, chosen pages).
 #include <gtest/gtest.h>
 
 #include "platform/core/Printer.h"
@@ -64,9 +63,13 @@ TEST(PrintJob, EachCopyHasTheChosenPagesAloneAndThePanelSaysWhereItWent)
         std::optional<PrintDialogAnswer> answer;
         QString printed, panel, told = "0";
     } cases[] = {
-        {{{1, 0, 0, {}}}, "landscape 123", sent}, {{{2, 2, 2, {}}}, "landscape 2|landscape 2", twoSent},
-        {{{1, 1, 2, {}}}, "landscape 12", sent},  {{{1, 3, 9, {}}}, "landscape 3", sent},
-        {{{2, 4, 5, {}}}, "", "Ready.", beyond},  {{}, "", "Ready."},
+        {{{1, 0, 0, {}}}, "landscape 123", sent},
+        {{{2, 2, 2, {}}}, "landscape 2|landscape 2", twoSent},
+        {{{1, 1, 2, {}}}, "landscape 12", sent},
+        {{{1, 3, 9, {}}}, "landscape 3", sent},
+        {{{2, 4, 5, {}}}, "", "Ready.", beyond},
+        {{}, "", "Ready."},
+        {{{1, 2, 3, {{}, {}, true}}}, "portrait 23", sent}, // as it was turned in the preview
     };
     for (const auto &[answer, pages, panel, told] : cases) {
         SCOPED_TRACE(pages.toStdString());
@@ -100,21 +103,6 @@ TEST(PrintJob, AReportThatFailsHalfWayPrintsNothing)
         EXPECT_EQ(printed(doors), "");
         EXPECT_EQ(panel, "Ready.");
     }
-}
-
-TEST(PrintJob, APreviewBeginsAsTheReportLiesAndIsPrintedAsItWasSeen)
-{
-    ScriptedDoors doors;
-    QString panel;
-    const auto tell = [&panel](const QString &text) { panel = text; };
-    RunReport(threePages, PrintTarget::Window, tell);
-    EXPECT_EQ(printed(doors), "landscape 123");
-    EXPECT_EQ(panel, "Ready.");
-    doors.printedFromPreview = {2, 2, 3, {{}, {}, true}}; // turned to portrait there
-    RunReport(threePages, PrintTarget::Window, tell);
-    EXPECT_EQ(printed(doors), "landscape 123|portrait 23|portrait 23");
-    EXPECT_TRUE(doors.printDialogs.empty()) << "the preview has asked";
-    EXPECT_EQ(panel, "Log: 2 copies sent to the printer.");
 }
 
 TEST(PrintedPages, CellsWrapInsideTheirColumnAndLoseNothing)

@@ -23,7 +23,7 @@ void play(QWidget *box, const QString &keys)
     static const QMap<QChar, QKeyCombination> others = {
         {'<', Qt::Key_Backspace},    {'>', Qt::Key_Delete},       {'[', Qt::Key_Home},
         {'^', Qt::CTRL | Qt::Key_A}, {'~', Qt::CTRL | Qt::Key_Z}, {'=', Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
-        {'@', Qt::CTRL | Qt::Key_V}, {'%', Qt::CTRL | Qt::Key_X}, {'&', Qt::CTRL | Qt::Key_K}};
+        {'@', Qt::CTRL | Qt::Key_V}, {'%', Qt::CTRL | Qt::Key_X}};
     for (const QChar key : keys)
         if (const auto other = others.find(key); other != others.end())
             QTest::keyClick(box, other->key(), other->keyboardModifiers());

@@ -3,12 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QApplication>
+#include <QTest>
 
 #include "platform/chart/Chart.h"
 #include "platform/chart/ChartLook.h"
 #include "platform/chart/ChartScale.h"
-#include "support/Mouse.h"
 
 namespace {
 
@@ -126,7 +125,6 @@ TEST(Chart, ColumnsShareABandWhereEachCanBeRead)
         // The lowest and the greatest of each column, and the bands of bars and of lines from the top.
         {{{0, 8}, {4, 9}, {5, 10}}, "012", "012"},
         {{{0, 0.05}, {0, 350}}, "1|0", "1|0"},
-        {{{1, 2}, {10, 40}}, "1|0", "1|0"},
         {{{0, 0}, {0, 350}, {0, 0}}, "012", "012"},
         {{{-400, 0}, {0, 1}}, "0|1", "0|1"},
         {{{0, 1.02}, {0, 0.8}, {0, 78}, {0, 410}, {0, 350}, {0, 8}}, "234|015", "234|015"},
@@ -193,6 +191,5 @@ TEST(Chart, KeysWalkFromValueToValueAndAReaderIsToldEach)
         }
         chart.setRowCount(2);
         EXPECT_EQ(reader->focusChild(), nullptr) << "a new page begins anew";
-        EXPECT_EQ(reader->childCount(), 4);
     }
 }

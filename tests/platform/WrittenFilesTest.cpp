@@ -232,16 +232,11 @@ TEST_F(WrittenFiles, APrinterKeepsTheChosenPaperButNoNumberOfCopies)
     }
 }
 
-TEST_F(WrittenFiles, ASettingMayHoldACommaWithoutQuotationMarks)
+TEST_F(WrittenFiles, ASettingMayHoldACommaAndOneThatCannotBeWrittenIsAFailureAndIsNotReadBack)
 {
     writeFile(name, "[SETTINGS]\nCustom1=@, b\n");
     EXPECT_EQ(SettingsStore(name).value("Custom1", ""), "@, b");
-}
-
-TEST_F(WrittenFiles, ASettingThatCannotBeWrittenIsAFailureAndIsNotReadBack)
-{
-    writeFile(name, "no folder");
-    SettingsStore settings(name + "/OMK.ini");
+    SettingsStore settings(name + "/OMK.ini"); // in a folder that is a file
     for (int attempt = 0; attempt < 2; ++attempt) {
         EXPECT_THROW(settings.setValue("Date_Order", "YYMMDD"), RuntimeFailure);
         EXPECT_EQ(settings.value("Date_Order", "MMDDYY"), "MMDDYY");

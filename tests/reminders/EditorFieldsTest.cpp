@@ -72,7 +72,6 @@ TEST_F(EditorFieldsTest, InvalidNumbersAndChoicesAreRefused)
         {Pattern::Monthly, true, [](Fields &f) { f.cbo_MonthlyWeekday = -1; }, "cbo_MonthlyWeekday"},
         {Pattern::Yearly, false, [](Fields &f) { f.txt_YearlyDay = "30"; }, ""},
         {Pattern::Yearly, false, [](Fields &f) { f.txt_YearlyDay = "31"; }, "txt_YearlyDay", true},
-        {Pattern::Yearly, false, [](Fields &f) { f.txt_YearlyDay = "32"; }, "txt_YearlyDay"},
         {Pattern::Yearly, false, [](Fields &f) { f.txt_YearlyDay = "5x"; }, "txt_YearlyDay", true},
         {Pattern::Yearly, true, [](Fields &f) { f.txt_YearlyDay = "32"; }, ""},
         {Pattern::Yearly, true, [](Fields &f) { f.cbo_YearlyXth = -1; }, "cbo_YearlyXth"},

@@ -62,9 +62,7 @@ TEST(Upcoming, KeepsTheSoonestTwentyInOrderOfDateAndTask)
     EXPECT_EQ(upcoming.texts("DD.MM.YY"), expected);
 }
 
-using StoredRules = StoreTest;
-
-TEST_F(StoredRules, OldRowsAndInvalidCellsCanBeRead)
+TEST_F(StoreTest, OldRowsAndInvalidCellsCanBeRead)
 {
     db->Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype) VALUES "
                 "('upgraded', '1997-03-01', '1999-03-01', 3, 0), ('empty', NULL, NULL, NULL, NULL), "

@@ -34,7 +34,6 @@ public:
     std::deque<MsgBoxAnswer> answers;         ///< to the next boxes with a choice; if empty, the default button's
     std::deque<std::optional<QString>> files; ///< from the next save dialogs; if empty, they are cancelled
     std::deque<std::optional<PrintDialogAnswer>> printers;
-    std::optional<PrintDialogAnswer> printedFromPreview; ///< what each preview is closed with
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
     int secondsAReading = 0; ///< how far the clock advances each time it is read
     bool helpIsThere = true;
@@ -96,7 +95,7 @@ public:
         RecordedPages pages(documents);
         pages.setLandscape(request.printing.landscape);
         request.print(pages);
-        return printedFromPreview;
+        return std::nullopt;
     }
     bool showHelp(const HelpRequest &request) override
     {

@@ -7,8 +7,6 @@
 
 #include "support/ScriptedDoors.h"
 
-constexpr double largest = std::numeric_limits<double>::max();
-
 TEST(Numbers, ValReadsTheNumberAtTheStartOfAText)
 {
     const std::pair<const char *, double> whole[] = {
@@ -30,7 +28,7 @@ TEST(Numbers, ValReadsTheNumberAtTheStartOfAText)
     }
     for (const char *beyond : {"1e400", "1e99999999999999999999", "10e9223372036854775807"}) {
         EXPECT_TRUE(IsNumeric(beyond) && !ReadNumber(beyond));
-        EXPECT_EQ(Val('-' + QString(beyond)), -largest);
+        EXPECT_EQ(Val('-' + QString(beyond)), -std::numeric_limits<double>::max());
     }
 }
 
