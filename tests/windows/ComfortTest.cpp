@@ -93,7 +93,6 @@ TEST_F(Memory, BringsWindowsBackAsTheyWereLeftIfTheyCanBeSeenThere)
         open("Reef");
         return arranged();
     };
-    const QPoint place = main->geometry().topLeft();
     const QString untouched = arranged();
     main->setGeometry(40, 30, 700, 620);
     logbook->parentWidget()->resize(500, 400);
@@ -115,5 +114,5 @@ TEST_F(Memory, BringsWindowsBackAsTheyWereLeftIfTheyCanBeSeenThere)
                                      {"frm_Waterlog.lstv_Livestock", "2:66 1:96"}})
         EXPECT_EQ(startOn(key, value), untouched) << key << ' ' << value;
     startOn("frm_OMKMDIMain", "700x620+5000+30");
-    EXPECT_EQ(main->geometry(), QRect(place, QSize(700, 620))) << "off every screen";
+    EXPECT_TRUE(main->screen()->availableGeometry().contains(main->geometry())) << "off every screen";
 }

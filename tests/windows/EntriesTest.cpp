@@ -51,7 +51,6 @@ const Log logs[] = {
       {"txt_Comment", "a\n\"b\"'", "Comment", ""}},
      "Oops!/48/This tank already has a water test at that date and time.",
      {{"txt_copper", "1e309", "Copper entries must less than 1000.", "9", true},
-      {"txt_user1", "-1e309", "User Field 1 entries must be a number.", "-1e3", true},
       {"txt_date", "02/29/26", "You must enter a valid date", "02/29/24", true},
       {"txt_time", "13", "You must enter a valid time", "12:30:00 pm", true}}},
     {LivestockTab,
