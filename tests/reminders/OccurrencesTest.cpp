@@ -53,11 +53,11 @@ TEST(Upcoming, KeepsTheSoonestTwentyInOrderOfDateAndTask)
 {
     UpcomingReminders upcoming;
     QStringList expected;
-    for (const char *task : {"feed", "Clean", "dose", "\u00c4rger"}) // rule by rule, the latest date first
+    for (const char *task : {"feed", "clean", "Dose", "\u00c4rger"}) // rule by rule, the latest date first
         for (int day = 30; day > 0; --day)
             upcoming.add(QDate(1998, 6, day), QString::fromUtf8(task));
     for (int day = 1; day <= 5; ++day)
-        for (const char *task : {"Clean", "dose", "feed", "\u00c4rger"})
+        for (const char *task : {"clean", "Dose", "feed", "\u00c4rger"})
             expected << QDate(1998, 6, day).toString("ddd dd.MM.yy ") + QString::fromUtf8(task);
     EXPECT_EQ(upcoming.texts("DD.MM.YY"), expected);
 }
