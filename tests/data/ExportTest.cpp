@@ -26,9 +26,6 @@ struct ExportTest : DataTest
     std::map<QString, QByteArray> there() { return contentOf(path("out")); }
 };
 
-const QByteArray waterHead =
-    "tank,date,time,ammonia,nitrite,nitrate,ph,sg,temp,oxygen,dkh,calcium,copper,orp,custom1,custom2,comment\r\n";
-
 TEST_F(ExportTest, EachFileHasAHeaderAndItsRowsInOrder)
 {
     const ExportResult result = Export(g, {.folder = path("out")});
@@ -39,8 +36,10 @@ TEST_F(ExportTest, EachFileHasAHeaderAndItsRowsInOrder)
     const std::map<QString, QByteArray> expected = {
         {"tanks.csv", "tank,description,size,water_type,notes\r\n\"Pond\",,55,\"freshwater\",\r\n\"reef "
                       "\"\"1\"\"\",,55,\"freshwater\",\r\n"},
-        {"water.csv", waterHead + "\"Pond\",2026-01-02,21:00:00,,,0.1,1e-07,,,,,,,,,,\"\"\r\n\"Pond\",2026-01-03,09:00:"
-                                  "00,,,,7.5,,,,,,,,,,\" \"\r\n"},
+        {"water.csv",
+         "tank,date,time,ammonia,nitrite,nitrate,ph,sg,temp,oxygen,dkh,calcium,copper,orp,custom1,custom2,comment\r\n"
+         "\"Pond\",2026-01-02,21:00:00,,,0.1,1e-07,,,,,,,,,,\"\"\r\n"
+         "\"Pond\",2026-01-03,09:00:00,,,,7.5,,,,,,,,,,\" \"\r\n"},
         {"livestock.csv",
          "tank,date,time,animal,quantity,status,price_paid,price_sold,date_lost,where_purchased,comment\r\n"
          "\"reef \"\"1\"\"\",2025-12-31,09:00:00,\"Goby\",2,\"Sold\",12.5,,2026-02-01,,\r\n"},

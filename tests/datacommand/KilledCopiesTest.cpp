@@ -8,7 +8,6 @@ struct KilledCopies : CommandTest
 {
     KilledCopies()
     {
-        qputenv("XDG_CONFIG_HOME", path("none").toLocal8Bit());
         change("INSERT INTO TANKLST (tankname, tankid) VALUES ('Copy', 'id')");
         m_copy = contentOf(folder.path())["OM.MDB"];
         change("UPDATE TANKLST SET tankname = 'Now'");
@@ -31,20 +30,16 @@ struct KilledCopies : CommandTest
         EXPECT_EQ(OtherProgram(path(name)).run("PRAGMA integrity_check"), "ok") << name.toStdString();
         return OtherProgram(path(name)).run("SELECT group_concat(tankname) FROM (SELECT * FROM TANKLST ORDER BY 1)");
     }
-    /// All copies must be whole. Returns the name of the one that was made today, if there is one.
-    QString copyOfToday()
+    void expectWholeCopies()
     {
-        QString today;
-        const QStringList copies = QDir(path("copies"), "*.MDB").entryList(QDir::Files);
-        for (const QString &copy : copies)
-            if (copy.contains("2026-02-")) {
-                EXPECT_EQ(contentOf(path("copies"))[copy], m_copy) << copy.toStdString();
-            } else {
-                today = "copies/" + copy;
-                EXPECT_EQ(tanksIn(today), "Now");
-            }
-        EXPECT_TRUE(copies.size() == 10 || copies.size() == 11) << copies.join(' ').toStdString();
-        return today;
+        const auto copies = contentOf(path("copies"));
+        for (int day = 12; day <= 20; ++day) // the oldest makes room for the copy of the day
+            EXPECT_EQ(copies.at(QString("OM-2026-02-%1.MDB").arg(day)), m_copy);
+        if (copies.contains("OM-2026-03-14.MDB")) {
+            EXPECT_EQ(tanksIn("copies/OM-2026-03-14.MDB"), "Now");
+        } else {
+            EXPECT_EQ(copies.at("OM-2026-02-11.MDB"), m_copy);
+        }
     }
 
     QByteArray m_copy, m_now;
@@ -54,35 +49,31 @@ TEST_F(KilledCopies, EveryDatabaseIsWholeAndTheNextTryComesThrough)
 {
     const struct
     {
-        const char *verb;
-        QString argument;
+        QStringList command;
         QString done;     ///< the tanks afterwards
-        QString keepsNow; ///< the database that then has the tank "Now"; empty: the copy of today
-    } works[] = {{"import", path("tanks.csv"), "New,Now,Other", ""},
-                 {"restore", "2026-02-17", "Copy", "OM-before-restore.MDB"}};
+        QString keepsNow; ///< the database that then has the tank "Now"
+    } works[] = {{{"import", path("tanks.csv")}, "New,Now,Other", "copies/OM-2026-03-14.MDB"},
+                 {{"restore", "2026-02-17"}, "Copy", "OM-before-restore.MDB"}};
     const int stride = KillStride(7);
     for (const auto &work : works) {
-        const QStringList command{OMK_DATA_PROGRAM, "--folder", folder.path(), work.verb, work.argument};
-        const auto keeper = [&] {
-            const QString today = copyOfToday();
-            return work.keepsNow.isEmpty() ? today : work.keepsNow;
-        };
         int kills = 0, done = 0;
         for (int call = 0; !HasFailure(); call += stride, ++kills) {
-            SCOPED_TRACE(std::string(work.verb) + ' ' + std::to_string(call));
+            SCOPED_TRACE(work.command[0].toStdString() + ' ' + std::to_string(call));
             prepare();
-            if (!KillAtCall(call, folder.path(), command))
+            if (!KillAtCall(call, folder.path(), [&] { run(work.command); }))
                 break;
             const bool isDone = tanksIn("OM.MDB") == work.done;
-            const QString hasNow = keeper();
-            EXPECT_EQ(tanksIn(isDone ? hasNow : "OM.MDB"), "Now");
+            EXPECT_EQ(tanksIn(isDone ? work.keepsNow : "OM.MDB"), "Now");
             done += isDone;
-            KillAtCall(1000, folder.path(), command);
-            EXPECT_EQ(tanksIn("OM.MDB") + ' ' + tanksIn(keeper()), work.done + " Now");
+            expectWholeCopies();
+            run(work.command);
+            EXPECT_EQ(tanksIn("OM.MDB") + ' ' + tanksIn(work.keepsNow), work.done + " Now");
+            expectWholeCopies();
             for (const QString &each : {folder.path(), path("copies")})
                 EXPECT_EQ(QDir(each).entryList({"*new-*"}, QDir::Files | QDir::Hidden), QStringList());
         }
         EXPECT_GT(kills * stride, 15);
-        std::printf("| %s, killed at each write | %d, %d of them when all was done |\n", work.verb, kills, done);
+        std::printf("| %s, killed at each write | %d, %d of them when all was done |\n", qPrintable(work.command[0]),
+                    kills, done);
     }
 }

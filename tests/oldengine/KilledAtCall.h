@@ -1,9 +1,9 @@
-// Runs a program and kills it, with every program that it has started, just before its n-th call that changes a file of
-// a folder. It watches the calls with ptrace, as a debugger does, so that it misses no write.
+// Runs a piece of work in a process and kills it, with every program that it has started, just before its n-th call
+// that changes a file of a folder. It watches the calls with ptrace, as a debugger does, so that it misses no write.
 #pragma once
 
+#include <functional>
 #include <set>
-#include <vector>
 
 #include <fcntl.h>
 #include <sys/ptrace.h>
@@ -13,7 +13,6 @@
 
 #include <gtest/gtest.h>
 #include <QFile>
-#include <QStringList>
 
 /// How many calls lie between two kills: 1 in a run with --kills=all.
 inline int KillStride(int otherwise)
@@ -37,32 +36,17 @@ inline bool IsAtChange(pid_t process, const QString &folder)
     return byName.contains(info.entry.nr) || (info.entry.nr == SYS_openat && (info.entry.args[2] & O_CREAT) != 0);
 }
 
-/// Starts a program that waits to be watched. Its process leads a group of its own, to which all that it starts belong.
-inline pid_t StartWatched(const QStringList &command)
+/// Runs the work in a process of its own. Calls count from 0. Returns false if the work ended before that call.
+inline bool KillAtCall(int call, const QString &folder, const std::function<void()> &work)
 {
-    QList<QByteArray> texts;
-    for (const QString &part : command)
-        texts << QFile::encodeName(part);
-    std::vector<char *> argv;
-    for (QByteArray &text : texts)
-        argv.push_back(text.data());
-    argv.push_back(nullptr);
-    ::setenv("ASAN_OPTIONS", "detect_leaks=0", 1); // the search does not work in a process that is watched
     const pid_t child = ::fork();
     if (child == 0) {
-        ::setpgid(0, 0);
+        ::setpgid(0, 0); // leads a group, to which all processes that it starts belong
         ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
         ::raise(SIGSTOP);
-        ::execv(argv[0], argv.data());
-        ::_exit(127);
+        work();
+        ::_exit(0);
     }
-    return child;
-}
-
-/// Calls count from 0. Returns false if the program ended before that call.
-inline bool KillAtCall(int call, const QString &folder, const QStringList &command)
-{
-    const pid_t child = StartWatched(command);
     int status = 0;
     EXPECT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_EQ(::ptrace(PTRACE_SETOPTIONS, child, nullptr,

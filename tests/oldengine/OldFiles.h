@@ -3,7 +3,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <QFile>
 #include <QtEndian>
 
 #include "data/CsvReader.h"
@@ -13,12 +12,7 @@
 struct OldFile
 {
     QString name, version;
-    QString path() const { return QStringLiteral(OMK_OLD_FILES "/") + name; }
-    QByteArray bytes() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray bytes() const { return contentOf(OMK_OLD_FILES)[name]; }
     int pageSize() const { return name.contains("jet3") ? 2048 : 4096; }
 };
 
@@ -38,10 +32,7 @@ template <class Number> QByteArray bytesOf(Number number)
 }
 inline QByteArray utf16(const QString &text)
 {
-    QByteArray bytes;
-    for (const QChar c : text)
-        bytes += bytesOf(c.unicode());
-    return bytes;
+    return QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size());
 }
 
 /// A value as both sides write it: a number has seven digits, as a single has, and an empty text is like Null.

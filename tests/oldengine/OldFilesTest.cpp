@@ -12,7 +12,6 @@
 #include "oldengine/OldOutcome.h"
 #include "OldFiles.h"
 #include "platform/core/Files.h"
-#include "store/schema.h"
 
 namespace {
 
@@ -56,7 +55,7 @@ struct OldFilesTest : testing::Test
     {
         EXPECT_EQ(OtherProgram(draft()).run("PRAGMA integrity_check"), "ok");
         const auto database = Database::OpenDatabase(draft());
-        EXPECT_EQ(outcome.counts.size(), schema::tables().size());
+        EXPECT_EQ(outcome.counts.size(), tableNames.size());
         for (const OldCount &count : outcome.counts)
             EXPECT_EQ(database->OpenRecordset("SELECT * FROM " + count.table).RecordCount(), count.rows);
     }
@@ -78,13 +77,6 @@ struct OldFilesTest : testing::Test
                 return OpenedWithAnotherValue;
         return Opened;
     }
-    static void print(const OldFile &file, const char *what, const std::array<int, Results> &times)
-    {
-        QString line = QString("| %1, %2 |").arg(file.name, what);
-        for (const int count : times)
-            line += QString(" %1 |").arg(count);
-        std::puts(qPrintable(line));
-    }
 
     QTemporaryDir folder;
 };
@@ -100,14 +92,14 @@ TEST_F(OldFilesTest, CutOffOrWithRandomBytesItIsOpenedOrToldOrRefused)
         for (int page = stride == 1 ? 0 : 5; page < bytes.size() / file.pageSize(); page += stride)
             ++cut[resultOf(file, bytes.first(page * file.pageSize()))];
         EXPECT_EQ(cut[OpenedWithAnotherValue], 0);
-        print(file, "cut off", cut);
         for (int copy = 0; copy < copies && !HasFailure(); ++copy) {
             QByteArray damaged = bytes;
             for (auto changes = 1 + random() % 64; changes > 0; --changes)
                 damaged[qsizetype(random() % std::size_t(bytes.size()))] = char(random());
             ++changed[resultOf(file, damaged)];
         }
-        print(file, "random bytes", changed);
+        std::printf("%s: cut off %s, random bytes %s\n", qPrintable(file.name), testing::PrintToString(cut).c_str(),
+                    testing::PrintToString(changed).c_str());
     }
 }
 

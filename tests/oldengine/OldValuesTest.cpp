@@ -16,17 +16,13 @@ TEST(OldValues, EveryTypeOfTheEngineBecomesAValueOfOurs)
         QString text; ///< "none" if the bytes are not a value
     } rows[] = {
         {OldType::Single, bytesOf(7.8F), ColumnKind::Double, "7.8"},
-        {OldType::Single, bytesOf(3.4028235e38F), ColumnKind::Double, "3.4028235E+38"},
         {OldType::Single, bytesOf(float(never)), ColumnKind::Double, "none"},
-        {OldType::Single, bytesOf(7.8F).first(3), ColumnKind::Double, "none"},
-        {OldType::Double, bytesOf(14.0), ColumnKind::Integer, "14"},
         {OldType::Byte, "\xff", ColumnKind::Double, "255"},
         {OldType::Integer, bytesOf(qint16(-32768)), ColumnKind::Integer, "-32768"},
         {OldType::Long, bytesOf(qint32(70000)), ColumnKind::Double, "70000"},
         {OldType::Currency, bytesOf(qint64(-1)), ColumnKind::Double, "-0.0001"},
         {OldType::Decimal, "\x80" + QByteArray(12, '\0') + bytesOf(1234), ColumnKind::Double, "-12.34"},
         {OldType::Integer, bytesOf(qint16(-1)), ColumnKind::Boolean, "1"},
-        {OldType::Byte, "\3", ColumnKind::Text, "3"},
         {OldType::Date, bytesOf(35801.9999999), ColumnKind::Date, "01/06/1998"},
         {OldType::Date, bytesOf(-1.25), ColumnKind::Date, "12/29/1899"},
         {OldType::Date, bytesOf(-1.25), ColumnKind::Time, "06:00:00 AM"},
@@ -49,7 +45,6 @@ TEST(OldValues, EveryTypeOfTheEngineBecomesAValueOfOurs)
         EXPECT_EQ(value ? value->text() : "none", row.text) << "row " << &row - rows;
     }
     EXPECT_FALSE(CanBeRead(OldType::Text, ColumnKind::Double));
-    EXPECT_FALSE(CanBeRead(OldType::Long, ColumnKind::Date));
     EXPECT_FALSE(CanBeRead(OldType(11), ColumnKind::Text)) << "a picture";
 }
 
