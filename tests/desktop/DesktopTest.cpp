@@ -24,18 +24,18 @@ private:
     DesktopDoors m_desktop;
 };
 
-/// The logbook at the tank "Reef". The tanks "Reef" and "Same" each have two water tests and an animal, at the same
-/// moments, so that a command for the wrong tank would find an entry there.
+/// The logbook at the tank "Reef". The tanks "Reef" and "Same" each have an animal, at the same moment, so that a
+/// command for the wrong tank would find an entry there.
 class Desktop : public Desk
 {
 protected:
     Desktop() : Desk(LivestockTab)
     {
         for (const char *tank : {"r1", "Same"}) {
-            for (const char *day : {"2026-03-01", "2026-03-02"})
-                addEntry(WaterTab, tank, QString(day) + " 09:30:00", "ph", "8");
             addEntry(LivestockTab, tank, "2026-03-01 09:30:00", "animalname, quantity",
                      QString("'of %1', 1").arg(tank));
+            for (const char *moment : {"2026-03-01 09:30:00", "2026-03-02 09:30:00"}) // enough for a graph
+                addEntry(WaterTab, tank, moment, "ph", "8");
         }
         hand::clickTank(*logbook, "Reef");
     }
@@ -139,7 +139,7 @@ TEST_F(Desktop, ABoxShowsAllItsTextAndBreaksNoPath)
     }
 }
 
-TEST_F(Desktop, AnEntryIsMadeChangedAndDeletedByMenuKeysAndMouse)
+TEST_F(Desktop, AnEntryIsMadeByMenuKeysAndMouse)
 {
     hand::clickTab(*logbook->tab_logtype, WaterTab);
     const auto found = logbook->TreeView1->findItems("Same", Qt::MatchExactly | Qt::MatchRecursive);
@@ -159,13 +159,6 @@ TEST_F(Desktop, AnEntryIsMadeChangedAndDeletedByMenuKeysAndMouse)
     };
     inWindow<frm_WaterAddEdit>([this] { chooseInMenu(*main->mnu_File, *main->mnu_FileNew); }, enter);
     EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same' AND ph = 7.25 AND logdate = '2026-03-14'"), 1);
-
-    for (const auto &[key, left] : {std::pair("Escape", 3), {"Return", 2}}) {
-        selectFirstRow();
-        inWindow<QMessageBox>([] { real::press("Delete"); }, [key = key](QMessageBox &) { real::press(key); });
-        EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'Same'"), left) << key;
-    }
-    EXPECT_EQ(keeper.count("WATERLOG WHERE tankname = 'r1'"), 2);
 }
 
 TEST(Program, AStartThatFailsShowsABoxSaysWhyOnStderrAndEndsWithOne)

@@ -47,10 +47,8 @@ public:
             for (const QString tank : {"r1", "Same"})
                 for (const QString day : {"2026-03-01", "2026-03-12"})
                     file.Execute("INSERT INTO " + entry + ", ?, ?, '09:30:00')", {tank, day});
-        for (const QString task : {"Feed", "Clean"})
-            file.Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "
-                         "SchedRSubtype) VALUES (?, '2026-01-01', '2027-01-01', 200, 0, 0)",
-                         {task});
+        file.Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "
+                     "SchedRSubtype) VALUES ('Feed', '2026-01-01', '2027-01-01', 200, 0, 0)");
         whole.commit();
         keeper.doors.whileBoxIsUp = [this](const MsgBoxRequest &) { meanwhile(); };
     }

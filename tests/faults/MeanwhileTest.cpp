@@ -17,16 +17,6 @@ void editReminder(Bench &bench, const char *button)
     hand::click<QPushButton>(reminders, button);
 }
 
-void deleteReminder(Bench &bench)
-{
-    hand::press(Qt::Key_E, Qt::ControlModifier);
-    bench.answerOk([] {
-        auto &reminders = Form<frm_Maintsched>();
-        hand::clickRow(*reminders.lstv_MaintSched, 1);
-        mouse::click(reminders.cmd_DeleteTask);
-    });
-}
-
 /// Deletes "Reef", which the logbook does not show.
 void deleteAnotherTank(Bench &bench)
 {
@@ -40,13 +30,12 @@ void deleteAnotherTank(Bench &bench)
     });
 }
 
-constexpr auto reminderRow = "DELETE FROM MAINTSCHED WHERE SchedTask = 'Feed'"; // the first of the list
+constexpr auto reminderRow = "DELETE FROM MAINTSCHED WHERE SchedTask = 'Feed'";
 
 const Scene otherScenes[] = {
     {"DeleteAnotherTank", WaterTab, nullptr, deleteAnotherTank},
     {"AddReminder", WaterTab, nullptr, [](Bench &bench) { editReminder(bench, "cmd_AddTask"); }},
     {"ChangeReminder", WaterTab, reminderRow, [](Bench &bench) { editReminder(bench, "cmd_update_task"); }},
-    {"DeleteReminder", WaterTab, reminderRow, deleteReminder},
 };
 
 class Meanwhile : public testing::TestWithParam<Scene>
@@ -83,7 +72,6 @@ INSTANTIATE_TEST_SUITE_P(Others, Meanwhile, testing::ValuesIn(otherScenes), name
 TEST(Settings, ThatCannotBeReadOrWrittenStopNoStart)
 {
     Keeper keeper;
-    keeper.addTank("A", "A");
     ScriptedDoors doors(keeper.folder.path()); // a folder cannot serve as the file
     keeper.restart();
     hand::openLogbook(keeper.startProgram());

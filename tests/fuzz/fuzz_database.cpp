@@ -68,18 +68,13 @@ void readTable(Database &database, const QString &table)
     FUZZ_REQUIRE(count == rows->count(), table);
 }
 
-/// Adds, changes and deletes a row. A refused row must stay under edit, and a deleted row must no longer be counted.
+/// Changes and deletes a row. A deleted row must no longer be counted.
 void writeWater(Database &database)
 {
     Recordset set = database.OpenForUpdate("waterlog");
-    set.AddNew();
-    set["Comment"].setValue(QString(5000, u'c'));
-    const bool added = attempt([&set] { set.Update(); });
-    FUZZ_REQUIRE(added || set["Comment"].text().startsWith('c'), "after adding");
     const qsizetype before = set.RecordCount();
-    set.MoveFirst();
     set.Edit();
-    set["logdate"].setValue(QDate(2004, 2, 29));
+    set["Comment"].setValue(QString(5000, u'c'));
     attempt([&set] { set.Update(); });
     const bool deleted = attempt([&set] { set.Delete(); });
     FUZZ_REQUIRE(set.RecordCount() == before - deleted, "after deleting");
@@ -89,7 +84,6 @@ void use(Database &database)
 {
     for (const schema::Table &table : schema::tables())
         attempt([&] { readTable(database, table.name); });
-    attempt([&] { ReadDatabaseVersion(database); });
     attempt([&] { ReadRules(*database.OpenRecordset("SELECT * FROM maintsched").rows()); });
     attempt([&] { writeWater(database); });
     attempt([&] { database.Execute("DELETE FROM LIVESTOCK WHERE rowid % 2 = 1"); });

@@ -52,23 +52,20 @@ void checkWalks(const RecurrenceRule &rule, const DateRange &range, DateOrder or
     FUZZ_REQUIRE(preview == LiteralWalk(rule, true).result && schedule == listed, rule.RecurrenceDetail);
 }
 
-/// If the editor shows a rule of a known pattern and finds no fault in it, it must store a rule with the same dates and
-/// show it again in the same words.
+/// A rule of a known pattern in which the editor finds no fault must have the same dates when it is stored again.
 void checkEditor(const RecurrenceRule &rule, const DateConventions &conventions)
 {
     EditorFields fields;
     ShowRecurrence(rule, conventions, fields);
     RecurrenceRule again = rule;
     StoreRecurrence(fields, conventions, again);
-    if (EditFault(fields, conventions) || rule.RecurrenceType != again.RecurrenceType ||
-        rule.RecurrenceSubtype != again.RecurrenceSubtype)
+    const bool isKnown =
+        rule.RecurrenceType == again.RecurrenceType && rule.RecurrenceSubtype == again.RecurrenceSubtype;
+    if (EditFault(fields, conventions) || !isKnown)
         return;
     const Walked walked = walk(again, previewRun, {}, conventions.order);
     FUZZ_REQUIRE(walk(rule, previewRun, {}, conventions.order) == walked, again.RecurrenceDetail);
     FUZZ_REQUIRE(MakePreview(fields, conventions).dates == walked.dates, again.RecurrenceDetail);
-    EditorFields shown = fields;
-    ShowRecurrence(again, conventions, shown);
-    FUZZ_REQUIRE(EnglishSentence(shown) == EnglishSentence(fields), EnglishSentence(shown));
 }
 
 } // namespace

@@ -14,7 +14,7 @@ struct BackupTest : StoreTest
     {
         QDir(folder.path()).mkdir("to");
         writeFile(path("to/old.MDB"), "an older file");
-        addingWater(1).Update();
+        addWater(1);
         db->Close();
     }
     void expectUnharmed()
@@ -95,16 +95,4 @@ TEST_F(BackupTest, AFailedBackupLeavesTheOldTargetAndAFailedStartNoDatabase)
     EXPECT_NO_THROW(Database::OpenDatabase(path("to/old.MDB")));
     EXPECT_EQ(contentOf(path("to")).size(), 1u);
     std::printf("| backup over an older copy, disk full, and killed, after so many bytes | %d |\n", 2 * tries);
-}
-
-TEST_F(BackupTest, AKeptOldDatabaseIsNeverOverwritten)
-{
-    writeFile(path("OM-version-1.0.MDB"), "from long ago");
-    EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-2.MDB"));
-    EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-2.MDB"));
-    open();
-    addingWater(2).Update();
-    EXPECT_EQ(KeepOldDatabase(path(), "1.0"), path("OM-version-1.0-3.MDB"));
-    EXPECT_EQ(KeepOldDatabase(path(), "1.1"), path("OM-version-1.1.MDB"));
-    EXPECT_EQ(contentOf(folder.path())["OM-version-1.0.MDB"], "from long ago");
 }

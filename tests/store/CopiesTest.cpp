@@ -7,7 +7,7 @@ struct CopiesTest : StoreTest
 {
     CopiesTest()
     {
-        addingWater(1).Update();
+        addWater(1);
         keep();
     }
     void keep()
@@ -27,16 +27,16 @@ struct CopiesTest : StoreTest
 TEST_F(CopiesTest, TheFirstChangeOfADayIsPrecededByACopyWhateverChangesTheFile)
 {
     const std::function<void()> changes[] = {
-        [this] { addingWater(2).Update(); },
-        [this] { db->Execute("INSERT INTO WATERLOG (tankname, logdate, logtime) VALUES ('T', '2003-02-01', '9')"); },
+        [this] { addWater(2); },
+        [this] { db->OpenForUpdate("WATERLOG").Delete(); },
         [this] {
             Database::Transaction whole(*db);
-            addingWater(3).Update();
+            addWater(3);
             whole.commit();
         },
         [this] {
             db->LetGo(); // for a backup; the next use opens the file again
-            addingWater(4).Update();
+            addWater(4);
         },
     };
     int day = 14;
@@ -77,15 +77,15 @@ TEST_F(CopiesTest, TheLastDaysAreKeptAndEveryFileOfTheKeepers)
     EXPECT_EQ(copies().size(), 3 + 10);
     EXPECT_TRUE(copies().contains("OM-2026-03-16.MDB")) << "the copy of the day is never the one to go";
     onDay(17);
-    addingWater(2).Update();
+    addWater(2);
     EXPECT_FALSE(copies().contains("OM-2026-03-17.MDB")) << "there was nothing to copy";
 }
 
 TEST_F(CopiesTest, ACopyThatCannotBeMadeIsToldOnceADayAndWorkGoesOn)
 {
     writeFile(path("copies"), "in the way");
-    addingWater(2).Update();
-    addingWater(3).Update();
+    addWater(2);
+    addWater(3);
     ASSERT_EQ(told.size(), 1);
     EXPECT_TRUE(told[0].startsWith("No copy of the logbook was made today: ")) << told[0].toStdString();
     EXPECT_EQ(count("WATERLOG"), 3);
@@ -100,7 +100,7 @@ TEST_F(CopiesTest, ACopyThatCannotBeMadeIsToldOnceADayAndWorkGoesOn)
         EXPECT_TRUE(copies().isEmpty()) << "a part of a copy, of " << room;
     }
     onDay(++day);
-    addingWater(4).Update();
+    addWater(4);
     EXPECT_EQ(told.size(), day - 14);
     EXPECT_EQ(testsIn(QString("OM-2026-03-%1.MDB").arg(day)), "3");
 }

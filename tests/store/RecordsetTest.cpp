@@ -22,7 +22,7 @@ TEST_F(RecordsetTest, ADuplicateIsRefused)
 TEST_F(RecordsetTest, UpdateWritesOnlyTheChangedColumns)
 {
     for (const int day : {5, 3, 9, 1})
-        addingWater(day, day + 0.5).Update();
+        addWater(day);
     Recordset rows = db->OpenForUpdate("waterlog", "ORDER BY logdate");
     rows.MoveNext();
     rows.Edit();

@@ -63,16 +63,11 @@ struct StoreTest : testing::Test
     void open() { db = Database::OpenDatabase(path()); }
     QString asked(const QString &sql) { return OtherProgram(path()).run(sql); }
     qsizetype count(const QString &table) { return db->OpenRecordset("SELECT * FROM " + table).RecordCount(); }
-    /// Begins a water test of tank "T" at 9 o'clock on that day of January 2003.
-    Recordset addingWater(int day, double ph = 8)
+    /// Adds a water test of tank "T" at 9 o'clock on that day of January 2003, with a pH of half more than the day.
+    void addWater(int day)
     {
-        Recordset rows = db->OpenForAppend("WATERLOG");
-        rows.AddNew();
-        rows["tankname"].setValue(QString("T"));
-        rows["logdate"].setValue(QDate(2003, 1, day));
-        rows["logtime"].setValue(QTime(9, 0));
-        rows["ph"].setValue(ph);
-        return rows;
+        db->Execute("INSERT INTO WATERLOG (tankname, logdate, logtime, ph) VALUES ('T', ?, '09:00:00', ?)",
+                    {QDate(2003, 1, day), day + 0.5});
     }
 
     QTemporaryDir folder;
