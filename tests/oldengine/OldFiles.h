@@ -35,12 +35,13 @@ inline QByteArray utf16(const QString &text)
     return QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size());
 }
 
-/// A value as both sides write it: a number has seven digits, as a single has, and an empty text is like Null.
+/// A value as both sides write it: numbers are compared as singles, which most of them are, and an empty text is like
+/// Null.
 inline QString plain(const QString &text)
 {
     bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    return isNumber ? QString::number(number + 0.0, 'g', 7) : text.isEmpty() ? QString("Null") : text;
+    const double number = text.toFloat(&isNumber);
+    return isNumber ? QString::number(number + 0.0, 'g', 9) : text.isEmpty() ? QString("Null") : text;
 }
 
 /// The rows of a table in our database and in the CSV, a line each, sorted, in the columns of the CSV.
