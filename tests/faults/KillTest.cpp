@@ -2,7 +2,6 @@
 // nothing may be there in part. By default it kills twenty times; omk_tests_faults --kills=600 is the long run, whose
 // table is in docs/RELIABILITY.md.
 #include <sys/mman.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <random>

@@ -3,8 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <utility>
 
 #include "support/ScriptedDoors.h"
@@ -13,10 +11,8 @@
 /// Ends the process if the condition is false, so that libFuzzer keeps the input. `seen` describes what was found.
 #define FUZZ_REQUIRE(holds, seen)                                                                                      \
     do {                                                                                                               \
-        if (!(holds)) {                                                                                                \
-            std::fprintf(stderr, "%s:%d: %s\n%s\n", __FILE__, __LINE__, #holds, qPrintable(QString(seen)));            \
-            std::abort();                                                                                              \
-        }                                                                                                              \
+        if (!(holds))                                                                                                  \
+            qFatal("%s:%d: %s\n%s", __FILE__, __LINE__, #holds, qPrintable(QString(seen)));                            \
     } while (false)
 
 /// Reads the input from its start. Past its end, lines are empty and numbers are 0.

@@ -2,17 +2,13 @@
 #include "Fuzzing.h"
 #include "logic/common/NameFile.h"
 
-namespace {
-
 /// The expected text: valid UTF-8 is read as UTF-8, anything else as Latin-1, so that no letter is lost or changed.
-QString lettersOf(const QByteArray &bytes)
+static QString lettersOf(const QByteArray &bytes)
 {
     const QString text = QString::fromUtf8(bytes);
     const QByteArray withoutMark = bytes.startsWith("\xef\xbb\xbf") ? bytes.sliced(3) : bytes;
     return text.toUtf8() == withoutMark ? text : QString::fromLatin1(bytes);
 }
-
-} // namespace
 
 void fuzz(Input &input)
 {
