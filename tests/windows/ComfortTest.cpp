@@ -1,6 +1,7 @@
 // What every window must offer to a keeper who uses no mouse, cannot see the screen, or has arranged the desktop.
 #include "AllWindows.h"
 #include "Desk.h"
+#include "support/TestFiles.h"
 
 namespace {
 
@@ -77,6 +78,42 @@ TEST_F(Keys, EnterInsertAndDeleteInAListDoWhatItsButtonsDo)
     keeper.doors.answers = {MsgBoxAnswer::OK};
     hand::press(Qt::Key_Delete);
     EXPECT_EQ(keeper.count("WATERLOG"), 0);
+}
+
+TEST_F(Keys, LettersGoToARowOfEachListAndRightToItsNextCell)
+{
+    for (const char *moment : {"2026-03-01 09:30:00", "2026-11-02 09:30:00", "2026-12-03 09:30:00"})
+        addEntry(WaterTab, "r1", moment, "ph", "8");
+    hand::clickTank(*logbook, "Reef"); // shows them
+    for (const char *names : {"NAMESSW.TXT", "NAMESFW.TXT"})
+        writeFile(names, QByteArray("Tang").leftJustified(60) + "\n" + QByteArray("Cowfish").leftJustified(60) + '\n');
+    const struct
+    {
+        QWidget *(*open)(frm_OMKMDIMain &);
+        const char *list, *keys, *row;
+        const char *cell; ///< the heading of the next cell; empty where a row has only one
+    } cases[] = {
+        {makeShown<frm_Waterlog>, "lstv_WaterLog", "12", "12/03/26", "ph"},
+        {makeShown<frm_Waterlog>, "TreeView1", "bo", "Bowl", ""},
+        {makeShown<frm_LatintoCommon>, "lstv_Names", "co", "Cowfish", "Latin Name"},
+        {makeShown<frm_Conversions>, "lstv_Convert", "ga", "Gallons", "Convert To"},
+        {makeShown<frm_Fantasy>, "lst_select", "tr", "Trigger", ""},
+    };
+    QApplication::setKeyboardInputInterval(60000);
+    for (const auto &[open, list, keys, row, cell] : cases) {
+        QWidget &window = *open(*main);
+        EXPECT_TRUE(isInFront(*window.window()));
+        auto &view = control<QAbstractItemView>(window, list);
+        for (int tab = 0; tab < 40 && !view.hasFocus(); ++tab)
+            hand::press(Qt::Key_Tab);
+        hand::write(keys);
+        EXPECT_TRUE(view.currentIndex().siblingAtColumn(0).data().toString().startsWith(row)) << list << ' ' << keys;
+        if (*cell) {
+            hand::press(Qt::Key_Right);
+            EXPECT_EQ(view.model()->headerData(view.currentIndex().column(), Qt::Horizontal).toString(), cell);
+        }
+    }
+    QApplication::setKeyboardInputInterval(-1);
 }
 
 using Memory = Desk;

@@ -18,6 +18,12 @@ int lacks(const QWidget &control)
         const QString longest(box->maxLength() <= shortText ? box->maxLength() : 1, u'0');
         return box->fontMetrics().horizontalAdvance(longest) + frameAndMargins - box->width();
     }
+    if (const auto *heads = qobject_cast<const QHeaderView *>(&control)) {
+        int most = 0;
+        for (int section = 0; section < heads->count(); ++section)
+            most = std::max(most, heads->sectionSizeHint(section) - heads->sectionSize(section));
+        return most;
+    }
     const QVariant text = control.property(qobject_cast<const QGroupBox *>(&control) ? "title" : "text");
     if (text.toString().isEmpty() || qobject_cast<const QProgressBar *>(&control))
         return 0;
@@ -39,6 +45,21 @@ bool isCut(const QWidget &control, const QWidget &window)
     return false;
 }
 
+/// Whether two controls that show something lie over each other.
+bool isUnderAnother(const QWidget &control)
+{
+    const auto shows = [](const QWidget *widget) {
+        return qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget) ||
+               qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+               qobject_cast<const QAbstractScrollArea *>(widget);
+    };
+    const auto others = control.parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    return shows(&control) && std::ranges::any_of(others, [&](const QWidget *other) {
+               return other != &control && other->isVisible() && shows(other) &&
+                      other->geometry().intersects(control.geometry());
+           });
+}
+
 QStringList misfits(const QWidget &window)
 {
     QStringList found;
@@ -51,6 +72,8 @@ QStringList misfits(const QWidget &window)
             found << QString("%1 lacks %2").arg(name).arg(lack);
         if (isCut(*control, window))
             found << name + " is cut";
+        if (isUnderAnother(*control))
+            found << name + " is under another";
     }
     return found;
 }

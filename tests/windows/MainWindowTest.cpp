@@ -1,5 +1,6 @@
 #include "AllWindows.h"
 #include "Desk.h"
+#include "platform/chart/Chart.h"
 
 using TheMainWindow = Desk;
 
@@ -80,4 +81,38 @@ TEST_F(TheMainWindow, TheLogCommandsGoWithTheLogbookAndAPressAnywhereBringsItToT
         EXPECT_TRUE(main->isInFront(*logbook) && main->mnu_FileNew->isEnabled() && main->mnu_FileOpen->isEnabled())
             << pressed->metaObject()->className();
     }
+}
+
+TEST_F(TheMainWindow, TilesItsChildrenNoSmallerThanTheyCanBeAndForgetsThoseSizes)
+{
+    const QSize size = logbook->parentWidget()->size();
+    for (const char *tool : {"mnu_ToolsConversions", "mnu_ToolsCommonNames"})
+        hand::choose(*main, *main->mnu_Tools, tool);
+    const auto &units = Form<frm_Conversions>();
+    const auto between = [&] { return logbook->parentWidget()->pos() - units.parentWidget()->pos(); };
+    hand::choose(*main, *main->mnu_Window, "mnu_WindowTileVertical");
+    EXPECT_TRUE(between().x() != 0 && between().y() == 0) << "side by side";
+    EXPECT_GE(units.lbl_From->width(),
+              units.lbl_From->fontMetrics().horizontalAdvance("Gallons Per Minute Flow (gpm)"));
+    logbook->close();
+    logbook = &hand::openLogbook(*main);
+    EXPECT_EQ(logbook->parentWidget()->size(), size);
+    hand::choose(*main, *main->mnu_Window, "mnu_WindowTileHorizontal");
+    EXPECT_TRUE(between().x() == 0 && between().y() != 0) << "one above the other";
+}
+
+TEST_F(TheMainWindow, EachEmptyPlaceSaysWhatToDo)
+{
+    const auto says = [](const QWidget &place) {
+        QCoreApplication::processEvents();
+        return place.accessibleDescription();
+    };
+    EXPECT_EQ(says(*main->centralWidget()), "") << "the logbook is open";
+    EXPECT_TRUE(says(list()).startsWith("There are no entries yet."));
+    hand::clickTank(*logbook, "All Tanks");
+    EXPECT_TRUE(says(list()).startsWith("Choose a tank on the left"));
+    hand::press(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_TRUE(says(*Form<frm_Maintsched>().lstv_MaintSched).startsWith("There are no reminders yet."));
+    hand::press(Qt::Key_G, Qt::ControlModifier);
+    EXPECT_TRUE(says(*Form<frm_WaterGraph>().Chart1).startsWith("There is no graph yet."));
 }
