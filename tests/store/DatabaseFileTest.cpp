@@ -47,10 +47,9 @@ TEST_F(DatabaseFileTest, ForeignAndDamagedFilesAreRefused)
 TEST_F(DatabaseFileTest, ReadOnlyAndLockedFilesAreRefused)
 {
     for (const QString &what : {path(), folder.path()}) {
-        const QByteArray name = QFile::encodeName(what);
-        ASSERT_EQ(::chmod(name.constData(), 0555), 0);
+        ASSERT_EQ(::chmod(qPrintable(what), 0555), 0);
         expectRefused(Failure::PermissionDenied, "read-only");
-        ::chmod(name.constData(), 0755); // so that the folder can be removed
+        ::chmod(qPrintable(what), 0755); // so that the folder can be removed
     }
     Database::setBusyTimeout(10);
     OtherProgram other(path());
