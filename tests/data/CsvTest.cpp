@@ -1,10 +1,8 @@
-// Tests of the CSV reader and writer alone.
+// Tests of the CSV reader alone.
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
 
 #include "data/CsvReader.h"
-#include "data/CsvWriter.h"
-#include "platform/core/RuntimeFailure.h"
 #include "support/ScriptedDoors.h"
 #include "support/TestFiles.h"
 
@@ -12,7 +10,7 @@ namespace {
 
 struct CsvTest : testing::Test
 {
-    QString path(const QString &name = "a.csv") const { return folder.filePath(name); }
+    QString path() const { return folder.filePath("a.csv"); }
 
     /// The records as "line:[value][value]", with ~ for nothing, and at last "line!" for a fault.
     QString read(const QByteArray &content, char delimiter = ',')
@@ -72,39 +70,6 @@ TEST_F(CsvTest, TheCutsOfTheBlocksDoNotShow)
         }
         ASSERT_EQ(read(content), expected) << shift;
     }
-}
-
-TEST_F(CsvTest, AFileThatCannotBeReadIsAFailure)
-{
-    for (const QString &name : {path("none.csv"), folder.path()})
-        EXPECT_THROW(CsvReader(name, ','), RuntimeFailure) << name.toStdString();
-}
-
-TEST_F(CsvTest, WhatIsWrittenIsWholeUnderItsNameOrNotThere)
-{
-    {
-        CsvWriter csv(path());
-        csv.bare("n");
-        csv.text(QString("t"));
-        csv.endRow();
-        csv.number(0.1);
-        csv.text(QString("a\"b,\nc"));
-        csv.null();
-        csv.text(QString(""));
-        csv.number(-1.7976931348623157e308);
-        csv.text(std::string_view("\xff"));
-        csv.endRow();
-        csv.end();
-        EXPECT_EQ(contentOf(folder.path()).count("a.csv"), 0u);
-        csv.giveName(false);
-    }
-    EXPECT_EQ(contentOf(folder.path()),
-              (std::map<QString, QByteArray>{{"a.csv", "n,\"t\"\r\n0.1,\"a\"\"b,\nc\",,\"\",-1.7976931348623157e+308,"
-                                                       "\"\xef\xbf\xbd\"\r\n"}}));
-    CsvWriter other(path());
-    other.end();
-    EXPECT_THROW(other.giveName(false), RuntimeFailure);
-    EXPECT_NE(contentOf(folder.path())["a.csv"], "");
 }
 
 } // namespace

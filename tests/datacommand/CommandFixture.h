@@ -39,6 +39,13 @@ struct CommandTest : StoreTest
         told.err = QString::fromStdString(testing::internal::GetCapturedStderr());
         return told;
     }
+    /// The command must fail and say these words.
+    void expectFailure(const QStringList &arguments, const QString &words)
+    {
+        const Told told = run(arguments);
+        EXPECT_EQ(told.status, 1) << words.toStdString();
+        EXPECT_TRUE(told.err.contains(words)) << testing::PrintToString(told);
+    }
     /// Changes the file as another program would.
     void change(const QString &sql) { EXPECT_EQ(asked(sql), ""); }
     void addTank(const QString &name)

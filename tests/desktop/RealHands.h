@@ -26,7 +26,7 @@ inline void xdotool(const QStringList &arguments)
 
 /// `place` is in the coordinates of the widget, by default its middle. A window that has just opened may still be
 /// moving.
-inline void moveTo(const QWidget &widget, std::optional<QPoint> place = {})
+inline void click(const QWidget &widget, std::optional<QPoint> place = {})
 {
     const auto pointerIsThere = [&] {
         const QPoint target = widget.mapToGlobal(place.value_or(widget.rect().center()));
@@ -35,34 +35,13 @@ inline void moveTo(const QWidget &widget, std::optional<QPoint> place = {})
         return QCursor::pos() == widget.mapToGlobal(place.value_or(widget.rect().center()));
     };
     EXPECT_TRUE(happens(pointerIsThere)) << widget.objectName().toStdString();
-}
-
-/// Buttons 1 to 3 are those of the mouse, 4 and 5 the wheel up and down.
-inline void click(const QWidget &widget, std::optional<QPoint> place = {}, int button = 1)
-{
-    moveTo(widget, place);
-    xdotool({"click", QString::number(button)});
-}
-
-inline void drag(const QWidget &widget, const QPoint &by)
-{
-    moveTo(widget);
-    xdotool({"mousedown", "1"});
-    for (int step = 1; step <= 4; ++step)
-        xdotool({"mousemove_relative", "--", QString::number(by.x() / 4), QString::number(by.y() / 4)});
-    xdotool({"mouseup", "1"});
+    xdotool({"click", "1"});
 }
 
 /// "Return", "ctrl+n", "alt+o".
 inline void press(const QString &key) { xdotool({"key", key}); }
 
 inline void write(const QString &text) { xdotool({"type", "--delay", "1", text}); }
-
-inline void clickItem(QAbstractItemView &view, const QModelIndex &index)
-{
-    view.scrollTo(index);
-    click(*view.viewport(), view.visualRect(index).center());
-}
 
 /// Says what the keeper does once another window of that type is in front and accepts keys. It must be called before
 /// the key or click that opens the window.

@@ -1,26 +1,18 @@
-// What the fuzz targets share: reading the input piece by piece, the doors with their clock, a folder in memory for
-// files, and the check that ends a run. A target checks what must be true for every input.
+// What the fuzz targets share: reading the input piece by piece, the doors, a folder in memory for files, and the check
+// that ends a run. A target checks what must be true for every input.
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <utility>
 
-#include <QByteArray>
-#include <QFile>
-#include <QString>
-#include <QTemporaryDir>
-
 #include "support/ScriptedDoors.h"
+#include "support/TestFiles.h"
 
 /// Ends the process if the condition is false, so that libFuzzer keeps the input. `seen` describes what was found.
 #define FUZZ_REQUIRE(holds, seen)                                                                                      \
     do {                                                                                                               \
-        if (!(holds)) {                                                                                                \
-            std::fprintf(stderr, "%s:%d: %s\n%s\n", __FILE__, __LINE__, #holds, qPrintable(QString(seen)));            \
-            std::abort();                                                                                              \
-        }                                                                                                              \
+        if (!(holds))                                                                                                  \
+            qFatal("%s:%d: %s\n%s", __FILE__, __LINE__, #holds, qPrintable(QString(seen)));                            \
     } while (false)
 
 /// Reads the input from its start. Past its end, lines are empty and numbers are 0.
@@ -34,8 +26,8 @@ public:
     QString line()
     {
         const qsizetype end = m_rest.indexOf('\n');
-        const QByteArrayView line = end < 0 ? m_rest : m_rest.first(end);
-        m_rest = end < 0 ? QByteArrayView() : m_rest.sliced(end + 1);
+        const QByteArray line = m_rest.first(end < 0 ? m_rest.size() : end);
+        m_rest.remove(0, line.size() + 1);
         return QString::fromUtf8(line);
     }
     /// Reads one byte as a number from 0 to `count` - 1. The digit "0" gives 0, so that inputs can be read and written
@@ -45,45 +37,30 @@ public:
     std::uint32_t number(int length)
     {
         std::uint32_t value = 0;
-        for (; length > 0 && !m_rest.isEmpty(); --length, m_rest = m_rest.sliced(1))
+        for (; length > 0 && !m_rest.isEmpty(); --length, m_rest.remove(0, 1))
             value = value << 8 | std::uint8_t(m_rest.front());
         return value;
     }
-    QByteArray rest() { return std::exchange(m_rest, {}).toByteArray(); }
+    QByteArray rest() { return std::exchange(m_rest, {}); }
 
 private:
-    QByteArrayView m_rest;
+    QByteArray m_rest;
 };
 
 /// Path of a file in a folder that is removed when the process ends; in memory if the system allows it.
 inline QString scratchPath(const QString &name)
 {
-    static const QTemporaryDir memory(QStringLiteral("/dev/shm/omk_fuzz-XXXXXX"));
-    static const QTemporaryDir disk;
+    static const QTemporaryDir memory("/dev/shm/omk_fuzz-XXXXXX"), disk;
     return (memory.isValid() ? memory : disk).filePath(name);
 }
 
-inline void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    FUZZ_REQUIRE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size(), path);
-}
-
-inline QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    FUZZ_REQUIRE(file.open(QIODevice::ReadOnly), path);
-    return file.readAll();
-}
-
-/// Each target implements this: one run with one input. The doors are installed; their clock keeps the time of the run
-/// before.
-void fuzz(Input &input, ScriptedDoors &doors);
+/// Each target implements this: one run with one input. The doors are installed.
+void fuzz(Input &input);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static ScriptedDoors doors;
+    static const ScriptedDoors doors;
     Input input(data, size);
-    fuzz(input, doors);
+    fuzz(input);
     return 0;
 }

@@ -1,8 +1,5 @@
 // Fuzzes the import with any options and any bytes: either nothing is stored and a fault is reported, or all rows are
 // stored. Then everything is exported, and importing these files again must find that all their rows already exist.
-#include <QDir>
-
-#include "data/CsvReader.h"
 #include "data/Export.h"
 #include "data/Import.h"
 #include "Fuzzing.h"
@@ -18,26 +15,18 @@ const QStringList tables = {"TANKLST", "WATERLOG", "LIVESTOCK", "MAINTLOG", "MAI
 Globals &emptied()
 {
     static Globals *const g = [] {
-        CreateDatabase(scratchPath(QStringLiteral("OM.MDB")));
+        CreateDatabase(scratchPath("OM.MDB"));
         auto *globals = new Globals;
-        globals->gDatabase = Database::OpenDatabase(scratchPath(QStringLiteral("OM.MDB")));
+        globals->gDatabase = Database::OpenDatabase(scratchPath("OM.MDB"));
         return globals;
     }();
     Database::Transaction whole(*g->gDatabase);
     for (const QString &table : tables)
-        g->gDatabase->Execute(u"DELETE FROM " + table);
-    g->gDatabase->Execute(QStringLiteral("INSERT INTO TANKLST (tankname, tankid, tanksize) VALUES ('T', 'id', 1)"));
+        g->gDatabase->Execute("DELETE FROM " + table);
+    g->gDatabase->Execute("INSERT INTO TANKLST (tankname, tankid, tanksize) VALUES ('T', 'id', 1)");
     whole.commit();
     ReadOptions(*g);
     return *g;
-}
-
-qint64 rowsIn(Database &database)
-{
-    qint64 rows = 0;
-    for (const QString &table : tables)
-        rows += database.OpenRecordset(u"SELECT * FROM " + table).RecordCount();
-    return rows;
 }
 
 ImportOptions optionsFrom(Input &input)
@@ -50,19 +39,20 @@ ImportOptions optionsFrom(Input &input)
     options.decimalComma = flags & 1;
     options.replaces = flags & 2;
     options.isDryRun = flags & 4;
-    options.tank = flags & 8 ? QStringLiteral("T") : QString();
+    options.tank = flags & 8 ? "T" : "";
     input.line();
     options.map = ReadMap(input.line()).value_or(options.map);
     return options;
 }
 
+/// Faults must be reported one by one, each as one line, in the order of the lines.
 ImportResult importChecked(Globals &g, const QString &path, const ImportOptions &options)
 {
     qint64 told = 0, line = 1;
     const ImportResult result = Import(g, path, options, [&](const ImportFault &fault) {
         ++told;
-        FUZZ_REQUIRE(fault.line >= line, FaultText(fault));
-        FUZZ_REQUIRE(!fault.reason.isEmpty() && !FaultText(fault).contains(u'\n'), FaultText(fault));
+        FUZZ_REQUIRE(fault.line >= line && !fault.reason.isEmpty(), FaultText(fault));
+        FUZZ_REQUIRE(!FaultText(fault).contains('\n'), FaultText(fault));
         line = fault.line;
     });
     FUZZ_REQUIRE(told == result.faults, QString::number(told));
@@ -71,23 +61,25 @@ ImportResult importChecked(Globals &g, const QString &path, const ImportOptions 
 
 } // namespace
 
-void fuzz(Input &input, ScriptedDoors &)
+void fuzz(Input &input)
 {
     Globals &g = emptied();
     const ImportOptions options = optionsFrom(input);
-    static const QString path = scratchPath(QStringLiteral("in.csv"));
+    const QString path = scratchPath("in.csv"), folder = scratchPath("out");
     writeFile(path, input.rest());
 
     const ImportResult first = importChecked(g, path, options);
     const bool isStored = first.faults == 0 && !options.isDryRun;
-    FUZZ_REQUIRE(rowsIn(*g.gDatabase) == 1 + (isStored ? first.added : 0), first.entry);
+    qint64 rows = 0;
+    for (const QString &table : tables)
+        rows += g.gDatabase->OpenRecordset("SELECT * FROM " + table).RecordCount();
+    FUZZ_REQUIRE(rows == 1 + (isStored ? first.added : 0), first.entry);
     if (!isStored)
         return;
     const ImportResult second = importChecked(g, path, options);
-    FUZZ_REQUIRE(second.added == 0 && second.replaced == 0 && second.faults == 0, second.entry);
-    FUZZ_REQUIRE(second.passedOver == first.added + first.replaced + first.passedOver, second.entry);
+    const qint64 all = first.added + first.replaced + first.passedOver;
+    FUZZ_REQUIRE(second.passedOver == all && second.added + second.replaced + second.faults == 0, second.entry);
 
-    static const QString folder = scratchPath(QStringLiteral("out"));
     const ExportResult out = Export(g, {.folder = folder, .replaces = true});
     FUZZ_REQUIRE(out.refusal.isEmpty() && out.lost == 0, out.refusal);
     for (const ExportedFile &file : out.files) {

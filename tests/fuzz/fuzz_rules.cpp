@@ -1,12 +1,11 @@
-// Fuzzes the columns of a stored reminder: its rule is read, walked in all three runs and compared with the second
-// walk, shown in the editor, and stored again.
-#include <algorithm>
+// Fuzzes the columns of a stored reminder: its rule is read, walked in all three runs, compared with a second walk that
+// is slow and literal, shown in the editor, and stored again.
+#include <QRegularExpression>
 
 #include "Fuzzing.h"
 #include "LiteralWalk.h"
 #include "logic/reminders/Occurrences.h"
 #include "logic/reminders/RuleFields.h"
-#include "platform/core/RuntimeFailure.h"
 #include "store/Database.h"
 #include "store/NewDatabase.h"
 
@@ -14,32 +13,19 @@ namespace {
 
 constexpr int longestDays = 60 * 366; // the longest range of a rule, so that an input takes milliseconds
 
-/// A stored value: "" is Null, "i5" a whole number, "f5" a number, all else a text.
-Value stored(const QString &text)
-{
-    const QString rest = text.mid(1);
-    switch (text.isEmpty() ? 0 : text[0].unicode()) {
-    case 0: return {};
-    case u'i': return rest.toLongLong();
-    case u'f': return rest.toDouble();
-    default: return text;
-    }
-}
-
 /// Writes the row to a database and reads it back, so that the columns convert its values as they do for a keeper.
 std::vector<RecurrenceRule> readBack(const Parameters &values)
 {
     static const auto database = [] {
-        CreateDatabase(scratchPath(QStringLiteral("OM.MDB")));
-        return Database::OpenDatabase(scratchPath(QStringLiteral("OM.MDB")));
+        CreateDatabase(scratchPath("OM.MDB"));
+        return Database::OpenDatabase(scratchPath("OM.MDB"));
     }();
     static Database::Transaction unfinished(*database); // never committed, so that nothing waits for a disk
-    database->Execute(QStringLiteral("DELETE FROM MAINTSCHED"));
-    database->Execute(QStringLiteral("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, "
-                                     "SchedRtype, SchedRSubtype, SchedDetailText, SchedEnglishDesc) "
-                                     "VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+    database->Execute("DELETE FROM MAINTSCHED");
+    database->Execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "
+                      "SchedRSubtype, SchedDetailText, SchedEnglishDesc) VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
                       values);
-    return ReadRules(*database->OpenRecordset(QStringLiteral("SELECT * FROM maintsched")).rows());
+    return ReadRules(*database->OpenRecordset("SELECT * FROM maintsched").rows());
 }
 
 Walked walk(const RecurrenceRule &rule, const OccurrenceRun &run, const DateRange &range, DateOrder order)
@@ -56,56 +42,47 @@ void checkWalks(const RecurrenceRule &rule, const DateRange &range, DateOrder or
 {
     const Walked preview = walk(rule, previewRun, range, order), schedule = walk(rule, scheduleRun, range, order);
     FUZZ_REQUIRE(schedule == walk(rule, upcomingRun, range, order), rule.RecurrenceDetail);
-    Walked named = preview, listed = preview; // a single date has no second walk
-    if (LiteralWalk::canRead(rule)) {
-        named = LiteralWalk(rule, true).result;
-        listed = LiteralWalk(rule, false).result;
-    } else if (!rule.is(Pattern::Once)) {
-        return;
-    }
+    static const QRegularExpression plain("^(0[01] .*|1[01] [01]{7}|20 \\d{1,2}|21 \\d\\d|30 \\d{1,2}|31 \\d{4})$",
+                                          QRegularExpression::DontCaptureOption);
+    const QString form = QString("%1%2 ").arg(rule.RecurrenceType).arg(rule.RecurrenceSubtype) + rule.RecurrenceDetail;
+    if (rule.StartDate.year() <= 1000 || !rule.EndDate.isValid() || !plain.match(form).hasMatch())
+        return; // the second walk is not made for it
+    Walked listed = LiteralWalk(rule, false).result;
     std::erase_if(listed.dates, [&range](QDate d) { return d < range.from || d > range.to; });
-    FUZZ_REQUIRE(preview == named && schedule == listed, rule.RecurrenceDetail);
+    FUZZ_REQUIRE(preview == LiteralWalk(rule, true).result && schedule == listed, rule.RecurrenceDetail);
 }
 
-/// If the editor shows a rule and finds no fault in it, it must store a rule with the same dates and show it again in
-/// the same words.
+/// A rule of a known pattern in which the editor finds no fault must have the same dates when it is stored again.
 void checkEditor(const RecurrenceRule &rule, const DateConventions &conventions)
 {
     EditorFields fields;
-    try {
-        ShowRecurrence(rule, conventions, fields);
-    } catch (const RuntimeFailure &failure) {
-        FUZZ_REQUIRE(failure.number() == Failure::TypeMismatch, failure.description());
-        return;
-    }
+    ShowRecurrence(rule, conventions, fields);
     RecurrenceRule again = rule;
     StoreRecurrence(fields, conventions, again);
-    const bool known = rule.RecurrenceType >= 0 && rule.RecurrenceType <= qint16(Pattern::Once) &&
-                       (rule.RecurrenceSubtype == 0 || rule.RecurrenceSubtype == 1);
-    if (EditFault(fields, conventions) || !known)
+    const bool isKnown =
+        rule.RecurrenceType == again.RecurrenceType && rule.RecurrenceSubtype == again.RecurrenceSubtype;
+    if (EditFault(fields, conventions) || !isKnown)
         return;
     const Walked walked = walk(again, previewRun, {}, conventions.order);
     FUZZ_REQUIRE(walk(rule, previewRun, {}, conventions.order) == walked, again.RecurrenceDetail);
     FUZZ_REQUIRE(MakePreview(fields, conventions).dates == walked.dates, again.RecurrenceDetail);
-    EditorFields shown = fields;
-    ShowRecurrence(again, conventions, shown);
-    FUZZ_REQUIRE(EnglishSentence(shown) == EnglishSentence(fields), EnglishSentence(shown));
 }
 
 } // namespace
 
-void fuzz(Input &input, ScriptedDoors &)
+void fuzz(Input &input)
 {
     constexpr DateOrder orders[] = {DateOrder::MMDDYY, DateOrder::DDMMYY, DateOrder::YYMMDD};
     const DateOrder order = orders[input.choice(3)];
-    const DateConventions conventions{order, MakeDatePicture(order, QStringLiteral("/-.").at(input.choice(3)))};
+    const DateConventions conventions{order, MakeDatePicture(order, QString("/-.").at(input.choice(3)))};
     const QDate from = QDate(1990, 1, 1).addDays(input.number(2));
     const DateRange range{from, from.addDays(input.choice(256) * 4)};
     input.line();
     Parameters values;
-    for (int column = 0; column < 8; ++column)
-        values.push_back(stored(input.line()));
-
+    for (int column = 0; column < 8; ++column) {
+        const QString text = input.line();
+        values.push_back(text.isEmpty() ? Value() : Value(text)); // the column makes a number of it if it can
+    }
     for (RecurrenceRule &rule : readBack(values)) {
         if (rule.StartDate.isValid() && rule.StartDate.daysTo(rule.EndDate) > longestDays)
             rule.EndDate = rule.StartDate.addDays(longestDays);

@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QDialog>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -18,14 +16,13 @@
 
 namespace {
 
-/// A window with two boxes that refuse "bad", a plain button, OK and Cancel. It is shown with the focus in the first
-/// box.
+/// A window with two boxes that refuse "bad", OK and Cancel. It is shown with the focus in the first box.
 struct EntryWindow : QDialog
 {
-    explicit EntryWindow(bool modal = false)
+    explicit EntryWindow(bool modal)
     {
         auto *column = new QVBoxLayout(this);
-        for (QWidget *widget : std::initializer_list<QWidget *>{first, second, plain, ok, cancel})
+        for (QWidget *widget : std::initializer_list<QWidget *>{first, second, ok, cancel})
             column->addWidget(widget);
         ok->setDefault(true);
         for (QLineEdit *box : {first, second})
@@ -37,7 +34,6 @@ struct EntryWindow : QDialog
             });
         checks.exempt(cancel);
         connect(ok, &QPushButton::clicked, this, [this] { stored += checks.passes() ? 1 : 0; });
-        connect(plain, &QPushButton::clicked, this, [this] { ++plainClicks; });
         connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
         setModal(modal);
         show();
@@ -52,34 +48,21 @@ struct EntryWindow : QDialog
     }
 
     QLineEdit *first = new QLineEdit, *second = new QLineEdit;
-    QPushButton *plain = new QPushButton, *ok = new QPushButton, *cancel = new QPushButton;
+    QPushButton *ok = new QPushButton, *cancel = new QPushButton;
     LeavingChecks checks{this};
-    int stored = 0, plainClicks = 0;
+    int stored = 0;
 };
 
-using mouse::click;
-using mouse::press;
-using mouse::release;
+using namespace mouse;
 
 void toAnotherWindowAndBack(EntryWindow &w)
 {
     QWidget other;
-    QLineEdit box(&other);
     other.show();
     other.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
-    box.setFocus();
     w.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&w));
-}
-
-void openAndCloseItsMenu(EntryWindow &w)
-{
-    QContextMenuEvent wanted(QContextMenuEvent::Mouse, {}, w.first->mapToGlobal(QPoint()));
-    QCoreApplication::sendEvent(w.first, &wanted);
-    auto *menu = w.first->findChild<QMenu *>();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(menu));
-    QTest::keyClick(menu, Qt::Key_Escape);
 }
 
 struct WayOut
@@ -99,42 +82,20 @@ const WayOut waysOut[] = {
     {"two bad boxes", [](EntryWindow &w) { w.second->setText("bad"), QTest::keyClick(w.first, Qt::Key_Tab); }, 1},
     {"Esc", [](EntryWindow &w) { QTest::keyClick(w.first, Qt::Key_Escape); }, 0, false},
     {"Cancel by mouse", [](EntryWindow &w) { click(w.cancel); }, 0, false},
-    {"Cancel let go outside, then OK", [](EntryWindow &w) { press(w.cancel), release(w.plain), click(w.ok); }, 1},
+    {"Cancel let go outside, then OK", [](EntryWindow &w) { press(w.cancel), release(w.second), click(w.ok); }, 1},
     {"an exempt button, and on", [](EntryWindow &w) { w.cancel->setFocus(), w.second->setFocus(); }, 1},
     {"another window and back", toAnotherWindowAndBack, 0},
-    {"its own menu", openAndCloseItsMenu, 0},
 };
 
 /// Shows a real message box, which takes the activation from the window and gives it back.
-void showRealBox(const MsgBoxRequest &request)
+void showRealBox(const MsgBoxRequest &)
 {
     QWidget *window = QApplication::activeWindow();
     QMessageBox box(window);
-    box.setText(request.text);
     QTimer::singleShot(0, &box, &QDialog::accept);
     box.exec();
     window->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window));
-}
-
-void play(const WayOut &way, ScriptedDoors &doors, EntryWindow &w)
-{
-    w.enter("bad");
-    way.go(w);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(std::exchange(doors.boxes, {}).size(), size_t(way.boxes));
-    EXPECT_EQ(w.stored + w.plainClicks, 0);
-    ASSERT_EQ(w.isVisible(), way.stays);
-    if (!way.stays)
-        return;
-    EXPECT_TRUE(w.first->hasFocus());
-    EXPECT_EQ(w.first->hasSelectedText(), way.boxes > 0) << "to be typed over";
-    EXPECT_FALSE(w.ok->isDown() || w.plain->isDown());
-    w.enter("good");
-    w.second->clear();
-    click(w.ok);
-    EXPECT_EQ(w.stored, 1) << "mended, it goes through";
-    EXPECT_TRUE(doors.boxes.empty());
 }
 
 TEST(LeavingChecks, RefuseABadValueOnEveryWayOut)
@@ -146,8 +107,22 @@ TEST(LeavingChecks, RefuseABadValueOnEveryWayOut)
                 ScriptedDoors doors;
                 if (realBox)
                     doors.whileBoxIsUp = showRealBox;
-                EntryWindow window(modal);
-                play(way, doors, window);
+                EntryWindow w(modal);
+                w.enter("bad");
+                way.go(w);
+                QCoreApplication::processEvents();
+                EXPECT_EQ(std::exchange(doors.boxes, {}).size(), size_t(way.boxes));
+                EXPECT_EQ(w.stored, 0);
+                ASSERT_EQ(w.isVisible(), way.stays);
+                if (!way.stays)
+                    continue;
+                EXPECT_TRUE(w.first->hasFocus() && !w.ok->isDown());
+                EXPECT_EQ(w.first->hasSelectedText(), way.boxes > 0) << "to be typed over";
+                w.enter("good");
+                w.second->clear();
+                click(w.ok);
+                EXPECT_EQ(w.stored, 1) << "mended, it goes through";
+                EXPECT_TRUE(doors.boxes.empty());
             }
 }
 

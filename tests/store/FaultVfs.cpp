@@ -4,6 +4,7 @@
 #include <map>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -24,18 +25,18 @@ const sqlite3_io_methods *realOf(sqlite3_file *file) { return static_cast<const 
 /// What a place of a file held before a write that was not synced since; zeros past the end of the file.
 struct Unsynced
 {
+    sqlite3_file *file;
     sqlite3_int64 at;
     std::string content;
 };
-std::map<sqlite3_file *, std::vector<Unsynced>> unsynced;
+std::vector<Unsynced> unsynced;
 std::minstd_rand dice;
 
 void losePieces()
 {
-    for (auto &[file, pieces] : unsynced)
-        for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece)
-            if (dice() % 2)
-                realOf(file)->xWrite(file, piece->content.data(), int(piece->content.size()), piece->at);
+    for (auto piece = unsynced.rbegin(); piece != unsynced.rend(); ++piece)
+        if (dice() % 2)
+            realOf(piece->file)->xWrite(piece->file, piece->content.data(), int(piece->content.size()), piece->at);
 }
 
 /// Returns the code to fail with now, or 0; kills the process if that is planned.
@@ -49,10 +50,7 @@ int strike()
         losePieces();
     if (faultPlan.death != Death::None)
         std::raise(SIGKILL);
-    const int code = faultPlan.code;
-    if (!faultPlan.forEver)
-        faultPlan.code = 0;
-    return code;
+    return faultPlan.forEver ? faultPlan.code : std::exchange(faultPlan.code, 0);
 }
 
 int writeOrFail(sqlite3_file *file, const void *from, int size, sqlite3_int64 at)
@@ -60,7 +58,7 @@ int writeOrFail(sqlite3_file *file, const void *from, int size, sqlite3_int64 at
     if (faultPlan.death == Death::PowerCut) {
         std::string former(std::size_t(size), '\0');
         realOf(file)->xRead(file, former.data(), size, at);
-        unsynced[file].push_back({at, std::move(former)});
+        unsynced.push_back({file, at, std::move(former)});
     }
     const int code = strike();
     return code ? code : realOf(file)->xWrite(file, from, size, at);
@@ -69,13 +67,13 @@ int writeOrFail(sqlite3_file *file, const void *from, int size, sqlite3_int64 at
 int syncOrFail(sqlite3_file *file, int flags)
 {
     const int code = strike();
-    unsynced.erase(file);
+    std::erase_if(unsynced, [file](const Unsynced &piece) { return piece.file == file; });
     return code ? SQLITE_IOERR_FSYNC : realOf(file)->xSync(file, flags);
 }
 
 int closeFile(sqlite3_file *file)
 {
-    unsynced.erase(file);
+    std::erase_if(unsynced, [file](const Unsynced &piece) { return piece.file == file; });
     return realOf(file)->xClose(file);
 }
 

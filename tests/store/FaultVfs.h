@@ -22,8 +22,6 @@ class FaultVfs
 public:
     FaultVfs();
     ~FaultVfs();
-    FaultVfs(const FaultVfs &) = delete;
-    FaultVfs &operator=(const FaultVfs &) = delete;
 
     void plan(const FaultPlan &faults);
     /// Whether the planned fault has happened.

@@ -19,25 +19,24 @@ struct UpgradeTest : StoreTest
 
     void writeOld(const QString &version, int rows)
     {
-        for (const QString &name : QDir(folder.path()).entryList(QDir::Files))
+        for (const auto &[name, bytes] : contentOf(folder.path()))
             QFile::remove(path(name));
         WriteOldDatabase(path(), version, rows);
         oldBytes = contentOf(folder.path())["OM.MDB"];
-        open();
+        oldVersion = asked("PRAGMA user_version");
+        oldLayout = asked(layout);
         oldRows.clear();
+        open();
         for (const QString &table : db->TableDefs()) {
             QStringList columns;
             for (const FieldDef &field : db->Fields(table))
                 if (field.Name != "db_version")
                     columns << "quote(" + field.Name + ')';
-            // All rows as one text, made by the engine.
-            oldRows[table].ask = "SELECT group_concat(" + columns.join(" || '|' || ") + ") FROM " + table;
-            oldRows[table].text = asked(oldRows[table].ask);
-            ASSERT_NE(oldRows[table].text, "error") << table.toStdString();
+            const QString ask = "SELECT group_concat(" + columns.join(" || '|' || ") + ") FROM " + table;
+            oldRows[ask] = asked(ask);
+            ASSERT_NE(oldRows[ask], "error") << ask.toStdString();
         }
-        oldVersion = ReadDatabaseVersion(*db);
         db->Close();
-        oldLayout = asked(layout);
     }
     /// Does what the upgrade window does, without the window: makes the copy and runs the steps. Returns the positions
     /// of the progress bar.
@@ -45,10 +44,10 @@ struct UpgradeTest : StoreTest
     {
         open();
         QString bars;
-        const QString version = ReadDatabaseVersion(*db);
-        if (!UpgradeSteps(version).empty())
-            KeepOldDatabase(path(), version == "0.0 " ? "1.0" : version.trimmed());
-        for (const UpgradeStep &step : UpgradeSteps(version)) {
+        const auto steps = UpgradeSteps(ReadDatabaseVersion(*db));
+        if (!steps.empty())
+            KeepOldDatabase(path(), steps.size() == 2 ? "1.0" : "1.1");
+        for (const UpgradeStep &step : steps) {
             db->Close();
             db = Database::OpenDatabase(path(), Database::Access::Exclusive);
             step.run(*db, [&bars](int bar) { bars += QString::number(bar) + ' '; });
@@ -59,55 +58,45 @@ struct UpgradeTest : StoreTest
     /// Upgrades with a planned fault. Returns false if the upgrade was finished before the fault could happen.
     bool strike(const FaultPlan &plan)
     {
+        const auto struck = [&] {
+            faults.plan(plan);
+            upgrade();
+        };
         if (plan.death != Death::None)
-            return signalThatEnds([&] {
-                       faults.plan(plan);
-                       upgrade();
-                   }) != 0;
-        faults.plan(plan);
-        const int number = numberOf([this] { upgrade(); });
-        const bool struck = faults.hasStruck();
+            return signalThatEnds(struck) != 0;
+        const int number = numberOf(struck);
+        const bool hasStruck = faults.hasStruck();
         faults.plan({});
         db->Close();
-        EXPECT_TRUE(number == 0 ? asked("PRAGMA user_version") == "20" : struck) << "at place " << plan.after;
-        return struck;
+        EXPECT_TRUE(number == 0 ? asked("PRAGMA user_version") == "20" : hasStruck) << "at place " << plan.after;
+        return hasStruck;
     }
-    /// Expects that the file is undamaged, that every old row is unchanged, and that nothing of the new layout is there
-    /// while the file has the old version.
+    /// Expects that the file is undamaged, that every old row is unchanged, and that nothing of a new layout is there
+    /// before its version is.
     void expectWhole()
     {
-        open();
-        const QString version = ReadDatabaseVersion(*db);
-        db->Close();
-        EXPECT_TRUE(QStringList({oldVersion, "1.1 ", "2.0 "}).contains(version)) << version.toStdString();
-        for (const auto &[table, rows] : oldRows) {
-            const QString now = asked(rows.ask);
-            const bool mayGrow = table == "ANIMALLIST"; // the upgrade adds words at its end
-            EXPECT_TRUE(mayGrow ? now.startsWith(rows.text) : now == rows.text) << table.toStdString();
+        const QString version = asked("PRAGMA user_version");
+        EXPECT_TRUE(QStringList({oldVersion, "11", "20"}).contains(version)) << version.toStdString();
+        EXPECT_EQ(asked(layout) == oldLayout, version == oldVersion);
+        for (const auto &[ask, text] : oldRows) {
+            const bool mayGrow = ask.endsWith("ANIMALLIST"); // the upgrade adds words at its end
+            EXPECT_EQ(mayGrow ? asked(ask).left(text.size()) : asked(ask), text);
         }
         EXPECT_EQ(asked("PRAGMA integrity_check"), "ok");
-        EXPECT_EQ(asked(layout) == oldLayout, version == oldVersion);
     }
     void expectUpgraded()
     {
         expectWhole();
         EXPECT_EQ(upgrade(), "") << "it is done once";
-        EXPECT_EQ(asked("SELECT count(*) FROM ANIMALLIST WHERE AnimalType IN ('1', 'M')"),
-                  oldVersion == "0.0 " || !oldRows["ANIMALLIST"].text.isEmpty() ? "67" : "0");
         EXPECT_EQ(asked("SELECT count(*) FROM MAINTSCHED WHERE SchedRtype IS NOT 0"), "0");
         EXPECT_EQ(asked("PRAGMA user_version"), "20");
-        EXPECT_EQ(contentOf(folder.path())[oldVersion == "0.0 " ? "OM-version-1.0.MDB" : "OM-version-1.1.MDB"],
-                  oldBytes);
+        EXPECT_EQ(contentOf(folder.path())[oldVersion == "10" ? "OM-version-1.0.MDB" : "OM-version-1.1.MDB"], oldBytes);
     }
 
-    struct Rows
-    {
-        QString ask, text;
-    };
     FaultVfs faults;
     QByteArray oldBytes;
-    std::map<QString, Rows> oldRows; ///< for each table
     QString oldVersion, oldLayout;
+    std::map<QString, QString> oldRows; ///< for each table, a question for all rows as one text, and its answer
 };
 
 TEST_F(UpgradeTest, KeepsEveryRowInTheNewLayout)
@@ -122,6 +111,8 @@ TEST_F(UpgradeTest, KeepsEveryRowInTheNewLayout)
             expectUpgraded();
             EXPECT_EQ(asked(layout), newLayout);
             EXPECT_EQ(asked("SELECT DISTINCT TankWaterType FROM TANKLST"), rows == 0 ? "" : first ? "2" : "3");
+            EXPECT_EQ(asked("SELECT count(*) FROM ANIMALLIST WHERE AnimalType IN ('1', 'M')"),
+                      first || rows > 0 ? "67" : "0");
         }
 }
 

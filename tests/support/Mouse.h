@@ -11,29 +11,23 @@
 
 namespace mouse {
 
-inline QPoint inWindow(const QWidget *widget, std::optional<QPoint> place)
+using Place = std::optional<QPoint>;
+
+inline void send(QTest::MouseAction action, QWidget *widget, Place place, Qt::MouseButton button)
 {
-    return widget->mapTo(widget->window(), place.value_or(widget->rect().center()));
+    const QPoint inWindow = widget->mapTo(widget->window(), place.value_or(widget->rect().center()));
+    QTest::mouseEvent(action, widget->window()->windowHandle(), button, {}, inWindow);
 }
 
-inline void press(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
+inline void press(QWidget *widget, Place place = {}) { send(QTest::MousePress, widget, place, Qt::LeftButton); }
+
+inline void release(QWidget *widget, Place place = {}) { send(QTest::MouseRelease, widget, place, Qt::LeftButton); }
+
+inline void click(QWidget *widget, Place place = {}, Qt::MouseButton button = Qt::LeftButton)
 {
-    QTest::mousePress(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
+    send(QTest::MouseClick, widget, place, button);
 }
 
-inline void release(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
-{
-    QTest::mouseRelease(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
-}
-
-inline void click(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
-{
-    QTest::mouseClick(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
-}
-
-inline void doubleClick(QWidget *widget, std::optional<QPoint> place = {}, Qt::MouseButton button = Qt::LeftButton)
-{
-    QTest::mouseDClick(widget->window()->windowHandle(), button, {}, inWindow(widget, place));
-}
+inline void doubleClick(QWidget *widget, Place place = {}) { send(QTest::MouseDClick, widget, place, Qt::LeftButton); }
 
 } // namespace mouse

@@ -2,6 +2,7 @@
 // font is high, so that a test can calculate widths. A page is 8 x 10 inches, or 10 x 8 in landscape.
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 #include <QRectF>
@@ -10,10 +11,7 @@
 
 struct PrintedText
 {
-    double x;
-    double y;
-    double right;
-    double bottom;
+    double x, y, right, bottom;
     PageFont font;
     QString text;
 };
@@ -23,21 +21,10 @@ struct PrintedPage
     std::vector<PrintedText> texts;
     std::vector<QRectF> pictures;
 
-    /// The texts at one height in the order they were printed, separated by bars.
-    QString row(double y) const
-    {
-        QString joined;
-        for (const PrintedText &text : texts)
-            if (text.y == y)
-                joined += (joined.isEmpty() ? QString() : QStringLiteral("|")) + text.text;
-        return joined;
-    }
     const PrintedText *find(const QString &text) const
     {
-        for (const PrintedText &printed : texts)
-            if (printed.text == text)
-                return &printed;
-        return nullptr;
+        const auto found = std::ranges::find(texts, text, &PrintedText::text);
+        return found == texts.end() ? nullptr : &*found;
     }
 };
 

@@ -24,8 +24,7 @@ public:
     /// Installs these doors; the destructor puts the former ones back. `settingsFile` keeps the settings over a
     /// restart.
     explicit ScriptedDoors(const QString &settingsFile = {}) :
-        m_settings(std::make_unique<SettingsStore>(settingsFile.isEmpty() ? m_folder.filePath(QStringLiteral("OMK.ini"))
-                                                                          : settingsFile)),
+        m_settings(settingsFile.isEmpty() ? m_folder.filePath(QStringLiteral("OMK.ini")) : settingsFile),
         m_previous(Doors::install(this))
     {
     }
@@ -35,7 +34,6 @@ public:
     std::deque<MsgBoxAnswer> answers;         ///< to the next boxes with a choice; if empty, the default button's
     std::deque<std::optional<QString>> files; ///< from the next save dialogs; if empty, they are cancelled
     std::deque<std::optional<PrintDialogAnswer>> printers;
-    std::optional<PrintDialogAnswer> printedFromPreview; ///< what each preview is closed with
     QDateTime clock{QDate(2026, 3, 14), QTime(9, 26, 53)};
     int secondsAReading = 0; ///< how far the clock advances each time it is read
     bool helpIsThere = true;
@@ -79,12 +77,12 @@ public:
     std::optional<QString> saveDialog(const SaveDialogRequest &request) override
     {
         saveDialogs.push_back(request);
-        return takeNext(files, std::optional<QString>());
+        return takeNext(files);
     }
     std::optional<PrintDialogAnswer> printDialog(const PrintDialogRequest &request) override
     {
         printDialogs.push_back(request);
-        return takeNext(printers, std::optional<PrintDialogAnswer>());
+        return takeNext(printers);
     }
     std::unique_ptr<PageSink> openPages(const PageTarget &target) override
     {
@@ -97,7 +95,7 @@ public:
         RecordedPages pages(documents);
         pages.setLandscape(request.printing.landscape);
         request.print(pages);
-        return printedFromPreview;
+        return std::nullopt;
     }
     bool showHelp(const HelpRequest &request) override
     {
@@ -106,10 +104,10 @@ public:
     }
     QDateTime now() override { return std::exchange(clock, clock.addSecs(secondsAReading)); }
     double random() override { return 0.5; }
-    SettingsStore &settings() override { return *m_settings; }
+    SettingsStore &settings() override { return m_settings; }
 
 private:
-    template <class T> static T takeNext(std::deque<T> &script, T otherwise)
+    template <class T> static T takeNext(std::deque<T> &script, T otherwise = {})
     {
         if (script.empty())
             return otherwise;
@@ -127,6 +125,6 @@ private:
     }
 
     QTemporaryDir m_folder;
-    std::unique_ptr<SettingsStore> m_settings;
+    SettingsStore m_settings;
     Doors *m_previous;
 };

@@ -21,23 +21,18 @@ void takeMessage(QtMsgType type, const QMessageLogContext &, const QString &text
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-/// Uses no display and none of the user's settings or run-time folders, however the tests are started or listed.
-void makeSurroundings(const QByteArray &folder)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("LC_ALL", "C.UTF-8");
-    qputenv("XDG_CONFIG_HOME", folder);
-    qputenv("XDG_RUNTIME_DIR", folder);
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
+    // No display and none of the user's settings or run-time folders are used, however the tests are started or listed.
     const QTemporaryDir folder;
-    makeSurroundings(folder.path().toLocal8Bit());
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
+    for (const char *name : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, folder.path().toLocal8Bit());
     qInstallMessageHandler(takeMessage);
     Application application(argc, argv);
     return RUN_ALL_TESTS();

@@ -1,5 +1,7 @@
-// The headers of all windows, and a table of them except the main one and the calendar, for tests that go through many.
+// The headers of all windows, and a way to look at each of them except the main one.
 #pragma once
+
+#include "Keeper.h"
 
 #include "windows/advisers/frm_Compat.h"
 #include "windows/advisers/frm_DiagDiagnosis.h"
@@ -51,3 +53,19 @@ inline constexpr QWidget *(*allWindows[])(frm_OMKMDIMain &) = {
     makeShown<frm_Conversions>,  makeShown<frm_OMKOptions>,      makeShown<frm_OMKtod>,
     makeShown<frm_OMKCredits>,
 };
+
+/// Shows each window in turn, the calendar last.
+inline void forEachWindow(frm_OMKMDIMain &main, const std::function<void(QWidget &)> &look)
+{
+    for (const auto show : allWindows) {
+        QWidget &shown = *show(main);
+        shown.window()->activateWindow();
+        look(shown);
+        Unload(shown);
+    }
+    Keeper::inNext<frm_Caltool>([&look](frm_Caltool &calendar) {
+        look(calendar);
+        calendar.close();
+    });
+    Form<frm_Caltool>().ShowCalendar(0, 0);
+}

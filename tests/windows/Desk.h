@@ -62,14 +62,6 @@ protected:
                     .arg(tables[log], columns, tankId, moment.replace(' ', "', '"), values));
     }
 
-    /// Adds a reminder of every 200 days.
-    void addReminder(const char *task, const char *start, const char *end)
-    {
-        execute("INSERT INTO MAINTSCHED (SchedTask, SchedStartDate, SchedEndDate, SchedInterval, SchedRtype, "
-                "SchedRSubtype, SchedEnglishDesc) VALUES (?, ?, ?, 200, 0, 0, 'Often.')",
-                {QString(task), QString(start), QString(end)});
-    }
-
     Keeper keeper;
     frm_OMKMDIMain *main = nullptr;
     frm_Waterlog *logbook = nullptr;

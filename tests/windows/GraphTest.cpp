@@ -1,7 +1,6 @@
 #include "Desk.h"
 #include "platform/chart/Chart.h"
 #include "windows/graph/frm_WaterGraph.h"
-#include "windows/shell/frm_OMKOptions.h"
 
 /// The logbook is at the tank "Reef".
 class Graph : public Desk
@@ -49,200 +48,92 @@ protected:
 
 TEST_F(Graph, PagesAreAsLongAsTheTestsThatAreLeft)
 {
-    const QString first = "5/1 No3: 1 - 5/20 No3: 20 >", second = "5/21 No3: 21 - 6/9 No3: 40 <";
-    addTests(50); // after the first page thirty are left, which make two pages, so the last ten are not reached
-    openGraph();
-    EXPECT_EQ(page(), first);
-    mouse::click(graph().cmd_Next);
-    EXPECT_EQ(page(), second);
-    mouse::click(graph().cmd_Previous);
-    EXPECT_EQ(page(), first);
-    execute("DELETE FROM WATERLOG");
+    const auto pageAfter = [](QPushButton *button) {
+        mouse::click(button);
+        return page();
+    };
+    // A test of another tank on the day of the last row, an hour later, comes along on the next page.
+    const QString first = "5/1 No3: 1 - 5/20 No3: 20", second = "5/20 No3: 20 - 6/8 No3: 39";
+    addTests(20, "p1", "10:00:00");
+    addTests(50); // after the first page 31 are left, which make two pages, so the last ones are not reached
+    const auto &window = openGraph();
+    EXPECT_EQ(page(), first + " >");
+    EXPECT_EQ(pageAfter(window.cmd_Next), second + " <");
+    EXPECT_EQ(pageAfter(window.cmd_Previous), first + " >");
+    execute("DELETE FROM WATERLOG WHERE tankname = 'r1'");
     addTests(90);
     choose("Same"); // and back to the first page
     choose("Reef");
-    EXPECT_EQ(page(), first);
-    mouse::click(graph().cmd_Next);
-    EXPECT_EQ(page(), second + " >");
-    mouse::click(graph().cmd_Next);
-    EXPECT_EQ(page(), "6/10 No3: 41 - 6/29 No3: 60 <");
-    mouse::click(graph().cmd_Previous); // these are the first entries, although it was the second page of the 59
-    EXPECT_EQ(page(), "5/1 No3: 1 - 5/20 No3: 20 < >");
+    EXPECT_EQ(pageAfter(window.cmd_Next), second + " < >");
+    EXPECT_EQ(pageAfter(window.cmd_Next), "6/9 No3: 40 - 6/28 No3: 59 <");
+    EXPECT_EQ(pageAfter(window.cmd_Previous), first + " < >") << "the first entries, as the second page of the 58";
 }
 
-TEST_F(Graph, RowsOfAnotherTankOnTheDayOfTheLastRowComeAlong)
-{
-    addTests(25);
-    addTests(22, "p1", "10:00:00");
-    openGraph();
-    mouse::click(graph().cmd_Next);
-    EXPECT_EQ(cell(1, 3), "5/20 No3: 20") << "the pond's, an hour later";
-    EXPECT_EQ(cell(2, 3), "5/21 No3: 21");
-    EXPECT_EQ(graph().Chart1->RowCount(), 6);
-}
-
-TEST_F(Graph, FewerThanTwoTestsMakeNoGraphAndTheChartStands)
-{
-    const QString notEnough = "Not Enough Entries To Create A Graph!";
-    addTests(1);
-    addTests(3, "b1");
-    openGraph();
-    EXPECT_TRUE(keeper.told().contains(notEnough));
-    EXPECT_EQ(page(), "none");
-    choose("Bowl");
-    keeper.told();
-    EXPECT_EQ(page(), "5/1 No3: 1 - 5/3 No3: 3");
-    choose("Pond");
-    EXPECT_TRUE(keeper.told().contains(notEnough));
-    EXPECT_EQ(page(), "5/1 No3: 1 - 5/3 No3: 3");
-}
-
-TEST_F(Graph, TheOptionsSayWhatIsDrawnAndTheRightButtonOpensThem)
+TEST_F(Graph, TheOptionsSayWhatIsDrawn)
 {
     addTests(2);
     execute("INSERT INTO WATERLOG (tankname, logdate, logtime) VALUES ('r1', '2026-05-02', '21:00:00')");
     auto &window = openGraph();
-    EXPECT_EQ(cell(3, 3), "(blank)") << "a field without a value";
     EXPECT_EQ(window.Chart1->RowCount(), 3) << "two of one day";
-    keeper.inNext<frm_OMKOptions>([](frm_OMKOptions &w) {
-        w.chk_SkipZeroValues->setChecked(true);
-        control<QCheckBox>(w, "chk_nitrite").setChecked(false);
-        control<QCheckBox>(w, "chk_User1").setChecked(true);
-        w.txt_username1->setText("Iodine");
-        w.cbo_GraphType->setCurrentIndex(w.cbo_GraphType->findData(14));
-        mouse::click(w.cmdOK);
-    });
-    mouse::click(window.Chart1, QPoint(3, 3), Qt::RightButton);
-    clickEntry(*main->mnu_GraphPopup, "mnu_GraphOptions");
-    QCoreApplication::processEvents();
-    EXPECT_EQ(window.Chart1->chartType(), 14);
-    const QString drawn = "(blank)|5/1 No3: 1|5/1 Iodine: 1.5";
-    EXPECT_EQ(cell(1, 1) + '|' + cell(1, 2) + '|' + cell(1, 3), drawn);
-    keeper.g().options.GraphChecks = "0000000000000";
+    EXPECT_EQ(cell(3, 3), "(blank)") << "a field without a value";
+    OptionsMembers &options = keeper.g().options;
+    options.GraphSkipZeroes = 1;
+    options.GraphChecks = "0101000000010";
+    window.GraphChart();
+    EXPECT_EQ(cell(1, 1) + '|' + cell(1, 2) + '|' + cell(1, 3), "(blank)|5/1 No3: 1|5/1 User Field 1: 1.5");
+    options.GraphChecks = "0000000000000";
     window.GraphChart();
     EXPECT_TRUE(keeper.told().startsWith("0|Note!/64/Nothing is selected to graph!"));
-    EXPECT_EQ(cell(1, 1) + '|' + cell(1, 2) + '|' + cell(1, 3), drawn) << "the chart stands";
+    EXPECT_EQ(cell(1, 3), "5/1 User Field 1: 1.5") << "the chart stands";
 }
 
-TEST_F(Graph, BothWaysIntoItDrawTheTankInHand)
+TEST_F(Graph, DrawsTheTankInHandAndTellsWhereThereIsNoGraph)
 {
-    addTests(2);
-    addTests(3, "b1");
-    auto &window = openGraph();
-    EXPECT_EQ(window.tanklistbox->currentText(), "Reef");
-    choose("Bowl");
-    EXPECT_EQ(keeper.g().gTankId, "b1");
-    hand::openLogbook(*main);
-    EXPECT_EQ(keeper.g().gTankId, "r1") << "an entry is for the tank that the logbook shows";
-    hand::press(Qt::Key_G, Qt::ControlModifier);
-    EXPECT_EQ(window.tanklistbox->currentText(), "Reef");
-    hand::openLogbook(*main);
-    hand::clickTank(*logbook, "All Tanks");
-    hand::click<QToolButton>(*main, "graphing");
-    EXPECT_EQ(window.tanklistbox->currentText(), "Reef") << "the one that it shows";
-    execute("DELETE FROM TANKLST");
-    window.close();
-    keeper.told();
-    hand::press(Qt::Key_G, Qt::ControlModifier);
-    EXPECT_TRUE(keeper.told().contains("/You have no tanks"));
-    keeper.addTank("Nano", "n1");
-    hand::openLogbook(*main);
-    hand::press(Qt::Key_G, Qt::ControlModifier);
-    EXPECT_EQ(graph().tanklistbox->currentText(), "Nano") << "set up since";
-}
-
-TEST_F(Graph, WithAllTanksInHandItBeginsWithTheFirstThatHasAGraphAndStaysThere)
-{
-    addTests(1, "b1");
-    addTests(30, "k1"); // "Marsh" is second in the list
-    const auto allTanks = [&] {
+    const auto go = [this] {
         hand::openLogbook(*main);
-        hand::clickTank(*logbook, "All Tanks");
-        main->ShowChild(graph());
+        hand::press(Qt::Key_G, Qt::ControlModifier);
+        return graph().tanklistbox->currentText();
     };
+    const QString notEnough = "0|Not Enough Entries To Create A Graph!/48/", drawn = "5/1 No3: 1 - 5/3 No3: 3";
+    addTests(1);
+    addTests(3, "k1"); // "Marsh" is second in the list
     hand::clickTank(*logbook, "All Tanks");
-    keeper.g().options.GraphChecks = "0000000000000";
-    hand::press(Qt::Key_G, Qt::ControlModifier);
-    EXPECT_TRUE(keeper.told().startsWith("0|Note!/"));
-    EXPECT_EQ(graph().tanklistbox->currentText() + ' ' + page(), "Marsh none") << "nothing to go on to";
-    keeper.g().options.GraphChecks = "0111000000000";
-    allTanks();
-    graph().GraphChart();
-    EXPECT_EQ(page(), "5/1 No3: 1 - 5/20 No3: 20 >");
-    allTanks();
-    mouse::click(graph().cmd_Next);
-    EXPECT_EQ(page(), "5/21 No3: 21 - 5/30 No3: 30 <");
-    allTanks();
-    keeper.inNext<frm_OMKOptions>([](frm_OMKOptions &w) { mouse::click(w.cmdOK); });
-    clickEntry(*main->mnu_GraphPopup, "mnu_GraphOptions");
-    EXPECT_EQ(page(), "5/21 No3: 21 - 5/30 No3: 30 <");
-    allTanks();
-    mouse::click(graph().cmd_Previous);
-    EXPECT_EQ(page(), "5/1 No3: 1 - 5/20 No3: 20 >");
-    EXPECT_EQ(graph().tanklistbox->currentText() + keeper.told(), "Marsh0");
-    execute("DELETE FROM WATERLOG");
-    graph().close();
-    allTanks();
-    graph().GraphChart();
-    EXPECT_TRUE(keeper.told().contains("Not Enough Entries")) << "no tank has a graph";
-}
-
-TEST_F(Graph, AChartGoesWithTheLastTankThatHasOne)
-{
-    addTests(2);
-    openGraph();
+    EXPECT_EQ(go(), "Marsh") << "the first that has a graph";
+    EXPECT_EQ(page(), drawn);
     hand::openLogbook(*main);
-    keeper.doors.answers = {MsgBoxAnswer::OK};
-    hand::clickTank(*logbook, "Reef", Qt::RightButton);
-    clickEntry(*main->mnu_tankPopup, "mnu_TankDelete");
-    EXPECT_EQ(graph().tanklistbox->currentText() + ' ' + page(), "Bowl none");
+    hand::clickTank(*logbook, "Reef");
+    EXPECT_EQ(go(), "Reef");
+    EXPECT_TRUE(keeper.told().startsWith(notEnough));
+    EXPECT_EQ(page(), drawn) << "the chart stands";
+    choose("Marsh");
+    EXPECT_EQ(keeper.g().gTankId, "k1");
+    hand::openLogbook(*main);
+    EXPECT_EQ(keeper.g().gTankId, "r1") << "the logbook's";
+    execute("DELETE FROM TANKLST");
+    go();
+    EXPECT_TRUE(keeper.told().contains("/You have no tanks"));
+    EXPECT_EQ(page(), "none");
     EXPECT_EQ(graph().Chart1->accessibleName(), graph().windowTitle());
-    EXPECT_EQ(keeper.g().gTankId, "All Tanks") << "the logbook is in front";
 }
 
-TEST_F(Graph, ItsPrintedTitleNamesTheTankDrawn)
-{
-    addTests(2, "b1");
-    addTests(3);
-    openGraph();
-    const auto printed = [&] {
-        keeper.doors.answers = {MsgBoxAnswer::No};
-        keeper.doors.printers = {std::nullopt};
-        hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
-        return graph().Chart1->TitleText();
-    };
-    choose("Bowl");
-    hand::openLogbook(*main); // this makes "Reef" the current tank
-    main->ShowChild(graph());
-    EXPECT_EQ(printed(), "Ostrelmark Graph for Tank: Bowl");
-    choose("Pond"); // it has no graph, so the chart does not change
-    EXPECT_EQ(printed(), "Ostrelmark Graph for Tank: Bowl");
-    choose("Reef");
-    EXPECT_EQ(graph().Chart1->TitleText(), "Ostrelmark Graph for Tank: Reef") << "the title stays, and is true";
-    keeper.told();
-}
-
-TEST_F(Graph, PrintsALandscapePageForEachCopy)
+TEST_F(Graph, PrintsALandscapePageForEachCopyUnderTheNameOfTheTankDrawn)
 {
     addTests(4);
     const auto &frame = static_cast<QMdiSubWindow &>(*openGraph().parentWidget());
-    const std::tuple<MsgBoxAnswer, int, bool> rows[] = {// answer about maximizing, copies, dialog
-                                                        {MsgBoxAnswer::Cancel, 0, false},
-                                                        {MsgBoxAnswer::No, 2, true},
-                                                        {MsgBoxAnswer::Yes, 0, true}};
-    for (const auto &[answer, copies, dialog] : rows) {
-        keeper.doors.answers = {answer};
-        keeper.doors.printers = {std::nullopt};
-        if (copies > 0)
-            keeper.doors.printers = {PrintDialogAnswer{copies}};
+    choose("Pond"); // it has no graph, so the chart does not change
+    keeper.told();
+    for (const auto &[maximize, copies] :
+         {std::pair(MsgBoxAnswer::Cancel, 0), {MsgBoxAnswer::No, 2}, {MsgBoxAnswer::Yes, 1}}) {
+        keeper.doors.answers = {maximize};
+        keeper.doors.printers = {PrintDialogAnswer{copies}};
         hand::choose(*main, *main->mnu_File, "mnu_FilePrint");
         EXPECT_TRUE(keeper.told().startsWith("0|Maximize Window?/67/"));
-        EXPECT_EQ(frame.isMaximized(), answer == MsgBoxAnswer::Yes);
-        EXPECT_EQ(std::exchange(keeper.doors.printDialogs, {}).size(), dialog);
+        EXPECT_EQ(frame.isMaximized(), maximize == MsgBoxAnswer::Yes);
         EXPECT_EQ(keeper.doors.documents.size(), size_t(copies));
         for (const PrintedDocument &document : std::exchange(keeper.doors.documents, {})) {
             ASSERT_TRUE(document.landscape && document.ended && document.pages.size() == 1u);
             EXPECT_EQ(document.pages[0].pictures, std::vector{QRectF(0, 80, 1000, 720)});
         }
     }
+    EXPECT_EQ(graph().Chart1->TitleText(), "Ostrelmark Graph for Tank: Reef");
 }

@@ -39,8 +39,6 @@ public:
         stop();
         QDir::setCurrent(m_formerDir);
     }
-    Keeper(const Keeper &) = delete;
-    Keeper &operator=(const Keeper &) = delete;
 
     void restart()
     {
@@ -54,9 +52,8 @@ public:
     {
         auto &main = Form<frm_OMKMDIMain>();
         QTimer atTip;
-        QObject::connect(&atTip, &QTimer::timeout, &main, [this, &atTip] {
+        QObject::connect(&atTip, &QTimer::timeout, &main, [this] {
             if (auto *tip = Forms::current().loaded<frm_OMKtod>(); tip && tip->isVisible()) {
-                atTip.stop();
                 ++tipsAtStart;
                 tip->close();
             }

@@ -18,13 +18,9 @@ protected:
         Keeper::inNext<frm_TankAddNew>(action);
         Form<frm_TankMaint>().ChangeTankInfo(name);
     }
-    /// The texts of the boxes, and the water type.
     static QString held(frm_TankAddNew &w)
     {
-        QString water;
-        for (const QRadioButton *option : {w.opt_Freshwater, w.opt_Saltwater, w.opt_Reef, w.Opt_Brackish, w.opt_Pond})
-            water += option->isChecked() ? option->objectName() : "";
-        return shown(w, {"txt_tankname", "txt_long_desc", "txt_tanksize", "txt_tanknotes"}) + '|' + water;
+        return shown(w, {"txt_tankname", "txt_long_desc", "txt_tanksize", "txt_tanknotes"});
     }
     /// A column of TANKLST, joined in the order of the ids.
     QString ofTanks(const QString &column)
@@ -38,16 +34,18 @@ protected:
 TEST_F(Tanks, OkChecksOneFaultAtATimeAndExactlyFiftyCharactersPass)
 {
     // At first all fields are wrong; each step corrects one of them.
-    const QString fifty(50, u'n');
-    const std::tuple<const char *, QString, const char *> steps[] = {
-        {"txt_tanksize", "12ab", "Tanksize entries must be a number."},
-        {"txt_tanksize", "", "The tank size must be a number less than 10,000 gallons."},
-        {"txt_tanksize", "1e5", "The tank size must be less than 10,000 gallons."},
-        {"txt_tanksize", "9999", "The tank name must be less than 50 characters."},
-        {"txt_tankname", "", "You must enter a name for your tank."},
-        {"txt_tankname", "the \"big\" one", "The tank name cannot contain a quote(\") character."},
-        {"txt_tankname", fifty, "The long description must be less than 50 characters."},
+    const QString fifty(50, u'n'), there(50, u'N'), oops = "1|Oops!/48/", twice = "1|/0/That identical tank name";
+    const std::tuple<const char *, QString, QString> steps[] = {
+        {"txt_tanksize", "12ab", oops + "Tanksize entries must be a number."},
+        {"txt_tanksize", "", oops + "The tank size must be a number less than 10,000 gallons."},
+        {"txt_tanksize", "1e5", oops + "The tank size must be less than 10,000 gallons."},
+        {"txt_tanksize", "9999", oops + "The tank name must be less than 50 characters."},
+        {"txt_tankname", "", oops + "You must enter a name for your tank."},
+        {"txt_tankname", "the \"big\" one", oops + "The tank name cannot contain a quote(\") character."},
+        {"txt_tankname", there, oops + "The long description must be less than 50 characters."},
+        {"txt_long_desc", fifty, twice},
     };
+    keeper.addTank(there, "id");
     inNewTank([&](frm_TankAddNew &w) {
         for (MaskedBox *box : {w.txt_tankname, w.txt_long_desc}) {
             box->setMaxLength(60); // keys cannot exceed 50, but a text from elsewhere might
@@ -56,54 +54,48 @@ TEST_F(Tanks, OkChecksOneFaultAtATimeAndExactlyFiftyCharactersPass)
         for (const auto &[box, typed, text] : steps) {
             hand::type(control<QWidget>(w, box), typed);
             mouse::click(w.cmd_OK);
-            EXPECT_EQ(keeper.told(), QString("1|Oops!/48/") + text);
+            EXPECT_TRUE(keeper.told().startsWith(text)) << text.toStdString();
         }
-        EXPECT_EQ(keeper.count("TANKLST"), 0);
-        hand::type(*w.txt_long_desc, fifty);
+        hand::type(*w.txt_tankname, fifty); // differs in case, and so is another name
         hand::type(*w.txt_tanksize, "99999");
         hand::step(w, "ud_tanksize", "up");
-        EXPECT_EQ(w.txt_tanksize->text(), "9999");
         hand::press(Qt::Key_Return);
     });
-    EXPECT_EQ(keeper.told(), "0");
-    EXPECT_EQ(ofTanks("length(tankname) || length(Tankdesc) || tanksize"), "50509999.0");
+    EXPECT_EQ(ofTanks("tankname || length(Tankdesc) || tanksize"), fifty + "509999.0");
+    inTank(fifty, [&](frm_TankAddNew &w) {
+        hand::type(*w.txt_tankname, there);
+        mouse::click(w.cmd_OK);
+        EXPECT_TRUE(keeper.told().startsWith(twice));
+        mouse::click(w.cmd_Cancel);
+    });
+    EXPECT_EQ(ofTanks("tankname"), fifty + ',' + there);
 }
 
-TEST_F(Tanks, WhatIsLongerThanItsBoxIsShownWholeAndKeptUntilItIsEdited)
+TEST_F(Tanks, WhatNoBoxOrOptionCanHoldIsShownWholeAndKeptUntilItIsEdited)
 {
-    const QString sizes[] = {"0.125", "1500.5", "12345"}, longer(60, 'd');
-    for (const QString &size : sizes)
-        keeper.g().gDatabase->Execute(
-            "INSERT INTO TANKLST (tankname, tankid, tanksize, Tankdesc, tanknotes) VALUES (?1, ?1, ?2, ?3, ?4)",
-            {size, size.toDouble(), longer, QString("two\r\nlines")});
-    const auto stored = [&] {
-        return ofTanks("tanksize || length(tankname) || length(Tankdesc) || length(tanknotes)");
-    };
-    for (const QString &size : sizes)
+    const QString longer(60, 'd');
+    for (const QString size : {"0.125", "1500.5", "12345"}) {
+        keeper.g().gDatabase->Execute("INSERT INTO TANKLST (tankname, tankid, tanksize, Tankdesc, tanknotes, "
+                                      "TankWaterType) VALUES (?1, ?1, ?2, ?3, ?4, '9')",
+                                      {size, size.toDouble(), longer, QString("two\r\nlines")});
         inTank(size, [&](frm_TankAddNew &w) {
-            EXPECT_TRUE(held(w).startsWith(size + '|' + longer + '|' + size)) << held(w).toStdString();
+            EXPECT_EQ(held(w), size + '|' + longer + '|' + size + "|two\nlines");
             hand::type(*w.txt_tankname, size + "*");
             mouse::click(w.txt_tanksize);
             mouse::click(w.cmd_OK);
         });
-    EXPECT_EQ(stored(), "0.12566010,12345.066010,1500.576010");
-    inTank("12345*", [](frm_TankAddNew &w) { // the limit for typing holds again
-        hand::type(*w.txt_tanksize, "99999");
+    }
+    EXPECT_EQ(ofTanks("tankname || tanksize"), "0.125*0.125,12345*12345.0,1500.5*1500.5");
+    inTank("12345*", [](frm_TankAddNew &w) {
+        hand::type(*w.txt_tanksize, "99999"); // the limit for typing holds again
         w.txt_long_desc->setFocus();
         w.txt_long_desc->setSelection(5, 20);
         hand::press(Qt::Key_Delete);
-        EXPECT_EQ(w.txt_long_desc->cursorPosition(), 5);
         mouse::click(w.cmd_OK);
     });
-    EXPECT_TRUE(stored().contains(",9999.064010,")) << stored().toStdString();
+    EXPECT_EQ(ofTanks("tanksize || '/' || length(Tankdesc) || length(tanknotes) || TankWaterType"),
+              "0.125/60109,9999.0/40109,1500.5/60109");
     EXPECT_EQ(keeper.told(), "0");
-}
-
-TEST_F(Tanks, OkKeepsAForeignWaterType)
-{
-    keeper.addTank("Reef", "1", "9");
-    inTank("Reef", [](frm_TankAddNew &w) { mouse::click(w.cmd_OK); });
-    EXPECT_EQ(ofTanks("tankname || tanksize || TankWaterType"), "Reef55.09");
 }
 
 TEST_F(Tanks, NamesTypesAndNotesOfAnyScriptComeBack)
@@ -123,34 +115,13 @@ TEST_F(Tanks, NamesTypesAndNotesOfAnyScriptComeBack)
     keeper.restart();
     for (const QString &tank : tanks)
         inTank(tank.section('|', 0, 0), [&](frm_TankAddNew &w) {
-            EXPECT_EQ(held(w), tank);
+            EXPECT_EQ(held(w), tank.section('|', 0, 3));
+            EXPECT_TRUE(control<QRadioButton>(w, tank.section('|', 4)).isChecked());
             mouse::click(w.cmd_Cancel);
         });
 }
 
-TEST_F(Tanks, ANameThatIsThereIsRefusedAndWhatWasTypedStands)
-{
-    keeper.addTank("Reef", "1");
-    keeper.addTank("Pond", "2");
-    const auto nameItReef = [&](const QString &better) {
-        return [&, better](frm_TankAddNew &w) {
-            hand::type(*w.txt_long_desc, "by the window");
-            hand::type(*w.txt_tanksize, "80.5");
-            hand::type(*w.txt_tankname, "Reef");
-            mouse::click(w.cmd_OK);
-            EXPECT_TRUE(keeper.told().startsWith("1|/0/That identical tank name already exists."));
-            EXPECT_TRUE(held(w).startsWith("Reef|by the window|80.5|"));
-            hand::type(*w.txt_tankname, better);
-            mouse::click(w.cmd_OK);
-        };
-    };
-    inNewTank(nameItReef("reef")); // a name that differs in case is another name
-    inTank("Pond", nameItReef("Pond 2"));
-    EXPECT_EQ(keeper.told(), "0");
-    EXPECT_EQ(ofTanks("tankid || tankname || tanksize"), "03/14/2026 09:26:53reef80.5,1Reef55.0,2Pond 280.5");
-}
-
-TEST_F(Tanks, DeletingTakesTheTankWithAllItsEntries)
+TEST_F(Tanks, DeletingAsksAndTakesTheTankWithItsEntriesAlone)
 {
     for (const QString id : {"id of Pond", "id of Reef"}) {
         keeper.addTank(id.mid(6), id);
@@ -160,26 +131,18 @@ TEST_F(Tanks, DeletingTakesTheTankWithAllItsEntries)
                                 "MAINTSCHED (SchedTask, schedtankname) VALUES ('Feed ' || ?1, ?1)"})
             keeper.g().gDatabase->Execute(QString("INSERT INTO ") + sql, {id});
     }
-    keeper.inNext<frm_TankMaint>([&](frm_TankMaint &list) {
-        const auto expectDelete = [&](const QString &then, const char *rowsLeft) {
-            QListWidget &names = *list.lst_tanklist;
-            mouse::click(names.viewport(), names.visualItemRect(names.item(1)).center());
-            mouse::click(list.cmd_DeleteTank);
-            const QString told = keeper.told();
-            EXPECT_TRUE(
-                told.startsWith("1|Are you sure.../289/Are you sure you want to delete the tank you named Reef?"));
-            EXPECT_TRUE(told.endsWith("(Remember, you CANNOT \"undo\" a delete!)" + then)) << told.toStdString();
-            QString left;
-            for (const char *table : {"TANKLST", "WATERLOG", "LIVESTOCK", "MAINTLOG", "MAINTSCHED"})
-                left += QString::number(keeper.count(table));
-            EXPECT_EQ(left, rowsLeft);
-        };
-        expectDelete("", "22222"); // answered with the default button, Cancel
-        keeper.doors.answers = {MsgBoxAnswer::OK};
-        expectDelete("|Tank Deleted/64/The tank named Reef was successfully deleted.", "11112");
-        EXPECT_EQ(lines(*list.lst_tanklist->model()), "Pond");
-        EXPECT_EQ(keeper.g().gTankName + keeper.g().gTankId, "");
-        mouse::click(list.cmd_ok);
-    });
-    Form<frm_TankMaint>().Show_List();
+    const QString question = "1|Are you sure.../289/Are you sure you want to delete the tank you named Reef?  Deleting "
+                             "this entry will delete ALL entries for this tank in EVERY logbook - Maintenence, Water "
+                             "Quality, and Livestock. (Remember, you CANNOT \"undo\" a delete!)";
+    keeper.doors.answers = {MsgBoxAnswer::Cancel, MsgBoxAnswer::OK};
+    for (const auto &[then, expected] :
+         {std::pair("", "22222"), {"|Tank Deleted/64/The tank named Reef was successfully deleted.", "11112"}}) {
+        Form<frm_TankMaint>().DeleteTankInfo("Reef");
+        EXPECT_EQ(keeper.told(), question + then);
+        QString left;
+        for (const char *table : {"TANKLST", "WATERLOG", "LIVESTOCK", "MAINTLOG", "MAINTSCHED"})
+            left += QString::number(keeper.count(table));
+        EXPECT_EQ(left, expected);
+    }
+    EXPECT_EQ(ofTanks("tankname") + keeper.g().gTankName + keeper.g().gTankId, "Pond");
 }
