@@ -46,11 +46,11 @@ Read numberRead(const DataColumn &column, QString text, const ImportOptions &opt
             return refuse(*complaint);
     const auto number = ReadNumber(text);
     if (!number)
-        return refuse(QStringLiteral("This is no number."));
+        return refuse(QStringLiteral("This is not a number."));
     if (column.kind == CellKind::Number)
         return Value(*number);
     if (*number != std::floor(*number) || std::abs(*number) > std::numeric_limits<qint16>::max())
-        return refuse(QStringLiteral("This is no whole number of at most 32767."));
+        return refuse(QStringLiteral("This is not a whole number of at most 32767."));
     return Value(int(*number));
 }
 
@@ -61,8 +61,8 @@ Read dateRead(const DataColumn &column, const QString &text, const CellContext &
     if (!date)
         return refuse(
             context.options.dateOrder
-                ? QStringLiteral("This is no date in the order that was chosen.")
-                : QStringLiteral("This is no date such as 2026-11-24. (For another order see --date-order.)"));
+                ? QStringLiteral("This is not a date in the order that was chosen.")
+                : QStringLiteral("This is not a date such as 2026-11-24. (For another order see --date-order.)"));
     const int firstYear = context.lastYear - 99;
     if (column.kind == CellKind::EntryDate && (date->year() < firstYear || date->year() > context.lastYear))
         return refuse(QStringLiteral("The year must be between %1 and %2.").arg(firstYear).arg(context.lastYear));
@@ -75,7 +75,7 @@ Read timeRead(const QString &text)
     if (!time)
         time = ReadTime(text + u":00"); // a spreadsheet may leave out the seconds
     if (!time)
-        return refuse(QStringLiteral("This is no time such as 13:05:00 or 01:05:00 pm."));
+        return refuse(QStringLiteral("This is not a time such as 13:05:00 or 01:05:00 pm."));
     return Value(*time);
 }
 

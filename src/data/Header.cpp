@@ -100,7 +100,7 @@ void tellNoTable(std::span<const DataTable> tables, const std::vector<NamedColum
     const bool isClear = std::ranges::count(known, most) == 1;
     for (const NamedColumn &column : columns)
         if (!column.column.isEmpty() && closest.find(column.column) < 0)
-            tell(column.name, isClear ? QStringLiteral("%1 has no such column. It has %2.")
+            tell(column.name, isClear ? QStringLiteral("%1 has no such column. It has %2. (See --map.)")
                                             .arg(closest.file, namesOf(closest).join(u", "))
                                       : QStringLiteral("No table has this column beside the others."));
     if (most == count)

@@ -96,17 +96,17 @@ std::optional<QString> faultOf(const ColumnRule &rule, const Value &value)
         break;
     case Holds::Number:
         if (text)
-            return QStringLiteral("is \"%1\", which is no number").arg(*text);
+            return QStringLiteral("is \"%1\", which is not a number").arg(*text);
         if (value.toDouble() > rule.most)
             return QStringLiteral("is %1; the window takes at most %2").arg(value.text()).arg(rule.most, 0, 'g', 15);
         break;
     case Holds::Date:
         if (!std::holds_alternative<QDate>(value.variant()))
-            return QStringLiteral("is \"%1\", which is no date").arg(value.text());
+            return QStringLiteral("is \"%1\", which is not a date").arg(value.text());
         break;
     case Holds::Time:
         if (!std::holds_alternative<QTime>(value.variant()))
-            return QStringLiteral("is \"%1\", which is no time").arg(value.text());
+            return QStringLiteral("is \"%1\", which is not a time").arg(value.text());
         break;
     }
     return std::nullopt;

@@ -94,27 +94,27 @@ TEST_F(ImportTest, EachFaultIsToldWithItsPlaceAndNothingIsStored)
         // The rules for values are those of the entry windows; here each column must only have the one that is its own.
         {"tank,ph\nReef\nReef,8,9\n\"Reef\",8\n",
          "line 2: The row has 1 values, but the header has 2 columns.\nline 3: The row has 3 values"},
-        {"tank,date,ph\nPond,2026-13-01,x\n",
-         "line 2, tank \"Pond\": There is no tank of this name.\nline 2, date \"2026-13-01\": This is no date such as\n"
-         "line 2, ph \"x\": Ph entries must be a number."},
+        {"tank,date,ph\nPond,2026-13-01,x\n", "line 2, tank \"Pond\": There is no tank of this name.\nline 2, date "
+                                              "\"2026-13-01\": This is not a date such as\n"
+                                              "line 2, ph \"x\": Ph entries must be a number."},
         {"tank,date,time,ph\n,,,\n", "line 2, tank: The row must name a tank.\nline 2, date: The row must have a "
                                      "date.\nline 2, time: The row must"},
         {"tank,sg,custom1\nReef,10,1000\n", "line 2, sg \"10\": Specific Gravity entries must be less than 10.\n"
                                             "line 2, custom1 \"1000\": Salinity entries must be less than 1000."},
         {"tank,nitrate\nReef,\"0,5\"\n", "line 2, nitrate \"0,5\": The decimal sign is \".\" here"},
         {"tank,date\nReef,11/24/2026\n",
-         "line 2, date \"11/24/2026\": This is no date in the order",
+         "line 2, date \"11/24/2026\": This is not a date in the order",
          {.dateOrder = DateOrder::DDMMYY}},
         {"tank,date\nReef,1929-12-31\nReef,2030-01-01\nReef,0026-01-01\nReef,1930-01-01\nReef,2029-12-31\n",
          "line 2, date \"1929-12-31\": The year must be between 1930 and 2029.\nline 3, date\nline 4, date"},
         {"tank,time\nReef,25:00:00\nReef,00:30:00 AM\nReef,12\n",
-         "line 2, time\nline 3, time\nline 4, time \"12\": This is no time such as"},
+         "line 2, time\nline 3, time\nline 4, time \"12\": This is not a time such as"},
         {"tank,nitrite,comment\nReef,0,\"a\xff\"\n", "line 2, comment \"a\xef\xbf\xbd\": The letters are not encoded"},
         {"tank,ph\nPond,8\n\n\"Reef\n,8\n",
          "line 2, tank\nline 4: A value begins with a quotation mark and the file ends"},
         {"tank,animal,quantity,price_paid,date_lost\nReef,,,x,x\nReef,\"D\nE\",32001,,\n",
          "line 2, animal: You must enter an animal name or pick\nline 2, quantity: Quantity entries must be a number.\n"
-         "line 2, price_paid \"x\": Price Paid must be\nline 2, date_lost \"x\": This is no date\n"
+         "line 2, price_paid \"x\": Price Paid must be\nline 2, date_lost \"x\": This is not a date\n"
          "line 3, animal \"D E\": This text must be on one line.\nline 3, quantity \"32001\": Your quantity must be"},
         {"tank,task,quantity,unit\nReef,,10000,12345678901\n",
          "line 2, task: You must enter a task\nline 2, quantity \"10000\": Your quantity must be less than 10,000.\n"
@@ -137,7 +137,7 @@ TEST_F(ImportTest, EachFaultIsToldWithItsPlaceAndNothingIsStored)
          "line 5, interval \"31\": Please enter a valid combination\n"
          "line 6, detail \"First Monday\": This must be like \"Last Friday of November\"\n"
          "line 7, detail \"24.11.2026\": This must be like \"2026-11-24\"\n"
-         "line 8, pattern \"hourly\": This must be one of daily\nline 8, interval \"40000\": This is no"},
+         "line 8, pattern \"hourly\": This must be one of daily\nline 8, interval \"40000\": This is not a"},
     };
     run("UPDATE CONFIG SET user_fieldname1 = 'Salinity'");
     ReadOptions(g);

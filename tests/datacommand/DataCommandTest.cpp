@@ -87,8 +87,8 @@ TEST_F(DataCommand, CheckFindsWhatNoWindowWouldHaveTakenAndDamage)
     const std::pair<const char *, const char *> rows[] = {
         {"UPDATE WATERLOG SET nitrate = 1e9",
          "water test of \"Reef\", 2026-03-01 09:00:00: nitrate is 1000000000; the window takes at most"},
-        {"UPDATE WATERLOG SET ph = 'acid'", "ph is \"acid\", which is no number"},
-        {"UPDATE WATERLOG SET logdate = '2026-02-30'", "logdate is \"2026-02-30\", which is no date"},
+        {"UPDATE WATERLOG SET ph = 'acid'", "ph is \"acid\", which is not a number"},
+        {"UPDATE WATERLOG SET logdate = '2026-02-30'", "logdate is \"2026-02-30\", which is not a date"},
         {"UPDATE WATERLOG SET tankname = 'gone'", "1 water test of the tank with the id \"gone\""},
         {"UPDATE TANKLST SET tanksize = 10000", "tank \"Reef\": tanksize is 10000; the window takes at most 9999"},
         {"INSERT INTO LIVESTOCK (tankname, dateadded, timeadded, animalname, quantity) VALUES ('id Reef', "
