@@ -210,7 +210,6 @@ TEST_F(WrittenFiles, APreviewThatIsClosedEndsItsReportAndAFailureClosesThePrevie
 TEST_F(WrittenFiles, APrinterKeepsTheChosenPaperButNoNumberOfCopies)
 {
     const auto printer = std::make_shared<QPrinter>();
-    printer->setPageSize(QPageSize(QPageSize::A5));
     const Attendant keeper([](QWidget *dialog) {
         if (auto *print = qobject_cast<QPrintDialog *>(dialog)) {
             print->findChild<QSpinBox *>(QStringLiteral("copies"))->setValue(2);
@@ -220,6 +219,7 @@ TEST_F(WrittenFiles, APrinterKeepsTheChosenPaperButNoNumberOfCopies)
     EXPECT_EQ(AskPrinter(nullptr, {"Print Log", true, "Log"}, printer).value_or(PrintDialogAnswer{}).copies, 2);
     EXPECT_EQ(printer->copyCount(), 1) << "or each of the two documents would come twice";
     printer->setOutputFileName(name);
+    printer->setPageSize(QPageSize(QPageSize::A5));
     for (int copy = 0; copy < 2; ++copy) {
         const auto pages = PagesOnPrinter(printer);
         pages->setLandscape(true);
