@@ -109,6 +109,9 @@ TEST_F(TheMainWindow, EachEmptyPlaceSaysWhatToDo)
     };
     EXPECT_EQ(says(*main->centralWidget()), "") << "the logbook is open";
     EXPECT_TRUE(says(list()).startsWith("There are no entries yet."));
+    addEntry(WaterTab, "r1", "2026-03-01 09:30:00", "ph", "8");
+    hand::clickTank(*logbook, "Reef");
+    EXPECT_EQ(says(list()), "");
     hand::clickTank(*logbook, "All Tanks");
     EXPECT_TRUE(says(list()).startsWith("Choose a tank on the left"));
     hand::press(Qt::Key_E, Qt::ControlModifier);
