@@ -54,8 +54,8 @@ public:
     }
     ~Bench() { Database::setBusyTimeout(5000); }
 
-    /// Starts the program, with the graph of "Reef" beside the logbook, which is at the first entry of "Same". It does
-    /// not wait long for a locked file.
+    /// Starts the program, with the graph of "Reef" beside the logbook, which is at the first entry of "Same", if any.
+    /// It does not wait long for a locked file.
     void start(LogTab tab)
     {
         Database::setBusyTimeout(10);
@@ -67,7 +67,8 @@ public:
         hand::openLogbook(*main);
         hand::clickTank(*logbook, "Same");
         hand::clickTab(*logbook->tab_logtype, tab);
-        list().Select(1);
+        if (list().Count() > 0)
+            list().Select(1);
         keeper.told();
     }
     ListView &list() const { return static_cast<ListView &>(*logbook->tab_logtype->currentWidget()); }

@@ -19,8 +19,12 @@
 inline int signalThatEnds(const std::function<void()> &work)
 {
     const pid_t child = ::fork();
-    if (child == 0)
-        ::_exit(numberOf(work) == 0 && !testing::Test::HasFailure() ? 0 : 3);
+    if (child == 0) {
+        const auto failure = failureOf(work);
+        if (failure)
+            std::fprintf(stderr, "%s\n", failure->what());
+        ::_exit(!failure && !testing::Test::HasFailure() ? 0 : 3);
+    }
     int status = 0;
     EXPECT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0) << "the child failed";
