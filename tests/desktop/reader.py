@@ -151,6 +151,7 @@ def cells(book):
 
 def letters():
     press("alt+t")
+    hear("the open menu", lambda name, description, role: (name, role) == ("Tank Setup", "menu item"))
     press("n")
     names = window("Common and Latin Names Reference")
     check_names(names)
