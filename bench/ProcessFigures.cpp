@@ -27,6 +27,11 @@ Sample runFromStart(const QString &program, const QString &what)
     return run(program, {what, QString::number(nowNanoseconds())});
 }
 
+std::function<Sample()> printPdf(const QString &folder, int entries, const QStringList &how = {})
+{
+    return [=] { return run(QStringLiteral("bench_pdf"), QStringList{folder, QString::number(entries)} + how); };
+}
+
 } // namespace
 
 Figure openTankFigure(const QString &folder, const QString &tankId)
@@ -62,14 +67,8 @@ Figure pdfFigure(const QString &folder)
 {
     return {.name = QStringLiteral("A PDF of 10,000 entries, of 1,000, ms"),
             .target = 1.2,
-            .ours =
-                [=] {
-                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("10000")});
-                },
-            .floor =
-                [=] {
-                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("1000")});
-                },
+            .ours = printPdf(folder, 10000),
+            .floor = printPdf(folder, 1000),
             .repetitions = 5,
             .extraName = QStringLiteral("  most memory, MB"),
             .extraTarget = 1.1};
@@ -79,13 +78,7 @@ Figure barePdfFigure(const QString &folder)
 {
     return {.name = QStringLiteral("A PDF of 10,000 entries, bare drawing, ms"),
             .target = 1.5,
-            .ours =
-                [=] {
-                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("10000")});
-                },
-            .floor =
-                [=] {
-                    return run(QStringLiteral("bench_pdf"), {folder, QStringLiteral("10000"), QStringLiteral("bare")});
-                },
+            .ours = printPdf(folder, 10000),
+            .floor = printPdf(folder, 10000, {QStringLiteral("bare")}),
             .repetitions = 5};
 }
