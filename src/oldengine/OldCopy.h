@@ -1,7 +1,7 @@
 // Copies a file of the old engine, table by table and row by row, into a new database of the same version. The case of
 // the names of tables and columns does not matter. A file without a table or column of its version is refused; tables
-// and columns that Ostrelmark does not have are left out and reported. This is plain logic: it reads an OldSource,
-// which is a real file in the program and made up in the tests.
+// and columns that Ostrelmark does not have are left out and reported. It reads an OldSource, so that nothing
+// here depends on the library for such files.
 #pragma once
 
 #include <functional>
