@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <vector>
 
 #include <libical/ical.h>
 #include <QFileInfo>
@@ -16,6 +17,13 @@
 #include "platform/core/RuntimeFailure.h"
 
 namespace {
+
+/// A reminder and its days in the range, in order.
+struct CalendarEntry
+{
+    RecurrenceRule rule;
+    std::vector<QDate> dates;
+};
 
 /// The namespace for the identities of our events, so that no other program has the same ones.
 constexpr QUuid eventNames(0x6f6d6b61, 0x1998, 0x4d42, 0x8a, 0x71, 0x72, 0x65, 0x6d, 0x69, 0x6e, 0x64);
@@ -171,7 +179,7 @@ void requireNoOtherFile(const QString &fileName)
     if (!former.open(QIODevice::ReadOnly) || !former.read(64).trimmed().startsWith("BEGIN:VCALENDAR"))
         throw RuntimeFailure(
             Failure::PermissionDenied,
-            QStringLiteral("%1 is there already and is no calendar. It was left as it is.").arg(fileName));
+            QStringLiteral("%1 already exists and is not a calendar. It was left as it is.").arg(fileName));
 }
 
 void writeFile(const QString &fileName, const QByteArray &text)
@@ -183,9 +191,8 @@ void writeFile(const QString &fileName, const QByteArray &text)
             QStringLiteral("The calendar %1 could not be written (%2).").arg(fileName, file.errorString()));
 }
 
-} // namespace
-
-QByteArray MakeCalendar(std::span<const CalendarEntry> entries, const QDateTime &now)
+/// The text of the file. Entries without dates are left out.
+QByteArray makeCalendar(const std::vector<CalendarEntry> &entries, const QDateTime &now)
 {
     const std::unique_ptr<icalcomponent, decltype(&icalcomponent_free)> calendar(
         icalcomponent_new(ICAL_VCALENDAR_COMPONENT), icalcomponent_free);
@@ -204,6 +211,8 @@ QByteArray MakeCalendar(std::span<const CalendarEntry> entries, const QDateTime 
         icalcomponent_as_ical_string_r(calendar.get()), [](void *buffer) { icalmemory_free_buffer(buffer); });
     return QByteArray(text.get());
 }
+
+} // namespace
 
 int WriteCalendar(KeepersData &data, const QString &fileName, const QDate &from, const QDate &to)
 {
@@ -226,7 +235,7 @@ int WriteCalendar(KeepersData &data, const QString &fileName, const QDate &from,
          [](const QString &, int) {}});
     for (CalendarEntry &entry : entries)
         std::ranges::sort(entry.dates);
-    writeFile(fileName, MakeCalendar(entries, Now()));
+    writeFile(fileName, makeCalendar(entries, Now()));
     const auto events = std::ranges::count_if(entries, [](const CalendarEntry &entry) { return !entry.dates.empty(); });
     Say(Counted(events, "reminder was", "reminders were") + u" written to " + fileName + u'.');
     return TellUndated(undated);

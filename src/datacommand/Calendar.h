@@ -3,26 +3,10 @@
 // rule; otherwise it lists the days. Events keep their identity, so a calendar that reads the file again replaces them.
 #pragma once
 
-#include <span>
-#include <vector>
-
-#include <QByteArray>
 #include <QDate>
 #include <QString>
 
-#include "logic/reminders/RecurrenceRule.h"
-
 class KeepersData;
-
-/// A reminder and its days in the range, in order.
-struct CalendarEntry
-{
-    RecurrenceRule rule;
-    std::vector<QDate> dates;
-};
-
-/// The text of the file. Entries without dates are left out.
-QByteArray MakeCalendar(std::span<const CalendarEntry> entries, const QDateTime &now);
 
 /// Writes the file; if that fails, an existing file does not change. An invalid `from` means today, an invalid `to` two
 /// years later. Reports reminders without dates and then returns DataFault. Throws RuntimeFailure.

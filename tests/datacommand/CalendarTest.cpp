@@ -71,7 +71,7 @@ TEST_F(Calendar, WhatCannotBeWrittenIsToldAndNothingElseIsReplaced)
 {
     addReminder("Feed", "2026-03-01", "2026-12-31", 3);
     const auto before = contentOf(folder.path());
-    expectFailure({"calendar", path("OM.MDB")}, "is no calendar");
+    expectFailure({"calendar", path("OM.MDB")}, "is not a calendar");
     expectFailure({"calendar", path("none/r.ics")}, "could not be written");
     EXPECT_EQ(write({"--from", "2026-03-09", "--to", "2026-03-01"}).status, 2);
     EXPECT_EQ(write({"--from", "03/09/2026"}).status, 2);
